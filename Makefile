@@ -1,0 +1,23 @@
+# The few commands that a person types. Each first sets up what is missing (tools/setup).
+.PHONY: help build test gallery bench check clean
+
+help: ## this list
+	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
+
+build: ## out/x86/quilbt.ocx and out/x64/quilbt.ocx, with the gallery beside each
+	@tools/build x86-release x64-release
+
+test: ## every test of both architectures
+	@tools/test
+
+gallery: ## opens a form with live buttons; ARGS="FORM" for another one
+	@tools/gallery $(ARGS)
+
+bench: ## speed and size, as ratios
+	@tools/bench
+
+check: ## format, tidy, build, tests, benchmark smoke run
+	@tools/check
+
+clean: ## removes everything that was built
+	rm -rf build out

@@ -1,0 +1,19 @@
+# The warnings and code generation of everything that is ours.
+add_library(quillet_options INTERFACE)
+target_compile_features(quillet_options INTERFACE cxx_std_20)
+target_compile_definitions(quillet_options INTERFACE
+    WINVER=0x0601 _WIN32_WINNT=0x0601 # Windows 7 and later
+    STRICT NOMINMAX WIN32_LEAN_AND_MEAN)
+target_compile_options(quillet_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+    -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
+    -ffunction-sections -fdata-sections)
+# Static run time: only system DLLs are imported. No time stamp: equal sources give equal files.
+target_link_options(quillet_options INTERFACE
+    -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
+    $<$<STREQUAL:${QUILLET_ARCH},x64>:-Wl,--high-entropy-va>
+    $<$<CONFIG:Release>:-s>)
+if(QUILLET_ARCH STREQUAL x86)
+    # Doubles of 64 bits on both architectures; a 32-bit host aligns the stack to 4 bytes only.
+    target_compile_options(quillet_options INTERFACE -msse2 -mfpmath=sse -mstackrealign)
+endif()

@@ -1,0 +1,12 @@
+# Programs run under Wine in a prefix of this build folder's own.
+set(QUILLET_WINE ${CMAKE_SOURCE_DIR}/tools/wine ${CMAKE_BINARY_DIR}/wineprefix)
+
+# Adds one test program of many cases: quillet_test(NAME sources… LIBRARIES libraries…)
+function(quillet_test name)
+    cmake_parse_arguments(arg "" "" "LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE quillet_options gtest gmock ${arg_LIBRARIES})
+    add_test(NAME ${name} COMMAND ${QUILLET_WINE} $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()

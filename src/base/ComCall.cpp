@@ -1,0 +1,67 @@
+// The one boundary: the mapping of what was thrown stands here once.
+#include "base/ComCall.h"
+
+#include "base/Bstr.h"
+#include "base/ComPtr.h"
+#include "base/RunTimeError.h"
+
+#include <new>
+#include <string>
+
+namespace quillet {
+
+namespace {
+
+constexpr wchar_t kHelpFile[] = L"quillet.chm";
+
+std::wstring systemText(HRESULT result)
+{
+    wchar_t text[256];
+    DWORD const length =
+        ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                         static_cast<DWORD>(result), 0, text, static_cast<DWORD>(std::size(text)), nullptr);
+    std::wstring_view trimmed(text, length);
+    while (!trimmed.empty() && (trimmed.back() == L'\r' || trimmed.back() == L'\n'))
+        trimmed.remove_suffix(1);
+    return trimmed.empty() ? L"Automation error" : std::wstring(trimmed);
+}
+
+void publish(ErrorSource const& source, std::wstring const& description) noexcept
+{
+    ComPtr<ICreateErrorInfo> info;
+    if (FAILED(::CreateErrorInfo(info.put())))
+        return;
+    info->SetGUID(source.interfaceId);
+    info->SetSource(const_cast<wchar_t*>(source.name));
+    info->SetDescription(const_cast<wchar_t*>(description.c_str()));
+    info->SetHelpFile(const_cast<wchar_t*>(kHelpFile));
+    if (auto const error = info.as<IErrorInfo>())
+        ::SetErrorInfo(0, error.get());
+}
+
+} // namespace
+
+HRESULT resultOfCaught() noexcept
+{
+    try {
+        throw;
+    } catch (RunTimeError const& error) {
+        return error.result();
+    } catch (std::bad_alloc const&) {
+        return E_OUTOFMEMORY;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
+
+HRESULT reportCaught(ErrorSource const& source) noexcept
+{
+    HRESULT const result = resultOfCaught();
+    ignoringErrors([&] {
+        wchar_t const* const own = RunTimeError(result).description();
+        publish(source, own ? std::wstring(own) : systemText(result));
+    });
+    return result;
+}
+
+} // namespace quillet

@@ -1,0 +1,20 @@
+// The component as Windows knows it: the two values of the whole process.
+#include "base/Module.h"
+
+namespace quillet {
+
+namespace {
+
+HINSTANCE g_instance = nullptr;
+LONG volatile g_liveObjects = 0;
+
+} // namespace
+
+HINSTANCE moduleInstance() noexcept { return g_instance; }
+void setModuleInstance(HINSTANCE instance) noexcept { g_instance = instance; }
+
+long liveObjects() noexcept { return g_liveObjects; }
+void addLiveObject() noexcept { ::InterlockedIncrement(&g_liveObjects); }
+void removeLiveObject() noexcept { ::InterlockedDecrement(&g_liveObjects); }
+
+} // namespace quillet

@@ -1,0 +1,47 @@
+// The one exception type: what a host must see as a run-time error.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet {
+
+/// Run-time errors that the library raises itself; a host sees 0x800A0000 + number.
+enum class ErrorNumber : long {
+    InvalidProcedureCall = 5,
+    Overflow = 6,
+    TypeMismatch = 13,
+    ObjectNotSet = 91,
+    InvalidPropertyValue = 380,
+    InvalidPicture = 481,
+};
+
+/// A failure that the host is to see: a run-time error of our own, or a failed call's result as it came.
+class RunTimeError {
+public:
+    explicit RunTimeError(ErrorNumber number) noexcept;
+    explicit RunTimeError(HRESULT failed) noexcept : m_result(failed) {}
+
+    HRESULT result() const noexcept { return m_result; }
+    /// The text of an error of our own; null for a failed call's result.
+    wchar_t const* description() const noexcept;
+
+private:
+    HRESULT m_result;
+};
+
+/// Throws when a call has failed.
+inline void check(HRESULT result)
+{
+    if (FAILED(result))
+        throw RunTimeError(result);
+}
+
+/// The pointer, or E_POINTER for a null one: for every out-parameter and object that a host hands in.
+template <class T> T& deref(T* pointer)
+{
+    if (!pointer)
+        throw RunTimeError(E_POINTER);
+    return *pointer;
+}
+
+} // namespace quillet

@@ -1,0 +1,61 @@
+// Owns one automation variant.
+#pragma once
+
+#include "base/Bstr.h"
+#include "base/ComPtr.h"
+
+#include <windows.h>
+#include <oaidl.h>
+#include <oleauto.h>
+
+namespace quillet {
+
+/// Owns a VARIANT and what it holds; empty at first.
+class Variant {
+public:
+    Variant() noexcept { ::VariantInit(&m_value); }
+    Variant(Variant const& other);
+    Variant(Variant&& other) noexcept : m_value(other.m_value) { ::VariantInit(&other.m_value); }
+    ~Variant() { ::VariantClear(&m_value); }
+
+    Variant& operator=(Variant other) noexcept;
+
+    static Variant ofShort(short value) noexcept;
+    static Variant ofLong(long value) noexcept;
+    static Variant ofFloat(float value) noexcept;
+    static Variant ofBool(bool value) noexcept;
+    static Variant ofString(std::wstring_view text);
+    static Variant ofDispatch(IDispatch* borrowed) noexcept;
+    static Variant ofUnknown(IUnknown* borrowed) noexcept;
+    /// A short that the receiver may change: an argument by reference of an event.
+    static Variant ofShortRef(short* target) noexcept;
+    static Variant ofFloatRef(float* target) noexcept;
+    /// An own copy of a borrowed VARIANT, references followed.
+    static Variant copyOf(VARIANT const& borrowed);
+    /// Takes over what a VARIANT holds and leaves it empty.
+    static Variant adopt(VARIANT& owned) noexcept;
+
+    VARTYPE type() const noexcept { return m_value.vt; }
+    VARIANT const& get() const noexcept { return m_value; }
+    VARIANT* address() noexcept { return &m_value; }
+    VARIANT* put() noexcept;
+    VARIANT detach() noexcept;
+
+    /// The value in another type. Type mismatch (13) or Overflow (6) where it does not convert.
+    Variant convertedTo(VARTYPE type) const;
+    short toShort() const { return convertedTo(VT_I2).m_value.iVal; }
+    long toLong() const { return convertedTo(VT_I4).m_value.lVal; }
+    bool toBool() const { return convertedTo(VT_BOOL).m_value.boolVal != VARIANT_FALSE; }
+    Bstr toString() const;
+    /// The object held, by any of the object types and references to them; empty for none.
+    /// Type mismatch for a value that is not an object.
+    ComPtr<IUnknown> toObject() const;
+
+private:
+    VARIANT m_value;
+};
+
+/// Reads a borrowed VARIANT as a 16-bit integer.
+inline short shortOf(VARIANT const& value) { return Variant::copyOf(value).toShort(); }
+
+} // namespace quillet
