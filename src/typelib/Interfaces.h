@@ -1,0 +1,53 @@
+// The published interfaces as C++ types, in vtable order, each with its __uuidof.
+#pragma once
+
+#include "typelib/Enumerations.h"
+
+#include <ocidl.h>
+#include <olectl.h>
+#include <windows.h>
+
+// Objects are released, never deleted through an interface; a virtual destructor would take a vtable slot.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+namespace quillet {
+
+struct _qvFlatCommand : IDispatch {
+#include "typelib/InterfaceRows.inc"
+#include "typelib/members/qvFlatCommand.inc"
+};
+
+struct _qvFlatOption : IDispatch {
+#include "typelib/InterfaceRows.inc"
+#include "typelib/members/qvFlatOption.inc"
+};
+
+struct _qvFlatCheck : IDispatch {
+#include "typelib/InterfaceRows.inc"
+#include "typelib/members/qvFlatCheck.inc"
+};
+
+struct _FlatToolButton : IDispatch {
+#include "typelib/InterfaceRows.inc"
+#include "typelib/members/FlatToolButton.inc"
+};
+
+struct _qvImageCommand : IDispatch {
+#include "typelib/InterfaceRows.inc"
+#include "typelib/members/qvImageCommand.inc"
+};
+
+// The event interfaces are reached through Invoke alone.
+struct __qvFlatCommand : IDispatch {};
+struct __qvFlatOption : IDispatch {};
+struct __qvFlatCheck : IDispatch {};
+struct __FlatToolButton : IDispatch {};
+struct __qvImageCommand : IDispatch {};
+
+} // namespace quillet
+
+#pragma GCC diagnostic pop
+
+#define QV_INTERFACE_ID(constant, type, ...) __CRT_UUID_DECL(quillet::type, __VA_ARGS__)
+#include "typelib/Guids.inc"
