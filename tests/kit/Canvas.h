@@ -1,0 +1,61 @@
+// A picture in memory that GDI draws on and that tests read back as letters.
+#pragma once
+
+#include "base/Handles.h"
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quillet::kit {
+
+/// One letter of a text picture and the colour that it stands for.
+struct Letter {
+    char letter;
+    COLORREF color;
+};
+using Letters = std::vector<Letter>;
+
+/// A 32-bit picture of a fixed size with a device context of its own; black at first.
+class Canvas {
+public:
+    Canvas(int width, int height);
+    Canvas(int width, int height, COLORREF background);
+    Canvas(Canvas const&) = delete;
+    Canvas& operator=(Canvas const&) = delete;
+
+    HDC dc() const noexcept { return m_dc.get(); }
+    HBITMAP bitmap() const noexcept { return m_bitmap.get(); }
+    int width() const noexcept { return m_width; }
+    int height() const noexcept { return m_height; }
+
+    /// Paints everything, or one rectangle (right and bottom exclusive), by its bytes: no GDI call is used.
+    void fill(COLORREF color);
+    void fill(int left, int top, int right, int bottom, COLORREF color);
+
+    /// The colour of one pixel; CLR_INVALID outside the picture.
+    COLORREF at(int x, int y) const;
+    /// How many pixels have the colour.
+    int count(COLORREF color) const;
+
+    /// One letter a pixel, a line break after each row; '?' for a colour that has no letter.
+    std::string picture(Letters const& letters) const;
+    std::string picture(Letters const& letters, int left, int top, int right, int bottom) const;
+
+private:
+    std::uint32_t* rowOf(int y) const noexcept { return m_pixels + y * m_width; }
+
+    int m_width;
+    int m_height;
+    std::uint32_t* m_pixels = nullptr; // in the bitmap
+    UniqueMemoryDc m_dc;
+    UniqueBitmap m_bitmap;
+    SelectScope m_selected;
+};
+
+/// Says which pixels differ: empty when the two pictures are equal, else their sizes or the first few pixels.
+std::string differences(Canvas const& expected, Canvas const& actual);
+
+} // namespace quillet::kit
