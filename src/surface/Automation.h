@@ -1,0 +1,66 @@
+// A control's dual interface: late-bound calls go through the type library.
+#pragma once
+
+#include "base/ComPtr.h"
+#include "surface/Face.h"
+
+#include <windows.h>
+#include <oaidl.h>
+
+namespace quillet {
+
+/// The descriptions that the component's own type library gives of a class, loaded at first need.
+class TypeInfos {
+public:
+    /// The vtable form of the described interface. Throws when the type library cannot be loaded.
+    ITypeInfo& interfaceInfo(IID const& interfaceId);
+    /// The description of the class.
+    static ComPtr<ITypeInfo> classInfo(CLSID const& classId);
+
+private:
+    ComPtr<ITypeInfo> m_interface;
+};
+
+/// The part of automation that does not depend on the interface.
+class Automation {
+public:
+    HRESULT getTypeInfo(Surface& surface, UINT index, ITypeInfo** info) noexcept;
+    HRESULT getIdsOfNames(Surface& surface, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
+    HRESULT invoke(Surface& surface, IDispatch* dual, DISPID id, WORD kind, DISPPARAMS* arguments,
+                   VARIANT* result, EXCEPINFO* exception, UINT* badArgument) noexcept;
+
+private:
+    TypeInfos m_infos;
+};
+
+/// Implements IDispatch for a dual interface. A control derives from this and from Surface.
+template <class Interface> class Dual : public Face<Interface> {
+public:
+    using Face<Interface>::Face;
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override
+    {
+        if (!count)
+            return E_POINTER;
+        *count = 1;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) override
+    {
+        return m_automation.getTypeInfo(this->m_surface, index, info);
+    }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override
+    {
+        return m_automation.getIdsOfNames(this->m_surface, names, count, ids);
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+                        EXCEPINFO* exception, UINT* badArgument) override
+    {
+        return m_automation.invoke(this->m_surface, this, id, kind, arguments, result, exception, badArgument);
+    }
+
+private:
+    Automation m_automation;
+};
+
+} // namespace quillet

@@ -1,0 +1,102 @@
+// The container as the surface sees it: every answer has a fallback, and no failure leaves this file.
+#include "surface/Container.h"
+
+#include "base/ComCall.h"
+#include "surface/LateBound.h"
+#include "surface/StandardFont.h"
+
+namespace quillet {
+
+namespace {
+
+/// The keys that a container reads with a key message: shift 1, control 2, alt 4.
+DWORD keyModifiers() noexcept
+{
+    auto const down = [](int key) { return ::GetKeyState(key) < 0; };
+    return (down(VK_SHIFT) ? 1u : 0u) | (down(VK_CONTROL) ? 2u : 0u) | (down(VK_MENU) ? 4u : 0u);
+}
+
+} // namespace
+
+void Container::setSite(IOleClientSite* site) noexcept
+{
+    m_site = site;
+    m_controlSite = query<IOleControlSite>(site);
+    m_ambients = query<IDispatch>(site);
+    m_quickFont.reset();
+    m_quickUserMode = Variant();
+}
+
+void Container::setQuickAmbients(QACONTAINER const& block) noexcept
+{
+    m_quickUserMode = Variant::ofBool((block.dwAmbientFlags & QACONTAINER_USERMODE) != 0);
+    m_quickFont = query<IFont>(block.pFont);
+}
+
+Variant Container::ambient(DISPID id) const noexcept
+{
+    if (!m_ambients)
+        return {};
+    return orFallback(Variant(), [&] { return propertyById(m_ambients.get(), id); });
+}
+
+bool Container::userMode() const noexcept
+{
+    Variant const answered = ambient(DISPID_AMBIENT_USERMODE);
+    Variant const& mode = answered.type() == VT_EMPTY ? m_quickUserMode : answered;
+    if (mode.type() == VT_EMPTY)
+        return true;
+    return orFallback(true, [&] { return mode.toBool(); });
+}
+
+ComPtr<IFont> Container::ambientFont() const
+{
+    auto const answered = orFallback(ComPtr<IUnknown>(), [&] { return ambient(DISPID_AMBIENT_FONT).toObject(); });
+    if (auto const own = copyOfFont(answered.get()))
+        return own;
+    if (auto const own = copyOfFont(m_quickFont.get()))
+        return own;
+    return systemFont();
+}
+
+ComPtr<IDispatch> Container::extender() const noexcept
+{
+    ComPtr<IDispatch> found;
+    if (!m_controlSite || FAILED(m_controlSite->GetExtendedControl(found.put())))
+        return {};
+    return found;
+}
+
+Variant Container::extenderProperty(wchar_t const* name) const noexcept
+{
+    return orFallback(Variant(), [&] { return propertyByName(extender().get(), name); });
+}
+
+ComPtr<IUnknown> Container::activeControl() const noexcept
+{
+    return orFallback(ComPtr<IUnknown>(), [&] {
+        auto const parent = query<IDispatch>(propertyByName(extender().get(), L"Parent").toObject().get());
+        return propertyByName(parent.get(), L"ActiveControl").toObject();
+    });
+}
+
+void Container::controlInfoChanged() const noexcept
+{
+    if (ComPtr<IOleControlSite> const site = m_controlSite)
+        site->OnControlInfoChanged();
+}
+
+void Container::focusChanged(bool gained) const noexcept
+{
+    if (ComPtr<IOleControlSite> const site = m_controlSite)
+        site->OnFocus(gained);
+}
+
+bool Container::takesKey(MSG const& message) const noexcept
+{
+    ComPtr<IOleControlSite> const site = m_controlSite;
+    MSG copy = message;
+    return site && site->TranslateAccelerator(&copy, keyModifiers()) == S_OK;
+}
+
+} // namespace quillet

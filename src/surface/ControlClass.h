@@ -1,0 +1,18 @@
+// What the surface needs to know of the class that it serves.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet {
+
+/// One constant per control; everything else that the surface does is the same for all of them.
+struct ControlClass {
+    CLSID classId;
+    IID interfaceId;       ///< the default dual interface
+    IID eventsId;          ///< the default source, a dispatch interface
+    wchar_t const* name;   ///< as a user reads it, such as "qvFlatCommand"
+    wchar_t const* progId; ///< where its errors come from, such as "Quillet.qvFlatCommand"
+    DWORD miscStatus;      ///< OLEMISC flags
+};
+
+} // namespace quillet

@@ -1,0 +1,64 @@
+// In-place activation: where the control's window is and who has the keyboard.
+#pragma once
+
+#include "base/ComPtr.h"
+#include "surface/Face.h"
+
+#include <windows.h>
+#include <oleidl.h>
+
+namespace quillet {
+
+class InPlace final : public Face<IOleInPlaceObject, IOleInPlaceActiveObject> {
+public:
+    enum class Activation { Visible, WithFocus };
+
+    using Face::Face;
+
+    // IOleWindow
+    STDMETHODIMP GetWindow(HWND* window) override;
+    STDMETHODIMP ContextSensitiveHelp(WINBOOL enter) override;
+    // IOleInPlaceObject
+    STDMETHODIMP InPlaceDeactivate() override;
+    STDMETHODIMP UIDeactivate() override;
+    STDMETHODIMP SetObjectRects(LPCRECT position, LPCRECT clip) override;
+    STDMETHODIMP ReactivateAndUndo() override;
+    // IOleInPlaceActiveObject
+    STDMETHODIMP TranslateAccelerator(LPMSG message) override;
+    STDMETHODIMP OnFrameWindowActivate(WINBOOL activated) override;
+    STDMETHODIMP OnDocWindowActivate(WINBOOL activated) override;
+    STDMETHODIMP ResizeBorder(LPCRECT border, IOleInPlaceUIWindow* window, WINBOOL frame) override;
+    STDMETHODIMP EnableModeless(WINBOOL enable) override;
+
+    /// Shows the control in its container's window, and with WithFocus gives it the keyboard. The position
+    /// counts only where the site itself gives none.
+    void activate(Activation kind, RECT const* position);
+    void hide();
+    /// Ends activation whatever the state: window parked, container told.
+    void leave() noexcept;
+    /// Sends the message that led to an activation on to the window.
+    void forward(MSG const* message);
+
+    /// The window got or lost the keyboard.
+    void focusGained();
+    void focusLost();
+
+    bool isActive() const noexcept { return m_active; }
+    RECT const& position() const noexcept { return m_position; }
+
+private:
+    void activateVisibly(RECT const* position);
+    void activateKeyboard();
+    void leaveKeyboard() noexcept;
+    void place(RECT const& position, RECT const* clip);
+
+    ComPtr<IOleInPlaceSite> m_site; ///< while active
+    ComPtr<IOleInPlaceFrame> m_frame;
+    ComPtr<IOleInPlaceUIWindow> m_document;
+    bool m_active = false;   ///< shown in the container's window
+    bool m_keyboard = false; ///< UI-active
+    bool m_positioned = false;
+    RECT m_position = {};
+};
+
+} // namespace quillet

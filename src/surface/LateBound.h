@@ -1,0 +1,21 @@
+// Members of somebody else's object, reached by name at run time.
+#pragma once
+
+#include "base/ComPtr.h"
+#include "base/Variant.h"
+
+#include <windows.h>
+#include <oaidl.h>
+
+namespace quillet {
+
+/// Reads a property by name. Throws the object's error; ObjectNotSet for no object.
+Variant propertyByName(IDispatch* object, wchar_t const* name);
+
+/// Reads a property by identifier, with arguments in order. Throws as above.
+Variant propertyById(IDispatch* object, DISPID id);
+
+/// Assigns a property by name. Throws as above.
+void assignByName(IDispatch* object, wchar_t const* name, Variant value);
+
+} // namespace quillet

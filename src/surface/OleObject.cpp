@@ -1,0 +1,197 @@
+// IOleObject: site, extent, verbs, closing.
+#include "surface/OleObject.h"
+
+#include "base/RunTimeError.h"
+#include "surface/Surface.h"
+
+#include <ole2.h>
+
+#include <cstring>
+
+namespace quillet {
+
+namespace {
+
+/// A copy of a text in memory that the receiver frees.
+LPOLESTR taskString(wchar_t const* text)
+{
+    size_t const bytes = (std::wcslen(text) + 1) * sizeof(wchar_t);
+    auto* const copy = static_cast<LPOLESTR>(::CoTaskMemAlloc(bytes));
+    if (!copy)
+        throw std::bad_alloc();
+    std::memcpy(copy, text, bytes);
+    return copy;
+}
+
+void requireContent(DWORD aspect)
+{
+    if (aspect != DVASPECT_CONTENT)
+        throw RunTimeError(DV_E_DVASPECT);
+}
+
+} // namespace
+
+HRESULT OleObject::SetClientSite(IOleClientSite* site)
+{
+    return m_surface.call([&] {
+        if (!site || site != m_surface.container().site())
+            m_surface.inPlace().leave();
+        m_surface.container().setSite(site);
+    });
+}
+
+HRESULT OleObject::GetClientSite(IOleClientSite** site)
+{
+    return m_surface.call([&] { deref(site) = ComPtr<IOleClientSite>(m_surface.container().site()).detach(); });
+}
+
+HRESULT OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
+
+HRESULT OleObject::Close(DWORD saveOption)
+{
+    return m_surface.call([&] {
+        ComPtr<IOleClientSite> const site = m_surface.container().site();
+        if (saveOption != OLECLOSE_NOSAVE && m_surface.persistence().isDirty() && site)
+            site->SaveObject();
+        m_surface.inPlace().leave();
+        if (ComPtr<IOleAdviseHolder> const holder = m_adviseHolder)
+            holder->SendOnClose();
+    });
+}
+
+HRESULT OleObject::SetMoniker(DWORD, IMoniker*) { return E_NOTIMPL; }
+
+HRESULT OleObject::GetMoniker(DWORD, DWORD, IMoniker** moniker)
+{
+    return comCall([&] {
+        deref(moniker) = nullptr;
+        return E_NOTIMPL;
+    });
+}
+
+HRESULT OleObject::InitFromData(IDataObject*, WINBOOL, DWORD) { return E_NOTIMPL; }
+
+HRESULT OleObject::GetClipboardData(DWORD, IDataObject** data)
+{
+    return comCall([&] {
+        deref(data) = nullptr;
+        return E_NOTIMPL;
+    });
+}
+
+HRESULT OleObject::DoVerb(LONG verb, MSG* message, IOleClientSite*, LONG, HWND, LPCRECT position)
+{
+    return m_surface.call([&] {
+        InPlace& inPlace = m_surface.inPlace();
+        switch (verb) {
+        case OLEIVERB_PRIMARY:
+        case OLEIVERB_UIACTIVATE:
+            inPlace.activate(InPlace::Activation::WithFocus, position);
+            break;
+        case OLEIVERB_SHOW:
+        case OLEIVERB_INPLACEACTIVATE:
+            inPlace.activate(InPlace::Activation::Visible, position);
+            break;
+        case OLEIVERB_HIDE:
+            inPlace.hide();
+            return S_OK;
+        case OLEIVERB_DISCARDUNDOSTATE:
+            return S_OK;
+        default:
+            return verb > 0 ? OLEOBJ_S_INVALIDVERB : E_NOTIMPL;
+        }
+        inPlace.forward(message);
+        return S_OK;
+    });
+}
+
+HRESULT OleObject::EnumVerbs(IEnumOLEVERB** enumerator)
+{
+    return comCall([&] {
+        deref(enumerator) = nullptr;
+        return ::OleRegEnumVerbs(m_surface.controlClass().classId, enumerator);
+    });
+}
+
+HRESULT OleObject::Update() { return S_OK; }
+
+HRESULT OleObject::IsUpToDate() { return S_OK; }
+
+HRESULT OleObject::GetUserClassID(CLSID* classId)
+{
+    return comCall([&] { deref(classId) = m_surface.controlClass().classId; });
+}
+
+HRESULT OleObject::GetUserType(DWORD, LPOLESTR* text)
+{
+    return comCall([&] {
+        deref(text) = nullptr;
+        *text = taskString(m_surface.controlClass().name);
+    });
+}
+
+HRESULT OleObject::SetExtent(DWORD aspect, SIZEL* extent)
+{
+    return comCall([&] {
+        SIZEL const wanted = deref(extent);
+        requireContent(aspect);
+        if (wanted.cx == m_extent.cx && wanted.cy == m_extent.cy)
+            return;
+        m_extent = wanted;
+        m_surface.persistence().setDirty();
+    });
+}
+
+HRESULT OleObject::GetExtent(DWORD aspect, SIZEL* extent)
+{
+    return comCall([&] {
+        deref(extent);
+        requireContent(aspect);
+        *extent = m_extent;
+    });
+}
+
+IOleAdviseHolder* OleObject::adviseHolder()
+{
+    if (!m_adviseHolder)
+        check(::CreateOleAdviseHolder(m_adviseHolder.put()));
+    return m_adviseHolder.get();
+}
+
+HRESULT OleObject::Advise(IAdviseSink* sink, DWORD* cookie)
+{
+    return m_surface.call([&] {
+        deref(cookie) = 0;
+        return adviseHolder()->Advise(&deref(sink), cookie);
+    });
+}
+
+HRESULT OleObject::Unadvise(DWORD cookie)
+{
+    return m_surface.call([&] { return adviseHolder()->Unadvise(cookie); });
+}
+
+HRESULT OleObject::EnumAdvise(IEnumSTATDATA** enumerator)
+{
+    return m_surface.call([&] {
+        deref(enumerator) = nullptr;
+        return adviseHolder()->EnumAdvise(enumerator);
+    });
+}
+
+HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status)
+{
+    return comCall([&] {
+        deref(status) = aspect == DVASPECT_CONTENT ? m_surface.controlClass().miscStatus : 0;
+    });
+}
+
+HRESULT OleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }
+
+void OleObject::notifySaved() noexcept
+{
+    if (ComPtr<IOleAdviseHolder> const holder = m_adviseHolder)
+        holder->SendOnSave();
+}
+
+} // namespace quillet

@@ -1,0 +1,37 @@
+// The hidden window that surfaces of a thread live under while no container shows them.
+#include "surface/ParkingWindow.h"
+
+#include "base/ComCall.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "surface/ThreadState.h"
+
+#include <utility>
+
+namespace quillet {
+
+HWND enterParking()
+{
+    ThreadState& state = threadState();
+    // A plain system class: the window does nothing but be a parent.
+    if (!state.parkingWindow)
+        state.parkingWindow = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, "Static", nullptr, WS_POPUP, 0, 0, 0, 0,
+                                                nullptr, nullptr, moduleInstance(), nullptr);
+    if (!state.parkingWindow)
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+    ++state.surfaces;
+    return state.parkingWindow;
+}
+
+void leaveParking() noexcept
+{
+    ignoringErrors([] {
+        ThreadState& state = threadState();
+        if (--state.surfaces == 0)
+            ::DestroyWindow(std::exchange(state.parkingWindow, nullptr));
+    });
+}
+
+HWND parkingWindow() { return threadState().parkingWindow; }
+
+} // namespace quillet

@@ -1,0 +1,16 @@
+// The hidden window that surfaces of a thread live under while no container shows them.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet {
+
+/// Joins the calling thread's surfaces: the parking window, made for the first of them.
+HWND enterParking();
+/// Leaves them; the last one takes the parking window along.
+void leaveParking() noexcept;
+
+/// The calling thread's parking window; null when no surface has a window.
+HWND parkingWindow();
+
+} // namespace quillet

@@ -1,0 +1,73 @@
+// Saved properties by name: what all carriers share, and a container's own bag.
+#include "surface/PropertyBag.h"
+
+#include "base/RunTimeError.h"
+#include "surface/StandardFont.h"
+
+namespace quillet {
+
+namespace {
+
+/// Objects are equal when they are the same one, or fonts of the same look.
+bool sameObject(IUnknown* a, IUnknown* b) noexcept
+{
+    if (a == b)
+        return true;
+    return equalFonts(query<IFont>(a).get(), query<IFont>(b).get());
+}
+
+/// Whether two values of the same type are equal.
+bool sameValue(Variant const& a, Variant const& b)
+{
+    if (a.type() == VT_UNKNOWN)
+        return sameObject(a.toObject().get(), b.toObject().get());
+    if (a.type() == VT_BSTR)
+        return Bstr::viewOf(a.get().bstrVal) == Bstr::viewOf(b.get().bstrVal);
+    return a.toLong() == b.toLong();
+}
+
+/// Where a bag has nothing it says E_INVALIDARG; some say E_FAIL. A value that is there and does not
+/// convert is an error.
+bool isConversionFailure(HRESULT result) noexcept
+{
+    return result == DISP_E_TYPEMISMATCH || result == DISP_E_OVERFLOW || result == DISP_E_BADVARTYPE;
+}
+
+} // namespace
+
+Variant PropertyBag::readProperty(wchar_t const* name, Variant const& fallback)
+{
+    Variant const saved = read(name, fallback.type());
+    if (saved.type() == VT_EMPTY)
+        return fallback;
+    if (fallback.type() == VT_UNKNOWN)
+        return Variant::ofUnknown(saved.toObject().get());
+    return saved.convertedTo(fallback.type());
+}
+
+void PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
+{
+    if (!sameValue(value, fallback))
+        write(name, value);
+}
+
+Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
+{
+    Variant value;
+    value.address()->vt = type; // the type asked for; a bag may answer in another one
+    value.address()->byref = nullptr;
+    HRESULT const result = m_bag->Read(name, value.address(), m_log.get());
+    if (result == DISP_E_OVERFLOW)
+        throw RunTimeError(ErrorNumber::Overflow);
+    if (isConversionFailure(result))
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+    if (FAILED(result)) {
+        value.address()->vt = VT_EMPTY; // whatever a failing bag left there is not a value
+        return {};
+    }
+    return value;
+}
+
+void HostPropertyBag::write(wchar_t const* name, Variant value) { check(m_bag->Write(name, value.address())); }
+
+} // namespace quillet

@@ -1,0 +1,46 @@
+// Saved properties by name, whatever carries them.
+#pragma once
+
+#include "base/Variant.h"
+
+#include <windows.h>
+#include <ocidl.h>
+
+namespace quillet {
+
+/// Reads and writes named values. The type of the fallback is the type in which a value is saved; object
+/// values have VT_UNKNOWN. A value equal to its fallback is never written.
+class PropertyBag {
+public:
+    virtual ~PropertyBag() = default;
+
+    /// The value saved under the name in the fallback's type; the fallback where nothing is saved.
+    /// Type mismatch or Overflow for a saved value that does not convert.
+    Variant readProperty(wchar_t const* name, Variant const& fallback);
+    void writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback);
+
+protected:
+    PropertyBag() = default;
+    PropertyBag(PropertyBag const&) = default;
+    PropertyBag& operator=(PropertyBag const&) = default;
+
+private:
+    /// The saved value in any type, empty for none.
+    virtual Variant read(wchar_t const* name, VARTYPE type) = 0;
+    virtual void write(wchar_t const* name, Variant value) = 0;
+};
+
+/// A container's own property bag.
+class HostPropertyBag final : public PropertyBag {
+public:
+    HostPropertyBag(IPropertyBag& bag, IErrorLog* log) noexcept : m_bag(&bag), m_log(log) {}
+
+private:
+    Variant read(wchar_t const* name, VARTYPE type) override;
+    void write(wchar_t const* name, Variant value) override;
+
+    ComPtr<IPropertyBag> m_bag;
+    ComPtr<IErrorLog> m_log;
+};
+
+} // namespace quillet

@@ -1,0 +1,20 @@
+// IQuickActivate: what a container else sets up in a dozen calls, in one.
+#pragma once
+
+#include "surface/Face.h"
+
+#include <windows.h>
+#include <ocidl.h>
+
+namespace quillet {
+
+class QuickActivation final : public Face<IQuickActivate> {
+public:
+    using Face::Face;
+
+    STDMETHODIMP QuickActivate(QACONTAINER* container, QACONTROL* control) override;
+    STDMETHODIMP SetContentExtent(LPSIZEL extent) override;
+    STDMETHODIMP GetContentExtent(LPSIZEL extent) override;
+};
+
+} // namespace quillet

@@ -1,0 +1,99 @@
+// Fonts and pictures as bytes, through their own persistence.
+#include "surface/SavedObject.h"
+
+#include "base/RunTimeError.h"
+#include "surface/StandardFont.h"
+
+#include <objidl.h>
+#include <ocidl.h>
+#include <olectl.h>
+
+namespace quillet {
+
+namespace {
+
+ComPtr<IStream> memoryStream()
+{
+    ComPtr<IStream> stream;
+    check(::CreateStreamOnHGlobal(nullptr, TRUE, stream.put()));
+    return stream;
+}
+
+void rewind(IStream& stream)
+{
+    LARGE_INTEGER const start = {};
+    check(stream.Seek(start, STREAM_SEEK_SET, nullptr));
+}
+
+std::vector<BYTE> contentsOf(IStream& stream)
+{
+    STATSTG status = {};
+    check(stream.Stat(&status, STATFLAG_NONAME));
+    std::vector<BYTE> bytes(status.cbSize.LowPart);
+    rewind(stream);
+    ULONG got = 0;
+    check(stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), &got));
+    bytes.resize(got);
+    return bytes;
+}
+
+ComPtr<IUnknown> emptyPicture()
+{
+    ComPtr<IUnknown> made;
+    check(::OleCreatePictureIndirect(nullptr, IID_IUnknown, TRUE, reinterpret_cast<void**>(made.put())));
+    return made;
+}
+
+ComPtr<IUnknown> emptyObject(SavedObject::Kind kind)
+{
+    switch (kind) {
+    case SavedObject::Kind::Font:
+        return systemFont().as<IUnknown>();
+    case SavedObject::Kind::Picture:
+        return emptyPicture();
+    case SavedObject::Kind::None:
+        return {};
+    }
+    throw RunTimeError(E_FAIL);
+}
+
+SavedObject::Kind kindOf(IUnknown* object)
+{
+    if (query<IFont>(object))
+        return SavedObject::Kind::Font;
+    if (query<IPicture>(object))
+        return SavedObject::Kind::Picture;
+    throw RunTimeError(ErrorNumber::TypeMismatch);
+}
+
+} // namespace
+
+SavedObject savedObjectOf(IUnknown* object)
+{
+    if (!object)
+        return {SavedObject::Kind::None, {}};
+    SavedObject saved = {kindOf(object), {}};
+    auto const persist = query<IPersistStream>(object);
+    if (!persist)
+        throw RunTimeError(E_NOINTERFACE);
+    auto const stream = memoryStream();
+    check(persist->Save(stream.get(), TRUE));
+    saved.bytes = contentsOf(*stream.get());
+    return saved;
+}
+
+ComPtr<IUnknown> objectOf(SavedObject const& saved)
+{
+    ComPtr<IUnknown> object = emptyObject(saved.kind);
+    if (!object)
+        return {};
+    auto const stream = memoryStream();
+    check(stream->Write(saved.bytes.data(), static_cast<ULONG>(saved.bytes.size()), nullptr));
+    rewind(*stream.get());
+    auto const persist = object.as<IPersistStream>();
+    if (!persist || FAILED(persist->Load(stream.get())))
+        throw RunTimeError(E_FAIL);
+    return object;
+}
+
+} // namespace quillet

@@ -1,0 +1,46 @@
+// Standard font objects of a control's own.
+#include "surface/StandardFont.h"
+
+#include "base/Handles.h"
+#include "base/RunTimeError.h"
+
+#include <olectl.h>
+
+namespace quillet {
+
+ComPtr<IFont> copyOfFont(IUnknown* font) noexcept
+{
+    auto const original = query<IFont>(font);
+    ComPtr<IFont> copy;
+    if (!original || FAILED(original->Clone(copy.put())))
+        return {};
+    return copy;
+}
+
+ComPtr<IFont> systemFont()
+{
+    LOGFONTW shape = {};
+    ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(shape), &shape);
+    WindowDc const screen(nullptr);
+    LONG const pixelsPerInch = ::GetDeviceCaps(screen.get(), LOGPIXELSY);
+
+    FONTDESC description = {};
+    description.cbSizeofstruct = sizeof(description);
+    description.lpstrName = shape.lfFaceName;
+    // Points times 10,000, from a height in pixels (negative: of the characters alone).
+    description.cySize.int64 = static_cast<LONGLONG>(::labs(shape.lfHeight)) * 72 * 10000 / pixelsPerInch;
+    description.sWeight = static_cast<SHORT>(shape.lfWeight);
+    description.sCharset = shape.lfCharSet;
+    ComPtr<IFont> font;
+    check(::OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.put())));
+    return font;
+}
+
+bool equalFonts(IFont* a, IFont* b) noexcept
+{
+    if (a == b)
+        return true;
+    return a && b && a->IsEqual(b) == S_OK;
+}
+
+} // namespace quillet

@@ -1,0 +1,21 @@
+// Standard font objects of a control's own.
+#pragma once
+
+#include "base/ComPtr.h"
+
+#include <windows.h>
+#include <ocidl.h>
+
+namespace quillet {
+
+/// A copy of the control's own: two controls that share a container's font object would underline each
+/// other's captions. Empty when the object is no font.
+ComPtr<IFont> copyOfFont(IUnknown* font) noexcept;
+
+/// The system's user-interface font as a standard font object.
+ComPtr<IFont> systemFont();
+
+/// Whether two fonts look the same.
+bool equalFonts(IFont* a, IFont* b) noexcept;
+
+} // namespace quillet

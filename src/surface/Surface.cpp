@@ -1,0 +1,166 @@
+// The user-control surface: identity, life and the services that belong to no single face.
+#include "surface/Surface.h"
+
+#include "base/Handles.h"
+#include "base/RunTimeError.h"
+#include "surface/StandardFont.h"
+
+namespace quillet {
+
+IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
+
+TwipsPerPixel twipsPerPixel() noexcept
+{
+    constexpr double kTwipsPerInch = 1440.0;
+    WindowDc const screen(nullptr);
+    return {kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSX),
+            kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
+}
+
+Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
+    : m_class(controlClass), m_outer(outer ? outer : &m_identity)
+{
+    m_font.set(systemFont());
+}
+
+Surface::~Surface() = default;
+
+HRESULT Surface::Identity::QueryInterface(REFIID iid, void** object)
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    IUnknown* const face = iid == IID_IUnknown ? this : m_surface.faceOf(iid);
+    if (!face)
+        return E_NOINTERFACE;
+    face->AddRef();
+    *object = face;
+    return S_OK;
+}
+
+ULONG Surface::Identity::AddRef() { return static_cast<ULONG>(::InterlockedIncrement(&m_references)); }
+
+ULONG Surface::Identity::Release()
+{
+    LONG const left = ::InterlockedDecrement(&m_references);
+    if (left > 0)
+        return static_cast<ULONG>(left);
+    m_references = 1; // references that come and go during the end must not end it a second time
+    Surface* const surface = &m_surface;
+    surface->terminate();
+    delete surface;
+    return 0;
+}
+
+IUnknown* Surface::faceOf(REFIID iid) noexcept
+{
+    // Interfaces are asked for thousands of times while a form opens: one row each, one walk.
+    struct Row {
+        IID const& iid;
+        IUnknown* face;
+    };
+    IDispatch* const own = dual();
+    auto* const inPlaceObject = static_cast<IOleInPlaceObject*>(&m_inPlace);
+    auto* const stream = static_cast<IPersistStreamInit*>(&m_persistence);
+    Row const rows[] = {
+        {IID_IDispatch, own},
+        {m_class.interfaceId, own},
+        {IID_IOleObject, &m_oleObject},
+        {IID_IOleControl, &m_oleControl},
+        {IID_IOleInPlaceObject, inPlaceObject},
+        {IID_IOleWindow, inPlaceObject},
+        {IID_IOleInPlaceActiveObject, static_cast<IOleInPlaceActiveObject*>(&m_inPlace)},
+        {IID_IViewObject, &m_view},
+        {IID_IViewObject2, &m_view},
+        {IID_IViewObjectEx, &m_view},
+        {IID_IDataObject, &m_dataObject},
+        {IID_IConnectionPointContainer, &m_events},
+        {IID_IProvideClassInfo, &m_classInfo},
+        {IID_IProvideClassInfo2, &m_classInfo},
+        {IID_IPersist, stream},
+        {IID_IPersistStreamInit, stream},
+        {IID_IPersistStorage, static_cast<IPersistStorage*>(&m_persistence)},
+        {IID_IPersistPropertyBag, static_cast<IPersistPropertyBag*>(&m_persistence)},
+        {IID_IQuickActivate, &m_quickActivation},
+        {IID_ISupportErrorInfo, &m_errorInfoSupport},
+        {IID_IObjectWithSite, &m_objectWithSite},
+        {IID_IObjectSafety, &m_objectSafety},
+    };
+    for (Row const& row : rows)
+        if (iid == row.iid)
+            return row.face;
+    return nullptr;
+}
+
+void Surface::terminate() noexcept
+{
+    m_inPlace.leave();
+    ignoringErrors([&] { onTerminate(); });
+    m_window.destroy();
+    m_events.disconnect();
+    m_view.disconnect();
+    m_oleObject.disconnect();
+    m_container.setSite(nullptr);
+}
+
+void Surface::setEnabled(bool enabled) noexcept
+{
+    m_enabled = enabled;
+    m_window.enable(enabled);
+}
+
+void Surface::setMouseIcon(IUnknown* picture)
+{
+    auto taken = query<IPictureDisp>(picture);
+    if (picture && !taken)
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+    m_mouseIcon = std::move(taken);
+}
+
+void Surface::setFont(IUnknown* font)
+{
+    if (!font)
+        throw RunTimeError(ErrorNumber::ObjectNotSet);
+    auto own = copyOfFont(font);
+    if (!own)
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+    m_font.set(std::move(own));
+}
+
+SIZE Surface::textSize(std::wstring_view text)
+{
+    HFONT shape = nullptr;
+    check(m_font.get()->get_hFont(&shape));
+    HDC const dc = hDC();
+    SelectScope const selected(dc, shape);
+    SIZE size = {};
+    ::GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size);
+    return size;
+}
+
+void Surface::propertyChanged(DISPID property, ViewChange view)
+{
+    m_persistence.setDirty();
+    m_events.notifyChanged(property);
+    if (view == ViewChange::Yes)
+        m_view.notifyChanged();
+}
+
+void Surface::paintInto(HDC dc, SIZE size)
+{
+    struct Restore {
+        Surface& surface;
+        HDC dc;
+        SIZE size;
+        ~Restore()
+        {
+            surface.m_paintDc = dc;
+            surface.m_paintSize = size;
+        }
+    } const restore = {*this, m_paintDc, m_paintSize};
+    m_paintDc = dc;
+    m_paintSize = size;
+    onPaint();
+}
+
+} // namespace quillet

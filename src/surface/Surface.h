@@ -1,0 +1,221 @@
+// The user-control surface: what a control derives from to live in a container's form.
+#pragma once
+
+#include "base/ComCall.h"
+#include "base/ComPtr.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "surface/Automation.h"
+#include "surface/Container.h"
+#include "surface/ControlClass.h"
+#include "surface/DataObject.h"
+#include "surface/Events.h"
+#include "surface/InPlace.h"
+#include "surface/OleControl.h"
+#include "surface/OleObject.h"
+#include "surface/Persistence.h"
+#include "surface/QuickActivation.h"
+#include "surface/SmallFaces.h"
+#include "surface/SurfaceFont.h"
+#include "surface/SurfaceWindow.h"
+#include "surface/View.h"
+
+#include <windows.h>
+#include <ocidl.h>
+
+#include <string>
+
+namespace quillet {
+
+class PropertyBag;
+
+/// Mouse buttons of the mouse handlers: left 1, right 2, middle 4. Shift states: shift 1, control 2, alt 4.
+/// Coordinates are twips from the surface's top left corner.
+struct MouseArguments {
+    short button;
+    short shift;
+    float x;
+    float y;
+};
+
+/// Twips in one pixel of the screen.
+struct TwipsPerPixel {
+    double x;
+    double y;
+};
+TwipsPerPixel twipsPerPixel() noexcept;
+
+/// Whether the container that changes a property should hear of a changed look, too.
+enum class ViewChange { No, Yes };
+
+/// A control derives from this, overrides the handlers that it needs and uses the services. All COM faces
+/// but the control's own dual interface are members here. Handlers may throw; the boundary of whoever
+/// called the surface turns that into the call's result.
+class Surface {
+public:
+    Surface(Surface const&) = delete;
+    Surface& operator=(Surface const&) = delete;
+
+    /// The object's own identity, with one reference that the creator owns.
+    IUnknown* inner() noexcept { return &m_identity; }
+    IUnknown* outer() const noexcept { return m_outer; }
+    ControlClass const& controlClass() const noexcept { return m_class; }
+
+    /// Keeps the control alive while one of its own calls runs: a sink may release it inside any event.
+    ComPtr<IUnknown> keepAlive() const noexcept { return m_outer; }
+
+    /// Runs the body of a method that a host called: alive to its end, errors reported at the boundary.
+    template <class Body> HRESULT call(Body&& body) noexcept
+    {
+        auto const alive = keepAlive();
+        return comCall({m_class.progId, m_class.interfaceId}, std::forward<Body>(body));
+    }
+
+    // Services for the control and for the faces.
+
+    Container& container() noexcept { return m_container; }
+    Container const& container() const noexcept { return m_container; }
+    SurfaceWindow& window() noexcept { return m_window; }
+    InPlace& inPlace() noexcept { return m_inPlace; }
+    OleControl& oleControl() noexcept { return m_oleControl; }
+    OleObject& oleObject() noexcept { return m_oleObject; }
+    Persistence& persistence() noexcept { return m_persistence; }
+    View& view() noexcept { return m_view; }
+    Events& events() noexcept { return m_events; }
+    SurfaceFont& surfaceFont() noexcept { return m_font; }
+
+    bool userMode() const noexcept { return m_container.userMode(); }
+
+    /// The window, made at first need. Throws when Windows refuses it.
+    HWND hWnd() { return m_window.handle(); }
+    /// Where painting goes: the window's own DC, or what a container draws the control into.
+    HDC hDC() { return m_paintDc ? m_paintDc : m_window.dc(); }
+    /// The size to paint, in pixels.
+    SIZE clientSize() { return m_paintDc ? m_paintSize : m_window.clientSize(); }
+
+    OLE_COLOR backColor() const noexcept { return m_backColor; }
+    OLE_COLOR foreColor() const noexcept { return m_foreColor; }
+    bool enabled() const noexcept { return m_enabled; }
+    short mousePointer() const noexcept { return m_mousePointer; }
+    IPictureDisp* mouseIcon() const noexcept { return m_mouseIcon.get(); }
+    IFont* font() const noexcept { return m_font.get(); }
+    void setBackColor(OLE_COLOR colour) noexcept { m_backColor = colour; }
+    void setForeColor(OLE_COLOR colour) noexcept { m_foreColor = colour; }
+    void setEnabled(bool enabled) noexcept;
+    void setMousePointer(short pointer) noexcept { m_mousePointer = pointer; }
+    void setMouseIcon(IUnknown* picture);
+    /// Takes a copy of the font as its own. ObjectNotSet for none, TypeMismatch for what is no font.
+    void setFont(IUnknown* font);
+
+    /// Width and height of a text in the surface's font, in whole pixels.
+    SIZE textSize(std::wstring_view text);
+
+    /// The characters that, with Alt, reach onAccessKeyPress.
+    void setAccessKeys(std::wstring_view keys) { m_oleControl.setAccessKeys(keys); }
+
+    /// Raises an event unless events are frozen; arguments in their declared order.
+    void raiseEvent(DISPID event, std::initializer_list<Variant> arguments = {})
+    {
+        m_events.raise(event, arguments);
+    }
+    /// Marks the control as changed since it was saved and tells the container which property it was.
+    void propertyChanged(DISPID property, ViewChange view);
+
+    /// Runs the Paint handler on the window's own DC at once.
+    void repaint() { onPaint(); }
+    /// Runs the Paint handler for a picture of the given size in pixels in another DC.
+    void paintInto(HDC dc, SIZE size);
+
+    // Handlers. A control overrides what it needs.
+
+    virtual void onInitProperties() {}
+    virtual void onReadProperties(PropertyBag&) {}
+    virtual void onWriteProperties(PropertyBag&) {}
+    virtual void onPaint() {}
+    virtual void onClick() {}
+    virtual void onDblClick() {}
+    virtual void onMouseDown(MouseArguments const&) {}
+    virtual void onMouseMove(MouseArguments const&) {}
+    virtual void onMouseUp(MouseArguments const&) {}
+    virtual void onKeyPress(short /*keyAscii*/) {}
+    virtual void onAccessKeyPress(short /*keyAscii*/) {}
+    virtual void onGotFocus() {}
+    virtual void onLostFocus() {}
+    virtual void onShow() {}
+    virtual void onResize() {}
+    virtual void onAmbientChanged(DISPID) {}
+    virtual void onTerminate() {}
+    /// The font that the surface shows changed inside: somebody made it bold, say.
+    virtual void onFontChanged() {}
+    /// What the window tells a dialog's keyboard handling (DLGC flags).
+    virtual LRESULT dialogCode() const { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }
+
+protected:
+    /// Aggregated when there is an outer object. The dual interface is the control's own.
+    Surface(ControlClass const& controlClass, IUnknown* outer);
+    virtual ~Surface();
+
+    /// The control's dual interface, uncounted.
+    virtual IDispatch* dual() noexcept = 0;
+
+private:
+    /// The identity: counts references and answers which faces there are.
+    class Identity final : public IUnknown {
+    public:
+        explicit Identity(Surface& surface) noexcept : m_surface(surface) {}
+        STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
+        STDMETHODIMP_(ULONG) AddRef() override;
+        STDMETHODIMP_(ULONG) Release() override;
+
+    private:
+        Surface& m_surface;
+        LONG volatile m_references = 1;
+    };
+
+    IUnknown* faceOf(REFIID iid) noexcept;
+    void terminate() noexcept;
+
+    LiveObject m_live;
+    ControlClass const& m_class;
+    Identity m_identity{*this};
+    IUnknown* m_outer; ///< not counted: the outer object owns this one
+
+    OLE_COLOR m_backColor = 0x8000000F; ///< button face
+    OLE_COLOR m_foreColor = 0x80000012; ///< button text
+    bool m_enabled = true;
+    short m_mousePointer = 0;
+    ComPtr<IPictureDisp> m_mouseIcon;
+
+    HDC m_paintDc = nullptr; ///< set while a container draws the control into a DC of its own
+    SIZE m_paintSize = {};
+
+    Container m_container;
+    SurfaceFont m_font{*this};
+    SurfaceWindow m_window{*this};
+    Events m_events{*this};
+    InPlace m_inPlace{*this};
+    OleObject m_oleObject{*this};
+    OleControl m_oleControl{*this};
+    View m_view{*this};
+    DataObject m_dataObject{*this};
+    Persistence m_persistence{*this};
+    QuickActivation m_quickActivation{*this};
+    ProvidedClassInfo m_classInfo{*this};
+    ErrorInfoSupport m_errorInfoSupport{*this};
+    ObjectWithSite m_objectWithSite{*this};
+    ObjectSafety m_objectSafety{*this};
+};
+
+/// Makes a control, alone or as part of an outer object, and hands out one of its interfaces.
+template <class Control> HRESULT createControl(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return comCall([&] {
+        deref(object) = nullptr;
+        if (outer && iid != IID_IUnknown)
+            throw RunTimeError(CLASS_E_NOAGGREGATION);
+        auto const made = ComPtr<IUnknown>::adopt((new Control(outer))->inner());
+        check(made->QueryInterface(iid, object));
+    });
+}
+
+} // namespace quillet

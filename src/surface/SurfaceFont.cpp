@@ -1,0 +1,86 @@
+// The surface's font, and notice of changes made inside it: somebody makes it bold, the control repaints.
+#include "surface/SurfaceFont.h"
+
+#include "base/ComCall.h"
+#include "surface/Surface.h"
+
+#include <olectl.h>
+
+namespace quillet {
+
+/// Counted apart from the control, so that the font's connection does not keep the control alive.
+class SurfaceFont::Listener final : public IPropertyNotifySink {
+public:
+    explicit Listener(SurfaceFont& font) noexcept : m_font(&font) {}
+
+    void leave() noexcept { m_font = nullptr; }
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override
+    {
+        if (!object)
+            return E_POINTER;
+        *object = nullptr;
+        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink)
+            return E_NOINTERFACE;
+        *object = ComPtr<IPropertyNotifySink>(this).detach();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
+    STDMETHODIMP_(ULONG) Release() override
+    {
+        ULONG const left = --m_references;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+    STDMETHODIMP OnChanged(DISPID) override
+    {
+        return comCall([&] {
+            if (m_font)
+                m_font->changed();
+        });
+    }
+    STDMETHODIMP OnRequestEdit(DISPID) override { return S_OK; }
+
+private:
+    ~Listener() = default;
+
+    SurfaceFont* m_font;
+    ULONG m_references = 0;
+};
+
+SurfaceFont::SurfaceFont(Surface& surface) noexcept : m_surface(surface) {}
+
+SurfaceFont::~SurfaceFont() { set(nullptr); }
+
+void SurfaceFont::set(ComPtr<IFont> font) noexcept
+{
+    if (m_listener)
+        m_listener->leave();
+    if (m_point)
+        m_point->Unadvise(m_cookie);
+    m_point.reset();
+    m_listener.reset();
+    m_font = std::move(font);
+    if (!m_font)
+        return;
+    ignoringErrors([&] {
+        m_listener = ComPtr<Listener>(new Listener(*this));
+        auto const points = m_font.as<IConnectionPointContainer>();
+        if (!points || FAILED(points->FindConnectionPoint(IID_IPropertyNotifySink, m_point.put())))
+            return;
+        if (FAILED(m_point->Advise(m_listener.get(), &m_cookie)))
+            m_point.reset();
+    });
+}
+
+void SurfaceFont::changed()
+{
+    if (m_deaf > 0)
+        return;
+    auto const alive = m_surface.keepAlive();
+    m_surface.propertyChanged(DISPID_FONT, ViewChange::Yes);
+    m_surface.onFontChanged();
+}
+
+} // namespace quillet

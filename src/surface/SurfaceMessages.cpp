@@ -1,0 +1,197 @@
+// The surface's window: its procedure, and what mouse and keyboard messages become.
+#include "base/ComCall.h"
+#include "surface/Surface.h"
+#include "surface/SurfaceWindow.h"
+
+#include <windowsx.h>
+
+namespace quillet {
+
+namespace {
+
+constexpr short kLeft = 1;
+constexpr short kRight = 2;
+constexpr short kMiddle = 4;
+
+/// The mouse message families: which button, and what happened to it.
+struct ButtonRow {
+    UINT message;
+    short button;
+    enum class What { Down, Up, Double } what;
+};
+
+constexpr ButtonRow kButtons[] = {
+    {WM_LBUTTONDOWN, kLeft, ButtonRow::What::Down},     {WM_LBUTTONUP, kLeft, ButtonRow::What::Up},
+    {WM_LBUTTONDBLCLK, kLeft, ButtonRow::What::Double}, {WM_RBUTTONDOWN, kRight, ButtonRow::What::Down},
+    {WM_RBUTTONUP, kRight, ButtonRow::What::Up},        {WM_RBUTTONDBLCLK, kRight, ButtonRow::What::Double},
+    {WM_MBUTTONDOWN, kMiddle, ButtonRow::What::Down},   {WM_MBUTTONUP, kMiddle, ButtonRow::What::Up},
+    {WM_MBUTTONDBLCLK, kMiddle, ButtonRow::What::Double},
+};
+
+short heldButtons(WPARAM keys) noexcept
+{
+    return static_cast<short>(((keys & MK_LBUTTON) ? kLeft : 0) | ((keys & MK_RBUTTON) ? kRight : 0) |
+                              ((keys & MK_MBUTTON) ? kMiddle : 0));
+}
+
+short shiftState(WPARAM keys) noexcept
+{
+    return static_cast<short>(((keys & MK_SHIFT) ? 1 : 0) | ((keys & MK_CONTROL) ? 2 : 0) |
+                              (::GetKeyState(VK_MENU) < 0 ? 4 : 0));
+}
+
+MouseArguments argumentsOf(short button, WPARAM keys, LPARAM at)
+{
+    TwipsPerPixel const twips = twipsPerPixel();
+    return {button, shiftState(keys), static_cast<float>(GET_X_LPARAM(at) * twips.x),
+            static_cast<float>(GET_Y_LPARAM(at) * twips.y)};
+}
+
+/// System cursors by mouse-pointer value: 0 default, then arrow, cross, I-beam, … ; 99 is the control's icon.
+constexpr WORD kCursors[] = {32512, 32512, 32515, 32513, 32512, 32646, 32643, 32645,
+                             32642, 32644, 32516, 32514, 32648, 32650, 32651, 32646};
+constexpr short kCustomPointer = 99;
+
+} // namespace
+
+LRESULT CALLBACK SurfaceWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    auto* const self = reinterpret_cast<SurfaceWindow*>(::GetWindowLongPtrA(window, 0));
+    if (!self)
+        return ::DefWindowProcA(window, message, wParam, lParam);
+    auto const alive = self->m_surface.keepAlive();
+    LRESULT result = 0;
+    ignoringErrors([&] { result = self->handle(message, wParam, lParam); });
+    return result;
+}
+
+LRESULT SurfaceWindow::passOn(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return m_window ? ::DefWindowProcA(m_window, message, wParam, lParam) : 0;
+}
+
+LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_PAINT:
+        paint();
+        return 0;
+    case WM_ERASEBKGND: // painting covers everything
+        return 1;
+    case WM_PRINTCLIENT:
+        m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
+        return 0;
+    case WM_MOUSEMOVE:
+        m_surface.onMouseMove(argumentsOf(heldButtons(wParam), wParam, lParam));
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONUP:
+    case WM_MBUTTONDBLCLK:
+        button(message, wParam, lParam);
+        return 0;
+    case WM_CHAR:
+        m_surface.onKeyPress(static_cast<short>(wParam));
+        return 0;
+    case WM_GETDLGCODE:
+        return m_surface.dialogCode();
+    case WM_SETCURSOR:
+        return LOWORD(lParam) == HTCLIENT && setCursor() ? TRUE : passOn(message, wParam, lParam);
+    case WM_SETFOCUS:
+        m_surface.inPlace().focusGained();
+        m_surface.onGotFocus();
+        return 0;
+    case WM_KILLFOCUS:
+        m_surface.onLostFocus();
+        m_surface.inPlace().focusLost();
+        return 0;
+    case WM_SIZE:
+        invalidate();
+        m_surface.onResize();
+        return 0;
+    case WM_WINDOWPOSCHANGED: {
+        LRESULT const result = passOn(message, wParam, lParam);
+        if (reinterpret_cast<WINDOWPOS const*>(lParam)->flags & SWP_SHOWWINDOW)
+            m_surface.onShow();
+        return result;
+    }
+    case WM_NCDESTROY: { // somebody destroyed a window above this one
+        LRESULT const result = passOn(message, wParam, lParam);
+        lost();
+        return result;
+    }
+    default:
+        return passOn(message, wParam, lParam);
+    }
+}
+
+void SurfaceWindow::paint()
+{
+    PAINTSTRUCT region;
+    HWND const window = m_window;
+    ::BeginPaint(window, &region); // the window owns its DC: this is the one that the control paints on
+    ignoringErrors([&] { m_surface.onPaint(); });
+    ::EndPaint(window, &region);
+}
+
+void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    for (ButtonRow const& row : kButtons) {
+        if (row.message != message)
+            continue;
+        switch (row.what) {
+        case ButtonRow::What::Down:
+            if (row.button == kLeft) {
+                m_clickBegun = true;
+                takeFocus();
+            }
+            m_surface.onMouseDown(argumentsOf(row.button, wParam, lParam));
+            return;
+        case ButtonRow::What::Double:
+            if (row.button == kLeft)
+                m_surface.onDblClick();
+            return;
+        case ButtonRow::What::Up:
+            release(row.button, wParam, lParam);
+            return;
+        }
+    }
+}
+
+void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
+{
+    bool const begun = button == kLeft && m_clickBegun;
+    if (button == kLeft)
+        m_clickBegun = false;
+    m_surface.onMouseUp(argumentsOf(button, wParam, lParam));
+    RECT client = {};
+    if (begun && m_window && ::GetClientRect(m_window, &client) &&
+        ::PtInRect(&client, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))
+        m_surface.onClick();
+}
+
+bool SurfaceWindow::setCursor() const
+{
+    short const pointer = m_surface.mousePointer();
+    if (pointer == kCustomPointer) {
+        auto const picture = query<IPicture>(m_surface.mouseIcon());
+        OLE_HANDLE handle = 0;
+        SHORT type = PICTYPE_NONE;
+        if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON ||
+            FAILED(picture->get_Handle(&handle)) || !handle)
+            return false;
+        ::SetCursor(reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle))));
+        return true;
+    }
+    if (pointer < 0 || pointer >= static_cast<short>(std::size(kCursors)))
+        return false;
+    ::SetCursor(::LoadCursorA(nullptr, MAKEINTRESOURCEA(kCursors[pointer])));
+    return true;
+}
+
+} // namespace quillet

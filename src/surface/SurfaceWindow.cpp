@@ -1,0 +1,176 @@
+// The surface's window: its class, its place, its parent.
+#include "surface/SurfaceWindow.h"
+
+#include "base/ComCall.h"
+#include "base/Handles.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "surface/ParkingWindow.h"
+#include "surface/Surface.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+/// Window classes belong to the process: the address keeps two loaded copies of the component apart.
+struct ClassName {
+    char text[40];
+    ClassName() noexcept
+    {
+        std::snprintf(text, sizeof(text), "QuilletSurface:%p", static_cast<void*>(moduleInstance()));
+    }
+};
+
+void registerClass(WNDPROC procedure)
+{
+    ClassName const name;
+    WNDCLASSEXA description = {};
+    description.cbSize = sizeof(description);
+    if (::GetClassInfoExA(moduleInstance(), name.text, &description))
+        return;
+    description = {};
+    description.cbSize = sizeof(description);
+    description.style = CS_OWNDC | CS_DBLCLKS;
+    description.lpfnWndProc = procedure;
+    // The surface is found through the window's extra bytes: the user-data slot belongs to subclassing.
+    description.cbWndExtra = sizeof(void*);
+    description.hInstance = moduleInstance();
+    description.lpszClassName = name.text;
+    if (!::RegisterClassExA(&description))
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+}
+
+} // namespace
+
+void SurfaceWindow::unregisterClass() noexcept
+{
+    ClassName const name;
+    ::UnregisterClassA(name.text, moduleInstance());
+}
+
+void SurfaceWindow::create(HWND parent)
+{
+    registerClass(&SurfaceWindow::procedure);
+    HWND const parking = enterParking();
+    RECT const& place = m_surface.inPlace().position();
+    m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName().text, nullptr,
+                                 WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
+                                     (m_surface.enabled() ? 0 : WS_DISABLED),
+                                 place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                 parent ? parent : parking, nullptr, moduleInstance(), nullptr);
+    if (!m_window) {
+        DWORD const reason = ::GetLastError();
+        leaveParking();
+        throw RunTimeError(HRESULT_FROM_WIN32(reason));
+    }
+    ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
+}
+
+HWND SurfaceWindow::handle()
+{
+    if (!m_window)
+        create(nullptr);
+    return m_window;
+}
+
+HDC SurfaceWindow::dc()
+{
+    if (!m_dc)
+        m_dc = ::GetDC(handle());
+    return m_dc;
+}
+
+SIZE SurfaceWindow::clientSize() const noexcept
+{
+    RECT client = {};
+    if (m_window)
+        ::GetClientRect(m_window, &client);
+    return {client.right, client.bottom};
+}
+
+void SurfaceWindow::attach(HWND parent)
+{
+    if (!m_window)
+        create(parent);
+    else if (::GetParent(m_window) != parent)
+        ::SetParent(m_window, parent);
+}
+
+void SurfaceWindow::park() noexcept
+{
+    if (!m_window)
+        return;
+    ::ShowWindow(m_window, SW_HIDE);
+    ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
+}
+
+void SurfaceWindow::move(RECT const& position, RECT const* clip)
+{
+    HWND const window = handle();
+    ::SetWindowPos(window, nullptr, position.left, position.top, position.right - position.left,
+                   position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT visible;
+    bool const partly = clip && ::IntersectRect(&visible, clip, &position) && !::EqualRect(&visible, &position);
+    if (!partly) {
+        ::SetWindowRgn(window, nullptr, TRUE);
+        return;
+    }
+    ::OffsetRect(&visible, -position.left, -position.top);
+    UniqueRegion region(::CreateRectRgnIndirect(&visible));
+    if (::SetWindowRgn(window, region.get(), TRUE))
+        region.release(); // the window owns it from here on
+}
+
+void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
+
+void SurfaceWindow::hide() noexcept
+{
+    if (m_window)
+        ::ShowWindow(m_window, SW_HIDE);
+}
+
+void SurfaceWindow::takeFocus()
+{
+    HWND const window = handle();
+    HWND const focused = ::GetFocus();
+    if (focused != window && !::IsChild(window, focused))
+        ::SetFocus(window);
+}
+
+void SurfaceWindow::enable(bool enabled) noexcept
+{
+    if (m_window)
+        ::EnableWindow(m_window, enabled);
+}
+
+void SurfaceWindow::invalidate() noexcept
+{
+    if (m_window)
+        ::InvalidateRect(m_window, nullptr, FALSE);
+}
+
+void SurfaceWindow::destroy() noexcept
+{
+    if (!m_window)
+        return;
+    // From here on messages find no surface: they must not reach a control that is going.
+    ::SetWindowLongPtrA(m_window, 0, 0);
+    HWND const window = std::exchange(m_window, nullptr);
+    m_dc = nullptr;
+    ::DestroyWindow(window);
+    leaveParking();
+}
+
+void SurfaceWindow::lost() noexcept
+{
+    m_window = nullptr;
+    m_dc = nullptr;
+    m_clickBegun = false;
+    leaveParking();
+    m_surface.inPlace().leave();
+}
+
+} // namespace quillet

@@ -1,0 +1,59 @@
+// The surface's window: made at first need, parked while no container shows it.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet {
+
+class Surface;
+
+class SurfaceWindow {
+public:
+    explicit SurfaceWindow(Surface& surface) noexcept : m_surface(surface) {}
+    ~SurfaceWindow() { destroy(); }
+    SurfaceWindow(SurfaceWindow const&) = delete;
+    SurfaceWindow& operator=(SurfaceWindow const&) = delete;
+
+    /// The window, made under the parking window when there is none. Throws when Windows refuses it.
+    HWND handle();
+    /// The window or null; makes none.
+    HWND existing() const noexcept { return m_window; }
+    /// The window's own DC, which lives as long as the window.
+    HDC dc();
+    /// The client area in pixels; empty while there is no window.
+    SIZE clientSize() const noexcept;
+
+    /// Puts the window, hidden, into a container's window.
+    void attach(HWND parent);
+    /// Hides the window and puts it back under the parking window.
+    void park() noexcept;
+    void move(RECT const& position, RECT const* clip);
+    void show();
+    void hide() noexcept;
+    void takeFocus();
+    void enable(bool enabled) noexcept;
+    void invalidate() noexcept;
+    void destroy() noexcept;
+
+    /// For the entry point, when the component goes.
+    static void unregisterClass() noexcept;
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+    void create(HWND parent);
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
+    void paint();
+    void button(UINT message, WPARAM wParam, LPARAM lParam);
+    void release(short button, WPARAM wParam, LPARAM lParam);
+    bool setCursor() const;
+    void lost() noexcept;
+
+    Surface& m_surface;
+    HWND m_window = nullptr;
+    HDC m_dc = nullptr;
+    bool m_clickBegun = false; ///< the left button went down here and has not come up
+};
+
+} // namespace quillet
