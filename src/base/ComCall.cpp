@@ -26,42 +26,46 @@ std::wstring systemText(HRESULT result)
     return trimmed.empty() ? L"Automation error" : std::wstring(trimmed);
 }
 
-void publish(ErrorSource const& source, std::wstring const& description) noexcept
+void publish(wchar_t const* source, IID const& interfaceId, std::wstring const& description) noexcept
 {
     ComPtr<ICreateErrorInfo> info;
     if (FAILED(::CreateErrorInfo(info.put())))
         return;
-    info->SetGUID(source.interfaceId);
-    info->SetSource(const_cast<wchar_t*>(source.name));
+    info->SetGUID(interfaceId);
+    info->SetSource(const_cast<wchar_t*>(source));
     info->SetDescription(const_cast<wchar_t*>(description.c_str()));
     info->SetHelpFile(const_cast<wchar_t*>(kHelpFile));
     if (auto const error = info.as<IErrorInfo>())
         ::SetErrorInfo(0, error.get());
 }
 
-} // namespace
-
-HRESULT resultOfCaught() noexcept
+/// Call in a catch block: what was thrown, as the one type that it is mapped to.
+RunTimeError caught() noexcept
 {
     try {
         throw;
     } catch (RunTimeError const& error) {
-        return error.result();
+        return error;
     } catch (std::bad_alloc const&) {
-        return E_OUTOFMEMORY;
+        return RunTimeError(E_OUTOFMEMORY);
     } catch (...) {
-        return E_UNEXPECTED;
+        return RunTimeError(E_UNEXPECTED);
     }
 }
 
+} // namespace
+
+HRESULT resultOfCaught() noexcept { return caught().result(); }
+
 HRESULT reportCaught(ErrorSource const& source) noexcept
 {
-    HRESULT const result = resultOfCaught();
+    RunTimeError const error = caught();
     ignoringErrors([&] {
-        wchar_t const* const own = RunTimeError(result).description();
-        publish(source, own ? std::wstring(own) : systemText(result));
+        wchar_t const* const own = error.description();
+        publish(source.name, error.interfaceId() ? *error.interfaceId() : source.interfaceId,
+                own ? std::wstring(own) : systemText(error.result()));
     });
-    return result;
+    return error.result();
 }
 
 } // namespace quillet

@@ -20,13 +20,20 @@ class RunTimeError {
 public:
     explicit RunTimeError(ErrorNumber number) noexcept;
     explicit RunTimeError(HRESULT failed) noexcept : m_result(failed) {}
+    /// A failed call of somebody else's interface, whose identifier is a constant.
+    RunTimeError(HRESULT failed, IID const& interfaceId) noexcept
+        : m_result(failed), m_interfaceId(&interfaceId)
+    {}
 
     HRESULT result() const noexcept { return m_result; }
+    /// The interface that a call failed on; null for an error of our own.
+    IID const* interfaceId() const noexcept { return m_interfaceId; }
     /// The text of an error of our own; null for a failed call's result.
     wchar_t const* description() const noexcept;
 
 private:
     HRESULT m_result;
+    IID const* m_interfaceId = nullptr;
 };
 
 /// Throws when a call has failed.
@@ -34,6 +41,13 @@ inline void check(HRESULT result)
 {
     if (FAILED(result))
         throw RunTimeError(result);
+}
+
+/// The same, naming the interface (a constant) that the call was made on.
+inline void check(HRESULT result, IID const& interfaceId)
+{
+    if (FAILED(result))
+        throw RunTimeError(result, interfaceId);
 }
 
 /// The pointer, or E_POINTER for a null one: for every out-parameter and object that a host hands in.

@@ -1,0 +1,67 @@
+// The tinted faces of the task-pane look, made of the desktop's own colours.
+#include "drawing/xpstate.h"
+
+#include "base/Checked.h"
+#include "drawing/Colour.h"
+
+namespace quillet {
+
+namespace {
+
+constexpr OLE_COLOR kButtonFace = 0x8000000F;
+constexpr OLE_COLOR kSelection = 0x8000000D;
+
+/// The channels of a colour by signed division. Blue is what is left over, so it is not masked.
+struct Channels {
+    explicit constexpr Channels(long colour)
+        : red(colour % 256), green(colour / 256 % 256), blue(colour / 65536)
+    {}
+
+    long red;
+    long green;
+    long blue;
+};
+
+/// One channel of the tint. The lift grows as the face (deep) or the selection (light) gets darker.
+long tinted(long face, long selection, VARIANT_BOOL deep)
+{
+    double const mean = (selection + face) / 2.0;
+    double const tint = deep != VARIANT_FALSE ? (255 - face) * 100 / 255.0 + mean
+                                              : (255 - selection) * 100 / 255.0 / 2.0 + mean;
+    return Clamp(roundedToEven(tint), 0, 255);
+}
+
+/// What a comparison that holds is worth in arithmetic.
+constexpr long truth(bool holds) { return holds ? -1 : 0; }
+
+/// The bound (or the value) when the comparison holds, else 0: their product, negated.
+long term(bool holds, long bound) { return checkedSubtract(0, checkedMultiply(truth(holds), bound)); }
+
+} // namespace
+
+COLORREF XPStateColor(VARIANT_BOOL deep)
+{
+    COLORREF const face = resolvedColour(kButtonFace, 0);
+    COLORREF const selection = resolvedColour(kSelection, 0);
+    return stateTint(face, selection, deep);
+}
+
+COLORREF stateTint(COLORREF face, COLORREF selection, VARIANT_BOOL deep)
+{
+    Channels const f(static_cast<long>(face));
+    Channels const h(static_cast<long>(selection));
+    long const green = tinted(f.green, h.green, deep);
+    long const red = tinted(f.red, h.red, deep);
+    long const blue = tinted(f.blue, h.blue, deep);
+    return static_cast<COLORREF>(red + green * 256 + blue * 65536);
+}
+
+long Clamp(long value, long lower, long upper)
+{
+    long const below = term(value < lower, lower);
+    long const above = term(value > upper, upper);
+    long const within = term(value >= lower && value <= upper, value);
+    return checkedAdd(checkedAdd(below, above), within);
+}
+
+} // namespace quillet
