@@ -26,8 +26,7 @@ bool sameValue(Variant const& a, Variant const& b)
     return a.toLong() == b.toLong();
 }
 
-/// Where a bag has nothing it says E_INVALIDARG; some say E_FAIL. A value that is there and does not
-/// convert is an error.
+/// Where a bag has nothing it says E_INVALIDARG; some say E_FAIL. These say that there is a value.
 bool isConversionFailure(HRESULT result) noexcept
 {
     return result == DISP_E_TYPEMISMATCH || result == DISP_E_OVERFLOW || result == DISP_E_BADVARTYPE;
@@ -40,32 +39,30 @@ Variant PropertyBag::readProperty(wchar_t const* name, Variant const& fallback)
     Variant const saved = read(name, fallback.type());
     if (saved.type() == VT_EMPTY)
         return fallback;
-    if (fallback.type() == VT_UNKNOWN)
-        return Variant::ofUnknown(saved.toObject().get());
-    return saved.convertedTo(fallback.type());
+    return saved;
 }
 
 void PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
 {
-    if (!sameValue(value, fallback))
+    if (value.type() != fallback.type() || !sameValue(value, fallback))
         write(name, value);
 }
 
 Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
 {
-    Variant value;
-    value.address()->vt = type; // the type asked for; a bag may answer in another one
-    value.address()->byref = nullptr;
-    HRESULT const result = m_bag->Read(name, value.address(), m_log.get());
-    if (result == DISP_E_OVERFLOW)
-        throw RunTimeError(ErrorNumber::Overflow);
-    if (isConversionFailure(result))
-        throw RunTimeError(ErrorNumber::TypeMismatch);
-    if (FAILED(result)) {
+    // First the type that is wanted. A bag that cannot convert is asked for whatever it has.
+    for (VARTYPE const asked : {type, VARTYPE{VT_EMPTY}}) {
+        Variant value;
+        value.address()->vt = asked;
+        value.address()->byref = nullptr;
+        HRESULT const result = m_bag->Read(name, value.address(), m_log.get());
+        if (SUCCEEDED(result))
+            return value;
         value.address()->vt = VT_EMPTY; // whatever a failing bag left there is not a value
-        return {};
+        if (!isConversionFailure(result))
+            return {};
     }
-    return value;
+    throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
 void HostPropertyBag::write(wchar_t const* name, Variant value) { check(m_bag->Write(name, value.address())); }

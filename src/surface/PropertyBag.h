@@ -14,8 +14,7 @@ class PropertyBag {
 public:
     virtual ~PropertyBag() = default;
 
-    /// The value saved under the name in the fallback's type; the fallback where nothing is saved.
-    /// Type mismatch or Overflow for a saved value that does not convert.
+    /// The value saved under the name, in whatever type it came; the fallback where nothing is saved.
     Variant readProperty(wchar_t const* name, Variant const& fallback);
     void writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback);
 

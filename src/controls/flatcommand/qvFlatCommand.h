@@ -1,0 +1,94 @@
+// The flat command button: a caption in a single-colour border, with a look for each visual state.
+#pragma once
+
+#include "base/Bstr.h"
+#include "surface/PropertyTable.h"
+#include "surface/Surface.h"
+#include "typelib/Interfaces.h"
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace quillet {
+
+/// Decided by the Paint handler, painted by DrawButton.
+enum class VisualState : long { Normal = 0, Hot = 1, Pressed = 2, Disabled = 3 };
+
+/// Everything about a flat command button that its properties keep and the surface does not.
+struct FlatCommandLooks {
+    bool officeXPColors = false;
+    bool showFocusRectangle = true;
+    bool centreCaption = false;
+    short captionIndent = 4; ///< pixels
+    Bstr caption;
+    long borderStyle = 1; ///< 0 none, 1 fixed single
+    short borderWidth = 1;
+    short hotBorderWidth = 1;
+    short pressedBorderWidth = 1;
+    OLE_COLOR borderColor = 0x80000015;
+    OLE_COLOR hotBorderColor = 0x80000015;
+    OLE_COLOR pressedBorderColor = 0x80000015;
+    OLE_COLOR hotForeColor = 0x80000014;
+    OLE_COLOR hotBackColor = 0x80000010;
+    OLE_COLOR pressedForeColor = 0x80000014;
+    OLE_COLOR pressedBackColor = 0x80000015;
+    OLE_COLOR disabledForeColor = 0x80000011;
+    Bstr toolTipText;
+};
+
+class qvFlatCommand final : public Surface, public Dual<_qvFlatCommand> {
+public:
+    explicit qvFlatCommand(IUnknown* outer);
+
+    // _qvFlatCommand: every property reads and writes through its row.
+#define QV_VALUE(name, id, type, help)                                                                       \
+    STDMETHODIMP get_##name(type* value) override { return getMember(*this, kProperties, id, value); }                            \
+    STDMETHODIMP put_##name(type value) override { return putMember(*this, kProperties, id, value); }
+#define QV_OBJECT(name, id, type, help)                                                                      \
+    STDMETHODIMP get_##name(type** value) override { return getObjectMember(*this, kProperties, id, value); }                          \
+    STDMETHODIMP putref_##name(type* value) override { return putObjectMember(*this, kProperties, id, value); }
+#define QV_READ_ONLY(name, id, type, help) STDMETHODIMP get_##name(type* value) override;
+#define QV_METHOD(name, id, help) STDMETHODIMP name() override;
+#define QV_WINDOW_PROCEDURE(name, id, help)                                                                  \
+    STDMETHODIMP name(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) override;
+#include "typelib/members/qvFlatCommand.inc"
+
+    // Handlers of the surface.
+    void onInitProperties() override;
+    void onReadProperties(PropertyBag& bag) override;
+    void onWriteProperties(PropertyBag& bag) override;
+    void onPaint() override;
+    void onShow() override { repaint(); }
+    void onFontChanged() override { repaint(); }
+
+    FlatCommandLooks& looks() noexcept { return m_looks; }
+    FlatCommandLooks const& looks() const noexcept { return m_looks; }
+
+protected:
+    IDispatch* dual() noexcept override { return this; }
+
+private:
+    struct Palette;
+    struct Painting;
+    enum class Underline { Off, On };
+
+    VisualState currentState(bool userMode);
+    void draw(bool userMode);
+    Palette paletteOf(VisualState state) const;
+    bool isEmphasisedDefault(bool userMode) const;
+    void drawBorder(Painting& painting) const;
+    void drawFace(Painting& painting) const;
+    void drawFocusFrame(Painting& painting) const;
+    void drawCaption(Painting& painting);
+    long captionLeft(Painting const& painting, std::wstring_view caption);
+    void drawPiece(Painting& painting, std::wstring_view text, Underline underline, long x, long y);
+
+    static PropertyTable<qvFlatCommand> const kProperties;
+
+    FlatCommandLooks m_looks;
+    VisualState m_state = VisualState::Normal;
+    bool m_pressed = false; ///< between a press of the left button and its release
+};
+
+} // namespace quillet

@@ -1,0 +1,87 @@
+// A control's properties as rows: the types of each kind.
+#include "surface/PropertyTable.h"
+
+namespace quillet {
+
+namespace {
+
+struct KindRow {
+    PropertyKind kind;
+    VARTYPE kept;
+    VARTYPE saved;
+};
+
+constexpr KindRow kKinds[] = {
+    {PropertyKind::Colour, VT_I4, VT_I4},         {PropertyKind::Flag, VT_BOOL, VT_BOOL},
+    {PropertyKind::Integer, VT_I2, VT_I2},        {PropertyKind::Style, VT_I4, VT_I2},
+    {PropertyKind::Text, VT_BSTR, VT_BSTR},       {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},
+    {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
+};
+
+KindRow const& rowOf(PropertyKind kind) noexcept
+{
+    for (KindRow const& row : kKinds)
+        if (row.kind == kind)
+            return row;
+    __builtin_unreachable();
+}
+
+/// A font that is not there is an error; a picture may be missing.
+void requireObjectOfKind(PropertyKind kind, IUnknown* object)
+{
+    bool const isFont = kind == PropertyKind::Font;
+    if (!object && isFont)
+        throw RunTimeError(ErrorNumber::ObjectNotSet);
+    if (object && !query<IUnknown>(object, isFont ? IID_IFont : IID_IPicture))
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+}
+
+/// Colours with the top bit set come as negative, as unsigned and as text of either.
+Variant convertedColour(Variant const& value)
+{
+    try {
+        return value.convertedTo(VT_I4);
+    } catch (RunTimeError const&) {
+        return Variant::ofLong(static_cast<long>(value.convertedTo(VT_UI4).get().ulVal));
+    }
+}
+
+} // namespace
+
+VARTYPE keptType(PropertyKind kind) noexcept { return rowOf(kind).kept; }
+VARTYPE savedType(PropertyKind kind) noexcept { return rowOf(kind).saved; }
+
+Variant convertedProperty(PropertyKind kind, Variant const& value)
+{
+    if (kind == PropertyKind::Colour)
+        return convertedColour(value);
+    if (keptType(kind) != VT_UNKNOWN)
+        return value.type() == keptType(kind) ? value : value.convertedTo(keptType(kind));
+    auto const object = value.toObject();
+    requireObjectOfKind(kind, object.get());
+    return Variant::ofUnknown(object.get());
+}
+
+Variant savedProperty(PropertyKind kind, Variant const& kept)
+{
+    bool const fits = kind != PropertyKind::Style || kept.get().lVal == static_cast<short>(kept.get().lVal);
+    if (!fits || kept.type() == savedType(kind))
+        return kept; // what is too large for its saved type is saved as it is, not lost
+    return kept.convertedTo(savedType(kind));
+}
+
+Variant plainFallback(PropertyKind kind, long fallback)
+{
+    switch (keptType(kind)) {
+    case VT_BSTR:
+        return Variant::ofString({});
+    case VT_UNKNOWN:
+        return Variant::ofUnknown(nullptr);
+    case VT_BOOL:
+        return Variant::ofBool(fallback != 0);
+    default:
+        return Variant::ofLong(fallback).convertedTo(keptType(kind));
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,232 @@
+// A control's properties as rows: saved name, saved type, default, order and effect of each stand once.
+#pragma once
+
+#include "base/RunTimeError.h"
+#include "base/Variant.h"
+#include "surface/PropertyBag.h"
+#include "surface/Surface.h"
+
+#include <windows.h>
+#include <ocidl.h>
+#include <olectl.h>
+
+#include <span>
+#include <type_traits>
+#include <vector>
+
+namespace quillet {
+
+/// What a property is: the type in which its control keeps it, and the type in which it is saved.
+enum class PropertyKind {
+    Colour,  ///< 32 bits
+    Flag,    ///< 16-bit boolean
+    Integer, ///< 16 bits
+    Style,   ///< kept in 32 bits, saved in 16 where it fits
+    Text,
+    Font,
+    Picture,
+};
+
+VARTYPE keptType(PropertyKind kind) noexcept;
+VARTYPE savedType(PropertyKind kind) noexcept;
+
+/// A value in the type in which a kind is kept. Type mismatch or Overflow where it does not convert, or is an
+/// object of another kind.
+Variant convertedProperty(PropertyKind kind, Variant const& value);
+/// A kept value in the type in which the kind is saved.
+Variant savedProperty(PropertyKind kind, Variant const& kept);
+/// The default of a kind that has one value for all controls.
+Variant plainFallback(PropertyKind kind, long fallback);
+
+enum class Saved { No, Yes };
+/// What gives a new control its value: the default of its row, or whatever the surface starts with.
+enum class AtStart { Default, Surface };
+enum class Repaint { No, Yes };
+
+/// How a property is read and stored, in the type of its kind. Storing has no further effect.
+template <class Control> struct PropertyAccess {
+    Variant (*get)(Control const&);
+    void (*set)(Control&, Variant const&);
+};
+
+template <class Control> struct PropertyRow {
+    wchar_t const* name; ///< published and saved
+    DISPID id;
+    PropertyKind kind;
+    long fallback; ///< the default of numbers and flags
+    PropertyAccess<Control> access;
+    Saved saved;
+    AtStart atStart;
+    Repaint repaint; ///< whether the setter ends by painting
+};
+
+/// A field's value as a variant of its property's kind, and back.
+inline Variant fieldValue(Bstr const& field) { return Variant::ofString(field.view()); }
+inline Variant fieldValue(bool field) { return Variant::ofBool(field); }
+inline Variant fieldValue(short field) { return Variant::ofShort(field); }
+inline Variant fieldValue(long field) { return Variant::ofLong(field); }
+inline Variant fieldValue(OLE_COLOR field) { return Variant::ofLong(static_cast<long>(field)); }
+inline void storeField(Bstr& field, Variant const& value) { field = value.toString(); }
+inline void storeField(bool& field, Variant const& value) { field = value.toBool(); }
+inline void storeField(short& field, Variant const& value) { field = value.toShort(); }
+inline void storeField(long& field, Variant const& value) { field = value.toLong(); }
+inline void storeField(OLE_COLOR& field, Variant const& value) { field = static_cast<OLE_COLOR>(value.toLong()); }
+
+/// The properties that the surface itself holds.
+template <class Control> struct SurfaceAccess {
+    static constexpr PropertyAccess<Control> kBackColor = {
+        [](Control const& c) { return fieldValue(c.backColor()); },
+        [](Control& c, Variant const& v) { c.setBackColor(static_cast<OLE_COLOR>(v.toLong())); }};
+    static constexpr PropertyAccess<Control> kForeColor = {
+        [](Control const& c) { return fieldValue(c.foreColor()); },
+        [](Control& c, Variant const& v) { c.setForeColor(static_cast<OLE_COLOR>(v.toLong())); }};
+    static constexpr PropertyAccess<Control> kEnabled = {
+        [](Control const& c) { return fieldValue(c.enabled()); },
+        [](Control& c, Variant const& v) { c.setEnabled(v.toBool()); }};
+    static constexpr PropertyAccess<Control> kFont = {
+        [](Control const& c) { return Variant::ofUnknown(c.font()); },
+        [](Control& c, Variant const& v) { c.setFont(v.toObject().get()); }};
+    static constexpr PropertyAccess<Control> kMousePointer = {
+        [](Control const& c) { return fieldValue(c.mousePointer()); },
+        [](Control& c, Variant const& v) { c.setMousePointer(v.toShort()); }};
+    static constexpr PropertyAccess<Control> kMouseIcon = {
+        [](Control const& c) { return Variant::ofUnknown(c.mouseIcon()); },
+        [](Control& c, Variant const& v) { c.setMouseIcon(v.toObject().get()); }};
+};
+
+/// Everything that a control does with all of its properties, done by walking its rows.
+template <class Control> class PropertyTable {
+public:
+    using Row = PropertyRow<Control>;
+
+    explicit constexpr PropertyTable(std::span<Row const> rows) noexcept : m_rows(rows) {}
+
+    Row const& rowOf(DISPID id) const
+    {
+        for (Row const& row : m_rows)
+            if (row.id == id)
+                return row;
+        throw RunTimeError(DISP_E_MEMBERNOTFOUND);
+    }
+
+    /// The setter: stores the value, tells who listens, repaints where the row says so. A value that does
+    /// not convert changes nothing.
+    void put(Control& control, Row const& row, Variant const& value) const
+    {
+        row.access.set(control, convertedProperty(row.kind, value));
+        control.propertyChanged(row.id, row.repaint == Repaint::Yes ? ViewChange::Yes : ViewChange::No);
+        if (row.repaint == Repaint::Yes)
+            control.repaint();
+    }
+
+    /// The values of a new control; the font is the container's.
+    void init(Control& control) const
+    {
+        for (Row const& row : m_rows)
+            if (row.kind == PropertyKind::Font)
+                put(control, row, fallbackOf(control, row));
+        for (Row const& row : m_rows)
+            if (row.atStart == AtStart::Default)
+                row.access.set(control, fallbackOf(control, row));
+    }
+
+    /// Reads every saved property in order and then stores them: a value that does not convert leaves the
+    /// control as it was. Objects pass through their setters.
+    void read(Control& control, PropertyBag& bag) const
+    {
+        std::vector<Variant> values;
+        for (Row const& row : m_rows)
+            if (row.saved == Saved::Yes)
+                values.push_back(
+                    convertedProperty(row.kind, bag.readProperty(row.name, savedFallback(control, row))));
+        auto value = values.cbegin();
+        for (Row const& row : m_rows) {
+            if (row.saved == Saved::No)
+                continue;
+            if (keptType(row.kind) == VT_UNKNOWN)
+                put(control, row, *value++);
+            else
+                row.access.set(control, *value++);
+        }
+    }
+
+    void write(Control const& control, PropertyBag& bag) const
+    {
+        for (Row const& row : m_rows)
+            if (row.saved == Saved::Yes)
+                bag.writeProperty(row.name, savedProperty(row.kind, row.access.get(control)),
+                                  savedFallback(control, row));
+    }
+
+private:
+    static Variant fallbackOf(Control const& control, Row const& row)
+    {
+        if (row.kind == PropertyKind::Font)
+            return Variant::ofUnknown(control.container().ambientFont().get());
+        return plainFallback(row.kind, row.fallback);
+    }
+    static Variant savedFallback(Control const& control, Row const& row)
+    {
+        return savedProperty(row.kind, fallbackOf(control, row));
+    }
+
+    std::span<Row const> m_rows;
+};
+
+/// A member's value as a variant of its property's kind, and back into a caller's out-parameter.
+inline Variant argumentValue(PropertyKind, BSTR value) { return Variant::ofString(Bstr::viewOf(value)); }
+inline Variant argumentValue(PropertyKind, VARIANT const& value) { return Variant::copyOf(value); }
+inline Variant argumentValue(PropertyKind, OLE_COLOR value) { return fieldValue(value); }
+inline Variant argumentValue(PropertyKind kind, short value)
+{
+    return kind == PropertyKind::Flag ? Variant::ofBool(value != VARIANT_FALSE) : Variant::ofShort(value);
+}
+template <class Enumeration>
+    requires std::is_enum_v<Enumeration>
+Variant argumentValue(PropertyKind, Enumeration value)
+{
+    return Variant::ofLong(static_cast<long>(value));
+}
+inline void answerValue(Variant const& value, BSTR& out) { out = value.toString().copy(); }
+inline void answerValue(Variant const& value, VARIANT& out) { out = Variant(value).detach(); }
+inline void answerValue(Variant const& value, OLE_COLOR& out) { out = static_cast<OLE_COLOR>(value.get().lVal); }
+inline void answerValue(Variant const& value, short& out) { out = value.get().iVal; } // VT_BOOL shares it
+template <class Enumeration>
+    requires std::is_enum_v<Enumeration>
+void answerValue(Variant const& value, Enumeration& out)
+{
+    out = static_cast<Enumeration>(value.get().lVal);
+}
+
+/// A property's members as a vtable has them.
+template <class Control, class Value>
+HRESULT getMember(Control& control, PropertyTable<Control> const& table, DISPID id, Value* value) noexcept
+{
+    return control.call([&] {
+        deref(value);
+        answerValue(table.rowOf(id).access.get(control), *value);
+    });
+}
+template <class Control, class Value>
+HRESULT putMember(Control& control, PropertyTable<Control> const& table, DISPID id, Value const& value) noexcept
+{
+    return control.call([&] {
+        auto const& row = table.rowOf(id);
+        table.put(control, row, argumentValue(row.kind, value));
+    });
+}
+template <class Control, class Object>
+HRESULT getObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id, Object** value) noexcept
+{
+    return control.call([&] {
+        deref(value) = nullptr;
+        *value = query<Object>(table.rowOf(id).access.get(control).toObject().get()).detach();
+    });
+}
+template <class Control>
+HRESULT putObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id, IUnknown* value) noexcept
+{
+    return control.call([&] { table.put(control, table.rowOf(id), Variant::ofUnknown(value)); });
+}
+
+} // namespace quillet
