@@ -1,0 +1,21 @@
+// What every test of the component from outside begins and ends with.
+#pragma once
+
+#include "kit/Library.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet::kit {
+
+/// Loads the component. At the end nothing may be alive: neither of the component's objects nor of the test's
+/// own counterparts, whose references a control might have kept. Tests hold their objects in local variables.
+class ControlTest : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Loaded once for the whole program, as in a host.
+    static Library const& library();
+};
+
+} // namespace quillet::kit

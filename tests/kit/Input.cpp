@@ -1,0 +1,68 @@
+// Real input: the mouse pointer moved, buttons pressed, keys typed.
+#include "kit/Input.h"
+
+#include "kit/Pump.h"
+
+namespace quillet::kit {
+
+namespace {
+
+constexpr POINT kAway{1200, 1000}; // outside every test window
+
+struct ButtonFlags {
+    DWORD down;
+    DWORD up;
+};
+
+ButtonFlags flagsOf(MouseButton button)
+{
+    switch (button) {
+    case MouseButton::Left:
+        return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
+    case MouseButton::Right:
+        return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP};
+    case MouseButton::Middle:
+        break;
+    }
+    return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
+}
+
+bool moveCursor(POINT target)
+{
+    ::SetCursorPos(target.x, target.y);
+    return pumpUntil([target] {
+        POINT now;
+        return ::GetCursorPos(&now) && now.x == target.x && now.y == target.y;
+    });
+}
+
+} // namespace
+
+bool moveCursorTo(HWND window, int x, int y)
+{
+    POINT point{x, y};
+    ::ClientToScreen(window, &point);
+    return moveCursor(point);
+}
+
+bool moveCursorAway() { return moveCursor(kAway); }
+
+void press(MouseButton button) { ::mouse_event(flagsOf(button).down, 0, 0, 0, 0); }
+
+void release(MouseButton button) { ::mouse_event(flagsOf(button).up, 0, 0, 0, 0); }
+
+void typeKey(BYTE virtualKey)
+{
+    auto const scanCode = static_cast<BYTE>(::MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));
+    ::keybd_event(virtualKey, scanCode, 0, 0);
+    ::keybd_event(virtualKey, scanCode, KEYEVENTF_KEYUP, 0);
+}
+
+bool focus(HWND window)
+{
+    ::SetForegroundWindow(::GetAncestor(window, GA_ROOT));
+    ::SetFocus(window);
+    return pumpUntil([window] { return ::GetFocus() == window; });
+}
+
+} // namespace quillet::kit

@@ -1,0 +1,23 @@
+// Real input: the mouse pointer moved, buttons pressed, keys typed.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet::kit {
+
+/// Moves the mouse pointer to a point of a window and waits until it is there.
+bool moveCursorTo(HWND window, int x, int y);
+/// Moves it out of the way of every test window.
+bool moveCursorAway();
+
+enum class MouseButton { Left, Right, Middle };
+void press(MouseButton button);
+void release(MouseButton button);
+
+/// Presses and releases a key.
+void typeKey(BYTE virtualKey);
+
+/// Gives a window the focus and waits until it has it.
+bool focus(HWND window);
+
+} // namespace quillet::kit

@@ -1,0 +1,41 @@
+// The built component, loaded as a host loads it.
+#pragma once
+
+#include "base/ComPtr.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace quillet::kit {
+
+/// Holds quilbt.ocx, which lies beside the test program, in memory.
+class Library {
+public:
+    Library();
+    ~Library();
+    Library(Library const&) = delete;
+    Library& operator=(Library const&) = delete;
+
+    static std::wstring path();
+
+    bool loaded() const noexcept { return m_module != nullptr; }
+    HMODULE module() const noexcept { return m_module; }
+
+    HRESULT getClassObject(REFCLSID classId, REFIID iid, void** object) const;
+    HRESULT canUnloadNow() const;
+    ComPtr<IClassFactory> factory(REFCLSID classId) const;
+    /// A new object; empty when it cannot be made.
+    ComPtr<IUnknown> create(REFCLSID classId) const;
+
+    /// The entry point of that name; null when the component does not export it.
+    template <class Function> Function* entry(char const* name) const
+    {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(m_module, name)));
+    }
+
+private:
+    HMODULE m_module;
+};
+
+} // namespace quillet::kit

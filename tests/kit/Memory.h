@@ -1,0 +1,27 @@
+// Streams and storages in memory.
+#pragma once
+
+#include "base/ComPtr.h"
+
+#include <windows.h>
+
+#include <objidl.h>
+
+#include <vector>
+
+namespace quillet::kit {
+
+using Bytes = std::vector<BYTE>;
+
+/// A stream that holds the bytes, at its beginning.
+ComPtr<IStream> streamOf(Bytes const& bytes = {});
+
+/// Everything that is in the stream, whatever its position; the position does not change.
+Bytes bytesOf(IStream& stream);
+
+ULONGLONG positionOf(IStream& stream);
+
+/// An empty compound file.
+ComPtr<IStorage> newStorage();
+
+} // namespace quillet::kit

@@ -1,0 +1,138 @@
+// A late-bound object whose properties a test makes up: an extender, a form, a collection.
+#include "kit/NamedObject.h"
+
+#include "base/ComCall.h"
+
+#include <algorithm>
+
+namespace quillet::kit {
+
+namespace {
+
+bool sameName(std::wstring const& a, std::wstring const& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
+
+std::string textOf(Variant const& value)
+{
+    return orFallback(std::string("object"), [&] { return narrow(value.toString().view()); });
+}
+
+} // namespace
+
+std::string narrow(std::wstring_view text)
+{
+    std::string result;
+    for (wchar_t const character : text)
+        result += character < 0x80 ? static_cast<char>(character) : '?';
+    return result;
+}
+
+NamedObject::Property* NamedObject::find(std::wstring const& name)
+{
+    auto const found =
+        std::ranges::find_if(m_properties, [&](Property& p) { return sameName(p.name, name); });
+    return found == m_properties.end() ? nullptr : &*found;
+}
+
+NamedObject::Property* NamedObject::find(DISPID id)
+{
+    auto const found = std::ranges::find(m_properties, id, &Property::id);
+    return found == m_properties.end() ? nullptr : &*found;
+}
+
+NamedObject::Property& NamedObject::propertyNamed(std::wstring const& name)
+{
+    if (Property* const known = find(name))
+        return *known;
+    return m_properties.emplace_back(Property{name, ++m_lastId, {}, {}, {}, S_OK});
+}
+
+void NamedObject::offer(std::wstring const& name, Variant value)
+{
+    Property& property = propertyNamed(name);
+    property.value = std::move(value);
+    property.provider = nullptr;
+    property.failure = S_OK;
+}
+
+void NamedObject::provide(std::wstring const& name, Provider provider)
+{
+    Property& property = propertyNamed(name);
+    property.provider = std::move(provider);
+    property.failure = S_OK;
+}
+
+void NamedObject::refuse(std::wstring const& name, HRESULT result) { propertyNamed(name).failure = result; }
+
+void NamedObject::remove(std::wstring const& name)
+{
+    std::erase_if(m_properties, [&](Property const& property) { return sameName(property.name, name); });
+}
+
+void NamedObject::onWrite(std::wstring const& name, std::function<void(Variant const&)> action)
+{
+    propertyNamed(name).written = std::move(action);
+}
+
+Variant NamedObject::value(std::wstring const& name) const
+{
+    auto const found =
+        std::ranges::find_if(m_properties, [&](Property const& p) { return sameName(p.name, name); });
+    return found == m_properties.end() ? Variant() : found->value;
+}
+
+STDMETHODIMP NamedObject::GetTypeInfoCount(UINT* count)
+{
+    *count = 0;
+    return S_OK;
+}
+
+STDMETHODIMP NamedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
+{
+    std::fill_n(ids, count, DISPID_UNKNOWN);
+    Property const* const property = count == 1 ? find(std::wstring(names[0])) : nullptr;
+    if (!property) {
+        m_record->note(m_who + '.' + narrow(names[0]) + " (unknown)");
+        return DISP_E_UNKNOWNNAME;
+    }
+    ids[0] = property->id;
+    return S_OK;
+}
+
+STDMETHODIMP NamedObject::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+                                 EXCEPINFO*, UINT*)
+{
+    Property* const property = find(id);
+    if (!property || !arguments)
+        return DISP_E_MEMBERNOTFOUND;
+    if (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF))
+        return write(*property, *arguments);
+    return read(*property, *arguments, result);
+}
+
+HRESULT NamedObject::read(Property& property, DISPPARAMS const& arguments, VARIANT* result)
+{
+    m_record->note(m_who + '.' + narrow(property.name));
+    if (FAILED(property.failure))
+        return property.failure;
+    Variant const argument = arguments.cArgs ? Variant::copyOf(arguments.rgvarg[0]) : Variant();
+    Variant value = property.provider ? property.provider(argument) : property.value;
+    if (result)
+        *result = value.detach();
+    return S_OK;
+}
+
+HRESULT NamedObject::write(Property& property, DISPPARAMS const& arguments)
+{
+    if (arguments.cArgs != 1)
+        return DISP_E_BADPARAMCOUNT;
+    Variant const value = Variant::copyOf(arguments.rgvarg[0]);
+    m_record->note(m_who + '.' + narrow(property.name) + " = " + textOf(value));
+    if (FAILED(property.failure))
+        return property.failure;
+    property.value = value;
+    if (property.written)
+        property.written(value);
+    return S_OK;
+}
+
+} // namespace quillet::kit

@@ -1,0 +1,97 @@
+// Recording counterparts of who listens to a control: its events, its changed properties, its changed look.
+#pragma once
+
+#include "base/Variant.h"
+#include "kit/Counterpart.h"
+
+#include <oaidl.h>
+#include <ocidl.h>
+#include <windows.h>
+
+#include <objidl.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace quillet::kit {
+
+/// Keeps each event with its arguments in declared order. An action may run inside an event.
+class EventRecorder final : public Counterpart<IDispatch> {
+public:
+    struct Event {
+        DISPID id;
+        std::vector<VARTYPE> types; ///< as they came, by reference or not
+        std::vector<Variant> values;
+    };
+
+    explicit EventRecorder(REFIID eventsId) : m_eventsId(eventsId) {}
+
+    std::vector<Event> events;
+    std::function<void(Event const&)> action;
+    HRESULT answer = S_OK;
+
+    std::vector<DISPID> ids() const;
+    int count(DISPID id) const;
+    void forget() { events.clear(); }
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
+                        UINT*) override;
+
+private:
+    void* faceOf(REFIID iid) noexcept override;
+
+    IID m_eventsId;
+};
+
+/// Keeps the identifiers of changed properties.
+class ChangeRecorder final : public Counterpart<IPropertyNotifySink> {
+public:
+    std::vector<DISPID> changed;
+    std::vector<DISPID> requested;
+    std::function<void(DISPID)> action;
+
+    std::vector<DISPID> take() { return std::exchange(changed, {}); }
+
+    STDMETHODIMP OnChanged(DISPID id) override;
+    STDMETHODIMP OnRequestEdit(DISPID id) override;
+};
+
+/// Keeps what an advise sink is told, as "OnViewChange(1,-1)".
+class ViewRecorder final : public Counterpart<IAdviseSink> {
+public:
+    std::vector<std::string> calls;
+    std::function<void(std::string const&)> action;
+
+    int count(std::string const& call) const;
+
+    STDMETHODIMP_(void) OnDataChange(FORMATETC*, STGMEDIUM*) override { note("OnDataChange"); }
+    STDMETHODIMP_(void) OnViewChange(DWORD aspect, LONG index) override;
+    STDMETHODIMP_(void) OnRename(IMoniker*) override { note("OnRename"); }
+    STDMETHODIMP_(void) OnSave() override { note("OnSave"); }
+    STDMETHODIMP_(void) OnClose() override { note("OnClose"); }
+
+private:
+    void note(std::string const& call);
+};
+
+/// A sink joined to one connection point of an object, for one scope.
+class Connection {
+public:
+    Connection(IUnknown* object, REFIID pointId, IUnknown* sink);
+    ~Connection() { cut(); }
+    Connection(Connection const&) = delete;
+    Connection& operator=(Connection const&) = delete;
+
+    bool joined() const noexcept { return m_cookie != 0; }
+    HRESULT cut();
+
+private:
+    ComPtr<IConnectionPoint> m_point;
+    DWORD m_cookie = 0;
+};
+
+} // namespace quillet::kit
