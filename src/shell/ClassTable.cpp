@@ -1,0 +1,26 @@
+// The classes that the component makes: one row each.
+#include "shell/ClassTable.h"
+
+#include "controls/flatcommand/Create.h"
+
+namespace quillet {
+
+namespace {
+
+constexpr ClassRow kClasses[] = {
+    {&flatCommandClass, &createFlatCommand},
+};
+
+} // namespace
+
+std::span<ClassRow const> classTable() noexcept { return kClasses; }
+
+ClassRow const* findClass(REFCLSID classId) noexcept
+{
+    for (ClassRow const& row : kClasses)
+        if (row.controlClass().classId == classId)
+            return &row;
+    return nullptr;
+}
+
+} // namespace quillet

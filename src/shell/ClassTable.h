@@ -1,0 +1,24 @@
+// The classes that the component makes: one row each.
+#pragma once
+
+#include "surface/ControlClass.h"
+
+#include <windows.h>
+#include <unknwn.h>
+
+#include <span>
+
+namespace quillet {
+
+/// A class that a host can create.
+struct ClassRow {
+    ControlClass const& (*controlClass)() noexcept;
+    HRESULT (*create)(IUnknown* outer, REFIID iid, void** object) noexcept;
+};
+
+std::span<ClassRow const> classTable() noexcept;
+
+/// The row of a class; null when the component does not have it.
+ClassRow const* findClass(REFCLSID classId) noexcept;
+
+} // namespace quillet

@@ -1,0 +1,46 @@
+// What Windows and the component runtime call.
+#include "base/ComCall.h"
+#include "base/ComPtr.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "shell/ClassFactory.h"
+#include "surface/SurfaceWindow.h"
+#include "surface/ThreadState.h"
+
+#include <windows.h>
+
+using namespace quillet;
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds)
+{
+    switch (reason) {
+    case DLL_PROCESS_ATTACH:
+        setModuleInstance(instance);
+        return attachThreadStates();
+    case DLL_THREAD_DETACH:
+        detachThreadState();
+        return TRUE;
+    case DLL_PROCESS_DETACH:
+        if (processEnds) // Windows takes everything back, and other threads are gone in the middle of things
+            return TRUE;
+        SurfaceWindow::unregisterClass();
+        detachThreadStates();
+        return TRUE;
+    default:
+        return TRUE;
+    }
+}
+
+extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** object)
+{
+    return comCall([&] {
+        deref(object) = nullptr;
+        ClassRow const* const row = findClass(classId);
+        if (!row)
+            return CLASS_E_CLASSNOTAVAILABLE;
+        ComPtr<IClassFactory> const factory = ClassFactory::make(*row);
+        return factory->QueryInterface(iid, object);
+    });
+}
+
+extern "C" HRESULT WINAPI DllCanUnloadNow() { return liveObjects() == 0 ? S_OK : S_FALSE; }
