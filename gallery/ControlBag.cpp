@@ -1,0 +1,104 @@
+// Turns the lines of a form that belong to a control into the property bag that the control loads.
+#include "gallery/ControlBag.h"
+
+#include "base/ComCall.h"
+#include "gallery/Fonts.h"
+#include "gallery/Names.h"
+
+#include <windows.h>
+
+#include <optional>
+
+namespace quillet::gallery {
+
+namespace {
+
+constexpr std::wstring_view kExtenderNames[] = {
+    L"Left",
+    L"Top",
+    L"Width",
+    L"Height",
+    L"TabIndex",
+    L"TabStop",
+    L"Default",
+    L"Cancel",
+    L"Visible",
+    L"Tag",
+    L"Index",
+    L"ToolTipText",
+    L"Name",
+    L"Align",
+    L"DragIcon",
+    L"DragMode",
+    L"HelpContextID",
+    L"WhatsThisHelpID",
+    L"CausesValidation",
+    L"DataField",
+    L"DataSource",
+    L"DataMember",
+    L"DataFormat",
+};
+
+/// How a form writes a property of the control whose name the extender has taken.
+constexpr std::wstring_view kOwnPrefix = L"Object.";
+
+constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
+
+/// The name that the control knows a line by; nothing for a line of the extender's.
+std::optional<std::wstring_view> ownName(std::wstring_view name) noexcept
+{
+    if (name.size() > kOwnPrefix.size() && sameName(name.substr(0, kOwnPrefix.size()), kOwnPrefix))
+        return name.substr(kOwnPrefix.size());
+    if (isExtenderProperty(name))
+        return std::nullopt;
+    return name;
+}
+
+bool isFont(PropertyBlock const& block) noexcept
+{
+    return block.classId.empty() || sameName(block.classId, kStandardFont);
+}
+
+struct ToVariant {
+    std::optional<Variant> operator()(long value) const { return Variant::ofLong(value); }
+    std::optional<Variant> operator()(double value) const
+    {
+        Variant result;
+        result.put()->vt = VT_R8;
+        result.address()->dblVal = value;
+        return result;
+    }
+    std::optional<Variant> operator()(std::wstring const& text) const { return Variant::ofString(text); }
+    std::optional<Variant> operator()(Unquoted const& raw) const { return Variant::ofString(raw.text); }
+    std::optional<Variant> operator()(ResourceReference const&) const { return std::nullopt; }
+};
+
+} // namespace
+
+bool isExtenderProperty(std::wstring_view name) noexcept
+{
+    for (std::wstring_view const known : kExtenderNames)
+        if (sameName(known, name))
+            return true;
+    return false;
+}
+
+ComPtr<PropertyBag> controlBag(FormNode const& node)
+{
+    ComPtr<PropertyBag> bag = makeCounted<PropertyBag>();
+    for (FormProperty const& property : node.properties) {
+        std::optional<std::wstring_view> const name = ownName(property.name);
+        if (!name)
+            continue;
+        if (std::optional<Variant> value = std::visit(ToVariant(), property.value))
+            bag->set(*name, std::move(*value));
+    }
+    for (PropertyBlock const& block : node.blocks)
+        if (isFont(block))
+            ignoringErrors([&] {
+                bag->set(block.name, Variant::ofDispatch(makeFont(fontFaceOf(block)).as<IDispatch>().get()));
+            });
+    return bag;
+}
+
+} // namespace quillet::gallery

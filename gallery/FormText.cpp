@@ -1,0 +1,70 @@
+// The text of a form file: its decoding, and its lines one after the other.
+#include "gallery/FormText.h"
+
+#include <windows.h>
+
+namespace quillet::gallery {
+
+namespace {
+
+constexpr UINT kWindows1252 = 1252;
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::wstring_view kBlanks = L" \t";
+
+} // namespace
+
+std::wstring decodedFormText(std::string_view bytes)
+{
+    bool const marked = bytes.starts_with(kUtf8Mark);
+    if (marked)
+        bytes.remove_prefix(kUtf8Mark.size());
+    if (bytes.empty())
+        return {};
+    UINT const codePage = marked ? CP_UTF8 : kWindows1252;
+    int const count = static_cast<int>(bytes.size());
+    int const needed = ::MultiByteToWideChar(codePage, 0, bytes.data(), count, nullptr, 0);
+    std::wstring text(static_cast<std::size_t>(needed), L'\0');
+    ::MultiByteToWideChar(codePage, 0, bytes.data(), count, text.data(), needed);
+    return text;
+}
+
+std::wstring_view trimmed(std::wstring_view text) noexcept
+{
+    std::size_t const first = text.find_first_not_of(kBlanks);
+    if (first == std::wstring_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::wstring_view FormLines::takeLine() noexcept
+{
+    std::size_t const end = m_rest.find_first_of(L"\r\n");
+    std::wstring_view const line = m_rest.substr(0, end);
+    if (end == std::wstring_view::npos) {
+        m_rest = {};
+    } else {
+        bool const both = m_rest.substr(end).starts_with(L"\r\n");
+        m_rest.remove_prefix(end + (both ? 2 : 1));
+    }
+    ++m_number;
+    return line;
+}
+
+std::optional<FormLine> FormLines::next() noexcept
+{
+    while (!m_rest.empty()) {
+        m_restBefore = m_rest;
+        m_numberBefore = m_number;
+        if (std::wstring_view const line = trimmed(takeLine()); !line.empty())
+            return FormLine{line, m_number};
+    }
+    return std::nullopt;
+}
+
+void FormLines::stepBack() noexcept
+{
+    m_rest = m_restBefore;
+    m_number = m_numberBefore;
+}
+
+} // namespace quillet::gallery

@@ -1,0 +1,148 @@
+// The program round a form: opens it, runs it, and says what went wrong.
+#include "gallery/Gallery.h"
+
+#include "base/RunTimeError.h"
+#include "gallery/Console.h"
+#include "gallery/ControlLibrary.h"
+#include "gallery/Form.h"
+#include "gallery/FormReader.h"
+#include "gallery/Options.h"
+#include "gallery/UniqueFile.h"
+
+#include <ole2.h>
+#include <windows.h>
+
+#include <optional>
+
+namespace quillet::gallery {
+
+namespace {
+
+/// The component runtime for one scope, as drag, drop and in-place activation need it.
+class OleScope {
+public:
+    OleScope() { check(::OleInitialize(nullptr)); }
+    ~OleScope() { ::OleUninitialize(); }
+    OleScope(OleScope const&) = delete;
+    OleScope& operator=(OleScope const&) = delete;
+};
+
+std::wstring folderOf(std::wstring const& path)
+{
+    std::wstring full(32768, L'\0');
+    full.resize(::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    std::size_t const slash = full.find_last_of(L'\\');
+    return slash == std::wstring::npos ? L"." : full.substr(0, slash);
+}
+
+std::wstring programFolder()
+{
+    std::wstring path(32768, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return folderOf(path);
+}
+
+void writeFile(std::wstring const& path, std::wstring_view text)
+{
+    UniqueFile const file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
+    std::string const bytes(text.begin(), text.end());
+    DWORD written = 0;
+    if (file.get() == INVALID_HANDLE_VALUE ||
+        !::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
+        throw FormError{path, 0, L"the file cannot be written"};
+}
+
+void announce(Form const& form, std::wstring const& file)
+{
+    RECT place{};
+    ::GetWindowRect(form.window(), &place);
+    wchar_t line[96];
+    ::wsprintfW(line, L"ready %ld %ld %ld %ld\n", place.left, place.top, place.right - place.left,
+                place.bottom - place.top);
+    if (file.empty())
+        say(Stream::Output, line);
+    else
+        writeFile(file, line);
+}
+
+bool dispatchWaiting(Form& form)
+{
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));
+            return false;
+        }
+        if (!form.translate(message)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+    }
+    return true;
+}
+
+/// Runs until nothing is left to do; waiting without time makes the display show what was drawn.
+bool becomeIdle(Form& form)
+{
+    while (dispatchWaiting(form)) {
+        ::GdiFlush();
+        if (::MsgWaitForMultipleObjectsEx(0, nullptr, 0, QS_ALLINPUT, MWMO_INPUTAVAILABLE) == WAIT_TIMEOUT)
+            return true;
+    }
+    return false;
+}
+
+void runLoop(Form& form)
+{
+    while (dispatchWaiting(form))
+        ::MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+}
+
+void openAndRun(Options const& options)
+{
+    FormTree const tree = readFormFile(options.form);
+    OleScope const ole;
+    ControlLibraries libraries(tree.objects, {programFolder(), folderOf(options.form)});
+    FormOptions how;
+    how.mode = options.design ? UserMode::Design : UserMode::Run;
+    how.file = options.form;
+    how.factory = [&](std::wstring_view library, std::wstring_view className) {
+        return libraries.create(library, className);
+    };
+    how.onWarning = [](FormError const& warning) {
+        say(Stream::Error, L"gallery: " + warning.text() + L"\n");
+    };
+    how.onClosed = [] { ::PostQuitMessage(0); };
+    Form form(tree, std::move(how));
+    form.show();
+    if (options.announceReady && becomeIdle(form))
+        announce(form, options.readyFile);
+    runLoop(form);
+}
+
+} // namespace
+
+int runGallery(std::vector<std::wstring> const& words)
+{
+    std::optional<Options> const options = parseOptions(words);
+    if (!options) {
+        say(Stream::Error, kUsage);
+        return kCannotOpen;
+    }
+    try {
+        openAndRun(*options);
+        return kDone;
+    } catch (FormError const& error) {
+        say(Stream::Error, L"gallery: " + error.text() + L"\n");
+    } catch (RunTimeError const& error) {
+        wchar_t text[64];
+        ::wsprintfW(text, L": the form cannot be opened (0x%08lX)\n", error.result());
+        say(Stream::Error, L"gallery: " + options->form + text);
+    } catch (std::exception const&) {
+        say(Stream::Error, L"gallery: " + options->form + L": there is not enough memory\n");
+    }
+    return kCannotOpen;
+}
+
+} // namespace quillet::gallery
