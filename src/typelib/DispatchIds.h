@@ -2,6 +2,7 @@
 // eventid::command::Click.
 #pragma once
 
+#include <oaidl.h>
 #include <olectl.h>
 #include <windows.h>
 

@@ -7,10 +7,6 @@
 #include <olectl.h>
 #include <windows.h>
 
-// Objects are released, never deleted through an interface; a virtual destructor would take a vtable slot.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
 namespace quillet {
 
 struct _qvFlatCommand : IDispatch {
@@ -46,8 +42,6 @@ struct __FlatToolButton : IDispatch {};
 struct __qvImageCommand : IDispatch {};
 
 } // namespace quillet
-
-#pragma GCC diagnostic pop
 
 #define QV_INTERFACE_ID(constant, type, ...) __CRT_UUID_DECL(quillet::type, __VA_ARGS__)
 #include "typelib/Guids.inc"

@@ -1,0 +1,429 @@
+// Reads a type library back and describes it line by line, in the words of library.txt.
+#include "LibraryDump.h"
+
+#include "Borrowed.h"
+#include "RawNames.h"
+#include "base/Bstr.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace quillet {
+
+namespace {
+
+struct FlagName {
+    unsigned flag;
+    char const* name;
+};
+
+constexpr FlagName kLibraryFlags[] = {
+    {LIBFLAG_FRESTRICTED, "restricted"},
+    {LIBFLAG_FCONTROL, "control"},
+    {LIBFLAG_FHIDDEN, "hidden"},
+    {LIBFLAG_FHASDISKIMAGE, "hasdiskimage"},
+};
+
+constexpr FlagName kTypeFlags[] = {
+    {TYPEFLAG_FAPPOBJECT, "appobject"},
+    {TYPEFLAG_FCANCREATE, "cancreate"},
+    {TYPEFLAG_FLICENSED, "licensed"},
+    {TYPEFLAG_FPREDECLID, "predeclid"},
+    {TYPEFLAG_FHIDDEN, "hidden"},
+    {TYPEFLAG_FCONTROL, "control"},
+    {TYPEFLAG_FDUAL, "dual"},
+    {TYPEFLAG_FNONEXTENSIBLE, "nonextensible"},
+    {TYPEFLAG_FOLEAUTOMATION, "oleautomation"},
+    {TYPEFLAG_FRESTRICTED, "restricted"},
+    {TYPEFLAG_FAGGREGATABLE, "aggregatable"},
+    {TYPEFLAG_FREPLACEABLE, "replaceable"},
+    {TYPEFLAG_FDISPATCHABLE, "dispatchable"},
+    {TYPEFLAG_FREVERSEBIND, "reversebind"},
+    {TYPEFLAG_FPROXY, "proxy"},
+};
+
+constexpr FlagName kFunctionFlags[] = {
+    {FUNCFLAG_FRESTRICTED, "restricted"},
+    {FUNCFLAG_FSOURCE, "source"},
+    {FUNCFLAG_FBINDABLE, "bindable"},
+    {FUNCFLAG_FREQUESTEDIT, "requestedit"},
+    {FUNCFLAG_FDISPLAYBIND, "displaybind"},
+    {FUNCFLAG_FDEFAULTBIND, "defaultbind"},
+    {FUNCFLAG_FHIDDEN, "hidden"},
+    {FUNCFLAG_FUSESGETLASTERROR, "usesgetlasterror"},
+    {FUNCFLAG_FDEFAULTCOLLELEM, "defaultcollelem"},
+    {FUNCFLAG_FUIDEFAULT, "uidefault"},
+    {FUNCFLAG_FNONBROWSABLE, "nonbrowsable"},
+    {FUNCFLAG_FREPLACEABLE, "replaceable"},
+    {FUNCFLAG_FIMMEDIATEBIND, "immediatebind"},
+};
+
+template <std::size_t n> std::string flagNames(FlagName const (&table)[n], unsigned flags)
+{
+    std::string result;
+    for (FlagName const& row : table)
+        if (flags & row.flag)
+            result += std::string(" ") + row.name;
+    return result;
+}
+
+template <class... Values> std::string format(char const* pattern, Values... values)
+{
+    char text[512];
+    std::snprintf(text, sizeof text, pattern, values...);
+    return text;
+}
+
+std::string narrow(std::wstring_view text) { return {text.begin(), text.end()}; }
+
+std::string quoted(std::wstring_view text)
+{
+    std::string result = "\"";
+    result += narrow(text);
+    result += "\"";
+    return result;
+}
+
+std::string guidText(GUID const& id)
+{
+    wchar_t text[40];
+    ::StringFromGUID2(id, text, 40);
+    return narrow(text);
+}
+
+std::string nameOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL)
+{
+    Bstr name;
+    check(info.GetDocumentation(member, name.put(), nullptr, nullptr, nullptr));
+    return narrow(name.view());
+}
+
+Bstr helpOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL)
+{
+    Bstr help;
+    check(info.GetDocumentation(member, nullptr, help.put(), nullptr, nullptr));
+    return help;
+}
+
+std::string nameOfLibrary(ITypeLib& library)
+{
+    Bstr name;
+    check(library.GetDocumentation(-1, name.put(), nullptr, nullptr, nullptr));
+    return narrow(name.view());
+}
+
+class Describer {
+public:
+    explicit Describer(ITypeLib& library) : m_library(library), m_ownName(nameOfLibrary(library)) {}
+
+    std::vector<std::string> run()
+    {
+        for (UINT i = 0; i < m_library.GetTypeInfoCount(); ++i)
+            describeType(i);
+        std::vector<std::string> result = header();
+        for (std::string const& import : m_imports)
+            result.push_back("imports " + import);
+        result.insert(result.end(), m_lines.begin(), m_lines.end());
+        return result;
+    }
+
+private:
+    std::vector<std::string> header()
+    {
+        LibraryAttributes const attributes(m_library);
+        Bstr text;
+        Bstr helpFile;
+        check(m_library.GetDocumentation(-1, nullptr, text.put(), nullptr, helpFile.put()));
+        // The system may put a folder before the help file's name.
+        std::wstring_view file = helpFile.view();
+        file.remove_prefix(file.rfind(L'\\') + 1);
+        return {format("library %s version %u.%u locale %lu%s %s", m_ownName.c_str(),
+                       attributes->wMajorVerNum, attributes->wMinorVerNum, attributes->lcid,
+                       flagNames(kLibraryFlags, attributes->wLibFlags).c_str(),
+                       guidText(attributes->guid).c_str()),
+                "    " + quoted(text.view()) + " helpfile " + quoted(file)};
+    }
+
+    void describeType(UINT index)
+    {
+        ComPtr<ITypeInfo> info;
+        check(m_library.GetTypeInfo(index, info.put()));
+        TypeAttributes const attributes(*info.get());
+        m_lines.push_back(format("%u %s%s version %u.%u %s", index, headOf(*info.get(), *attributes).c_str(),
+                                 flagNames(kTypeFlags, typeFlags(*info.get(), *attributes)).c_str(),
+                                 attributes->wMajorVerNum, attributes->wMinorVerNum,
+                                 guidText(attributes->guid).c_str()));
+        addHelp(helpOf(*info.get()));
+        switch (attributes->typekind) {
+        case TKIND_DISPATCH:
+            describeInterface(*info.get(), index, isDual(*attributes));
+            break;
+        case TKIND_COCLASS:
+            describeClass(*info.get(), attributes->cImplTypes);
+            break;
+        case TKIND_ENUM:
+            describeEnumeration(*info.get(), attributes->cVars);
+            break;
+        default:
+            break;
+        }
+    }
+
+    static bool isDual(TYPEATTR const& attributes) { return attributes.wTypeFlags & TYPEFLAG_FDUAL; }
+
+    /// The description of a dual interface for late binding hides that it is compatible with automation.
+    static unsigned typeFlags(ITypeInfo& info, TYPEATTR const& attributes)
+    {
+        return isDual(attributes) ? TypeAttributes(*vtableView(info).get())->wTypeFlags
+                                  : attributes.wTypeFlags;
+    }
+
+    std::string headOf(ITypeInfo& info, TYPEATTR const& attributes)
+    {
+        std::string const name = nameOf(info);
+        switch (attributes.typekind) {
+        case TKIND_DISPATCH:
+            return "dispatch " + name;
+        case TKIND_COCLASS:
+            return "coclass " + name;
+        case TKIND_ALIAS:
+            return "alias " + name + " of " + typeName(info, attributes.tdescAlias);
+        case TKIND_ENUM:
+            return "enum " + name;
+        default:
+            return format("kind %d ", attributes.typekind) + name;
+        }
+    }
+
+    void describeInterface(ITypeInfo& info, UINT index, bool dual)
+    {
+        noteBase(info);
+        ComPtr<ITypeInfo> const members = dual ? vtableView(info) : ComPtr<ITypeInfo>(&info);
+        std::vector<std::string> const lastNames = lastParameterNames(index);
+        auto lastName = lastNames.begin();
+        for (UINT i = 0; i < TypeAttributes(*members.get())->cFuncs; ++i) {
+            FunctionDescription const function(*members.get(), i);
+            if (isInherited(*function))
+                continue;
+            std::string const slot =
+                dual ? format("%2d ", function->oVft / static_cast<int>(sizeof(void*))) : "";
+            m_lines.push_back("    " + slot + functionText(*members.get(), *function, *lastName++));
+            addHelp(helpOf(*members.get(), function->memid));
+        }
+    }
+
+    /// For late binding, an interface also shows the functions that IUnknown and IDispatch give it.
+    static bool isInherited(FUNCDESC const& function)
+    {
+        return function.wFuncFlags == FUNCFLAG_FRESTRICTED &&
+               function.oVft < 7 * static_cast<int>(sizeof(void*));
+    }
+
+    std::string functionText(ITypeInfo& info, FUNCDESC const& function, std::string const& lastName)
+    {
+        std::string const id = function.memid <= 0 ? format("%ld", function.memid)
+                               : function.memid < 100
+                                   ? format("%ld", function.memid)
+                                   : format("&H%08lX", static_cast<unsigned long>(function.memid));
+        return id + " " + kindOf(function) + " " + nameOf(info, function.memid) +
+               parametersOf(info, function, lastName) + flagNames(kFunctionFlags, function.wFuncFlags) +
+               oddities(function);
+    }
+
+    static std::string kindOf(FUNCDESC const& function)
+    {
+        if (function.funckind == FUNC_DISPATCH)
+            return function.invkind == INVOKE_FUNC ? "event" : "late-bound property";
+        switch (function.invkind) {
+        case INVOKE_FUNC:
+            return "method";
+        case INVOKE_PROPERTYGET:
+            return "get";
+        case INVOKE_PROPERTYPUT:
+            return "put";
+        case INVOKE_PROPERTYPUTREF:
+            return "putref";
+        }
+        return "unknown";
+    }
+
+    /// What no function of ours has.
+    static std::string oddities(FUNCDESC const& function)
+    {
+        VARTYPE const expected = function.funckind == FUNC_DISPATCH ? VARTYPE{VT_VOID} : VARTYPE{VT_HRESULT};
+        std::string result;
+        if (function.elemdescFunc.tdesc.vt != expected)
+            result += format(" returning type %d", function.elemdescFunc.tdesc.vt);
+        if (function.callconv != CC_STDCALL)
+            result += format(" calling convention %d", function.callconv);
+        if (function.cParamsOpt != 0)
+            result += format(" %d optional", function.cParamsOpt);
+        return result;
+    }
+
+    std::string parametersOf(ITypeInfo& info, FUNCDESC const& function, std::string const& lastName)
+    {
+        std::vector<std::string> names = parameterNames(info, function);
+        bool const isSetter = function.invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF);
+        if (isSetter)
+            names.back() = lastName;
+        std::string list;
+        std::string result;
+        for (SHORT i = 0; i < function.cParams; ++i) {
+            ELEMDESC const& parameter = function.lprgelemdescParam[i];
+            if (parameter.paramdesc.wParamFlags & PARAMFLAG_FRETVAL)
+                result = resultText(info, parameter, names[static_cast<std::size_t>(i)]);
+            else
+                list += (list.empty() ? "" : ", ") +
+                        parameterText(info, parameter, names[static_cast<std::size_t>(i)]);
+        }
+        return (function.invkind == INVOKE_PROPERTYGET ? list : "(" + list + ")") + result;
+    }
+
+    static std::vector<std::string> parameterNames(ITypeInfo& info, FUNCDESC const& function)
+    {
+        BSTR names[8] = {};
+        UINT count = 0;
+        check(info.GetNames(function.memid, names, 8, &count));
+        std::vector<std::string> result;
+        for (UINT i = 0; i < count; ++i) {
+            Bstr const name = Bstr::adopt(names[i]);
+            if (i > 0)
+                result.push_back(narrow(name.view()));
+        }
+        result.resize(static_cast<std::size_t>(function.cParams));
+        return result;
+    }
+
+    std::string resultText(ITypeInfo& info, ELEMDESC const& parameter, std::string const& name)
+    {
+        TYPEDESC const& type = parameter.tdesc;
+        if (type.vt != VT_PTR || parameter.paramdesc.wParamFlags != (PARAMFLAG_FOUT | PARAMFLAG_FRETVAL))
+            return " odd result";
+        return (name.empty() ? " As " : " " + name + " As ") + typeName(info, *type.lptdesc);
+    }
+
+    std::string parameterText(ITypeInfo& info, ELEMDESC const& parameter, std::string const& name)
+    {
+        switch (parameter.paramdesc.wParamFlags) {
+        case PARAMFLAG_FIN:
+            return "in " + name + " As " + typeName(info, parameter.tdesc);
+        case PARAMFLAG_FIN | PARAMFLAG_FOUT:
+            if (parameter.tdesc.vt == VT_PTR)
+                return "in out " + name + " As " + typeName(info, *parameter.tdesc.lptdesc);
+            return "in out by value " + name;
+        default:
+            return format("flags %d ", parameter.paramdesc.wParamFlags) + name;
+        }
+    }
+
+    std::string typeName(ITypeInfo& info, TYPEDESC const& type)
+    {
+        switch (type.vt) {
+        case VT_I2:
+            return "Integer";
+        case VT_I4:
+            return "Long";
+        case VT_R4:
+            return "Single";
+        case VT_BSTR:
+            return "String";
+        case VT_BOOL:
+            return "Boolean";
+        case VT_VARIANT:
+            return "Variant";
+        case VT_USERDEFINED:
+            return referencedName(info, type.hreftype);
+        case VT_PTR:
+            return pointedName(info, *type.lptdesc);
+        default:
+            return format("type %d", type.vt);
+        }
+    }
+
+    /// Objects are always handled by pointer, and named without it.
+    std::string pointedName(ITypeInfo& info, TYPEDESC const& target)
+    {
+        if (target.vt == VT_USERDEFINED) {
+            ComPtr<ITypeInfo> referenced;
+            check(info.GetRefTypeInfo(target.hreftype, referenced.put()));
+            TYPEKIND const kind = TypeAttributes(*referenced.get())->typekind;
+            if (kind == TKIND_DISPATCH || kind == TKIND_INTERFACE)
+                return referencedName(info, target.hreftype);
+        }
+        return "pointer to " + typeName(info, target);
+    }
+
+    std::string referencedName(ITypeInfo& info, HREFTYPE reference)
+    {
+        ComPtr<ITypeInfo> referenced;
+        check(info.GetRefTypeInfo(reference, referenced.put()));
+        std::string const library = noteLibrary(*referenced.get());
+        return (library == m_ownName ? "" : library + ".") + nameOf(*referenced.get());
+    }
+
+    void noteBase(ITypeInfo& info)
+    {
+        HREFTYPE reference = 0;
+        check(info.GetRefTypeOfImplType(0, &reference));
+        std::string const base = referencedName(info, reference);
+        if (base != "stdole.IDispatch")
+            m_lines.push_back("    derived from " + base);
+    }
+
+    std::string noteLibrary(ITypeInfo& referenced)
+    {
+        ComPtr<ITypeLib> library;
+        UINT index = 0;
+        check(referenced.GetContainingTypeLib(library.put(), &index));
+        std::string const name = nameOfLibrary(*library.get());
+        LibraryAttributes const attributes(*library.get());
+        std::string const line =
+            format("%s version %u.%u", name.c_str(), attributes->wMajorVerNum, attributes->wMinorVerNum);
+        if (name != m_ownName && std::find(m_imports.begin(), m_imports.end(), line) == m_imports.end())
+            m_imports.push_back(line);
+        return name;
+    }
+
+    void describeClass(ITypeInfo& info, UINT count)
+    {
+        for (UINT i = 0; i < count; ++i) {
+            HREFTYPE reference = 0;
+            INT flags = 0;
+            check(info.GetRefTypeOfImplType(i, &reference));
+            check(info.GetImplTypeFlags(i, &flags));
+            m_lines.push_back(std::string("   ") + (flags & IMPLTYPEFLAG_FDEFAULT ? " default" : "") +
+                              (flags & IMPLTYPEFLAG_FSOURCE ? " source" : "") +
+                              (flags & IMPLTYPEFLAG_FRESTRICTED ? " restricted" : "") +
+                              (flags & IMPLTYPEFLAG_FDEFAULTVTABLE ? " defaultvtable " : " ") +
+                              referencedName(info, reference));
+        }
+    }
+
+    void describeEnumeration(ITypeInfo& info, UINT count)
+    {
+        for (UINT i = 0; i < count; ++i) {
+            VariableDescription const value(info, i);
+            bool const isLong = value->varkind == VAR_CONST && value->lpvarValue->vt == VT_I4;
+            m_lines.push_back("    " + nameOf(info, value->memid) + " = " +
+                              (isLong ? format("%ld", value->lpvarValue->lVal) : "not a Long"));
+        }
+    }
+
+    void addHelp(Bstr const& help)
+    {
+        if (!help.view().empty())
+            m_lines.push_back("        " + quoted(help.view()));
+    }
+
+    ITypeLib& m_library;
+    std::string m_ownName;
+    std::vector<std::string> m_imports;
+    std::vector<std::string> m_lines;
+};
+
+} // namespace
+
+std::vector<std::string> describe(ITypeLib& library) { return Describer(library).run(); }
+
+} // namespace quillet
