@@ -4,15 +4,14 @@
 #include "base/RunTimeError.h"
 
 #include <cstdint>
-#include <limits>
+#include <utility>
 
 namespace quillet {
 
 /// value in the narrower integer type, or Overflow when it does not fit.
 template <class To, class From> constexpr To narrowed(From value)
 {
-    if (value < static_cast<From>(std::numeric_limits<To>::min()) ||
-        value > static_cast<From>(std::numeric_limits<To>::max()))
+    if (!std::in_range<To>(value))
         throw RunTimeError(ErrorNumber::Overflow);
     return static_cast<To>(value);
 }

@@ -1,7 +1,11 @@
 // Checked arithmetic and rounding.
 #include "base/Checked.h"
 
+#include "base/Thrown.h"
+
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace quillet {
 namespace {
@@ -9,18 +13,7 @@ namespace {
 constexpr long kMax = 2147483647;
 constexpr long kMin = -2147483647 - 1;
 
-/// The HRESULT that body throws; S_OK when it throws nothing.
-template <class Body> HRESULT thrownBy(Body&& body)
-{
-    try {
-        body();
-        return S_OK;
-    } catch (RunTimeError const& error) {
-        return error.result();
-    }
-}
-
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
+constexpr HRESULT kOverflow = runTimeError(6);
 
 TEST(Checked, sumsAndDifferencesInsideTheRangeComeBackExactly)
 {
@@ -43,6 +36,13 @@ TEST(Checked, narrowingTo16BitsAcceptsTheEndsAndRefusesBeyond)
     EXPECT_EQ(narrowed<short>(-32768L), -32768);
     EXPECT_EQ(thrownBy([] { narrowed<short>(32768L); }), kOverflow);
     EXPECT_EQ(thrownBy([] { narrowed<short>(-32769L); }), kOverflow);
+}
+
+TEST(Checked, narrowingAnUnsignedValueComparesItsWorthAndNotItsBits)
+{
+    EXPECT_EQ(narrowed<short>(size_t{1}), 1);
+    EXPECT_EQ(thrownBy([] { narrowed<short>(size_t{32768}); }), kOverflow);
+    EXPECT_EQ(thrownBy([] { narrowed<long>(4294967295U); }), kOverflow);
 }
 
 TEST(Checked, halvesRoundToTheEvenNeighbour)
