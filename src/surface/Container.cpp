@@ -69,15 +69,42 @@ ComPtr<IDispatch> Container::extender() const noexcept
 
 Variant Container::extenderProperty(wchar_t const* name) const noexcept
 {
-    return orFallback(Variant(), [&] { return propertyByName(extender().get(), name); });
+    return orFallback(Variant(), [&] { return requiredExtenderProperty(name); });
+}
+
+Variant Container::requiredExtenderProperty(wchar_t const* name) const
+{
+    return propertyByName(extender().get(), name);
 }
 
 ComPtr<IUnknown> Container::activeControl() const noexcept
 {
     return orFallback(ComPtr<IUnknown>(), [&] {
-        auto const parent = query<IDispatch>(propertyByName(extender().get(), L"Parent").toObject().get());
+        auto const parent = query<IDispatch>(requiredExtenderProperty(L"Parent").toObject().get());
         return propertyByName(parent.get(), L"ActiveControl").toObject();
     });
+}
+
+std::vector<ComPtr<IUnknown>> Container::parentControls() const
+{
+    std::vector<ComPtr<IUnknown>> found;
+    ComPtr<IOleContainer> container;
+    ComPtr<IEnumUnknown> objects;
+    if (m_site && SUCCEEDED(m_site->GetContainer(container.put())) && container &&
+        SUCCEEDED(container->EnumObjects(OLECONTF_EMBEDDINGS | OLECONTF_OTHERS, objects.put())) && objects) {
+        ComPtr<IUnknown> object;
+        while (objects->Next(1, object.put(), nullptr) == S_OK)
+            found.push_back(object);
+        return found;
+    }
+    ignoringErrors([&] {
+        auto const parent = query<IDispatch>(requiredExtenderProperty(L"Parent").toObject().get());
+        auto const controls = query<IDispatch>(propertyByName(parent.get(), L"Controls").toObject().get());
+        long const count = propertyByName(controls.get(), L"Count").toLong();
+        for (long index = 0; index < count; ++index)
+            found.push_back(itemByIndex(controls.get(), index).toObject());
+    });
+    return found;
 }
 
 void Container::controlInfoChanged() const noexcept

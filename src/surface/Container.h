@@ -8,6 +8,8 @@
 #include <ocidl.h>
 #include <olectl.h>
 
+#include <vector>
+
 namespace quillet {
 
 /// Answers of a container that may offer anything or nothing; a missing feature has a plain answer.
@@ -31,8 +33,13 @@ public:
     ComPtr<IDispatch> extender() const noexcept;
     /// A property of the extender; empty where there is no extender or no such property.
     Variant extenderProperty(wchar_t const* name) const noexcept;
+    /// The same, but a failure is the extender's own; ObjectNotSet where there is no extender.
+    Variant requiredExtenderProperty(wchar_t const* name) const;
     /// The control of the same form that has the focus; empty where the container does not say.
     ComPtr<IUnknown> activeControl() const noexcept;
+
+    /// The controls of the same form in the container's order, this one included, up to the first failure.
+    std::vector<ComPtr<IUnknown>> parentControls() const;
 
     /// Tells the container that the access keys changed.
     void controlInfoChanged() const noexcept;

@@ -38,13 +38,16 @@ Variant propertyByName(IDispatch* object, wchar_t const* name)
     return propertyById(object, identifierOf(object, name));
 }
 
-void assignByName(IDispatch* object, wchar_t const* name, Variant value)
+Variant itemByIndex(IDispatch* collection, long index)
 {
-    DISPID const id = identifierOf(object, name);
-    DISPID target = DISPID_PROPERTYPUT;
-    DISPPARAMS arguments = {value.address(), &target, 1, 1};
-    check(object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr,
-                         nullptr));
+    DISPID const id = identifierOf(collection, L"Item");
+    Variant argument = Variant::ofLong(index);
+    DISPPARAMS arguments = {argument.address(), nullptr, 1, 0};
+    Variant result;
+    // A collection may offer its items as a property or as a method.
+    check(collection->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD, &arguments,
+                             result.address(), nullptr, nullptr));
+    return result;
 }
 
 } // namespace quillet

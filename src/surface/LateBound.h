@@ -12,10 +12,10 @@ namespace quillet {
 /// Reads a property by name. Throws the object's error; ObjectNotSet for no object.
 Variant propertyByName(IDispatch* object, wchar_t const* name);
 
-/// Reads a property by identifier, with arguments in order. Throws as above.
+/// Reads a property by identifier. Throws as above.
 Variant propertyById(IDispatch* object, DISPID id);
 
-/// Assigns a property by name. Throws as above.
-void assignByName(IDispatch* object, wchar_t const* name, Variant value);
+/// Reads one item of a collection. Throws as above.
+Variant itemByIndex(IDispatch* collection, long index);
 
 } // namespace quillet

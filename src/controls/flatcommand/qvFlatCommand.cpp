@@ -97,7 +97,11 @@ void qvFlatCommand::onInitProperties()
     ignoringErrors([&] { m_looks.caption = container().extenderProperty(L"Name").toString(); });
 }
 
-void qvFlatCommand::onReadProperties(PropertyBag& bag) { kProperties.read(*this, bag); }
+void qvFlatCommand::onReadProperties(PropertyBag& bag)
+{
+    kProperties.read(*this, bag);
+    m_toolTip.CreateToolTip(hWnd());
+}
 
 void qvFlatCommand::onWriteProperties(PropertyBag& bag) { kProperties.write(*this, bag); }
 
@@ -124,9 +128,9 @@ HRESULT qvFlatCommand::ShowAbout()
 HRESULT qvFlatCommand::WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result)
 {
     return call([&] {
-        deref(result) = static_cast<LONG>(
-            ::CallWindowProcA(&::DefWindowProcA, static_cast<HWND>(LongToHandle(hwnd)), static_cast<UINT>(uMsg),
-                              static_cast<WPARAM>(wParam), static_cast<LPARAM>(lParam)));
+        deref(result) =
+            static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)), static_cast<UINT>(uMsg),
+                                                   static_cast<WPARAM>(wParam), lParam));
     });
 }
 

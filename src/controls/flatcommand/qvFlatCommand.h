@@ -5,6 +5,7 @@
 #include "surface/PropertyTable.h"
 #include "surface/Surface.h"
 #include "typelib/Interfaces.h"
+#include "winsvc/modToolTip.h"
 
 #include <windows.h>
 
@@ -34,7 +35,7 @@ struct FlatCommandLooks {
     OLE_COLOR pressedForeColor = 0x80000014;
     OLE_COLOR pressedBackColor = 0x80000015;
     OLE_COLOR disabledForeColor = 0x80000011;
-    Bstr toolTipText;
+    Bstr toolTipText; ///< the extender's, as it was at the last mouse move
 };
 
 class qvFlatCommand final : public Surface, public Dual<_qvFlatCommand> {
@@ -59,7 +60,17 @@ public:
     void onReadProperties(PropertyBag& bag) override;
     void onWriteProperties(PropertyBag& bag) override;
     void onPaint() override;
+    void onClick() override;
+    void onDblClick() override;
+    void onMouseDown(MouseArguments const& mouse) override;
+    void onMouseMove(MouseArguments const& mouse) override;
+    void onMouseUp(MouseArguments const& mouse) override;
+    void onKeyPress(short keyAscii) override;
+    void onAccessKeyPress(short keyAscii) override;
+    void onGotFocus() override;
+    void onLostFocus() override;
     void onShow() override { repaint(); }
+    void onTerminate() override { m_toolTip.Terminate(); }
     void onFontChanged() override { repaint(); }
 
     FlatCommandLooks& looks() noexcept { return m_looks; }
@@ -72,6 +83,12 @@ private:
     struct Palette;
     struct Painting;
     enum class Underline { Off, On };
+
+    bool isOver();
+    bool enterOrExit(bool over);
+    void setPressed(bool pressed);
+    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
+    void refreshSiblings() noexcept;
 
     VisualState currentState(bool userMode);
     void draw(bool userMode);
@@ -88,7 +105,9 @@ private:
 
     FlatCommandLooks m_looks;
     VisualState m_state = VisualState::Normal;
-    bool m_pressed = false; ///< between a press of the left button and its release
+    bool m_pressed = false;  ///< between a press of the left button and its release
+    bool m_lastOver = false; ///< whether the cursor was over the button at the last mouse move
+    ToolTipUser m_toolTip{*this};
 };
 
 } // namespace quillet

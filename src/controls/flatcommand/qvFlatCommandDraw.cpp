@@ -6,6 +6,7 @@
 #include "drawing/xpstate.h"
 #include "surface/LateBound.h"
 #include "typelib/DispatchIds.h"
+#include "winsvc/modCmdSupport.h"
 
 #include <string>
 #include <string_view>
@@ -132,9 +133,7 @@ VisualState qvFlatCommand::currentState(bool userMode)
         m_pressed = false;
         return VisualState::Disabled;
     }
-    POINT cursor = {};
-    ::GetCursorPos(&cursor);
-    if (::WindowFromPoint(cursor) != hWnd()) {
+    if (!isOver()) {
         m_pressed = false;
         return VisualState::Normal;
     }
@@ -177,7 +176,7 @@ qvFlatCommand::Palette qvFlatCommand::paletteOf(VisualState state) const
 
 bool qvFlatCommand::isEmphasisedDefault(bool userMode) const
 {
-    if (!userMode || !orFallback(false, [&] { return container().extenderProperty(L"Default").toBool(); }))
+    if (!userMode || !isDefault(*this))
         return false;
     auto const active = container().activeControl();
     return !active || (!isEmphasisTaker(active.get()) && !isEmphasisTaker(insideExtender(active.get()).get()));

@@ -1,0 +1,58 @@
+// Window services of every control: its window's messages seen first, and the thread's shared tooltip.
+#pragma once
+
+#include "base/ComPtr.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace quillet {
+
+class Surface;
+
+/// A control's share of the window services. A control owns one, tells it once which window is its tool's
+/// (its own or an inner one), and hands its published WindowProc on to it.
+class ToolTipUser {
+public:
+    explicit ToolTipUser(Surface& surface) noexcept : m_surface(surface) {}
+    ToolTipUser(ToolTipUser const&) = delete;
+    ToolTipUser& operator=(ToolTipUser const&) = delete;
+
+    /// Called when the saved properties have been read. Counts the control as a user; at run time makes the
+    /// thread's tooltip window unless it was ever made, subclasses the window and registers it as a tool.
+    /// Overflow when the users leave 32 bits.
+    void CreateToolTip(HWND window);
+    /// Called when the control ends. The last user takes the tooltip window along; it is never made again.
+    void Terminate();
+
+    /// Replaces the window's procedure by SubclassWndProc. A refusal is silent: no tooltips then.
+    void Subclass(HWND window) noexcept;
+    /// Puts the previous procedure back.
+    void Unsubclass() noexcept;
+
+    /// What SubclassWndProc does for a control: repaints on focus changes, relays the mouse to the tooltip,
+    /// answers its question for text, and always passes the message on. Answers what the previous procedure
+    /// answered.
+    LRESULT WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+    /// The control itself, counted.
+    ComPtr<IUnknown> control() const noexcept;
+
+private:
+    static void AddTool(HWND toolTip, HWND window) noexcept;
+    void answerText(LPARAM request) noexcept;
+    void repaintNow() noexcept;
+
+    Surface& m_surface;
+    bool m_counted = false;
+    WNDPROC m_previous = nullptr; ///< null while no window is subclassed
+    HWND m_subclassed = nullptr;
+    std::string m_ansiText; ///< what the tooltip window was last handed: it reads it after the answer
+};
+
+/// The procedure of subclassed windows: finds the control from the window and hands it the message. Answers
+/// 0, and passes nothing on, where there is no control.
+LRESULT CALLBACK SubclassWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+} // namespace quillet
