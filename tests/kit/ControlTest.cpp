@@ -20,14 +20,12 @@ void ControlTest::SetUp()
     ::SetErrorInfo(0, nullptr);
 }
 
-void ControlTest::TearDown()
+ControlTest::~ControlTest()
 {
     pumpPending();
     ::SetErrorInfo(0, nullptr);
     EXPECT_EQ(liveObjects(), 0) << "a counterpart of the test's is still referenced";
-    if (library().loaded()) {
-        EXPECT_EQ(library().canUnloadNow(), S_OK) << "the component says that objects of it are alive";
-    }
+    EXPECT_EQ(library().canUnloadNow(), S_OK) << "the component says that objects of it are alive";
 }
 
 } // namespace quillet::kit

@@ -8,11 +8,12 @@
 namespace quillet::kit {
 
 /// Loads the component. At the end nothing may be alive: neither of the component's objects nor of the test's
-/// own counterparts, whose references a control might have kept. Tests hold their objects in local variables.
+/// own counterparts, whose references a control might have kept. That is looked at after the members of a
+/// test class have gone.
 class ControlTest : public testing::Test {
 protected:
+    ~ControlTest() override;
     void SetUp() override;
-    void TearDown() override;
 
     /// Loaded once for the whole program, as in a host.
     static Library const& library();

@@ -70,6 +70,13 @@ HFONT handleOf(IFont& font)
     return handle;
 }
 
+bool equalFonts(IFont& a, IFont& b)
+{
+    handleOf(a);
+    handleOf(b);
+    return a.IsEqual(&b) == S_OK;
+}
+
 ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color)
 {
     WindowDc const screen(nullptr);

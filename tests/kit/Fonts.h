@@ -22,6 +22,10 @@ int pointsOf(IFont& font);
 bool isUnderlined(IFont& font);
 HFONT handleOf(IFont& font);
 
+/// Whether two fonts look the same. Fonts settle name and character set at their first use, so both are used
+/// first.
+bool equalFonts(IFont& a, IFont& b);
+
 /// A picture object that holds a small bitmap, or an icon.
 ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color);
 ComPtr<IPictureDisp> newIconPicture();

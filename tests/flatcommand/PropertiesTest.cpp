@@ -1,0 +1,329 @@
+// The properties of qvFlatCommand: types, initial values, and what assigning them does.
+#include "FlatButton.h"
+#include "kit/ByName.h"
+#include "kit/FakeBag.h"
+#include "kit/Fonts.h"
+#include "kit/Pump.h"
+
+namespace quillet::flat {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+enum class Repaints { No, Yes };
+
+/// One property that is read and assigned by value.
+template <class T> struct Row {
+    wchar_t const* name;
+    DISPID id;
+    T initial;
+    T other;
+    Repaints repaints;
+    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*get)(T*);
+    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*put)(T);
+};
+
+using B = _qvFlatCommand;
+constexpr OLE_COLOR kOther = 0x00123456;
+
+Row<OLE_COLOR> const kColors[] = {
+    {L"BackColor", 0x68030017, 0x8000000F, kOther, Repaints::Yes, &B::get_BackColor, &B::put_BackColor},
+    {L"ForeColor", 0x68030016, 0x80000012, kOther, Repaints::Yes, &B::get_ForeColor, &B::put_ForeColor},
+    {L"BorderColor", 0x68030013, 0x80000015, kOther, Repaints::Yes, &B::get_BorderColor, &B::put_BorderColor},
+    {L"HotForeColor", 0x68030012, 0x80000014, kOther, Repaints::No, &B::get_HotForeColor,
+     &B::put_HotForeColor},
+    {L"PressedForeColor", 0x68030011, 0x80000014, kOther, Repaints::No, &B::get_PressedForeColor,
+     &B::put_PressedForeColor},
+    {L"HotBackColor", 0x68030010, 0x80000010, kOther, Repaints::No, &B::get_HotBackColor,
+     &B::put_HotBackColor},
+    {L"PressedBackColor", 0x6803000F, 0x80000015, kOther, Repaints::No, &B::get_PressedBackColor,
+     &B::put_PressedBackColor},
+    {L"HotBorderColor", 0x6803000E, 0x80000015, kOther, Repaints::No, &B::get_HotBorderColor,
+     &B::put_HotBorderColor},
+    {L"PressedBorderColor", 0x6803000D, 0x80000015, kOther, Repaints::No, &B::get_PressedBorderColor,
+     &B::put_PressedBorderColor},
+    {L"DisabledForeColor", 0x68030009, 0x80000011, kOther, Repaints::Yes, &B::get_DisabledForeColor,
+     &B::put_DisabledForeColor},
+};
+
+Row<VARIANT_BOOL> const kBooleans[] = {
+    {L"Enabled", 0x68030015, VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes, &B::get_Enabled, &B::put_Enabled},
+    {L"CentreCaption", 0x68030007, VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes, &B::get_CentreCaption,
+     &B::put_CentreCaption},
+    {L"ShowFocusRectangle", 0x68030001, VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes,
+     &B::get_ShowFocusRectangle, &B::put_ShowFocusRectangle},
+    {L"OfficeXPColors", 0x68030031, VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes, &B::get_OfficeXPColors,
+     &B::put_OfficeXPColors},
+};
+
+Row<SHORT> const kShorts[] = {
+    {L"CaptionIndent", 0x68030006, 4, -300, Repaints::Yes, &B::get_CaptionIndent, &B::put_CaptionIndent},
+    {L"MousePointer", 0x68030003, 0, 2, Repaints::No, &B::get_MousePointer, &B::put_MousePointer},
+};
+
+using Style = pdsButtonBorderStyleConstants;
+Row<Style> const kStyles[] = {
+    {L"BorderStyle", 0x68030014, Style::Fixed, Style::None, Repaints::Yes, &B::get_BorderStyle,
+     &B::put_BorderStyle},
+};
+
+class FlatProperties : public FlatTest {
+protected:
+    kit::FakeForm form;
+
+    template <class T> void checkInitial(FlatButton& button, Row<T> const& row)
+    {
+        T value{};
+        EXPECT_EQ((button.dual()->*row.get)(&value), S_OK) << kit::narrow(row.name);
+        EXPECT_EQ(value, row.initial) << kit::narrow(row.name);
+        EXPECT_EQ(kit::idOf(*button.dual(), row.name), row.id) << kit::narrow(row.name);
+    }
+
+    template <class T> void checkAssigned(FlatButton& button, Row<T> const& row)
+    {
+        SCOPED_TRACE(kit::narrow(row.name));
+        kit::pumpPending();
+        button.events().forget();
+        button.changes().take();
+        EXPECT_EQ((button.dual()->*row.put)(row.other), S_OK);
+        EXPECT_EQ(button.events().count(kPaint), row.repaints == Repaints::Yes ? 1 : 0);
+        EXPECT_THAT(button.changes().take(), ElementsAre(row.id));
+        T value{};
+        EXPECT_EQ((button.dual()->*row.get)(&value), S_OK);
+        EXPECT_EQ(value, row.other);
+    }
+
+    template <class T> void checkNullRefused(FlatButton& button, Row<T> const& row)
+    {
+        EXPECT_EQ((button.dual()->*row.get)(nullptr), E_POINTER) << kit::narrow(row.name);
+    }
+};
+
+TEST_F(FlatProperties, ofANewInstanceHaveTheirInitialValues)
+{
+    FlatButton button(library(), form);
+    button.setSite();
+    ASSERT_EQ(button.initNew(), S_OK);
+    for (auto const& row : kColors)
+        checkInitial(button, row);
+    for (auto const& row : kBooleans)
+        checkInitial(button, row);
+    for (auto const& row : kShorts)
+        checkInitial(button, row);
+    for (auto const& row : kStyles)
+        checkInitial(button, row);
+    EXPECT_EQ(button.caption(), L"Button1");
+    Bstr tip(L"poison");
+    EXPECT_EQ(button->get_ToolTipText(tip.put()), S_OK);
+    EXPECT_EQ(tip.view(), L"");
+    ComPtr<IPictureDisp> icon;
+    EXPECT_EQ(button->get_MouseIcon(icon.put()), S_OK);
+    EXPECT_FALSE(icon);
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "not the form's font";
+}
+
+TEST_F(FlatProperties, haveTheirInitialValuesAlreadyBeforeAnybodyInitialises)
+{
+    FlatButton button(library(), form);
+    for (auto const& row : kColors)
+        checkInitial(button, row);
+    for (auto const& row : kBooleans)
+        checkInitial(button, row);
+    for (auto const& row : kShorts)
+        checkInitial(button, row);
+    for (auto const& row : kStyles)
+        checkInitial(button, row);
+    EXPECT_TRUE(button.font());
+}
+
+TEST_F(FlatProperties, assignedKeepTheValueTellTheContainerAndRepaintOnlyForTheRestingLook)
+{
+    FlatButton button(library(), form);
+    button.start();
+    for (auto const& row : kColors)
+        checkAssigned(button, row);
+    for (auto const& row : kShorts)
+        checkAssigned(button, row);
+    for (auto const& row : kStyles)
+        checkAssigned(button, row);
+    for (auto const& row : kBooleans)
+        checkAssigned(button, row);
+}
+
+TEST_F(FlatProperties, assignedTheSameValueAgainStillTellAndRepaint)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.events().forget();
+    button.changes().take();
+    EXPECT_EQ(button->put_BackColor(0x8000000F), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030017));
+}
+
+TEST_F(FlatProperties, readIntoNowhereAreRefused)
+{
+    FlatButton button(library(), form);
+    button.setSite();
+    for (auto const& row : kColors)
+        checkNullRefused(button, row);
+    for (auto const& row : kBooleans)
+        checkNullRefused(button, row);
+    for (auto const& row : kShorts)
+        checkNullRefused(button, row);
+    for (auto const& row : kStyles)
+        checkNullRefused(button, row);
+    EXPECT_EQ(button->get_Caption(nullptr), E_POINTER);
+    EXPECT_EQ(button->get_ToolTipText(nullptr), E_POINTER);
+    EXPECT_EQ(button->get_Font(nullptr), E_POINTER);
+    EXPECT_EQ(button->get_MouseIcon(nullptr), E_POINTER);
+    EXPECT_EQ(button->get_hwnd(nullptr), E_POINTER);
+    EXPECT_EQ(button->get_hdc(nullptr), E_POINTER);
+}
+
+TEST_F(FlatProperties, toolTipTextIsKeptAndDoesNotRepaint)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.events().forget();
+    button.changes().take();
+    EXPECT_EQ(button->put_ToolTipText(Bstr(L"a tip").get()), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 0);
+    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030018));
+    Bstr tip;
+    button->get_ToolTipText(tip.put());
+    EXPECT_EQ(tip.view(), L"a tip");
+}
+
+TEST_F(FlatProperties, captionIsKeptWithItsMarkersAndRepaints)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.events().forget();
+    button.changes().take();
+    button.setCaption(L"&Save && \x00E4nder");
+    EXPECT_EQ(button.caption(), L"&Save && \x00E4nder");
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030008));
+    EXPECT_EQ(button->put_Caption(nullptr), S_OK);
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatProperties, fontIsTakenByValueTellsAndRepaints)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.events().forget();
+    button.changes().take();
+    auto const large = kit::newFont(L"Tahoma", 18, true);
+    button.setFont(large.get());
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *large.get()));
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT));
+}
+
+TEST_F(FlatProperties, fontRefusesNothingAndWhatIsNoFont)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.changes().take();
+    EXPECT_TRUE(FAILED(button->putref_Font(nullptr)));
+    auto const picture = kit::newIconPicture();
+    EXPECT_TRUE(FAILED(button->putref_Font(reinterpret_cast<IFontDisp*>(picture.get()))));
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "the old font is gone";
+    EXPECT_THAT(button.changes().take(), IsEmpty());
+}
+
+TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.events().forget();
+    button.changes().take();
+    auto const icon = kit::newIconPicture();
+    EXPECT_EQ(button->putref_MouseIcon(icon.get()), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 0);
+    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030002));
+    ComPtr<IPictureDisp> kept;
+    EXPECT_EQ(button->get_MouseIcon(kept.put()), S_OK);
+    EXPECT_EQ(kept.get(), icon.get());
+    EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
+    EXPECT_EQ(button->get_MouseIcon(kept.put()), S_OK);
+    EXPECT_FALSE(kept);
+}
+
+TEST_F(FlatProperties, hwndAndHdcAreTheWindowAndItsDeviceContext)
+{
+    FlatButton button(library(), form);
+    button.start();
+    LONG window = 0;
+    LONG dc = 0;
+    EXPECT_EQ(button->get_hwnd(&window), S_OK);
+    EXPECT_EQ(button->get_hdc(&dc), S_OK);
+    EXPECT_EQ(reinterpret_cast<HWND>(static_cast<LONG_PTR>(window)), button.window());
+    EXPECT_TRUE(::IsWindow(button.window()));
+    EXPECT_EQ(::WindowFromDC(reinterpret_cast<HDC>(static_cast<LONG_PTR>(dc))), button.window());
+}
+
+TEST_F(FlatProperties, hwndAndHdcCannotBeAssigned)
+{
+    FlatButton button(library(), form);
+    button.start();
+    EXPECT_TRUE(FAILED(kit::putByName(*button.dual(), L"hwnd", Variant::ofLong(1)).result));
+    EXPECT_TRUE(FAILED(kit::putByName(*button.dual(), L"hdc", Variant::ofLong(1)).result));
+    EXPECT_TRUE(::IsWindow(button.window()));
+}
+
+TEST_F(FlatProperties, valuesOutsideTheMeaningfulRangeAreStoredAsTheyAre)
+{
+    FlatButton button(library(), form);
+    button.start();
+    EXPECT_EQ(button->put_BorderStyle(static_cast<Style>(77)), S_OK);
+    Style style{};
+    button->get_BorderStyle(&style);
+    EXPECT_EQ(static_cast<long>(style), 77);
+    EXPECT_EQ(button->put_MousePointer(-5), S_OK);
+    SHORT pointer = 0;
+    button->get_MousePointer(&pointer);
+    EXPECT_EQ(pointer, -5);
+    EXPECT_EQ(button->put_BackColor(0x80FFFFFF), S_OK);
+    OLE_COLOR color = 0;
+    button->get_BackColor(&color);
+    EXPECT_EQ(color, 0x80FFFFFF);
+}
+
+TEST_F(FlatProperties, atDesignTimeAreAssignedWithoutAnyEvent)
+{
+    FlatButton button(library(), form);
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    button.start();
+    EXPECT_EQ(button->put_BackColor(kOther), S_OK);
+    button.setCaption(L"designed");
+    EXPECT_EQ(button->Refresh(), S_OK);
+    kit::pumpPending();
+    EXPECT_THAT(button.events().ids(), IsEmpty());
+    EXPECT_THAT(button.changes().take(), testing::IsSupersetOf({0x68030017, 0x68030008}));
+}
+
+// A colour arrives from scripts as a signed long; system colours are negative then.
+TEST_F(FlatProperties, systemColoursCanBeAssignedByNameAsSignedAndAsUnsignedLong)
+{
+    FlatButton button(library(), form);
+    button.start();
+    EXPECT_EQ(
+        kit::putByName(*button.dual(), L"BackColor", Variant::ofLong(static_cast<long>(0x80000010U))).result,
+        S_OK);
+    OLE_COLOR color = 0;
+    button->get_BackColor(&color);
+    EXPECT_EQ(color, 0x80000010U);
+    Variant unsignedColor;
+    unsignedColor.address()->vt = VT_UI4;
+    unsignedColor.address()->ulVal = 0x80000011U;
+    EXPECT_EQ(kit::putByName(*button.dual(), L"BackColor", unsignedColor).result, S_OK);
+    button->get_BackColor(&color);
+    EXPECT_EQ(color, 0x80000011U);
+}
+
+} // namespace
+} // namespace quillet::flat

@@ -1,0 +1,79 @@
+// Late-bound calls, as a script makes them.
+#include "kit/ByName.h"
+
+namespace quillet::kit {
+
+namespace {
+
+Called invokeNamed(IDispatch& object, wchar_t const* name, WORD kind, std::vector<Variant> const& arguments)
+{
+    DISPID const id = idOf(object, name);
+    if (id == DISPID_UNKNOWN) {
+        Called unknown;
+        unknown.result = DISP_E_UNKNOWNNAME;
+        return unknown;
+    }
+    return invoke(object, id, kind, arguments);
+}
+
+std::wstring taken(BSTR owned) { return std::wstring(Bstr::adopt(owned).view()); }
+
+} // namespace
+
+DISPID idOf(IDispatch& object, wchar_t const* name)
+{
+    auto* text = const_cast<wchar_t*>(name);
+    DISPID id = DISPID_UNKNOWN;
+    return SUCCEEDED(object.GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id)) ? id
+                                                                                         : DISPID_UNKNOWN;
+}
+
+Called invoke(IDispatch& object, DISPID id, WORD kind, std::vector<Variant> const& arguments)
+{
+    std::vector<VARIANTARG> reversed; // borrowed copies, the last argument first
+    for (auto each = arguments.rbegin(); each != arguments.rend(); ++each)
+        reversed.push_back(each->get());
+    DISPID property = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{};
+    parameters.rgvarg = reversed.data();
+    parameters.cArgs = static_cast<UINT>(reversed.size());
+    if (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
+        parameters.rgdispidNamedArgs = &property;
+        parameters.cNamedArgs = 1;
+    }
+    Called called;
+    EXCEPINFO exception{};
+    UINT badArgument = 0;
+    called.result = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, called.value.put(),
+                                  &exception, &badArgument);
+    if (exception.pfnDeferredFillIn)
+        exception.pfnDeferredFillIn(&exception);
+    called.code = exception.scode;
+    called.source = taken(exception.bstrSource);
+    called.description = taken(exception.bstrDescription);
+    taken(exception.bstrHelpFile);
+    return called;
+}
+
+Called getByName(IDispatch& object, wchar_t const* name)
+{
+    return invokeNamed(object, name, DISPATCH_PROPERTYGET, {});
+}
+
+Called putByName(IDispatch& object, wchar_t const* name, Variant const& value)
+{
+    return invokeNamed(object, name, DISPATCH_PROPERTYPUT, {value});
+}
+
+Called setByName(IDispatch& object, wchar_t const* name, IUnknown* value)
+{
+    return invokeNamed(object, name, DISPATCH_PROPERTYPUTREF,
+                       {Variant::ofDispatch(query<IDispatch>(value).get())});
+}
+
+Called callByName(IDispatch& object, wchar_t const* name, std::vector<Variant> const& arguments)
+{
+    return invokeNamed(object, name, DISPATCH_METHOD, arguments);
+}
+
+} // namespace quillet::kit

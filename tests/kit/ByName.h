@@ -1,0 +1,32 @@
+// Late-bound calls, as a script makes them.
+#pragma once
+
+#include "base/Variant.h"
+
+#include <oaidl.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace quillet::kit {
+
+/// What a late-bound call came to.
+struct Called {
+    HRESULT result = S_OK; ///< of GetIDsOfNames or Invoke
+    HRESULT code = S_OK;   ///< the exception's own error, where result is DISP_E_EXCEPTION
+    std::wstring source;
+    std::wstring description;
+    Variant value;
+};
+
+/// The member's identifier; DISPID_UNKNOWN when there is none of that name.
+DISPID idOf(IDispatch& object, wchar_t const* name);
+
+Called invoke(IDispatch& object, DISPID id, WORD kind, std::vector<Variant> const& arguments = {});
+Called getByName(IDispatch& object, wchar_t const* name);
+Called putByName(IDispatch& object, wchar_t const* name, Variant const& value);
+Called setByName(IDispatch& object, wchar_t const* name, IUnknown* value); ///< assigns an object by reference
+Called callByName(IDispatch& object, wchar_t const* name, std::vector<Variant> const& arguments = {});
+
+} // namespace quillet::kit
