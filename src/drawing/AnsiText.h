@@ -1,5 +1,7 @@
-// A caption in the system's ANSI code page, as the text calls of GDI take it.
+// A caption in an ANSI code page, as the text calls of GDI take it.
 #pragma once
+
+#include <windows.h>
 
 #include <string_view>
 #include <vector>
@@ -9,7 +11,7 @@ namespace quillet {
 /// Converts at once. Captions of ordinary length stay on the stack: every paint converts several.
 class AnsiText {
 public:
-    explicit AnsiText(std::wstring_view text);
+    explicit AnsiText(std::wstring_view text, unsigned codePage = CP_ACP);
     AnsiText(AnsiText const&) = delete;
     AnsiText& operator=(AnsiText const&) = delete;
 

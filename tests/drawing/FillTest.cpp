@@ -1,0 +1,257 @@
+// Filling, writing, inverting and copying: what each puts where, and what it refuses.
+#include "drawing/BoundSurface.h"
+#include "drawing/GdiCalls.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+/// Text as plain GDI writes it: the box filled, then letters clipped to it, in the default font.
+void write(kit::Canvas& canvas, RECT const& box, POINT at, std::wstring const& text, COLORREF fore,
+           COLORREF back)
+{
+    ::SetTextColor(canvas.dc(), fore);
+    ::SetBkMode(canvas.dc(), TRANSPARENT);
+    canvas.fill(box.left, box.top, box.right, box.bottom, back);
+    int const saved = ::SaveDC(canvas.dc());
+    ::IntersectClipRect(canvas.dc(), box.left, box.top, box.right, box.bottom);
+    ::TextOutW(canvas.dc(), at.x, at.y, text.c_str(), static_cast<int>(text.size()));
+    ::RestoreDC(canvas.dc(), saved);
+}
+
+/// A surface whose GDI calls are noted.
+class SurfaceCalls : public testing::Test {
+protected:
+    SurfaceCalls()
+    {
+        m_gdi.name(m_target.dc(), "target");
+        m_surface.Initialize(m_target.dc(), 7, 5);
+        m_record->forget();
+    }
+
+    kit::Canvas m_target{7, 5, kGrey};
+    kit::SharedRecord m_record = std::make_shared<kit::Record>();
+    GdiCalls m_gdi{m_record};
+    OffScreenDC m_surface;
+};
+
+TEST(FillRect, withAnEmptyCaptionFillsItsRectangleAndNothingElse)
+{
+    BoundSurface bound(8, 5);
+    bound.surface.FillRect(2, 1, 4, 3, kRed);
+    EXPECT_EQ(bound.picture(), "........\n"
+                               "..RRRR..\n"
+                               "..RRRR..\n"
+                               "..RRRR..\n"
+                               "........\n");
+}
+
+TEST(FillRect, leavesItsColourAsTheBackgroundColour)
+{
+    BoundSurface bound(8, 5);
+    bound.surface.FillRect(2, 1, 4, 3, kRed);
+    EXPECT_EQ(bound.surface.BackColor(), kRed);
+}
+
+TEST(FillRect, thatIsEmptyOrInsideOutDrawsNothingButSetsTheBackgroundColour)
+{
+    for (SIZE const size : {SIZE{0, 3}, SIZE{3, 0}, SIZE{0, 0}, SIZE{-3, 3}, SIZE{3, -2}, SIZE{-3, -2}}) {
+        BoundSurface bound(8, 5);
+        bound.surface.FillRect(4, 3, size.cx, size.cy, kRed, 0, 0, L"text");
+        EXPECT_EQ(bound.surface.BackColor(), kRed);
+        EXPECT_EQ(bound.picture(), "........\n........\n........\n........\n........\n")
+            << size.cx << " x " << size.cy;
+    }
+}
+
+TEST(FillRect, clipsItsCaptionToTheRectangle)
+{
+    RECT const box{10, 4, 34, 14};
+    BoundSurface bound(60, 24);
+    bound.surface.TextColor(kBlue);
+    bound.surface.FillRect(box.left, box.top, box.right - box.left, box.bottom - box.top, kRed, 4, 1,
+                           L"WWWWWWWWW");
+    bound.surface.BlastToScreen();
+
+    kit::Canvas expected(60, 24, kWhite);
+    write(expected, box, {4, 1}, L"WWWWWWWWW", kBlue, kRed);
+    EXPECT_GT(expected.count(kBlue), 0) << "no letter shows, so nothing is proved";
+    EXPECT_EQ(differences(expected, bound.target), "");
+}
+
+TEST(FillRect, ignoresTheAlignmentOfTheCaption)
+{
+    BoundSurface plain(60, 24);
+    BoundSurface aligned(60, 24);
+    plain.surface.FillRect(0, 0, 60, 24, kRed, 20, 3, L"Mid", 0);
+    aligned.surface.FillRect(0, 0, 60, 24, kRed, 20, 3, L"Mid", 2);
+    EXPECT_EQ(plain.picture(), aligned.picture());
+    EXPECT_GT(plain.target.count(kBlack), 0);
+}
+
+TEST(FillRect, writesItsCaptionAtTheOriginWhenNoPointIsGiven)
+{
+    BoundSurface left(60, 24);
+    BoundSurface given(60, 24);
+    left.surface.FillRect(0, 0, 60, 24, kRed, 0, 0, L"Mid");
+    given.surface.FillRect(0, 0, 60, 24, kRed);
+    kit::Canvas expected(60, 24, kWhite);
+    write(expected, {0, 0, 60, 24}, {0, 0}, L"Mid", kBlack, kRed);
+    left.surface.BlastToScreen();
+    EXPECT_EQ(differences(expected, left.target), "");
+    given.surface.BlastToScreen();
+    EXPECT_EQ(given.target.count(kRed), 60 * 24);
+}
+
+TEST_F(SurfaceCalls, aFillIsOneTextOutputAfterTheBackgroundColour)
+{
+    m_surface.FillRect(1, 2, 3, 4, 0x00FF7F01, 5, 6, L"Save", 2);
+    EXPECT_EQ(m_record->take(),
+              (Calls{"SetBkColor dc1 ff7f01", "ExtTextOutA dc1 5 6 6 (1,2,4,6) 'Save' 4 none"}));
+    m_surface.FillRect(0, 0, 7, 5, 0);
+    EXPECT_EQ(m_record->take(),
+              (Calls{"SetBkColor dc1 000000", "ExtTextOutA dc1 0 0 6 (0,0,7,5) '' 0 none"}));
+}
+
+TEST_F(SurfaceCalls, aFillWhoseRightOrBottomEdgeOverflowsSetsTheBackgroundColourAndStops)
+{
+    EXPECT_EQ(thrownBy([&] { m_surface.FillRect(kMax, 0, 1, 1, kRed); }), kOverflow);
+    EXPECT_EQ(thrownBy([&] { m_surface.FillRect(0, kMax, 1, 1, kRed); }), kOverflow);
+    EXPECT_EQ(thrownBy([&] { m_surface.FillRect(kMin, 0, -1, 1, kRed); }), kOverflow);
+    EXPECT_EQ(thrownBy([&] { m_surface.FillRect(0, kMin, 1, -1, kRed); }), kOverflow);
+    EXPECT_EQ(m_record->take(), Calls(4, "SetBkColor dc1 0000ff"));
+}
+
+TEST_F(SurfaceCalls, anEdgeAtTheEndOfTheRangeIsNoOverflow)
+{
+    EXPECT_EQ(thrownBy([&] { m_surface.FillRect(kMax - 1, kMax - 1, 1, 1, kRed); }), S_OK);
+    EXPECT_EQ(thrownBy([&] { m_surface.InvertRectangle(kMin + 1, kMin + 1, -1, -1); }), S_OK);
+}
+
+TEST(InvertRectangle, invertsItsRectangleAndTwiceBringsThePictureBack)
+{
+    BoundSurface bound(6, 4);
+    bound.surface.InvertRectangle(1, 1, 3, 2);
+    EXPECT_EQ(bound.picture(), "......\n"
+                               ".###..\n"
+                               ".###..\n"
+                               "......\n");
+    bound.surface.InvertRectangle(1, 1, 3, 2);
+    EXPECT_EQ(bound.picture(), "......\n......\n......\n......\n");
+}
+
+TEST_F(SurfaceCalls, anInversionThatOverflowsMakesNoGdiCall)
+{
+    EXPECT_EQ(thrownBy([&] { m_surface.InvertRectangle(kMax, 0, 1, 1); }), kOverflow);
+    EXPECT_EQ(thrownBy([&] { m_surface.InvertRectangle(0, kMin, 1, -1); }), kOverflow);
+    EXPECT_EQ(m_record->take(), Calls{});
+    m_surface.InvertRectangle(1, 2, 3, 4);
+    EXPECT_EQ(m_record->take(), Calls{"InvertRect dc1 (1,2,4,6)"});
+}
+
+TEST(PrintString, paintsFromItsPointToTheBottomRightCornerInTheBackgroundColour)
+{
+    BoundSurface bound(100, 30);
+    bound.surface.BackColor(kRed);
+    bound.surface.PrintString(10, 5, L"");
+    bound.surface.BlastToScreen();
+    kit::Canvas expected(100, 30, kWhite);
+    expected.fill(10, 5, 100, 30, kRed);
+    EXPECT_EQ(differences(expected, bound.target), "");
+}
+
+TEST(PrintString, erasesWhatWasThereAndWritesItsTextAtThePoint)
+{
+    BoundSurface bound(100, 30);
+    bound.surface.FillRect(0, 0, 100, 30, kGrey);
+    bound.surface.BackColor(kRed);
+    bound.surface.TextColor(kBlue);
+    bound.surface.PrintString(10, 5, L"Quill");
+    bound.surface.BlastToScreen();
+    kit::Canvas expected(100, 30, kGrey);
+    write(expected, {10, 5, 100, 30}, {10, 5}, L"Quill", kBlue, kRed);
+    EXPECT_GT(expected.count(kBlue), 0);
+    EXPECT_EQ(differences(expected, bound.target), "");
+}
+
+TEST(PrintString, outsideTheSurfaceChangesNothing)
+{
+    BoundSurface bound(6, 2);
+    bound.surface.BackColor(kRed);
+    bound.surface.PrintString(7, 0, L"text");
+    bound.surface.PrintString(0, 3, L"text");
+    EXPECT_EQ(bound.picture(), "......\n......\n");
+}
+
+TEST_F(SurfaceCalls, printingIsOneTextOutputThatSetsNoColour)
+{
+    m_surface.PrintString(1, 2, L"Save");
+    EXPECT_EQ(m_record->take(), Calls{"ExtTextOutA dc1 1 2 6 (1,2,7,5) 'Save' 4 none"});
+}
+
+TEST(BlastToScreen, withoutArgumentsCopiesTheWholeSurfaceToTheOrigin)
+{
+    BoundSurface bound(4, 2);
+    bound.surface.FillRect(1, 0, 2, 2, kRed);
+    EXPECT_EQ(bound.targetPicture(), "gggg\ngggg\n");
+    bound.surface.BlastToScreen();
+    EXPECT_EQ(bound.targetPicture(), ".RR.\n.RR.\n");
+}
+
+TEST(BlastToScreen, copiesARectangleToTheSamePlace)
+{
+    BoundSurface bound(6, 4);
+    bound.surface.FillRect(2, 1, 1, 1, kRed);
+    long width = 3;
+    long height = 2;
+    bound.surface.BlastToScreen(1, 1, width, height);
+    EXPECT_EQ(bound.targetPicture(), "gggggg\n"
+                                     "g.R.gg\n"
+                                     "g...gg\n"
+                                     "gggggg\n");
+    EXPECT_EQ(width, 3);
+    EXPECT_EQ(height, 2);
+}
+
+TEST(BlastToScreen, withWidthMinusOneAndAHeightFillsInOnlyTheCallersWidth)
+{
+    BoundSurface bound(4, 3);
+    long width = -1;
+    long height = 2;
+    bound.surface.BlastToScreen(0, 0, width, height);
+    EXPECT_EQ(width, 4);
+    EXPECT_EQ(height, 2);
+    EXPECT_EQ(bound.targetPicture(), "....\n....\ngggg\n");
+}
+
+TEST(BlastToScreen, withHeightMinusOneAndAWidthFillsInOnlyTheCallersHeight)
+{
+    BoundSurface bound(4, 3);
+    long width = 2;
+    long height = -1;
+    bound.surface.BlastToScreen(0, 0, width, height);
+    EXPECT_EQ(width, 2);
+    EXPECT_EQ(height, 3);
+    EXPECT_EQ(bound.targetPicture(), "..gg\n..gg\n..gg\n");
+}
+
+TEST_F(SurfaceCalls, argumentsOfBlastToScreenMayBeLeftOutFromTheEnd)
+{
+    long width = -1;
+    m_surface.BlastToScreen(1);
+    m_surface.BlastToScreen(1, 2);
+    m_surface.BlastToScreen(1, 2, width);
+    m_surface.BlastToScreen(0, 0, -1, -1);
+    m_surface.BlastToScreen(0, 0, -2, 3);
+    EXPECT_EQ(width, 7);
+    EXPECT_EQ(m_record->take(),
+              (Calls{"BitBlt target 1 0 7 5 dc1 1 0 cc0020", "BitBlt target 1 2 7 5 dc1 1 2 cc0020",
+                     "BitBlt target 1 2 7 5 dc1 1 2 cc0020", "BitBlt target 0 0 7 5 dc1 0 0 cc0020",
+                     "BitBlt target 0 0 -2 3 dc1 0 0 cc0020"}));
+}
+
+} // namespace
+} // namespace quillet

@@ -1,0 +1,169 @@
+// The surface's font: whom it counts, what it selects, and what an empty or failing font does.
+#include "base/ComCall.h"
+#include "drawing/BoundSurface.h"
+#include "drawing/FakeFont.h"
+#include "drawing/GdiCalls.h"
+#include "kit/Fonts.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+HFONT stockFont(int index) { return static_cast<HFONT>(::GetStockObject(index)); }
+
+class SurfaceFont : public testing::Test {
+protected:
+    SurfaceFont()
+    {
+        m_gdi.name(stockFont(ANSI_VAR_FONT), "handle1");
+        m_gdi.name(stockFont(ANSI_FIXED_FONT), "handle2");
+        m_surface.Initialize(m_target.dc(), 7, 5);
+        m_record->forget();
+    }
+
+    kit::Canvas m_target{7, 5, kGrey};
+    kit::SharedRecord m_record = std::make_shared<kit::Record>();
+    GdiCalls m_gdi{m_record};
+    ComPtr<FakeFont> m_font1 = kit::make<FakeFont>(m_record, "font1", stockFont(ANSI_VAR_FONT));
+    ComPtr<FakeFont> m_font2 = kit::make<FakeFont>(m_record, "font2", stockFont(ANSI_FIXED_FONT));
+    OffScreenDC m_surface;
+};
+
+TEST_F(SurfaceFont, theFirstFontIsCountedOnceAndItsHandleSelected)
+{
+    m_surface.Font(m_font1.get());
+    EXPECT_EQ(m_record->take(),
+              (Calls{"font1.AddRef", "font1.get_hFont", "SelectObject dc1 handle1 -> initial font"}));
+}
+
+TEST_F(SurfaceFont, aSecondFontReplacesTheFirstWhichIsGivenUpBeforeTheSecondIsCounted)
+{
+    m_surface.Font(m_font1.get());
+    m_record->forget();
+    m_surface.Font(m_font2.get());
+    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont",
+                                       "SelectObject dc1 handle2 -> handle1"}));
+    EXPECT_EQ(m_font1->references(), 1U);
+    EXPECT_EQ(m_font2->references(), 2U);
+}
+
+TEST_F(SurfaceFont, theSameFontSetAgainIsAskedForItsHandleAgain)
+{
+    m_surface.Font(m_font1.get());
+    m_record->forget();
+    m_surface.Font(m_font1.get());
+    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font1.AddRef", "font1.get_hFont",
+                                       "SelectObject dc1 handle1 -> handle1"}));
+}
+
+TEST_F(SurfaceFont, afterASecondFontAnEmptyOneBringsBackTheInitialFontNotTheFirst)
+{
+    m_surface.Font(m_font1.get());
+    m_surface.Font(m_font2.get());
+    m_record->forget();
+    m_surface.Font(nullptr);
+    EXPECT_EQ(m_record->take(), (Calls{"font2.Release", "SelectObject dc1 initial font -> handle2"}));
+    EXPECT_FALSE(m_surface.Font());
+}
+
+TEST_F(SurfaceFont, afterAnEmptyFontTheNextOneIsAFirstAgain)
+{
+    m_surface.Font(m_font1.get());
+    m_surface.Font(nullptr);
+    m_record->forget();
+    m_surface.Font(m_font2.get());
+    m_surface.Font(nullptr);
+    EXPECT_EQ(m_record->take(),
+              (Calls{"font2.AddRef", "font2.get_hFont", "SelectObject dc1 handle2 -> initial font",
+                     "font2.Release", "SelectObject dc1 initial font -> handle2"}));
+}
+
+TEST_F(SurfaceFont, anEmptyFontBeforeAnyOtherIsAnObjectThatIsNotSet)
+{
+    EXPECT_EQ(thrownBy([&] { m_surface.Font(nullptr); }), kObjectNotSet);
+    EXPECT_EQ(m_record->take(), Calls{});
+    EXPECT_FALSE(m_surface.Font());
+}
+
+TEST_F(SurfaceFont, anEmptyFontIsRefusedAgainOnceTheFontIsEmpty)
+{
+    m_surface.Font(m_font1.get());
+    m_surface.Font(nullptr);
+    EXPECT_EQ(thrownBy([&] { m_surface.Font(nullptr); }), kObjectNotSet);
+}
+
+TEST_F(SurfaceFont, aFirstFontThatHasNoHandleToGiveFailsAndIsStoredAllTheSame)
+{
+    m_record->answer("font1.get_hFont", CTL_E_OUTOFMEMORY);
+    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font1.get()); }), CTL_E_OUTOFMEMORY);
+    EXPECT_EQ(m_record->take(), (Calls{"font1.AddRef", "font1.get_hFont"}));
+    EXPECT_EQ(m_font1->references(), 2U);
+}
+
+TEST_F(SurfaceFont, afterAFirstFontThatFailedThereIsNoInitialFontToBringBack)
+{
+    m_record->answer("font1.get_hFont", E_FAIL);
+    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font1.get()); }), E_FAIL);
+    m_record->forget();
+    m_surface.Font(m_font2.get());
+    m_surface.Font(nullptr);
+    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont",
+                                       "SelectObject dc1 handle2 -> initial font", "font2.Release",
+                                       "SelectObject dc1 none -> none"}));
+}
+
+TEST_F(SurfaceFont, aSecondFontThatFailsLeavesTheFirstSelectedAndTheSecondStored)
+{
+    m_surface.Font(m_font1.get());
+    m_record->forget();
+    m_record->answer("font2.get_hFont", E_FAIL);
+    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font2.get()); }), E_FAIL);
+    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont"}));
+    EXPECT_EQ(::GetCurrentObject(static_cast<HDC>(m_gdi.handle("dc1")), OBJ_FONT), stockFont(ANSI_VAR_FONT));
+    EXPECT_EQ(m_font2->references(), 2U);
+}
+
+TEST_F(SurfaceFont, aFontThatFailsIsReportedWithTheFontInterfaceAsItsSource)
+{
+    m_record->answer("font1.get_hFont", E_FAIL);
+    ErrorSource const method{L"Quillet.qvFlatCommand", IID_IDispatch};
+    EXPECT_EQ(comCall(method, [&] { m_surface.Font(m_font1.get()); }), E_FAIL);
+    ComPtr<IErrorInfo> info;
+    ASSERT_EQ(::GetErrorInfo(0, info.put()), S_OK);
+    GUID source{};
+    info->GetGUID(&source);
+    EXPECT_TRUE(source == IID_IFont);
+}
+
+TEST_F(SurfaceFont, theFontReadBackIsTheObjectGivenByItsDispatchInterface)
+{
+    EXPECT_FALSE(m_surface.Font());
+    auto const font = kit::newFont(L"Arial", 9);
+    m_surface.Font(font.get());
+    ComPtr<IFontDisp> const readBack = m_surface.Font();
+    ASSERT_TRUE(readBack);
+    EXPECT_EQ(readBack.get(), font.as<IFontDisp>(IID_IFontDisp).get());
+    EXPECT_EQ(readBack.as<IUnknown>(IID_IUnknown).get(), font.as<IUnknown>(IID_IUnknown).get());
+}
+
+TEST_F(SurfaceFont, theTextIsWrittenInTheFontGiven)
+{
+    auto const font = kit::newFont(L"Arial", 14);
+    BoundSurface actual(80, 30);
+    actual.surface.Font(font.get());
+    actual.surface.FillRect(0, 0, 80, 30, kWhite, 2, 3, L"Quill");
+    actual.surface.BlastToScreen();
+
+    kit::Canvas expected(80, 30, kWhite);
+    SelectScope const selected(expected.dc(), kit::handleOf(*font.get()));
+    ::TextOutW(expected.dc(), 2, 3, L"Quill", 5);
+    EXPECT_GT(expected.count(kWhite), 0);
+    EXPECT_LT(expected.count(kWhite), 80 * 30);
+    EXPECT_EQ(differences(expected, actual.target), "");
+}
+
+} // namespace
+} // namespace quillet

@@ -1,0 +1,115 @@
+// The tints of the task-pane look, and the clamp.
+#include "drawing/xpstate.h"
+
+#include "base/RunTimeError.h"
+#include "drawing/BoundSurface.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+namespace {
+
+/// Sets the button face and the selection colour for one scope.
+class SchemeScope {
+public:
+    SchemeScope(COLORREF face, COLORREF selection)
+    {
+        COLORREF const colours[] = {face, selection};
+        ::SetSysColors(2, kIndexes, colours);
+    }
+    ~SchemeScope() { ::SetSysColors(2, kIndexes, m_previous); }
+    SchemeScope(SchemeScope const&) = delete;
+    SchemeScope& operator=(SchemeScope const&) = delete;
+
+private:
+    static constexpr INT kIndexes[] = {COLOR_BTNFACE, COLOR_HIGHLIGHT};
+    COLORREF const m_previous[2] = {::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT)};
+};
+
+struct Scheme {
+    COLORREF face;
+    COLORREF selection;
+    COLORREF deep;
+    COLORREF light;
+};
+
+constexpr Scheme kSchemes[] = {
+    {0x00D8E9EC, 0x00C56A31, 0x00DEB296, 0x00DAC7B7},
+    {0x00C8D0D4, 0x006A240A, 0x00AF8C80, 0x00B6A59F},
+    {0x00FFFFFF, 0x00000000, 0x00808080, 0x00B2B2B2},
+    {0x00000000, 0x00FFFFFF, 0x00E4E4E4, 0x00808080},
+};
+
+TEST(StateTint, hasTheKnownValuesOfCommonSchemes)
+{
+    for (Scheme const& row : kSchemes) {
+        EXPECT_EQ(stateTint(row.face, row.selection, VARIANT_TRUE), row.deep) << std::hex << row.face;
+        EXPECT_EQ(stateTint(row.face, row.selection, VARIANT_FALSE), row.light) << std::hex << row.face;
+    }
+}
+
+TEST(StateTint, isDeepForAnyValueButZero)
+{
+    for (VARIANT_BOOL const deep : {VARIANT_BOOL{1}, VARIANT_BOOL{2}, VARIANT_BOOL{-2}})
+        EXPECT_EQ(stateTint(0x00D8E9EC, 0x00C56A31, deep), COLORREF{0x00DEB296});
+}
+
+TEST(StateTint, roundsAChannelOfExactlyOneHalfToTheEvenNeighbour)
+{
+    // On a white face the lift is 0, so a channel is the mean with 255: of 46 it is 150.5, of 48 151.5.
+    EXPECT_EQ(stateTint(0x00FFFFFF, 0x0030002E, VARIANT_TRUE), COLORREF{0x00988096});
+}
+
+TEST(StateTint, neverHasBitsAboveBit23AndEveryChannelIsItsOwn)
+{
+    for (COLORREF face = 0; face < 256; ++face)
+        for (COLORREF selection = 0; selection < 256; ++selection)
+            for (VARIANT_BOOL const deep : {VARIANT_TRUE, VARIANT_FALSE}) {
+                COLORREF const tint = stateTint(face * 0x010101, selection * 0x010101, deep);
+                ASSERT_EQ(tint, (tint & 0xFFU) * 0x010101U) << face << ' ' << selection;
+            }
+}
+
+TEST(XpStateColor, followsTheDesktopsSchemeAtOnce)
+{
+    COLORREF const before = XPStateColor(VARIANT_TRUE);
+    {
+        SchemeScope const scheme(0x00D8E9EC, 0x00C56A31);
+        ASSERT_EQ(::GetSysColor(COLOR_BTNFACE), COLORREF{0x00D8E9EC});
+        EXPECT_EQ(XPStateColor(VARIANT_TRUE), COLORREF{0x00DEB296});
+        EXPECT_EQ(XPStateColor(VARIANT_FALSE), COLORREF{0x00DAC7B7});
+    }
+    EXPECT_EQ(XPStateColor(VARIANT_TRUE), before);
+}
+
+TEST(Clamp, answersTheValueInsideItsBoundsAndTheBoundOutside)
+{
+    EXPECT_EQ(Clamp(-5, 0, 255), 0);
+    EXPECT_EQ(Clamp(300, 0, 255), 255);
+    EXPECT_EQ(Clamp(128, 0, 255), 128);
+    EXPECT_EQ(Clamp(0, 0, 255), 0);
+    EXPECT_EQ(Clamp(255, 0, 255), 255);
+}
+
+TEST(Clamp, addsTheBoundsWhenTheyCrossAndTheValueIsBetween)
+{
+    EXPECT_EQ(Clamp(5, 10, 2), 12);
+    EXPECT_EQ(Clamp(5, 10, -3), 7);
+}
+
+TEST(Clamp, answersOneBoundWhenTheyCrossAndTheValueIsBeyondOnlyOne)
+{
+    EXPECT_EQ(Clamp(1, 10, 2), 10);
+    EXPECT_EQ(Clamp(11, 10, 2), 2);
+}
+
+TEST(Clamp, raisesOverflowWhereASumOrAProductLeavesTheRange)
+{
+    EXPECT_EQ(thrownBy([] { Clamp(5, kMax, 1); }), kOverflow);
+    EXPECT_EQ(thrownBy([] { Clamp(kMin, kMin, 0); }), kOverflow);
+    EXPECT_EQ(Clamp(kMin, 0, 1), 0);
+    EXPECT_EQ(Clamp(kMax, kMin, kMax), kMax);
+}
+
+} // namespace
+} // namespace quillet
