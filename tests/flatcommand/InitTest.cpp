@@ -1,0 +1,187 @@
+// A new qvFlatCommand: what it asks of its container, in which order, and what it makes of the answers.
+#include "FlatButton.h"
+#include "kit/FakeBag.h"
+#include "kit/Fonts.h"
+
+#include <algorithm>
+
+namespace quillet::flat {
+namespace {
+
+class FlatInit : public FlatTest {
+protected:
+    kit::FakeForm form;
+    FlatButton button{library(), form};
+
+    /// The place of the first such call in the record; -1 when it never came.
+    ptrdiff_t firstOf(std::string const& call)
+    {
+        auto const& calls = form.record().calls();
+        auto const found = std::ranges::find(calls, call);
+        return found == calls.end() ? -1 : found - calls.begin();
+    }
+    void initialise()
+    {
+        ASSERT_EQ(button.setSite(), S_OK);
+        form.record().forget();
+        ASSERT_EQ(button.initNew(), S_OK);
+    }
+    void setAmbientFont(IFont* font)
+    {
+        button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(font).get()));
+    }
+};
+
+TEST_F(FlatInit, asksForTheFormsFontBeforeTheExtendersName)
+{
+    initialise();
+    EXPECT_GE(firstOf("Ambient(-703)"), 0);
+    EXPECT_GT(firstOf("Extender.Name"), firstOf("Ambient(-703)"));
+}
+
+TEST_F(FlatInit, aNewInstancesCaptionEqualsItsExtenderName)
+{
+    button.site().extender().offer(L"Name", Variant::ofString(L"cmdOpen & Co"));
+    initialise();
+    EXPECT_EQ(button.caption(), L"cmdOpen & Co");
+}
+
+TEST_F(FlatInit, theSameInstanceLoadedFromABagWithoutCaptionShowsAnEmptyCaption)
+{
+    initialise();
+    ASSERT_EQ(button.caption(), L"Button1");
+    auto const bag = kit::make<kit::FakeBag>();
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereTheExtenderHasNoName)
+{
+    button.site().extender().remove(L"Name");
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereTheNameCannotBeRead)
+{
+    button.site().extender().refuse(L"Name", E_ACCESSDENIED);
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereTheNameIsNoText)
+{
+    button.site().extender().offer(L"Name", Variant::ofUnknown(form.frame().unknown()));
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereThereIsNoExtender)
+{
+    form.record().answerNothing("Site.GetExtendedControl");
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereTheExtenderIsRefused)
+{
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, theCaptionIsEmptyWhereTheSiteIsNoControlSite)
+{
+    button.site().hide(__uuidof(IOleControlSite));
+    initialise();
+    EXPECT_EQ(button.caption(), L"");
+}
+
+TEST_F(FlatInit, worksWithoutASite)
+{
+    EXPECT_EQ(button.initNew(), S_OK);
+    EXPECT_EQ(button.caption(), L"");
+    EXPECT_TRUE(button.font());
+}
+
+TEST_F(FlatInit, takesTheFormsFontByValue)
+{
+    setAmbientFont(kit::newFont(L"Tahoma", 21, true).get());
+    initialise();
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *kit::newFont(L"Tahoma", 21, true).get()));
+}
+
+TEST_F(FlatInit, hasAFontWhereTheFormOffersNoneFailsHandsOutNothingOrSomethingElse)
+{
+    button.site().removeAmbient(DISPID_AMBIENT_FONT);
+    initialise();
+    EXPECT_TRUE(button.font()) << "missing";
+    button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(nullptr));
+    initialise();
+    EXPECT_TRUE(button.font()) << "S_OK with nothing";
+    button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofLong(12));
+    initialise();
+    EXPECT_TRUE(button.font()) << "a number";
+    button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(&form.object()));
+    initialise();
+    EXPECT_TRUE(button.font()) << "an object that is no font";
+    form.record().answer("Ambient(-703)", E_UNEXPECTED);
+    initialise();
+    EXPECT_TRUE(button.font()) << "failing";
+}
+
+TEST_F(FlatInit, hasAFontWhereTheSiteHasNoAmbientProperties)
+{
+    button.site().hide(IID_IDispatch);
+    initialise();
+    EXPECT_TRUE(button.font());
+}
+
+TEST_F(FlatInit, leavesBackAndForeColourAloneWhateverTheFormsAre)
+{
+    button.site().setAmbient(DISPID_AMBIENT_BACKCOLOR, Variant::ofLong(0x0000FF));
+    button.site().setAmbient(DISPID_AMBIENT_FORECOLOR, Variant::ofLong(0x00FF00));
+    ASSERT_EQ(button->put_BackColor(0x112233), S_OK);
+    initialise();
+    OLE_COLOR color = 0;
+    button->get_BackColor(&color);
+    EXPECT_EQ(color, 0x112233U);
+    button->get_ForeColor(&color);
+    EXPECT_EQ(color, 0x80000012U);
+}
+
+TEST_F(FlatInit, setsEveryOtherSavedPropertyBackToItsInitialValue)
+{
+    initialise();
+    auto const initial = stateOf(button);
+    button.setCaption(L"else");
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(9).get()), S_OK);
+    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(9).get()), S_OK);
+    ASSERT_EQ(button->put_PressedBorderWidth(Variant::ofShort(9).get()), S_OK);
+    ASSERT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
+    ASSERT_EQ(button->put_BorderColor(1), S_OK);
+    ASSERT_EQ(button->put_HotForeColor(2), S_OK);
+    ASSERT_EQ(button->put_PressedForeColor(3), S_OK);
+    ASSERT_EQ(button->put_HotBackColor(4), S_OK);
+    ASSERT_EQ(button->put_PressedBackColor(5), S_OK);
+    ASSERT_EQ(button->put_HotBorderColor(6), S_OK);
+    ASSERT_EQ(button->put_PressedBorderColor(7), S_OK);
+    ASSERT_EQ(button->put_DisabledForeColor(8), S_OK);
+    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    ASSERT_EQ(button->put_CaptionIndent(11), S_OK);
+    ASSERT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    button.setFont(kit::newFont(L"Tahoma", 30).get());
+    initialise();
+    EXPECT_EQ(stateOf(button), initial);
+}
+
+TEST_F(FlatInit, throughABagIsTheSame)
+{
+    ASSERT_EQ(button.setSite(), S_OK);
+    ASSERT_EQ(button.as<IPersistPropertyBag>()->InitNew(), S_OK);
+    EXPECT_EQ(button.caption(), L"Button1");
+}
+
+} // namespace
+} // namespace quillet::flat
