@@ -52,9 +52,9 @@ bool Container::userMode() const noexcept
 ComPtr<IFont> Container::ambientFont() const
 {
     auto const answered = orFallback(ComPtr<IUnknown>(), [&] { return ambient(DISPID_AMBIENT_FONT).toObject(); });
-    if (auto const own = copyOfFont(answered.get()))
+    if (auto own = copyOfFont(answered.get()))
         return own;
-    if (auto const own = copyOfFont(m_quickFont.get()))
+    if (auto own = copyOfFont(m_quickFont.get()))
         return own;
     return systemFont();
 }

@@ -16,7 +16,7 @@ namespace {
 /// the interface's own identifier or as a plain IDispatch.
 ComPtr<IUnknown> servingInterface(IUnknown* sink, IID const& sinkId)
 {
-    if (auto const exact = query<IUnknown>(sink, sinkId))
+    if (auto exact = query<IUnknown>(sink, sinkId))
         return exact;
     if (sinkId == IID_IPropertyNotifySink)
         return {};

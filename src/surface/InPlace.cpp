@@ -115,9 +115,9 @@ void InPlace::activateVisibly(RECT const* position)
     if (answered) {
         m_frame = frame;
         m_document = document;
-    } else if (!m_positioned && position) {
-        given = *position;
     }
+    if (!hasSize(given) && position)
+        given = *position;
     m_surface.window().attach(parent);
     place(given, hasSize(clip) ? &clip : nullptr);
     m_surface.window().show();
@@ -192,7 +192,6 @@ void InPlace::forward(MSG const* message)
 void InPlace::place(RECT const& position, RECT const* clip)
 {
     m_position = position;
-    m_positioned = true;
     if (m_active)
         m_surface.window().move(position, clip);
 }

@@ -57,7 +57,6 @@ private:
     ComPtr<IOleInPlaceUIWindow> m_document;
     bool m_active = false;   ///< shown in the container's window
     bool m_keyboard = false; ///< UI-active
-    bool m_positioned = false;
     RECT m_position = {};
 };
 

@@ -13,7 +13,9 @@ bool sameObject(IUnknown* a, IUnknown* b) noexcept
 {
     if (a == b)
         return true;
-    return equalFonts(query<IFont>(a).get(), query<IFont>(b).get());
+    auto const fontA = query<IFont>(a);
+    auto const fontB = query<IFont>(b);
+    return fontA && fontB && equalFonts(fontA.get(), fontB.get());
 }
 
 /// Whether two values of the same type are equal.
@@ -36,7 +38,7 @@ bool isConversionFailure(HRESULT result) noexcept
 
 Variant PropertyBag::readProperty(wchar_t const* name, Variant const& fallback)
 {
-    Variant const saved = read(name, fallback.type());
+    Variant saved = read(name, fallback.type());
     if (saved.type() == VT_EMPTY)
         return fallback;
     return saved;

@@ -40,7 +40,15 @@ bool equalFonts(IFont* a, IFont* b) noexcept
 {
     if (a == b)
         return true;
-    return a && b && a->IsEqual(b) == S_OK;
+    if (!a || !b)
+        return false;
+    if (a->IsEqual(b) == S_OK)
+        return true;
+    // A font takes the name and character set that the system really has when it is first used.
+    HFONT used = nullptr;
+    a->get_hFont(&used);
+    b->get_hFont(&used);
+    return a->IsEqual(b) == S_OK;
 }
 
 } // namespace quillet
