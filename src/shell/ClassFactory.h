@@ -5,6 +5,7 @@
 #include "shell/ClassTable.h"
 
 #include <windows.h>
+
 #include <unknwn.h>
 
 namespace quillet {

@@ -2,13 +2,15 @@
 #include "shell/ClassTable.h"
 
 #include "controls/flatcommand/Create.h"
+#include "shell/ResourceIds.h"
+#include "typelib/Texts.h"
 
 namespace quillet {
 
 namespace {
 
 constexpr ClassRow kClasses[] = {
-    {&flatCommandClass, &createFlatCommand},
+    {&flatCommandClass, &createFlatCommand, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
 };
 
 } // namespace

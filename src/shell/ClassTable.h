@@ -4,6 +4,7 @@
 #include "surface/ControlClass.h"
 
 #include <windows.h>
+
 #include <unknwn.h>
 
 #include <span>
@@ -14,6 +15,8 @@ namespace quillet {
 struct ClassRow {
     ControlClass const& (*controlClass)() noexcept;
     HRESULT (*create)(IUnknown* outer, REFIID iid, void** object) noexcept;
+    wchar_t const* description; ///< as a designer's toolbox shows it
+    int toolboxBitmap;          ///< of the component's resources
 };
 
 std::span<ClassRow const> classTable() noexcept;

@@ -4,6 +4,7 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "shell/ClassFactory.h"
+#include "shell/Registration.h"
 #include "surface/SurfaceWindow.h"
 #include "surface/ThreadState.h"
 
@@ -44,3 +45,31 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void**
 }
 
 extern "C" HRESULT WINAPI DllCanUnloadNow() { return liveObjects() == 0 ? S_OK : S_FALSE; }
+
+extern "C" HRESULT WINAPI DllRegisterServer()
+{
+    return comCall([] { registerWhereAllowed(); });
+}
+
+extern "C" HRESULT WINAPI DllUnregisterServer()
+{
+    return comCall([] {
+        unregisterComponent(Scope::User);
+        unregisterComponent(Scope::Machine);
+    });
+}
+
+/// regsvr32 /n /i:user: for the user alone.
+extern "C" HRESULT WINAPI DllInstall(BOOL install, LPCWSTR commandLine)
+{
+    if (!commandLine || !*commandLine)
+        return install ? DllRegisterServer() : DllUnregisterServer();
+    if (::CompareStringOrdinal(commandLine, -1, L"user", -1, TRUE) != CSTR_EQUAL)
+        return E_INVALIDARG;
+    return comCall([&] {
+        if (install)
+            registerComponent(Scope::User);
+        else
+            unregisterComponent(Scope::User);
+    });
+}
