@@ -52,9 +52,9 @@ std::wstring_view FormLines::takeLine() noexcept
 
 std::optional<FormLine> FormLines::next() noexcept
 {
+    m_restBefore = m_rest;
+    m_numberBefore = m_number;
     while (!m_rest.empty()) {
-        m_restBefore = m_rest;
-        m_numberBefore = m_number;
         if (std::wstring_view const line = trimmed(takeLine()); !line.empty())
             return FormLine{line, m_number};
     }

@@ -29,7 +29,7 @@ public:
     int number() const noexcept { return m_number; }
     /// Everything after that line.
     std::wstring_view rest() const noexcept { return m_rest; }
-    /// Makes next() hand out the line handed out last once more.
+    /// Makes next() hand out the line handed out last once more; blank lines before it are back too.
     void stepBack() noexcept;
 
 private:
