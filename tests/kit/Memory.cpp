@@ -2,8 +2,11 @@
 #include "kit/Memory.h"
 
 #include "base/RunTimeError.h"
+#include "kit/Counterpart.h"
 
 #include <ole2.h>
+
+#include <algorithm>
 
 namespace quillet::kit {
 
@@ -18,7 +21,60 @@ ULONGLONG seek(IStream& stream, LONGLONG to, DWORD from)
     return position.QuadPart;
 }
 
+/// Reads and writes in order, as far as it goes; every other call is refused.
+class BrokenStream final : public Counterpart<IStream> {
+public:
+    BrokenStream(Bytes bytes, ULONG bytesTaken) : m_bytes(std::move(bytes)), m_taken(bytesTaken) {}
+
+    STDMETHODIMP Read(void* target, ULONG size, ULONG* read) override
+    {
+        if (size > m_bytes.size() - m_at)
+            return STG_E_READFAULT;
+        std::copy_n(m_bytes.begin() + static_cast<ptrdiff_t>(m_at), size, static_cast<BYTE*>(target));
+        m_at += size;
+        if (read)
+            *read = size;
+        return S_OK;
+    }
+    STDMETHODIMP Write(void const*, ULONG size, ULONG* written) override
+    {
+        if (size > m_taken)
+            return STG_E_MEDIUMFULL;
+        m_taken -= size;
+        if (written)
+            *written = size;
+        return S_OK;
+    }
+    STDMETHODIMP Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return E_NOTIMPL; }
+    STDMETHODIMP SetSize(ULARGE_INTEGER) override { return E_NOTIMPL; }
+    STDMETHODIMP CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override
+    {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP Commit(DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP Revert() override { return E_NOTIMPL; }
+    STDMETHODIMP LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP Stat(STATSTG*, DWORD) override { return E_NOTIMPL; }
+    STDMETHODIMP Clone(IStream**) override { return E_NOTIMPL; }
+
+private:
+    void* faceOf(REFIID iid) noexcept override
+    {
+        return iid == __uuidof(ISequentialStream) ? static_cast<IStream*>(this) : Counterpart::faceOf(iid);
+    }
+
+    Bytes m_bytes;
+    size_t m_at = 0;
+    ULONG m_taken;
+};
+
 } // namespace
+
+ComPtr<IStream> brokenStream(Bytes const& bytes, ULONG bytesTaken)
+{
+    return {make<BrokenStream>(bytes, bytesTaken).get()};
+}
 
 ComPtr<IStream> streamOf(Bytes const& bytes)
 {

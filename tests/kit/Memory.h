@@ -21,6 +21,9 @@ Bytes bytesOf(IStream& stream);
 
 ULONGLONG positionOf(IStream& stream);
 
+/// A stream that fails: it reads the bytes and then no further, or takes so many and then no more.
+ComPtr<IStream> brokenStream(Bytes const& bytes, ULONG bytesTaken);
+
 /// An empty compound file.
 ComPtr<IStorage> newStorage();
 

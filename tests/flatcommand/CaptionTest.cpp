@@ -1,0 +1,206 @@
+// The caption of qvFlatCommand: where it stands, and its access key.
+#include "ShownButton.h"
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+
+namespace quillet::flat {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+using Key = std::pair<int, wchar_t>; // fVirt and key
+
+class FlatCaption : public FlatTest {
+protected:
+    kit::FakeForm form;
+    ShownButton button{library(), form};
+
+    /// The caption is set and shown as the expectation says.
+    void expectShown(wchar_t const* caption)
+    {
+        button.setCaption(caption);
+        Face face = normalFace();
+        face.caption = caption;
+        EXPECT_EQ(button.differencesFrom(face), "") << kit::narrow(caption);
+    }
+    std::vector<Key> accelerators()
+    {
+        CONTROLINFO info{};
+        info.cb = sizeof info;
+        info.dwFlags = 0xFFFF;
+        EXPECT_EQ(button.as<IOleControl>()->GetControlInfo(&info), S_OK);
+        EXPECT_EQ(info.dwFlags, 0U);
+        std::vector<ACCEL> entries(info.cAccel);
+        if (info.cAccel) {
+            EXPECT_EQ(::CopyAcceleratorTableW(info.hAccel, entries.data(), info.cAccel), info.cAccel);
+        }
+        std::vector<Key> keys;
+        for (ACCEL const& entry : entries)
+            keys.emplace_back(entry.fVirt, static_cast<wchar_t>(entry.key));
+        return keys;
+    }
+};
+
+// Were there no font, empty pictures would be equal.
+TEST_F(FlatCaption, isVisibleInTheExpectationItselfAndSoIsTheUnderline)
+{
+    Face face = normalFace();
+    kit::Canvas without(120, 40);
+    kit::Canvas plain(120, 40);
+    kit::Canvas marked(120, 40);
+    paint(without, face, *formFont().get());
+    face.caption = L"Save";
+    paint(plain, face, *formFont().get());
+    face.caption = L"&Save";
+    paint(marked, face, *formFont().get());
+    EXPECT_NE(kit::differences(without, plain), "");
+    EXPECT_NE(kit::differences(plain, marked), "");
+}
+
+TEST_F(FlatCaption, madeOfAnAmpersandFollowedBySaveIsDisplayedAsSaveWithItsSUnderlinedAtTheCaptionsX)
+{
+    expectShown(L"&Save");
+    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L's'}, Key{FALT, L'S'}));
+}
+
+TEST_F(FlatCaption, holdingTwoAmpersandsInARowHasOnlyTheFirstRemovedAndTheSecondUnderlined)
+{
+    expectShown(L"Left && right");
+    for (Key const& key : accelerators())
+        EXPECT_EQ(key, (Key{FALT, L'&'}));
+    EXPECT_FALSE(accelerators().empty());
+}
+
+TEST_F(FlatCaption, withoutAmpersandClearsAccessKeys)
+{
+    expectShown(L"&Keys");
+    ASSERT_FALSE(accelerators().empty());
+    expectShown(L"No keys");
+    EXPECT_THAT(accelerators(), IsEmpty());
+}
+
+TEST_F(FlatCaption, hasItsMarkerAnywhere)
+{
+    expectShown(L"Sa&ve");
+    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'v'}, Key{FALT, L'V'}));
+    expectShown(L"Save&!");
+    expectShown(L"\x00C4nd&ern");
+    expectShown(L"S&ave && &close");
+    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'a'}, Key{FALT, L'A'}));
+}
+
+TEST_F(FlatCaption, withTheMarkerAtItsEndHasNoAccessKey)
+{
+    expectShown(L"Save&");
+    EXPECT_THAT(accelerators(), IsEmpty());
+    expectShown(L"&");
+    EXPECT_THAT(accelerators(), IsEmpty());
+    expectShown(L"");
+    EXPECT_THAT(accelerators(), IsEmpty());
+}
+
+TEST_F(FlatCaption, longerThanTheButtonIsCutAtTheBorder)
+{
+    expectShown(L"A rather &long caption that goes on and on and on");
+    EXPECT_EQ(button->put_CaptionIndent(100), S_OK);
+    Face face = normalFace();
+    face.caption = button.caption();
+    face.indent = 100;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatCaption, startsItsIndentInsideTheBorderOfTheState)
+{
+    button.setCaption(L"&Indented");
+    for (short const indent : std::initializer_list<short>{0, 1, 25, -3}) {
+        EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
+        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
+        Face face = normalFace();
+        face.caption = L"&Indented";
+        face.indent = indent;
+        face.borderWidth = 3;
+        EXPECT_EQ(button.differencesFrom(face), "") << indent;
+    }
+}
+
+// Both halves of a pixel: one size of each kind is odd against the text's.
+TEST_F(FlatCaption, isCentredBothWaysAndRoundedToTheEvenPixel)
+{
+    button.setCaption(L"Cen&tre");
+    EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    Face face = normalFace();
+    face.caption = L"Cen&tre";
+    face.centred = true;
+    for (int extra = 0; extra < 4; ++extra) {
+        button.site().position = {20, 30, 140 + extra, 70 + extra};
+        ASSERT_EQ(
+            button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+            S_OK);
+        ASSERT_EQ(button->Refresh(), S_OK);
+        EXPECT_EQ(button.differencesFrom(face), "") << extra;
+    }
+}
+
+TEST_F(FlatCaption, centredIgnoresTheIndent)
+{
+    button.setCaption(L"Centre");
+    EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(button->put_CaptionIndent(40), S_OK);
+    Face face = normalFace();
+    face.caption = L"Centre";
+    face.centred = true;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatCaption, followsTheFont)
+{
+    button.setFont(kit::newFont(L"Tahoma", 16, true).get());
+    expectShown(L"B&ig");
+}
+
+TEST_F(FlatCaption, leavesTheFontWithoutUnderline)
+{
+    expectShown(L"Und&er");
+    EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
+    auto const underlined = kit::copyOf(*formFont().get(), true);
+    button.setFont(underlined.get());
+    EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
+    expectShown(L"Plain now");
+}
+
+TEST_F(FlatCaption, doesNotUnderlineTheFormsOwnFontNorTheFontOfASibling)
+{
+    auto const shared = formFont();
+    button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(shared.get()).get()));
+    ShownButton sibling(library(), form, {20, 80, 140, 120});
+    button.setFont(shared.get());
+    sibling.setFont(shared.get());
+    button.setCaption(L"&One");
+    sibling.setCaption(L"T&wo");
+    EXPECT_FALSE(kit::isUnderlined(*shared.get()));
+    Face face = normalFace();
+    face.caption = L"&One";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatCaption, tellsTheContainerOfAccessKeysOnlyWhenTheyChange)
+{
+    form.record().forget();
+    button.setCaption(L"&Save");
+    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 1);
+    ASSERT_EQ(button->Refresh(), S_OK);
+    button.setCaption(L"&Store");
+    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 1);
+    button.setCaption(L"S&tore");
+    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 2);
+    button.setCaption(L"Store");
+    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 3);
+    kit::pumpPending();
+    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 3);
+}
+
+} // namespace
+} // namespace quillet::flat

@@ -1,0 +1,305 @@
+// Which qvFlatCommand is emphasised: the one with the focus, or else the form's default button.
+#include "ShownButton.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+
+namespace quillet::flat {
+namespace {
+
+constexpr IID kHostButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
+
+/// A control of the form's own that is asked for by one interface.
+class HostControl final : public kit::Counterpart<IDispatch> {
+public:
+    explicit HostControl(IID const& known) : m_known(known) {}
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override
+    {
+        *count = 0;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return DISP_E_MEMBERNOTFOUND;
+    }
+
+private:
+    void* faceOf(REFIID iid) noexcept override
+    {
+        return iid == m_known ? static_cast<IDispatch*>(this) : Counterpart::faceOf(iid);
+    }
+    IID m_known;
+};
+
+Face emphasised(Face face)
+{
+    face.emphasis = 1;
+    return face;
+}
+
+Face focused(Face face)
+{
+    face.emphasis = 1;
+    face.frame = 0x808080;
+    return face;
+}
+
+class FlatEmphasis : public FlatTest {
+protected:
+    kit::FakeForm form;
+    UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+    ShownButton button{library(), form};
+
+    void SetUp() override
+    {
+        FlatTest::SetUp();
+        ASSERT_TRUE(kit::focus(edit.get()));
+        button.site().extender().offer(L"Default", Variant::ofBool(true));
+    }
+    void setActive(IDispatch* control)
+    {
+        form.object().offer(L"ActiveControl", Variant::ofDispatch(control));
+    }
+    std::string repaintedAgainst(Face const& face)
+    {
+        EXPECT_EQ(button->Refresh(), S_OK);
+        return button.differencesFrom(face);
+    }
+    /// Focus of a control of this library, as the form's extender of it and as the control itself.
+    void checkSibling(CLSID const& classId, bool emphasis)
+    {
+        kit::Hosted sibling(library(), classId, form, {20, 80, 140, 120}, L"Sibling");
+        if (!sibling.object())
+            GTEST_SKIP() << "the component does not have this class yet";
+        sibling.start();
+        Face const face = emphasis ? emphasised(normalFace()) : normalFace();
+        setActive(sibling.as<IDispatch>().get());
+        EXPECT_EQ(repaintedAgainst(face), "") << "as the control itself";
+        setActive(&sibling.site().extender());
+        EXPECT_EQ(repaintedAgainst(face), "") << "as its extender";
+        setActive(nullptr);
+    }
+};
+
+TEST_F(FlatEmphasis, aButtonThatIsNotDefaultAndHasNoFocusHasNone)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis,
+       aFocusedButtonWithBorderStyle1AndBorderWidth1ShowsATwoPixelBorderAndItsCaptionDoesNotMove)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    button.setCaption(L"F&ocus");
+    Face face = normalFace();
+    face.caption = L"F&ocus";
+    EXPECT_EQ(repaintedAgainst(face), "");
+    POINT const before = captionPlace(face, button.size(), *button.font().get());
+    ASSERT_TRUE(kit::focus(button.window()));
+    face = focused(face);
+    EXPECT_EQ(repaintedAgainst(face), "");
+    POINT const after = captionPlace(face, button.size(), *button.font().get());
+    EXPECT_EQ(before.x, after.x);
+    EXPECT_EQ(before.y, after.y);
+}
+
+TEST_F(FlatEmphasis, aFocusedButtonLosesItAgainWithTheFocus)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ASSERT_TRUE(kit::focus(button.window()));
+    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "");
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, withoutShowFocusRectangleAFocusedButtonHasTheBorderAndNoFrame)
+{
+    EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, withShowFocusRectangleTrueAndBackColor808080TheFocusFrameIsDrawnInE0E0E0)
+{
+    EXPECT_EQ(button->put_BackColor(0x808080), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    Face face = focused(normalFace());
+    face.back = 0x808080;
+    face.frame = 0xE0E0E0;
+    EXPECT_EQ(repaintedAgainst(face), "");
+    EXPECT_EQ(button->put_BackColor(0x808081), S_OK);
+    face.back = 0x808081;
+    face.frame = 0x808080;
+    EXPECT_EQ(repaintedAgainst(face), "");
+}
+
+// A system colour counts by what it is on this desktop.
+TEST_F(FlatEmphasis, theFrameColourFollowsTheResolvedBackColour)
+{
+    int grey = 0;
+    while (grey <= COLOR_MENUBAR && ::GetSysColor(grey) != 0x808080)
+        ++grey;
+    ASSERT_LE(grey, COLOR_MENUBAR) << "this desktop has no mid grey";
+    EXPECT_EQ(button->put_BackColor(0x80000000U | static_cast<OLE_COLOR>(grey)), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    Face face = focused(normalFace());
+    face.back = 0x808080;
+    face.frame = 0xE0E0E0;
+    EXPECT_EQ(repaintedAgainst(face), "");
+}
+
+TEST_F(FlatEmphasis, hotAndFocusedTheHotBorderIsOnePixelThicker)
+{
+    ASSERT_TRUE(kit::focus(button.window()));
+    EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(3).get()), S_OK);
+    button.makeHot();
+    Face face = focused(hotFace());
+    face.borderWidth = 3;
+    face.frame = hotFace().back == 0x808080 ? 0xE0E0E0 : 0x808080;
+    EXPECT_EQ(repaintedAgainst(face), "");
+    button.leave();
+}
+
+TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedButtonAtRestHasABlackBorderOnePixelThicker)
+{
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    Face face = focused(taskPaneNormalFace());
+    face.border = 0;
+    EXPECT_EQ(repaintedAgainst(face), "");
+}
+
+TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedHotButtonHasTheNormalHighlightBorderOfItsState)
+{
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    button.makeHot();
+    Face face = taskPaneHotFace();
+    face.borderWidth = 2;
+    face.frame = 0x808080;
+    EXPECT_EQ(repaintedAgainst(face), "");
+    button.leave();
+}
+
+TEST_F(FlatEmphasis, inTheTaskPaneLookTheDefaultButtonAtRestHasABlackBorderOnePixelThicker)
+{
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    Face face = emphasised(taskPaneNormalFace());
+    face.border = 0;
+    EXPECT_EQ(repaintedAgainst(face), "");
+    button.makeHot();
+    EXPECT_EQ(button.differencesFrom(taskPaneHotFace()), "");
+    button.leave();
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(button.differencesFrom(taskPaneDisabledFace()), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAnotherKindOfControlHasTheFocus)
+{
+    auto const textBox = kit::make<HostControl>(IID_IPicture);
+    setActive(textBox.get());
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    setActive(nullptr);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAHostsOwnButtonHasTheFocus)
+{
+    auto const hostButton = kit::make<HostControl>(kHostButton);
+    setActive(hostButton.get());
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    setActive(nullptr);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileTheInnerObjectOfTheActiveExtenderIsAHostsOwnButton)
+{
+    auto const hostButton = kit::make<HostControl>(kHostButton);
+    auto const extender = kit::make<kit::NamedObject>("Active", form.sharedRecord());
+    extender->offer(L"Object", Variant::ofDispatch(hostButton.get()));
+    setActive(extender.get());
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    setActive(nullptr);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAnotherFlatCommandHasTheFocus)
+{
+    checkSibling(kQvFlatCommandClass, false);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAnImageCommandHasTheFocus)
+{
+    checkSibling(kQvImageCommandClass, false);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAFlatToolButtonHasTheFocus)
+{
+    checkSibling(kFlatToolButtonClass, true);
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlIsMissing)
+{
+    form.object().remove(L"ActiveControl");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlCannotBeRead)
+{
+    form.object().refuse(L"ActiveControl", E_FAIL);
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonHasItWhereThereIsNoActiveControl)
+{
+    setActive(nullptr);
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    form.object().offer(L"ActiveControl", Variant());
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheExtenderHasNoParent)
+{
+    button.site().extender().remove(L"Parent");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    button.site().extender().offer(L"Parent", Variant::ofLong(5));
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheExtenderHasNoSuchMark)
+{
+    button.site().extender().remove(L"Default");
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheMarkCannotBeRead)
+{
+    button.site().extender().refuse(L"Default", E_FAIL);
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, nobodyIsDefaultWhereThereIsNoExtender)
+{
+    form.record().answerNothing("Site.GetExtendedControl");
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultMarkMayBeAnyNumberThatIsNotZero)
+{
+    button.site().extender().offer(L"Default", Variant::ofLong(1));
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    button.site().extender().offer(L"Default", Variant::ofLong(0));
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, theDefaultButtonHasNoneAtDesignTime)
+{
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+} // namespace
+} // namespace quillet::flat

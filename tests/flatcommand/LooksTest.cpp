@@ -1,0 +1,360 @@
+// The looks of qvFlatCommand, pixel by pixel.
+#include "ShownButton.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+
+namespace quillet::flat {
+namespace {
+
+constexpr RECT kSmall{20, 30, 34, 38}; // 14 x 8
+
+constexpr COLORREF kFore = RGB(10, 20, 30);
+constexpr COLORREF kBack = RGB(40, 50, 60);
+constexpr COLORREF kBorder = RGB(70, 80, 90);
+kit::Letters const kLetters{{'.', kBack}, {'#', kBorder}, {'f', kFore}, {'g', RGB(0x80, 0x80, 0x80)}};
+
+class FlatLooks : public FlatTest {
+protected:
+    kit::FakeForm form;
+
+    static void setColors(FlatButton& button)
+    {
+        button->put_ForeColor(kFore);
+        button->put_BackColor(kBack);
+        button->put_BorderColor(kBorder);
+    }
+    static void setWidth(FlatButton& button, short width)
+    {
+        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
+    }
+};
+
+TEST_F(FlatLooks, normalIsABorderOfOnePixelRoundTheFace)
+{
+    ShownButton button(library(), form, kSmall);
+    setColors(button);
+    EXPECT_EQ(button.picture(kLetters), "##############\n"
+                                        "#............#\n"
+                                        "#............#\n"
+                                        "#............#\n"
+                                        "#............#\n"
+                                        "#............#\n"
+                                        "#............#\n"
+                                        "##############\n");
+}
+
+TEST_F(FlatLooks, aBorderWidthOf3IsThreePixelsOnEverySide)
+{
+    ShownButton button(library(), form, kSmall);
+    setColors(button);
+    setWidth(button, 3);
+    EXPECT_EQ(button.picture(kLetters), "##############\n"
+                                        "##############\n"
+                                        "##############\n"
+                                        "###........###\n"
+                                        "###........###\n"
+                                        "##############\n"
+                                        "##############\n"
+                                        "##############\n");
+}
+
+TEST_F(FlatLooks, aBorderWidthOf0IsAllFace)
+{
+    ShownButton button(library(), form, kSmall);
+    setColors(button);
+    setWidth(button, 0);
+    kit::Canvas shown(14, 8);
+    button.read(shown);
+    EXPECT_EQ(shown.count(kBack), 14 * 8);
+}
+
+TEST_F(FlatLooks, withTheFocusTheBorderIsOnePixelThickerAndAFrameStandsTwoPixelsInside)
+{
+    ShownButton button(library(), form, kSmall);
+    setColors(button);
+    ASSERT_TRUE(kit::focus(button.window()));
+    ASSERT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.picture(kLetters), "##############\n"
+                                        "##############\n"
+                                        "##..........##\n"
+                                        "##..........##\n"
+                                        "##..........##\n"
+                                        "##..........##\n"
+                                        "##############\n"
+                                        "##############\n")
+        << "8 rows leave no room for a frame";
+    button.site().position = {20, 30, 36, 42};
+    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+              S_OK);
+    ASSERT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.picture(kLetters), "################\n"
+                                        "################\n"
+                                        "##............##\n"
+                                        "##............##\n"
+                                        "##..gggggggg..##\n"
+                                        "##..g......g..##\n"
+                                        "##..g......g..##\n"
+                                        "##..gggggggg..##\n"
+                                        "##............##\n"
+                                        "##............##\n"
+                                        "################\n"
+                                        "################\n");
+}
+
+TEST_F(FlatLooks, normalShowsForeBackAndBorderColourAndTheCaptionAtItsIndent)
+{
+    ShownButton button(library(), form);
+    Face face = normalFace();
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.setCaption(L"Plain");
+    face.caption = L"Plain";
+    EXPECT_EQ(button.differencesFrom(face), "");
+    setColors(button);
+    face = {kFore, kBack, kBorder};
+    face.caption = L"Plain";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Hot");
+    EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(4).get()), S_OK);
+    button.makeHot();
+    Face face = hotFace();
+    face.caption = L"&Hot";
+    face.borderWidth = 4;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button->put_HotForeColor(RGB(1, 1, 1));
+    button->put_HotBackColor(RGB(200, 200, 1));
+    button->put_HotBorderColor(RGB(3, 200, 3));
+    ASSERT_EQ(button->Refresh(), S_OK);
+    face.fore = RGB(1, 1, 1);
+    face.back = RGB(200, 200, 1);
+    face.border = RGB(3, 200, 3);
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.leave();
+    Face normal = normalFace();
+    normal.caption = L"&Hot";
+    EXPECT_EQ(button.differencesFrom(normal), "");
+}
+
+TEST_F(FlatLooks, settingHotBackColorWhileTheButtonIsAtRestChangesNothingUntilTheMouseEnters)
+{
+    ShownButton button(library(), form);
+    EXPECT_EQ(button->put_HotBackColor(RGB(9, 99, 199)), S_OK);
+    kit::pumpPending();
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    ASSERT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    button.makeHot();
+    Face face = hotFace();
+    face.back = RGB(9, 99, 199);
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.leave();
+}
+
+TEST_F(FlatLooks, disabledDiffersFromNormalByItsCaptionColourAlone)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Off");
+    setColors(button);
+    setWidth(button, 2);
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    Face face{::GetSysColor(COLOR_GRAYTEXT), kBack, kBorder};
+    face.caption = L"&Off";
+    face.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    EXPECT_EQ(button->put_DisabledForeColor(RGB(250, 1, 2)), S_OK);
+    face.fore = RGB(250, 1, 2);
+    EXPECT_EQ(button.differencesFrom(face), "");
+    EXPECT_EQ(button->put_Enabled(VARIANT_TRUE), S_OK);
+    face.fore = kFore;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, disabledStaysDisabledUnderTheCursor)
+{
+    ShownButton button(library(), form);
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    button.makeHot();
+    EXPECT_EQ(button.differencesFrom(disabledFace()), "");
+    button.leave();
+}
+
+TEST_F(FlatLooks, taskPaneAtRestIsTextOnFaceInShadowWhateverTheColourProperties)
+{
+    ShownButton button(library(), form);
+    setColors(button);
+    setWidth(button, 2);
+    button.setCaption(L"T&ask");
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    Face face = taskPaneNormalFace();
+    face.caption = L"T&ask";
+    face.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, taskPaneHotIsABlendWithASelectionBorder)
+{
+    ShownButton button(library(), form);
+    setColors(button);
+    button.setCaption(L"T&ask");
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
+    button.makeHot();
+    Face face = taskPaneHotFace();
+    face.caption = L"T&ask";
+    face.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.leave();
+}
+
+TEST_F(FlatLooks, taskPaneDisabledIsShadowOnFaceInShadow)
+{
+    ShownButton button(library(), form);
+    setColors(button);
+    button.setCaption(L"T&ask");
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    Face face = taskPaneDisabledFace();
+    face.caption = L"T&ask";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+// The worked examples of the blend, so that the expectation above is itself checked.
+TEST_F(FlatLooks, tintsOfTheExpectationAreTheWorkedExamples)
+{
+    EXPECT_EQ(tint(0xD8E9EC, 0xC56A31, true), 0xDEB296U);
+    EXPECT_EQ(tint(0xD8E9EC, 0xC56A31, false), 0xDAC7B7U);
+    EXPECT_EQ(tint(0xC8D0D4, 0x6A240A, true), 0xAF8C80U);
+    EXPECT_EQ(tint(0xC8D0D4, 0x6A240A, false), 0xB6A59FU);
+    EXPECT_EQ(tint(0xFFFFFF, 0x000000, true), 0x808080U);
+    EXPECT_EQ(tint(0xFFFFFF, 0x000000, false), 0xB2B2B2U);
+    EXPECT_EQ(tint(0x000000, 0xFFFFFF, true), 0xE4E4E4U);
+    EXPECT_EQ(tint(0x000000, 0xFFFFFF, false), 0x808080U);
+}
+
+TEST_F(FlatLooks, borderStyle0WithBorderWidth5HasNoBorderAndTheCaptionStartsAtCaptionIndent)
+{
+    ShownButton button(library(), form);
+    setColors(button);
+    button.setCaption(L"&Bare");
+    EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
+    setWidth(button, 5);
+    Face face{kFore, kBack, kBorder};
+    face.caption = L"&Bare";
+    face.bordered = false;
+    face.borderWidth = 5;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    EXPECT_EQ(captionPlace(face, button.size(), *button.font().get()).x, 4);
+}
+
+TEST_F(FlatLooks, borderStyle0WithTheFocusHasTheFrameAloneTwoPixelsFromTheEdge)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Bare");
+    EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    ASSERT_EQ(button->Refresh(), S_OK);
+    Face face = normalFace();
+    face.caption = L"&Bare";
+    face.bordered = false;
+    face.frame = 0x808080;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, anUnknownBorderStyleDrawsNoBorder)
+{
+    ShownButton button(library(), form);
+    EXPECT_EQ(button->put_BorderStyle(static_cast<pdsButtonBorderStyleConstants>(2)), S_OK);
+    Face face = normalFace();
+    face.bordered = false;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, aColourThatCannotBeTranslatedIsUsedAsStored)
+{
+    ShownButton button(library(), form);
+    // The high byte is that of no kind of colour.
+    EXPECT_EQ(button->put_BackColor(0x42123456), S_OK);
+    kit::Canvas shown(button.size().cx, button.size().cy);
+    button.read(shown);
+    EXPECT_EQ(shown.at(60, 20), 0x123456U);
+}
+
+TEST_F(FlatLooks, atDesignTimeAHotStateNeverShows)
+{
+    ShownButton button(library(), form);
+    button.makeHot();
+    ASSERT_EQ(button.differencesFrom(hotFace()), "");
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    ASSERT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    ASSERT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    button.leave();
+}
+
+TEST_F(FlatLooks, atDesignTimeADisabledControlIsDrawnDisabled)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Off");
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button->DrawButton(), S_OK);
+    Face face = disabledFace();
+    face.caption = L"&Off";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Off");
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    ASSERT_EQ(button->Refresh(), S_OK);
+    Face face = normalFace();
+    face.caption = L"&Off";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, extremeWidthsAndIndentsEndThePaintSilently)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Far");
+    button.events().forget();
+    int paints = 0;
+    for (short const width : std::initializer_list<short>{SHRT_MIN, -1, 0, 60, SHRT_MAX})
+        for (short const indent : std::initializer_list<short>{SHRT_MIN, -1, 0, 300, SHRT_MAX}) {
+            EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
+            setWidth(button, width);
+            EXPECT_EQ(button->DrawButton(), S_OK);
+            paints += 2;
+        }
+    EXPECT_EQ(button.events().count(kPaint), paints);
+    setWidth(button, 1);
+    EXPECT_EQ(button->put_CaptionIndent(4), S_OK);
+    Face face = normalFace();
+    face.caption = L"&Far";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatLooks, aBorderWiderThanTheButtonIsAllBorder)
+{
+    ShownButton button(library(), form, kSmall);
+    setColors(button);
+    setWidth(button, 4);
+    kit::Canvas shown(14, 8);
+    button.read(shown);
+    EXPECT_EQ(shown.count(kBorder), 14 * 8);
+    setWidth(button, SHRT_MAX);
+    button.read(shown);
+    EXPECT_EQ(shown.count(kBorder), 14 * 8);
+}
+
+} // namespace
+} // namespace quillet::flat

@@ -1,0 +1,133 @@
+// The Paint event of qvFlatCommand, and what brings it about.
+#include "ShownButton.h"
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+
+namespace quillet::flat {
+namespace {
+
+class FlatPaint : public FlatTest {
+protected:
+    kit::FakeForm form;
+    ShownButton button{library(), form};
+
+    void SetUp() override
+    {
+        FlatTest::SetUp();
+        kit::pumpPending();
+        button.events().forget();
+    }
+};
+
+TEST_F(FlatPaint, isRaisedOnceByRefreshAndNotByDrawButton)
+{
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+}
+
+TEST_F(FlatPaint, isRaisedWhenTheWindowIsExposed)
+{
+    ::InvalidateRect(button.window(), nullptr, TRUE);
+    ::UpdateWindow(button.window());
+    EXPECT_EQ(button.events().count(kPaint), 1);
+}
+
+TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
+{
+    std::string found = "no event";
+    button.events().action = [&](kit::EventRecorder::Event const& event) {
+        Face face = normalFace();
+        face.back = RGB(7, 8, 9);
+        face.caption = L"Seen";
+        if (event.id == kPaint)
+            found = button.differencesFrom(face);
+    };
+    EXPECT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
+    button.setCaption(L"Seen");
+    EXPECT_EQ(found, "");
+    button.events().action = nullptr;
+}
+
+TEST_F(FlatPaint, comesWithoutArguments)
+{
+    EXPECT_EQ(button->Refresh(), S_OK);
+    ASSERT_EQ(button.events().count(kPaint), 1);
+    EXPECT_TRUE(button.events().events.front().values.empty());
+}
+
+TEST_F(FlatPaint, putsBackWhatAnotherWindowPaintedOver)
+{
+    button.setCaption(L"&Back");
+    {
+        WindowDc const dc(button.window());
+        RECT const all{0, 0, 500, 500};
+        ::FillRect(dc.get(), &all, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+    }
+    ::InvalidateRect(button.window(), nullptr, FALSE);
+    kit::pumpPending();
+    Face face = normalFace();
+    face.caption = L"&Back";
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatPaint, fillsANewSizeToItsEdges)
+{
+    button.site().position = {10, 10, 210, 110};
+    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+              S_OK);
+    kit::pumpPending();
+    EXPECT_EQ(button.size().cx, 200);
+    EXPECT_EQ(button.size().cy, 100);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+}
+
+TEST_F(FlatPaint, ofAButtonWithoutAnyPixelsIsHarmless)
+{
+    button.site().position = {10, 10, 10, 10};
+    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+              S_OK);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button->DrawButton(), S_OK);
+}
+
+TEST_F(FlatPaint, mousePointerAndMouseIconChangesDoNotRepaintTheButton)
+{
+    EXPECT_EQ(button->put_MousePointer(11), S_OK);
+    EXPECT_EQ(button->putref_MouseIcon(kit::newIconPicture().get()), S_OK);
+    EXPECT_EQ(button->put_MousePointer(99), S_OK);
+    kit::pumpPending();
+    EXPECT_EQ(button.events().count(kPaint), 0);
+}
+
+TEST_F(FlatPaint, mayAssignAPropertyAgainWithoutHangingUp)
+{
+    int rounds = 0;
+    button.events().action = [&](kit::EventRecorder::Event const& event) {
+        if (event.id == kPaint && ++rounds < 4)
+            button->put_BackColor(static_cast<OLE_COLOR>(rounds));
+    };
+    EXPECT_EQ(button->Refresh(), S_OK);
+    button.events().action = nullptr;
+    EXPECT_EQ(rounds, 4);
+    Face face = normalFace();
+    face.back = 3;
+    EXPECT_EQ(button.differencesFrom(face), "");
+}
+
+TEST_F(FlatPaint, isNotRaisedAtDesignTime)
+{
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
+    button.events().forget();
+    EXPECT_EQ(button->Refresh(), S_OK);
+    ::InvalidateRect(button.window(), nullptr, TRUE);
+    kit::pumpPending();
+    EXPECT_TRUE(button.events().ids().empty());
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+}
+
+} // namespace
+} // namespace quillet::flat

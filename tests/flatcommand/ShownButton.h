@@ -1,0 +1,31 @@
+// A running qvFlatCommand on the screen, compared with the picture that it must show.
+#pragma once
+
+#include "Face.h"
+#include "FlatButton.h"
+
+#include <string>
+
+namespace quillet::flat {
+
+enum class Caption { None, Named };
+
+/// Activated and painted; without a caption unless a test wants the name's.
+class ShownButton : public FlatButton {
+public:
+    ShownButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace);
+
+    SIZE size() const;
+    /// What the window shows now.
+    void read(kit::Canvas& canvas) const;
+    /// Empty when the window shows the expected face; else the pixels that differ.
+    std::string differencesFrom(Face const& face) const;
+    /// The same for a picture as text, for buttons small enough.
+    std::string picture(kit::Letters const& letters) const;
+
+    /// Moves the cursor onto the button and repaints it.
+    void makeHot();
+    void leave();
+};
+
+} // namespace quillet::flat

@@ -1,0 +1,243 @@
+// qvFlatCommand in a stream, whole and damaged.
+#include "FlatButton.h"
+#include "SavedRows.h"
+#include "kit/ByName.h"
+#include "kit/Fonts.h"
+#include "kit/Memory.h"
+
+#include <optional>
+#include <random>
+
+namespace quillet::flat {
+namespace {
+
+using kit::Bytes;
+
+class FlatStream : public FlatTest {
+protected:
+    kit::FakeForm form;
+    FlatButton button{library(), form};
+
+    void SetUp() override
+    {
+        FlatTest::SetUp();
+        ASSERT_EQ(button.setSite(), S_OK);
+        ASSERT_EQ(button.initNew(), S_OK);
+    }
+    /// A value in every property.
+    static void assignAll(FlatButton& target)
+    {
+        for (SavedRow const& row : savedRows())
+            if (row.type != VT_UNKNOWN) {
+                EXPECT_EQ(kit::putByName(*target.dual(), row.name, row.other).result, S_OK)
+                    << kit::narrow(row.name);
+            }
+        target.setFont(kit::newFont(L"Tahoma", 33, true).get());
+        EXPECT_EQ(target->putref_MouseIcon(kit::newBitmapPicture(7, 5, RGB(1, 2, 3)).get()), S_OK);
+    }
+    static Bytes saved(FlatButton& from)
+    {
+        auto const stream = kit::streamOf();
+        EXPECT_EQ(from.as<IPersistStreamInit>()->Save(stream.get(), FALSE), S_OK);
+        return kit::bytesOf(*stream.get());
+    }
+    static HRESULT load(FlatButton& into, Bytes const& bytes)
+    {
+        return into.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+    }
+    /// Bytes that a button with a value in every property saves.
+    Bytes fullBytes()
+    {
+        FlatButton full(library(), form, kPlace, L"Full");
+        full.setSite();
+        full.initNew();
+        assignAll(full);
+        return saved(full);
+    }
+};
+
+TEST_F(FlatStream, givesBackWhatWasSaved)
+{
+    assignAll(button);
+    auto const before = stateOf(button);
+    Bytes const bytes = saved(button);
+    FlatButton other(library(), form);
+    ASSERT_EQ(other.setSite(), S_OK);
+    ASSERT_EQ(load(other, bytes), S_OK);
+    EXPECT_EQ(stateOf(other), before);
+    EXPECT_TRUE(kit::equalFonts(*other.font().get(), *button.font().get()));
+}
+
+TEST_F(FlatStream, givesBackDefaultsOverOtherValues)
+{
+    button.setCaption(L"");
+    auto const before = stateOf(button);
+    Bytes const bytes = saved(button);
+    FlatButton other(library(), form);
+    ASSERT_EQ(other.setSite(), S_OK);
+    assignAll(other);
+    ASSERT_EQ(load(other, bytes), S_OK);
+    EXPECT_EQ(stateOf(other), before);
+}
+
+TEST_F(FlatStream, givesBackACaptionOfAnyCharacters)
+{
+    std::wstring text = L"a&\x20AC\xD83D\xDE00\n\x0001";
+    text += L'\0';
+    text += std::wstring(3000, L'x');
+    ASSERT_EQ(button->put_Caption(Bstr(text).get()), S_OK);
+    FlatButton other(library(), form);
+    ASSERT_EQ(load(other, saved(button)), S_OK);
+    EXPECT_EQ(other.caption(), text);
+}
+
+TEST_F(FlatStream, leavesOutDefaults)
+{
+    button.setCaption(L"");
+    Bytes const defaults = saved(button);
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
+    EXPECT_GT(saved(button).size(), defaults.size());
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(1).get()), S_OK);
+    EXPECT_EQ(saved(button), defaults);
+}
+
+TEST_F(FlatStream, readsAndWritesNothingButItsOwnPart)
+{
+    assignAll(button);
+    FlatButton second(library(), form, kPlace, L"Second");
+    ASSERT_EQ(second.setSite(), S_OK);
+    ASSERT_EQ(second.initNew(), S_OK);
+    auto const stream = kit::streamOf();
+    ASSERT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    ASSERT_EQ(second.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    Bytes const both = kit::bytesOf(*stream.get());
+    auto const reading = kit::streamOf(both);
+    FlatButton first(library(), form, kPlace, L"X");
+    FlatButton next(library(), form, kPlace, L"Y");
+    ASSERT_EQ(first.as<IPersistStreamInit>()->Load(reading.get()), S_OK);
+    ASSERT_EQ(next.as<IPersistStreamInit>()->Load(reading.get()), S_OK);
+    EXPECT_EQ(kit::positionOf(*reading.get()), both.size());
+    EXPECT_EQ(first.caption(), L"&Save");
+    EXPECT_EQ(next.caption(), L"Second");
+}
+
+TEST_F(FlatStream, saysHowLargeItWillBeAtMost)
+{
+    assignAll(button);
+    ULARGE_INTEGER size{};
+    ASSERT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(&size), S_OK);
+    EXPECT_GE(size.QuadPart, saved(button).size());
+    EXPECT_LT(size.QuadPart, 0x10000U);
+    EXPECT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(nullptr), E_POINTER);
+}
+
+TEST_F(FlatStream, namesItsClass)
+{
+    CLSID classId{};
+    EXPECT_EQ(button.as<IPersistStreamInit>()->GetClassID(&classId), S_OK);
+    EXPECT_EQ(classId, kQvFlatCommandClass);
+    EXPECT_EQ(button.as<IPersistStreamInit>()->GetClassID(nullptr), E_POINTER);
+}
+
+TEST_F(FlatStream, isDirtyFromAChangeToASaveThatClears)
+{
+    auto const persistent = button.as<IPersistStreamInit>();
+    ASSERT_EQ(load(button, saved(button)), S_OK);
+    EXPECT_EQ(persistent->IsDirty(), S_FALSE);
+    button.setCaption(L"changed");
+    EXPECT_EQ(persistent->IsDirty(), S_OK);
+    ASSERT_EQ(persistent->Save(kit::streamOf().get(), FALSE), S_OK);
+    EXPECT_EQ(persistent->IsDirty(), S_OK);
+    ASSERT_EQ(persistent->Save(kit::streamOf().get(), TRUE), S_OK);
+    EXPECT_EQ(persistent->IsDirty(), S_FALSE);
+}
+
+TEST_F(FlatStream, refusesNoStream)
+{
+    EXPECT_TRUE(FAILED(button.as<IPersistStreamInit>()->Load(nullptr)));
+    EXPECT_TRUE(FAILED(button.as<IPersistStreamInit>()->Save(nullptr, TRUE)));
+}
+
+TEST_F(FlatStream, endingTooEarlyIsRefusedAtEveryLengthAndChangesNothing)
+{
+    Bytes const full = fullBytes();
+    auto const before = stateOf(button);
+    for (size_t length = 0; length < full.size(); ++length) {
+        ASSERT_TRUE(FAILED(load(button, Bytes(full.begin(), full.begin() + static_cast<ptrdiff_t>(length)))))
+            << length << " of " << full.size();
+        ASSERT_EQ(stateOf(button), before) << length << " of " << full.size();
+    }
+    EXPECT_EQ(load(button, full), S_OK);
+}
+
+TEST_F(FlatStream, failingWhileItIsReadIsRefusedAndChangesNothing)
+{
+    Bytes const full = fullBytes();
+    auto const before = stateOf(button);
+    auto const persistent = button.as<IPersistStreamInit>();
+    for (size_t length = 0; length < full.size(); length += 3) {
+        Bytes const part(full.begin(), full.begin() + static_cast<ptrdiff_t>(length));
+        ASSERT_TRUE(FAILED(persistent->Load(kit::brokenStream(part, 0).get()))) << length;
+    }
+    EXPECT_EQ(stateOf(button), before);
+}
+
+TEST_F(FlatStream, thatTakesNoMoreFailsTheSaveWhichStaysDirty)
+{
+    assignAll(button);
+    auto const persistent = button.as<IPersistStreamInit>();
+    size_t const size = saved(button).size();
+    for (size_t taken = 0; taken < size; taken += 7)
+        ASSERT_EQ(persistent->Save(kit::brokenStream({}, static_cast<ULONG>(taken)).get(), TRUE),
+                  STG_E_MEDIUMFULL)
+            << taken;
+    EXPECT_EQ(persistent->IsDirty(), S_OK);
+}
+
+TEST_F(FlatStream, damagedAtRandomIsLoadedOrRefusedAndChangesNothingWhenRefused)
+{
+    Bytes const full = fullBytes();
+    auto const before = stateOf(button);
+    std::optional<FlatButton> target;
+    std::mt19937 random(20260101);
+    int refused = 0;
+    int loaded = 0;
+    constexpr int kRounds = 4000;
+    for (int round = 0; round < kRounds; ++round) {
+        Bytes damaged = full;
+        for (unsigned changes = 1 + random() % 4; changes > 0; --changes)
+            damaged[random() % damaged.size()] = static_cast<BYTE>(random() % 4 ? random() : 0xFFU);
+        if (!target) {
+            target.emplace(library(), form);
+            ASSERT_EQ(target->setSite(), S_OK);
+            ASSERT_EQ(target->initNew(), S_OK);
+        }
+        if (SUCCEEDED(load(*target, damaged))) {
+            ++loaded;
+            target.reset(); // a fresh one for the next round
+            continue;
+        }
+        ++refused;
+        ASSERT_EQ(stateOf(*target), before) << "a refused stream changed the control in round " << round;
+    }
+    EXPECT_GT(refused, kRounds / 20) << "hardly anything is checked";
+    EXPECT_GT(loaded, kRounds / 20) << "no damage is ever in a value";
+}
+
+// Lengths and counts of every size at every place: no buffer may be trusted.
+TEST_F(FlatStream, withAnyLengthAtAnyPlaceIsLoadedOrRefused)
+{
+    Bytes const full = fullBytes();
+    for (size_t at = 0; at + 4 <= full.size(); ++at)
+        for (DWORD const value :
+             {0U, 1U, 0x7FFFU, 0x8000U, 0xFFFFU, 0x10000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
+            Bytes damaged = full;
+            memcpy(damaged.data() + at, &value, sizeof value);
+            load(button, damaged);
+        }
+    EXPECT_EQ(load(button, full), S_OK);
+    EXPECT_EQ(button.caption(), L"&Save");
+}
+
+} // namespace
+} // namespace quillet::flat

@@ -1,0 +1,37 @@
+// The system's own control host: a window of atl.dll.
+#include "kit/AtlHost.h"
+
+namespace quillet::kit {
+
+namespace {
+
+using WinInit = BOOL WINAPI();
+using AttachControl = HRESULT WINAPI(IUnknown*, HWND, IUnknown**);
+
+/// Loaded for as long as the program runs: its window class stays registered.
+template <class Function> Function* entry(char const* name)
+{
+    HMODULE const module = ::LoadLibraryW(L"atl.dll");
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(module, name)));
+}
+
+HWND newHostWindow(HWND parent, RECT const& place)
+{
+    if (auto* const init = entry<WinInit>("AtlAxWinInit"))
+        init();
+    return ::CreateWindowExW(0, L"AtlAxWin", L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place.left, place.top,
+                             place.right - place.left, place.bottom - place.top, parent, nullptr, nullptr,
+                             nullptr);
+}
+
+} // namespace
+
+AtlHost::AtlHost(HWND parent, RECT const& place) : m_window(newHostWindow(parent, place)) {}
+
+HRESULT AtlHost::attach(IUnknown* control)
+{
+    auto* const attachControl = entry<AttachControl>("AtlAxAttachControl");
+    return attachControl ? attachControl(control, window(), nullptr) : E_NOTIMPL;
+}
+
+} // namespace quillet::kit
