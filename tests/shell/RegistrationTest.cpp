@@ -1,0 +1,260 @@
+// Registering and unregistering: what is there then, and what is not there any more.
+#include "RegistrySnapshot.h"
+#include "Regsvr32.h"
+#include "base/Bstr.h"
+#include "base/ComPtr.h"
+#include "kit/Library.h"
+#include "shell/RegistryKey.h"
+#include "typelib/Guids.h"
+
+#include <ole2.h>
+#include <windows.h>
+
+#include <gtest/gtest.h>
+#include <oleauto.h>
+
+#include <string_view>
+
+namespace quillet {
+namespace {
+
+using Lines = std::vector<std::wstring>;
+Lines const kNone;
+
+std::wstring const kClass = L"clsid\\{cf82fc21-7b85-4c5d-a482-1bbdba57101f}";
+std::wstring const kTypeLib = L"typelib\\{b451fb09-0e80-40cf-b3bd-7cc480918f2f}";
+std::wstring const kLibraryFile = kTypeLib + (sizeof(void*) == 8 ? L"\\1.0\\0\\win64" : L"\\1.0\\0\\win32");
+wchar_t const* const kProgIds[] = {L"quillet.qvflatcommand", L"quillet.qvflatcommand.1"};
+
+struct PublishedInterface {
+    wchar_t const* name;
+    wchar_t const* key;
+};
+
+PublishedInterface const kInterfaces[] = {
+    {L"_qvFlatCommand", L"interface\\{55b69c8d-98d9-49fc-be01-e4160910134e}"},
+    {L"_qvFlatOption", L"interface\\{96ab40c0-f9d7-4e6e-9a75-cd68e0a4553c}"},
+    {L"_qvFlatCheck", L"interface\\{8d0b870e-ad1d-4d20-a00f-b1f554ddf54a}"},
+    {L"_FlatToolButton", L"interface\\{4e8421c6-6ade-478b-84b4-003257866758}"},
+    {L"_qvImageCommand", L"interface\\{0f6cb807-7d82-4ece-8f93-cc516cbce7df}"},
+    {L"__qvFlatCommand", L"interface\\{f0249f40-b071-4c35-96ea-a31e15b612fa}"},
+    {L"__qvFlatOption", L"interface\\{f5e85e92-55d6-4a6e-827d-e6be7b238c63}"},
+    {L"__qvFlatCheck", L"interface\\{6a42653b-f71f-4b3e-8f46-142dbb3a483e}"},
+    {L"__FlatToolButton", L"interface\\{fd1e8664-15c3-4ae8-8577-69221f326270}"},
+    {L"__qvImageCommand", L"interface\\{060be7b4-306a-49ba-b393-c520427b99e6}"},
+};
+
+std::wstring folder()
+{
+    std::wstring const path = kit::Library::path();
+    return path.substr(0, path.rfind(L'\\'));
+}
+
+Snapshot ofClass(HKEY root) { return classesBelow(root, {kClass, kProgIds[0], kProgIds[1]}); }
+
+Snapshot ofTypeLibrary(HKEY root)
+{
+    Lines keys{kTypeLib};
+    for (PublishedInterface const& published : kInterfaces)
+        keys.push_back(published.key);
+    return classesBelow(root, keys);
+}
+
+/// Everything about the class itself, written down from what containers read.
+Snapshot expectedClass()
+{
+    wchar_t const text[] = L"Quillet flat command button";
+    wchar_t const classId[] = L"{CF82FC21-7B85-4C5D-A482-1BBDBA57101F}";
+    Snapshot rows{
+        {kClass + L"@", text},
+        {kClass + L"\\inprocserver32@", kit::Library::path()},
+        {kClass + L"\\inprocserver32@threadingmodel", L"Apartment"},
+        {kClass + L"\\progid@", L"Quillet.qvFlatCommand.1"},
+        {kClass + L"\\versionindependentprogid@", L"Quillet.qvFlatCommand"},
+        {kClass + L"\\miscstatus@", L"0"},
+        {kClass + L"\\miscstatus\\1@", L"135569"}, // 0x20000 + 0x1000 + 0x100 + 0x80 + 0x10 + 0x1
+        {kClass + L"\\toolboxbitmap32@", kit::Library::path() + L", 101"},
+        {kClass + L"\\typelib@", L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}"},
+        {kClass + L"\\version@", L"1.0"},
+        {kClass + L"\\verb\\0@", L"&Edit,0,2"},
+        {L"quillet.qvflatcommand@", text},
+        {L"quillet.qvflatcommand\\clsid@", classId},
+        {L"quillet.qvflatcommand\\curver@", L"Quillet.qvFlatCommand.1"},
+        {L"quillet.qvflatcommand.1@", text},
+        {L"quillet.qvflatcommand.1\\clsid@", classId},
+    };
+    for (wchar_t const* const name :
+         {L"", L"\\inprocserver32", L"\\progid", L"\\versionindependentprogid", L"\\miscstatus",
+          L"\\miscstatus\\1", L"\\toolboxbitmap32", L"\\typelib", L"\\version", L"\\verb", L"\\verb\\0",
+          L"\\control", L"\\programmable", L"\\implemented categories",
+          L"\\implemented categories\\{40fc6ed4-2438-11cf-a3db-080036f12502}",
+          L"\\implemented categories\\{40fc6ed5-2438-11cf-a3db-080036f12502}",
+          L"\\implemented categories\\{0de86a52-2baa-11cf-a229-00aa003d7352}",
+          L"\\implemented categories\\{0de86a54-2baa-11cf-a229-00aa003d7352}",
+          L"\\implemented categories\\{0de86a57-2baa-11cf-a229-00aa003d7352}"})
+        rows[kClass + name + L"\\"] = L"";
+    for (std::wstring const name :
+         {L"quillet.qvflatcommand", L"quillet.qvflatcommand\\clsid", L"quillet.qvflatcommand\\curver",
+          L"quillet.qvflatcommand.1", L"quillet.qvflatcommand.1\\clsid"})
+        rows[name + L"\\"] = L"";
+    return rows;
+}
+
+void expectTypeLibrary(HKEY root)
+{
+    Snapshot now = ofTypeLibrary(root);
+    EXPECT_EQ(now[kTypeLib + L"\\1.0@"], L"Quillet flat buttons");
+    EXPECT_EQ(now[kTypeLib + L"\\1.0\\flags@"], L"10"); // control, has a disk image
+    EXPECT_EQ(now[kTypeLib + L"\\1.0\\helpdir@"], folder());
+    EXPECT_EQ(now[kLibraryFile + L"@"], kit::Library::path());
+    for (PublishedInterface const& published : kInterfaces) {
+        EXPECT_EQ(now[published.key + std::wstring(L"@")], published.name);
+        EXPECT_EQ(now[published.key + std::wstring(L"\\typelib@")],
+                  L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}");
+        EXPECT_EQ(now[published.key + std::wstring(L"\\typelib@version")], L"1.0");
+    }
+}
+
+void expectNothing(HKEY root)
+{
+    EXPECT_EQ(differences({}, ofClass(root)), kNone);
+    EXPECT_EQ(differences({}, ofTypeLibrary(root)), kNone);
+}
+
+/// Changes the own value of one of the machine's classes' keys.
+void setMachineValue(std::wstring const& key, std::wstring const& text)
+{
+    HKEY opened = nullptr;
+    ASSERT_EQ(
+        ::RegOpenKeyExW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), 0, KEY_WRITE, &opened),
+        ERROR_SUCCESS);
+    UniqueKey const owned(opened);
+    ASSERT_EQ(::RegSetValueExW(opened, nullptr, 0, REG_SZ, reinterpret_cast<BYTE const*>(text.c_str()),
+                               static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
+              ERROR_SUCCESS);
+}
+
+class Registration : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        expectNothing(HKEY_LOCAL_MACHINE);
+        expectNothing(HKEY_CURRENT_USER);
+    }
+
+    void TearDown() override
+    {
+        EXPECT_EQ(regsvr32(L"/u"), 0u);
+        expectNothing(HKEY_LOCAL_MACHINE);
+        expectNothing(HKEY_CURRENT_USER);
+    }
+};
+
+TEST_F(Registration, forTheMachineWritesClassAndTypeLibraryAndLeavesTheUserAlone)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_LOCAL_MACHINE)), kNone);
+    expectTypeLibrary(HKEY_LOCAL_MACHINE);
+    expectNothing(HKEY_CURRENT_USER);
+}
+
+TEST_F(Registration, forTheUserWritesTheSameAndLeavesTheMachineAlone)
+{
+    ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
+    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_CURRENT_USER)), kNone);
+    expectTypeLibrary(HKEY_CURRENT_USER);
+    expectNothing(HKEY_LOCAL_MACHINE);
+
+    EXPECT_EQ(regsvr32(L"/u /n /i:user"), 0u);
+    expectNothing(HKEY_CURRENT_USER);
+}
+
+TEST_F(Registration, unregisteringForTheUserLeavesTheMachineRegistered)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
+    ASSERT_EQ(regsvr32(L"/u /n /i:user"), 0u);
+    expectNothing(HKEY_CURRENT_USER);
+    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_LOCAL_MACHINE)), kNone);
+    expectTypeLibrary(HKEY_LOCAL_MACHINE);
+}
+
+TEST_F(Registration, twiceIsTheSameAsOnceAndUnregisteringLeavesTheRegistryAsItWas)
+{
+    Snapshot const before = allClasses(HKEY_LOCAL_MACHINE);
+    ASSERT_EQ(regsvr32(L""), 0u);
+    Snapshot const once = allClasses(HKEY_LOCAL_MACHINE);
+    EXPECT_GT(once.size(), before.size());
+    ASSERT_EQ(regsvr32(L""), 0u);
+    EXPECT_EQ(differences(once, allClasses(HKEY_LOCAL_MACHINE)), kNone);
+    ASSERT_EQ(regsvr32(L"/u"), 0u);
+    EXPECT_EQ(differences(before, allClasses(HKEY_LOCAL_MACHINE)), kNone);
+}
+
+TEST_F(Registration, letsTheSystemFindTheClassByName)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    CLSID classId{};
+    ASSERT_EQ(::CLSIDFromProgID(L"Quillet.qvFlatCommand", &classId), S_OK);
+    EXPECT_EQ(classId, kQvFlatCommandClass);
+    ASSERT_EQ(::CLSIDFromProgID(L"Quillet.qvFlatCommand.1", &classId), S_OK);
+    EXPECT_EQ(classId, kQvFlatCommandClass);
+
+    DWORD status = 0;
+    EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_CONTENT, &status), S_OK);
+    EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
+                                         OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
+                                         OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON));
+    EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_ICON, &status), S_OK);
+    EXPECT_EQ(status, 0u);
+
+    Bstr path;
+    EXPECT_EQ(::QueryPathOfRegTypeLib(kLibraryId, 1, 0, LOCALE_NEUTRAL, path.put()), S_OK);
+    EXPECT_STREQ(path.get(), kit::Library::path().c_str());
+}
+
+TEST_F(Registration, letsTheSystemMakeAnObjectAndUnloadTheComponent)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    {
+        ComPtr<IUnknown> object;
+        EXPECT_EQ(::CoCreateInstance(kQvFlatCommandClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                                     reinterpret_cast<void**>(object.put())),
+                  S_OK);
+        EXPECT_NE(::GetModuleHandleW(L"quilbt.ocx"), nullptr);
+    }
+    ::CoFreeUnusedLibrariesEx(0, 0);
+    EXPECT_EQ(::GetModuleHandleW(L"quilbt.ocx"), nullptr);
+}
+
+TEST_F(Registration, unregisteringLeavesACopyInAnotherFileAlone)
+{
+    std::wstring const server = kClass + L"\\InprocServer32";
+    ASSERT_EQ(regsvr32(L""), 0u);
+    setMachineValue(server, L"C:\\another\\quilbt.ocx");
+    setMachineValue(kLibraryFile, L"C:\\another\\quilbt.ocx");
+    Snapshot const classOfAnother = ofClass(HKEY_LOCAL_MACHINE);
+    Snapshot const libraryOfAnother = ofTypeLibrary(HKEY_LOCAL_MACHINE);
+
+    EXPECT_EQ(regsvr32(L"/u"), 0u);
+    EXPECT_EQ(differences(classOfAnother, ofClass(HKEY_LOCAL_MACHINE)), kNone);
+    EXPECT_EQ(differences(libraryOfAnother, ofTypeLibrary(HKEY_LOCAL_MACHINE)), kNone);
+
+    setMachineValue(server, kit::Library::path());
+    setMachineValue(kLibraryFile, kit::Library::path());
+}
+
+TEST_F(Registration, unregisteringWhatIsNotRegisteredSucceeds) { EXPECT_EQ(regsvr32(L"/u"), 0u); }
+
+TEST_F(Registration, refusesACommandLineThatItDoesNotKnow)
+{
+    kit::Library const library;
+    using Install = HRESULT STDMETHODCALLTYPE(BOOL, LPCWSTR);
+    auto* const install = library.entry<Install>("DllInstall");
+    ASSERT_NE(install, nullptr);
+    EXPECT_EQ(install(TRUE, L"everybody"), E_INVALIDARG);
+    EXPECT_EQ(install(FALSE, L"everybody"), E_INVALIDARG);
+}
+
+} // namespace
+} // namespace quillet
