@@ -1,0 +1,253 @@
+// The component's own controls on the demonstration form: found by file, loaded, pressed, and let go again.
+#include "gallery/ControlLibrary.h"
+#include "gallery/Extender.h"
+#include "gallery/Form.h"
+#include "gallery/HostedControl.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace quillet::gallery::test {
+namespace {
+
+using ::testing::Contains;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+constexpr wchar_t kFormFile[] = GALLERY_FORMS L"/buttons.frm";
+constexpr DWORD kPatience = 5000; // milliseconds
+
+std::wstring programFolder()
+{
+    std::wstring path(1024, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
+std::string narrow(std::wstring const& text) { return std::string(text.begin(), text.end()); }
+
+/// The demonstration form, live, with everything that it raises written down.
+class Demo {
+public:
+    explicit Demo(UserMode mode = UserMode::Run)
+        : m_tree(readFormFile(kFormFile)), m_libraries(m_tree.objects, {programFolder()})
+    {
+        FormOptions options;
+        options.mode = mode;
+        options.factory = [this](auto library, auto className) {
+            return m_libraries.create(library, className);
+        };
+        options.onEvent = [this](FormEvent const& event) {
+            events.push_back(narrow(event.control.state().name + L"." + std::wstring(event.name)));
+        };
+        options.onWarning = [this](FormError const& warning) { warnings.push_back(narrow(warning.text())); };
+        m_form = std::make_unique<Form>(m_tree, std::move(options));
+    }
+
+    Form& form() { return *m_form; }
+    FormTree const& tree() const { return m_tree; }
+    FormControl& control(wchar_t const* name) { return *m_form->find(name); }
+    IDispatch& extender(wchar_t const* name) { return control(name).extender(); }
+    void focusOn(wchar_t const* name)
+    {
+        control(name).focus();
+        m_form->focus().update();
+    }
+
+    /// One key message, the way that the message loop handles it.
+    void key(UINT message, WPARAM key)
+    {
+        MSG sent{::GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 | 1 : 1, 0, {}};
+        if (!m_form->translate(sent))
+            ::SendMessageW(sent.hwnd, message, key, sent.lParam);
+    }
+
+    /// Pumps messages until the event has been raised; whether it was.
+    bool waitFor(std::string const& event)
+    {
+        DWORD const end = ::GetTickCount() + kPatience;
+        while (std::find(events.begin(), events.end(), event) == events.end()) {
+            if (static_cast<LONG>(::GetTickCount() - end) > 0)
+                return false;
+            pump();
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+        }
+        return true;
+    }
+
+    void pump()
+    {
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            if (!m_form->translate(message)) {
+                ::TranslateMessage(&message);
+                ::DispatchMessageW(&message);
+            }
+    }
+
+    std::vector<std::string> events;
+    std::vector<std::string> warnings;
+
+private:
+    FormTree m_tree;
+    ControlLibraries m_libraries;
+    std::unique_ptr<Form> m_form;
+};
+
+TEST(RealControl, theFileBesideTheProgramMakesItsControlsWithoutRegistration)
+{
+    ControlLibraries libraries({{L"{any}", L"C:\\elsewhere\\quilbt.ocx", 0}},
+                               {L"C:\\nowhere", programFolder()});
+    NewControl const made = libraries.create(L"quillet", L"QVFLATCOMMAND");
+    EXPECT_TRUE(made.object);
+    EXPECT_TRUE(made.classInfo);
+    EXPECT_TRUE(query<IOleObject>(made.object.get()));
+}
+
+TEST(RealControl, whatCannotBeMadeSaysWhy)
+{
+    ControlLibraries libraries({{L"{any}", L"quilbt.ocx", 0}, {L"{any}", L"gone.ocx", 0}}, {programFolder()});
+    EXPECT_EQ(libraries.create(L"Quillet", L"qvFrog").failure, L"the library has no class of that name");
+    EXPECT_THAT(narrow(libraries.create(L"Frog", L"Pond").failure),
+                HasSubstr("not registered; gone.ocx is neither beside the program nor beside the form"));
+}
+
+TEST(RealControl, aFileThatIsNoComponentIsATroubleAndNoMore)
+{
+    std::wstring const path = programFolder() + L"\\notes.ocx";
+    ::DeleteFileW(path.c_str());
+    HANDLE const file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    ::CloseHandle(file);
+    ControlLibraries libraries({{L"{any}", L"notes.ocx", 0}}, {programFolder()});
+    EXPECT_THAT(narrow(libraries.create(L"Notes", L"Note").failure), HasSubstr("notes.ocx cannot be used"));
+    ::DeleteFileW(path.c_str());
+}
+
+TEST(RealControl, theDemonstrationFormOpensWithoutAWarningAndEveryControlIsLive)
+{
+    Demo demo;
+    EXPECT_THAT(demo.warnings, IsEmpty());
+    int live = 0;
+    for (auto const& control : demo.form().controls()) {
+        EXPECT_NE(control->window(), nullptr) << narrow(control->state().name);
+        live += control->isEmbedding();
+    }
+    EXPECT_EQ(live, 20);
+}
+
+TEST(RealControl, theFormsLinesAreTheControlsProperties)
+{
+    Demo demo;
+    IDispatch& thick = demo.extender(L"cmdThick");
+    EXPECT_EQ(getByName(thick, L"Caption").toString().view(), L"&Thick border");
+    EXPECT_EQ(getByName(thick, L"BorderWidth").toLong(), 3);
+    EXPECT_EQ(getByName(thick, L"HotBorderWidth").toLong(), 5);
+    EXPECT_EQ(getByName(thick, L"BorderColor").toLong(), 0x408000);
+    EXPECT_EQ(getByName(thick, L"ToolTipText").toString().view(), L"3 pixels, 5 when hot, 2 when pressed");
+    EXPECT_FALSE(getByName(demo.extender(L"cmdDisabled"), L"Enabled").toBool());
+    EXPECT_TRUE(getByName(demo.extender(L"cmdBlank"), L"OfficeXPColors").toBool());
+    auto const font = getByName(demo.extender(L"cmdItalic"), L"Font").toObject().as<IFont>();
+    ASSERT_TRUE(font);
+    BOOL italic = FALSE;
+    font->get_Italic(&italic);
+    EXPECT_TRUE(italic);
+}
+
+TEST(RealControl, whatAControlSavesIsWhatItsLinesSay)
+{
+    Demo demo;
+    auto const bag = dynamic_cast<HostedControl&>(demo.control(L"cmdColoured")).save(false);
+    EXPECT_EQ(bag->find(L"Caption")->toString().view(), L"C&oloured");
+    EXPECT_EQ(bag->find(L"BackColor")->toLong(), 0xFBE6D2);
+    EXPECT_EQ(bag->find(L"PressedForeColor")->toLong(), 0xFFFFFF);
+    EXPECT_EQ(bag->find(L"BorderWidth"), nullptr) << "a default value is not saved";
+    EXPECT_EQ(bag->find(L"ToolTipText"), nullptr) << "the extender keeps the tooltip text";
+    EXPECT_EQ(bag->find(L"Left"), nullptr);
+}
+
+TEST(RealControl, enterPressesTheDefaultButtonAndEscTheCancelButton)
+{
+    Demo demo;
+    demo.focusOn(L"txtName");
+    demo.key(WM_KEYDOWN, VK_RETURN);
+    EXPECT_THAT(demo.events, Contains("cmdSave.Click"));
+    demo.events.clear();
+    demo.key(WM_KEYDOWN, VK_ESCAPE);
+    EXPECT_THAT(demo.events, Contains("cmdCancel.Click"));
+}
+
+TEST(RealControl, enterPressesTheFocusedButtonOnce)
+{
+    Demo demo;
+    demo.focusOn(L"cmdThick");
+    demo.events.clear();
+    demo.key(WM_KEYDOWN, VK_RETURN);
+    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdThick.Click"), 1);
+    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdSave.Click"), 0);
+}
+
+TEST(RealControl, anAccessKeyClicksItsButtonOnceAndFocusesIt)
+{
+    Demo demo;
+    demo.focusOn(L"txtName");
+    ::RedrawWindow(demo.control(L"cmdThick").window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    demo.events.clear();
+    demo.key(WM_SYSCHAR, 't');
+    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdThick.Click"), 1);
+    EXPECT_EQ(demo.form().focus().active(), &demo.control(L"cmdThick"));
+}
+
+TEST(RealControl, tabLeavesAButtonAndSkipsTheDisabledOne)
+{
+    Demo demo;
+    demo.focusOn(L"cmdBare");
+    demo.key(WM_KEYDOWN, VK_TAB);
+    EXPECT_EQ(demo.form().focus().active(), &demo.control(L"cmdNoFocus"));
+}
+
+TEST(RealControl, theMouseEntersPressesAndLeavesAButton)
+{
+    Demo demo;
+    demo.form().show();
+    POINT inside{20, 10};
+    ::ClientToScreen(demo.control(L"cmdPlain").window(), &inside);
+    ::SetCursorPos(inside.x, inside.y);
+    ::mouse_event(MOUSEEVENTF_MOVE, 1, 0, 0, 0);
+    EXPECT_TRUE(demo.waitFor("cmdPlain.MouseEnter"));
+    ::mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    EXPECT_TRUE(demo.waitFor("cmdPlain.MouseDown"));
+    ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    EXPECT_TRUE(demo.waitFor("cmdPlain.Click"));
+    EXPECT_EQ(demo.form().focus().active(), &demo.control(L"cmdPlain"));
+    ::SetCursorPos(0, 0);
+    ::mouse_event(MOUSEEVENTF_MOVE, 0, 1, 0, 0);
+    EXPECT_TRUE(demo.waitFor("cmdPlain.MouseExit"));
+}
+
+TEST(RealControl, aDesignFormRaisesNothing)
+{
+    Demo demo(UserMode::Design);
+    for (auto const& control : demo.form().controls())
+        ::RedrawWindow(control->window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    ::SendMessageW(demo.control(L"cmdPlain").window(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    ::SendMessageW(demo.control(L"cmdPlain").window(), WM_LBUTTONUP, 0, 0);
+    EXPECT_THAT(demo.events, IsEmpty());
+}
+
+TEST(RealControl, aClosedFormLeavesNothingOfTheComponentBehind)
+{
+    ASSERT_EQ(::GetModuleHandleW(L"quilbt.ocx"), nullptr) << "an earlier test has left the component loaded";
+    {
+        Demo demo;
+        demo.focusOn(L"cmdThick");
+        demo.key(WM_KEYDOWN, VK_RETURN);
+        EXPECT_NE(::GetModuleHandleW(L"quilbt.ocx"), nullptr);
+    }
+    EXPECT_EQ(::GetModuleHandleW(L"quilbt.ocx"), nullptr) << "somebody still holds an object of it";
+}
+
+} // namespace
+} // namespace quillet::gallery::test
