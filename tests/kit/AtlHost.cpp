@@ -31,7 +31,14 @@ AtlHost::AtlHost(HWND parent, RECT const& place) : m_window(newHostWindow(parent
 HRESULT AtlHost::attach(IUnknown* control)
 {
     auto* const attachControl = entry<AttachControl>("AtlAxAttachControl");
-    return attachControl ? attachControl(control, window(), nullptr) : E_NOTIMPL;
+    // A caller that does not want the container gets no hosting at all from some versions.
+    return attachControl ? attachControl(control, window(), m_container.put()) : E_NOTIMPL;
+}
+
+void AtlHost::destroy()
+{
+    m_window.reset();
+    m_container.reset();
 }
 
 } // namespace quillet::kit

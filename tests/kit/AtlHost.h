@@ -1,6 +1,7 @@
 // The system's own control host: a window of atl.dll.
 #pragma once
 
+#include "base/ComPtr.h"
 #include "base/Handles.h"
 
 #include <windows.h>
@@ -18,9 +19,10 @@ public:
     HWND window() const noexcept { return m_window.get(); }
     /// Puts a made and loaded control in: site, extent and activation are the host's business.
     HRESULT attach(IUnknown* control);
-    void destroy() { m_window.reset(); }
+    void destroy();
 
 private:
+    ComPtr<IUnknown> m_container; // goes after its window
     UniqueWindow m_window;
 };
 

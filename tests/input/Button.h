@@ -1,0 +1,118 @@
+// A running flat command button whose looks differ in colour and whose events are kept by name.
+#pragma once
+
+#include "kit/AtlHost.h"
+#include "kit/ControlTest.h"
+#include "kit/FakeBag.h"
+#include "kit/Hosted.h"
+#include "kit/Sinks.h"
+#include "typelib/Guids.h"
+#include "typelib/Interfaces.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillet::input {
+
+using Names = std::vector<std::string>;
+
+constexpr RECT kPlace{20, 30, 140, 70};
+/// Where the cursor goes inside the button, in pixels from its top left corner; nothing is drawn there but
+/// the face.
+constexpr POINT kInside{100, 30};
+constexpr POINT kInsideToo{90, 25};
+/// A point beside it, over the same form.
+constexpr POINT kBeside{160, 20};
+
+/// Saved properties that give each state a face of its own; hot, pressed and normal differ in nothing else.
+ComPtr<kit::FakeBag> looksBag();
+
+/// What a button of that bag shows: "normal", "hot", "pressed", "disabled", or the colour of its face.
+std::string lookOf(HWND window);
+
+/// A flat command button and its listener. Where it lives is a derived class's business.
+class Button {
+public:
+    virtual ~Button() = default;
+    Button(Button const&) = delete;
+    Button& operator=(Button const&) = delete;
+
+    _qvFlatCommand* operator->() const noexcept { return m_dual.get(); }
+    template <class T> ComPtr<T> as() const { return query<T>(m_dual.get()); }
+    kit::EventRecorder& events() noexcept { return *m_events.get(); }
+    HWND window() const noexcept { return m_window; }
+
+    std::string look() const { return lookOf(m_window); }
+    /// The names of the events since the last time. Moves that follow each other stand as one: how many
+    /// messages a movement makes is the system's choice.
+    Names happened();
+    /// What happened from the beginning of the act until the last event came and nothing more was to come.
+    Names during(std::function<void()> const& act, char const* last);
+    int count(char const* event) const;
+
+    void disconnect();
+    /// Gives up the control without a word to it. Its own references are not the test's.
+    virtual void release();
+    /// Takes it out of its host as hosts do.
+    virtual void remove() = 0;
+
+protected:
+    Button();
+    /// Listens to the object.
+    void adopt(IUnknown* object);
+    /// The window is asked for once: it stays known when the control has gone.
+    void rememberWindow();
+
+private:
+    ComPtr<_qvFlatCommand> m_dual;
+    ComPtr<kit::EventRecorder> m_events;
+    DWORD m_cookie = 0;
+    HWND m_window = nullptr;
+};
+
+/// In a form of ours.
+class FormButton final : public Button {
+public:
+    FormButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
+               std::wstring const& name = L"Button1");
+    ~FormButton() override { FormButton::remove(); }
+
+    kit::FakeSite& site() noexcept { return m_hosted.site(); }
+    kit::Hosted& hosted() noexcept { return m_hosted; }
+    kit::NamedObject& extender() noexcept { return m_hosted.site().extender(); }
+
+    void load(IPropertyBag& bag);
+    /// Loads and shows it.
+    void start(IPropertyBag& bag);
+    void start() { start(*looksBag().get()); }
+
+    void release() override;
+    void remove() override;
+
+private:
+    kit::Hosted m_hosted;
+};
+
+/// In the system's own host.
+class AtlButton final : public Button {
+public:
+    AtlButton(kit::Library const& library, kit::FakeForm& form);
+    ~AtlButton() override { AtlButton::remove(); }
+
+    void remove() override;
+
+private:
+    kit::AtlHost m_host;
+};
+
+/// The hosts that the same input is given in.
+enum class HostKind { Form, AtlAxWin };
+std::string nameOf(HostKind kind);
+std::unique_ptr<Button> newButton(HostKind kind, kit::Library const& library, kit::FakeForm& form);
+
+} // namespace quillet::input
