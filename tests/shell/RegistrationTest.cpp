@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <oleauto.h>
+#include <sddl.h>
 
 #include <string_view>
 
@@ -243,6 +244,89 @@ TEST_F(Registration, unregisteringLeavesACopyInAnotherFileAlone)
     setMachineValue(server, kit::Library::path());
     setMachineValue(kLibraryFile, kit::Library::path());
 }
+
+/// Stands in for the machine's part of the registry, where the user may read and not write.
+class MachineWithoutRights {
+public:
+    MachineWithoutRights()
+    {
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, kFolder);
+        m_root = created(kFolder);
+        m_classes = created(std::wstring(kFolder) + L"\\Software\\Classes");
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        // Everyone is denied setting values and making keys (6), and allowed the rest.
+        ::ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:(D;;0x6;;;WD)(A;;KA;;;WD)",
+                                                               SDDL_REVISION_1, &descriptor, nullptr);
+        checkStatus(::RegSetKeySecurity(m_classes.get(), DACL_SECURITY_INFORMATION, descriptor));
+        ::LocalFree(descriptor);
+        checkStatus(::RegOverridePredefKey(HKEY_LOCAL_MACHINE, m_root.get()));
+    }
+    ~MachineWithoutRights()
+    {
+        ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+        ::RegDeleteTreeW(HKEY_CURRENT_USER, kFolder);
+    }
+    MachineWithoutRights(MachineWithoutRights const&) = delete;
+    MachineWithoutRights& operator=(MachineWithoutRights const&) = delete;
+
+private:
+    static constexpr wchar_t kFolder[] = L"Software\\QuilletTestMachine";
+
+    static UniqueKey created(std::wstring const& path)
+    {
+        HKEY key = nullptr;
+        checkStatus(::RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                      KEY_ALL_ACCESS, nullptr, &key, nullptr));
+        return UniqueKey(key);
+    }
+
+    UniqueKey m_root;
+    UniqueKey m_classes;
+};
+
+TEST_F(Registration, withoutTheRightsForTheMachineIsForTheUser)
+{
+    kit::Library const library;
+    using EntryPoint = HRESULT STDMETHODCALLTYPE();
+    {
+        MachineWithoutRights const machine;
+        EXPECT_EQ(library.entry<EntryPoint>("DllRegisterServer")(), S_OK);
+        expectNothing(HKEY_LOCAL_MACHINE);
+        EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_CURRENT_USER)), kNone);
+        expectTypeLibrary(HKEY_CURRENT_USER);
+        EXPECT_EQ(library.entry<EntryPoint>("DllUnregisterServer")(), S_OK);
+    }
+    expectNothing(HKEY_CURRENT_USER);
+}
+
+#ifdef _WIN64
+TEST_F(Registration, unregisteringKeepsTheNamesThatThe32BitComponentUses)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    HKEY opened = nullptr;
+    ASSERT_EQ(::RegCreateKeyExW(
+                  HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + kClass + L"\\InprocServer32").c_str(), 0,
+                  nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE | KEY_WOW64_32KEY, nullptr, &opened, nullptr),
+              ERROR_SUCCESS);
+    UniqueKey const sister(opened);
+    wchar_t const path[] = L"C:\\sister\\quilbt.ocx";
+    ASSERT_EQ(::RegSetValueExW(opened, nullptr, 0, REG_SZ, reinterpret_cast<BYTE const*>(path), sizeof path),
+              ERROR_SUCCESS);
+
+    EXPECT_EQ(regsvr32(L"/u"), 0u);
+    EXPECT_EQ(differences({}, classesBelow(HKEY_LOCAL_MACHINE, {kClass})), kNone);
+    EXPECT_EQ(classesBelow(HKEY_LOCAL_MACHINE, {kProgIds[0]})[L"quillet.qvflatcommand@"],
+              L"Quillet flat command button");
+
+    ASSERT_EQ(regsvr32(L""), 0u);
+    HKEY classes = nullptr;
+    ASSERT_EQ(::RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\CLSID", 0,
+                              KEY_ALL_ACCESS | KEY_WOW64_32KEY, &classes),
+              ERROR_SUCCESS);
+    UniqueKey const owned(classes);
+    EXPECT_EQ(::RegDeleteTreeW(classes, kClass.substr(kClass.find(L'\\') + 1).c_str()), ERROR_SUCCESS);
+}
+#endif
 
 TEST_F(Registration, unregisteringWhatIsNotRegisteredSucceeds) { EXPECT_EQ(regsvr32(L"/u"), 0u); }
 
