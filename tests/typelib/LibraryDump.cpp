@@ -2,115 +2,14 @@
 #include "LibraryDump.h"
 
 #include "Borrowed.h"
+#include "DumpWords.h"
 #include "RawNames.h"
-#include "base/Bstr.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace quillet {
 
 namespace {
-
-struct FlagName {
-    unsigned flag;
-    char const* name;
-};
-
-constexpr FlagName kLibraryFlags[] = {
-    {LIBFLAG_FRESTRICTED, "restricted"},
-    {LIBFLAG_FCONTROL, "control"},
-    {LIBFLAG_FHIDDEN, "hidden"},
-    {LIBFLAG_FHASDISKIMAGE, "hasdiskimage"},
-};
-
-constexpr FlagName kTypeFlags[] = {
-    {TYPEFLAG_FAPPOBJECT, "appobject"},
-    {TYPEFLAG_FCANCREATE, "cancreate"},
-    {TYPEFLAG_FLICENSED, "licensed"},
-    {TYPEFLAG_FPREDECLID, "predeclid"},
-    {TYPEFLAG_FHIDDEN, "hidden"},
-    {TYPEFLAG_FCONTROL, "control"},
-    {TYPEFLAG_FDUAL, "dual"},
-    {TYPEFLAG_FNONEXTENSIBLE, "nonextensible"},
-    {TYPEFLAG_FOLEAUTOMATION, "oleautomation"},
-    {TYPEFLAG_FRESTRICTED, "restricted"},
-    {TYPEFLAG_FAGGREGATABLE, "aggregatable"},
-    {TYPEFLAG_FREPLACEABLE, "replaceable"},
-    {TYPEFLAG_FDISPATCHABLE, "dispatchable"},
-    {TYPEFLAG_FREVERSEBIND, "reversebind"},
-    {TYPEFLAG_FPROXY, "proxy"},
-};
-
-constexpr FlagName kFunctionFlags[] = {
-    {FUNCFLAG_FRESTRICTED, "restricted"},
-    {FUNCFLAG_FSOURCE, "source"},
-    {FUNCFLAG_FBINDABLE, "bindable"},
-    {FUNCFLAG_FREQUESTEDIT, "requestedit"},
-    {FUNCFLAG_FDISPLAYBIND, "displaybind"},
-    {FUNCFLAG_FDEFAULTBIND, "defaultbind"},
-    {FUNCFLAG_FHIDDEN, "hidden"},
-    {FUNCFLAG_FUSESGETLASTERROR, "usesgetlasterror"},
-    {FUNCFLAG_FDEFAULTCOLLELEM, "defaultcollelem"},
-    {FUNCFLAG_FUIDEFAULT, "uidefault"},
-    {FUNCFLAG_FNONBROWSABLE, "nonbrowsable"},
-    {FUNCFLAG_FREPLACEABLE, "replaceable"},
-    {FUNCFLAG_FIMMEDIATEBIND, "immediatebind"},
-};
-
-template <std::size_t n> std::string flagNames(FlagName const (&table)[n], unsigned flags)
-{
-    std::string result;
-    for (FlagName const& row : table)
-        if (flags & row.flag)
-            result += std::string(" ") + row.name;
-    return result;
-}
-
-template <class... Values> std::string format(char const* pattern, Values... values)
-{
-    char text[512];
-    std::snprintf(text, sizeof text, pattern, values...);
-    return text;
-}
-
-std::string narrow(std::wstring_view text) { return {text.begin(), text.end()}; }
-
-std::string quoted(std::wstring_view text)
-{
-    std::string result = "\"";
-    result += narrow(text);
-    result += "\"";
-    return result;
-}
-
-std::string guidText(GUID const& id)
-{
-    wchar_t text[40];
-    ::StringFromGUID2(id, text, 40);
-    return narrow(text);
-}
-
-std::string nameOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL)
-{
-    Bstr name;
-    check(info.GetDocumentation(member, name.put(), nullptr, nullptr, nullptr));
-    return narrow(name.view());
-}
-
-Bstr helpOf(ITypeInfo& info, MEMBERID member = MEMBERID_NIL)
-{
-    Bstr help;
-    check(info.GetDocumentation(member, nullptr, help.put(), nullptr, nullptr));
-    return help;
-}
-
-std::string nameOfLibrary(ITypeLib& library)
-{
-    Bstr name;
-    check(library.GetDocumentation(-1, name.put(), nullptr, nullptr, nullptr));
-    return narrow(name.view());
-}
 
 class Describer {
 public:
@@ -139,8 +38,7 @@ private:
         file.remove_prefix(file.rfind(L'\\') + 1);
         return {format("library %s version %u.%u locale %lu%s %s", m_ownName.c_str(),
                        attributes->wMajorVerNum, attributes->wMinorVerNum, attributes->lcid,
-                       flagNames(kLibraryFlags, attributes->wLibFlags).c_str(),
-                       guidText(attributes->guid).c_str()),
+                       libraryFlagNames(attributes->wLibFlags).c_str(), guidText(attributes->guid).c_str()),
                 "    " + quoted(text.view()) + " helpfile " + quoted(file)};
     }
 
@@ -150,7 +48,7 @@ private:
         check(m_library.GetTypeInfo(index, info.put()));
         TypeAttributes const attributes(*info.get());
         m_lines.push_back(format("%u %s%s version %u.%u %s", index, headOf(*info.get(), *attributes).c_str(),
-                                 flagNames(kTypeFlags, typeFlags(*info.get(), *attributes)).c_str(),
+                                 typeFlagNames(typeFlags(*info.get(), *attributes)).c_str(),
                                  attributes->wMajorVerNum, attributes->wMinorVerNum,
                                  guidText(attributes->guid).c_str()));
         addHelp(helpOf(*info.get()));
@@ -226,7 +124,7 @@ private:
                                    ? format("%ld", function.memid)
                                    : format("&H%08lX", static_cast<unsigned long>(function.memid));
         return id + " " + kindOf(function) + " " + nameOf(info, function.memid) +
-               parametersOf(info, function, lastName) + flagNames(kFunctionFlags, function.wFuncFlags) +
+               parametersOf(info, function, lastName) + functionFlagNames(function.wFuncFlags) +
                oddities(function);
     }
 
