@@ -26,7 +26,10 @@ FormControl* Focus::active() const noexcept
     // Asked of Windows first: a control that is just getting the focus asks before it has told the form.
     if (m_isOver)
         return nullptr;
-    FormControl* const focused = m_form.controlOf(::GetFocus());
+    HWND const window = ::GetFocus();
+    if (m_active && window && (window == m_active->window() || ::IsChild(m_active->window(), window)))
+        return m_active; // asked for at every paint of a button, so not looked for among all each time
+    FormControl* const focused = m_form.controlOf(window);
     return focused ? focused : m_active;
 }
 

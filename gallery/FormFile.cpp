@@ -9,7 +9,7 @@ namespace quillet::gallery {
 namespace {
 
 /// Far beyond any real form, and small enough for a 32-bit process.
-constexpr LONGLONG kLargestForm = 8 * 1024 * 1024;
+constexpr LONGLONG kLargestForm = LONGLONG{8} * 1024 * 1024;
 
 std::string bytesOf(std::wstring const& path)
 {

@@ -40,7 +40,7 @@ Begin VB.Form frmButtons
    End
    Begin VB.Label lblHint 
       Caption         =   "Move the mouse over a button, press it, and go round with Tab or with Alt and an underlined letter."
-      ForeColor       =   &H80000010&
+      ForeColor       =   &H00606060&
       Height          =   240
       Left            =   240
       TabIndex        =   1
@@ -410,11 +410,11 @@ Begin VB.Form frmButtons
          Width           =   2100
       End
       Begin Quillet.qvFlatCommand cmdHelp 
-         BackColor       =   &H80000018&
+         BackColor       =   &H00CDFAFF&
          BorderStyle     =   0
          Caption         =   "&Help"
          CentreCaption   =   -1  'True
-         ForeColor       =   &H80000017&
+         ForeColor       =   &H00004080&
          Height          =   420
          Left            =   6630
          TabIndex        =   33

@@ -8,11 +8,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace quillet::gallery::test {
 namespace {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
@@ -225,6 +227,36 @@ TEST(RealControl, theMouseEntersPressesAndLeavesAButton)
     ::SetCursorPos(0, 0);
     ::mouse_event(MOUSEEVENTF_MOVE, 0, 1, 0, 0);
     EXPECT_TRUE(demo.waitFor("cmdPlain.MouseExit"));
+}
+
+/// Types a key while another may be held, as a keyboard does.
+void type(BYTE key, BYTE held = 0)
+{
+    if (held)
+        ::keybd_event(held, 0, 0, 0);
+    ::keybd_event(key, 0, 0, 0);
+    ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    if (held)
+        ::keybd_event(held, 0, KEYEVENTF_KEYUP, 0);
+}
+
+TEST(RealControl, typedKeysReachTheirButtonsOnceEach)
+{
+    Demo demo;
+    demo.form().show();
+    demo.focusOn(L"cmdPlain");
+    demo.events.clear();
+    type('T', VK_MENU);
+    EXPECT_TRUE(demo.waitFor("cmdThick.Click"));
+    type(VK_TAB);
+    type(VK_SPACE);
+    EXPECT_TRUE(demo.waitFor("cmdBare.Click"));
+    type(VK_ESCAPE);
+    EXPECT_TRUE(demo.waitFor("cmdCancel.Click"));
+    std::vector<std::string> clicks;
+    std::copy_if(demo.events.begin(), demo.events.end(), std::back_inserter(clicks),
+                 [](std::string const& event) { return event.ends_with(".Click"); });
+    EXPECT_THAT(clicks, ElementsAre("cmdThick.Click", "cmdBare.Click", "cmdCancel.Click"));
 }
 
 TEST(RealControl, aDesignFormRaisesNothing)
