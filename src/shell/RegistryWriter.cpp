@@ -15,9 +15,9 @@ void RegistryWriter::write(RegistryRow const& row)
     if (!row.hasValue)
         return;
     m_steps.push_back({row.key, false, row.name, valueOf(key.get(), row.name)});
+    DWORD const length = static_cast<DWORD>(row.text.size()) + 1; // with the terminator
     checkStatus(::RegSetValueExW(key.get(), row.name.c_str(), 0, REG_SZ,
-                                 reinterpret_cast<BYTE const*>(row.text.c_str()),
-                                 static_cast<DWORD>((row.text.size() + 1) * sizeof(wchar_t))));
+                                 reinterpret_cast<BYTE const*>(row.text.c_str()), length * sizeof(wchar_t)));
 }
 
 /// One level after the other, to know which ones are new.

@@ -18,6 +18,16 @@ DWORD keyModifiers() noexcept
 
 } // namespace
 
+ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept
+{
+    if (auto own = query<IUnknown>(object, iid))
+        return own;
+    return orFallback(ComPtr<IUnknown>(), [&] {
+        auto const inside = propertyByName(query<IDispatch>(object).get(), L"Object").toObject();
+        return query<IUnknown>(inside.get(), iid);
+    });
+}
+
 void Container::setSite(IOleClientSite* site) noexcept
 {
     m_site = site;

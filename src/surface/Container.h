@@ -12,6 +12,10 @@
 
 namespace quillet {
 
+/// An interface of a control that a container handed out: from the object itself, or from the control inside
+/// an extender that does not answer for it but hands it out. Empty when neither has it.
+ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept;
+
 /// Answers of a container that may offer anything or nothing; a missing feature has a plain answer.
 class Container {
 public:

@@ -4,7 +4,6 @@
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
 #include "drawing/xpstate.h"
-#include "surface/LateBound.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 
@@ -35,17 +34,9 @@ constexpr IID kIntrinsicButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00,
 bool isEmphasisTaker(IUnknown* control)
 {
     for (IID const& kind : {__uuidof(_qvFlatCommand), __uuidof(_qvImageCommand), kIntrinsicButton})
-        if (query<IUnknown>(control, kind))
+        if (controlInterface(control, kind))
             return true;
     return false;
-}
-
-/// The control inside an extender that hands it out; empty where it does not.
-ComPtr<IUnknown> insideExtender(IUnknown* extender)
-{
-    return orFallback(ComPtr<IUnknown>(), [&] {
-        return propertyByName(query<IDispatch>(extender).get(), L"Object").toObject();
-    });
 }
 
 /// A caption without its access-key mark. Only the first mark counts; two in a row are no escape.
@@ -178,8 +169,7 @@ bool qvFlatCommand::isEmphasisedDefault(bool userMode) const
 {
     if (!userMode || !isDefault(*this))
         return false;
-    auto const active = container().activeControl();
-    return !active || (!isEmphasisTaker(active.get()) && !isEmphasisTaker(insideExtender(active.get()).get()));
+    return !isEmphasisTaker(container().activeControl().get());
 }
 
 void qvFlatCommand::draw(bool userMode)

@@ -129,8 +129,8 @@ void qvFlatCommand::refreshSiblings() noexcept
 {
     ignoringErrors([&] {
         for (auto const& sibling : container().parentControls())
-            if (auto const button = query<_qvFlatCommand>(sibling.get()))
-                check(button->Refresh());
+            if (auto const button = controlInterface(sibling.get(), __uuidof(_qvFlatCommand)))
+                check(static_cast<_qvFlatCommand*>(button.get())->Refresh());
     });
 }
 
