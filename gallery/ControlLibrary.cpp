@@ -5,6 +5,7 @@
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
 #include "gallery/Names.h"
+#include "gallery/TypeAttributes.h"
 
 #include <utility>
 
@@ -33,15 +34,6 @@ std::wstring nameOf(ITypeLib& types, INT index)
     Bstr name;
     check(types.GetDocumentation(index, name.put(), nullptr, nullptr, nullptr));
     return std::wstring(name.view());
-}
-
-CLSID classIdOf(ITypeInfo& info)
-{
-    TYPEATTR* attributes = nullptr;
-    check(info.GetTypeAttr(&attributes));
-    CLSID const id = attributes->guid;
-    info.ReleaseTypeAttr(attributes);
-    return id;
 }
 
 NewControl createRegistered(std::wstring_view library, std::wstring_view className)
@@ -113,7 +105,7 @@ NewControl ControlLibrary::create(std::wstring_view className) const
     ComPtr<IClassFactory> factory;
     HRESULT made = E_NOINTERFACE;
     if (getClassObject)
-        made = getClassObject(classIdOf(*created.classInfo.get()), __uuidof(IClassFactory),
+        made = getClassObject(TypeAttributes(*created.classInfo.get())->guid, __uuidof(IClassFactory),
                               reinterpret_cast<void**>(factory.put()));
     if (SUCCEEDED(made))
         made = factory->CreateInstance(nullptr, __uuidof(IUnknown),

@@ -4,6 +4,7 @@
 #include "base/Bstr.h"
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
+#include "gallery/TypeAttributes.h"
 
 #include <string>
 #include <utility>
@@ -11,20 +12,6 @@
 namespace quillet::gallery {
 
 namespace {
-
-/// Owns the attributes that a type description lends.
-class TypeAttributes {
-public:
-    explicit TypeAttributes(ITypeInfo& info) : m_info(info) { check(info.GetTypeAttr(&m_attributes)); }
-    ~TypeAttributes() { m_info.ReleaseTypeAttr(m_attributes); }
-    TypeAttributes(TypeAttributes const&) = delete;
-    TypeAttributes& operator=(TypeAttributes const&) = delete;
-    TYPEATTR const* operator->() const noexcept { return m_attributes; }
-
-private:
-    ITypeInfo& m_info;
-    TYPEATTR* m_attributes = nullptr;
-};
 
 ComPtr<ITypeInfo> classInfoOf(IUnknown* control, ITypeInfo* known)
 {

@@ -1,4 +1,5 @@
 // The gallery's entry point.
+#include "base/Handles.h"
 #include "gallery/Gallery.h"
 
 #include <windows.h>
@@ -7,15 +8,19 @@
 
 namespace {
 
+struct WordsTraits {
+    using Handle = wchar_t**;
+    static void close(wchar_t** words) noexcept { ::LocalFree(words); }
+};
+
+/// The words after the program's name.
 std::vector<std::wstring> commandLineWords()
 {
     int count = 0;
-    wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    if (!words)
+    quillet::UniqueHandle<WordsTraits> const words(::CommandLineToArgvW(::GetCommandLineW(), &count));
+    if (!words || count < 1)
         return {};
-    std::vector<std::wstring> const result(words + (count > 0 ? 1 : 0), words + count);
-    ::LocalFree(words);
-    return result;
+    return std::vector<std::wstring>(words.get() + 1, words.get() + count);
 }
 
 } // namespace
