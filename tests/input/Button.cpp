@@ -18,7 +18,7 @@ constexpr COLORREF kDisabledCaption = RGB(112, 0, 112);
 constexpr POINT kFaceAt{110, 32}; // right of the caption and inside the focus frame
 
 // In their published order, counted from 1.
-constexpr char const* kEventNames[] = {"?",        "MouseEnter", "MouseExit", "Paint", "Click",
+constexpr char const* kEventNames[] = {"?",        "MouseEnter", "MouseExit", "Paint",  "Click",
                                        "DblClick", "MouseDown",  "MouseMove", "MouseUp"};
 
 std::string nameOf(DISPID event)
@@ -143,6 +143,18 @@ void FormButton::load(IPropertyBag& bag)
 void FormButton::start(IPropertyBag& bag)
 {
     load(bag);
+    show();
+}
+
+void FormButton::startNew()
+{
+    EXPECT_EQ(m_hosted.setSite(), S_OK);
+    EXPECT_EQ(m_hosted.initNew(), S_OK);
+    show();
+}
+
+void FormButton::show()
+{
     EXPECT_EQ(m_hosted.setExtent(), S_OK);
     EXPECT_EQ(m_hosted.activate(), S_OK);
     rememberWindow();

@@ -90,11 +90,15 @@ public:
     /// Loads and shows it.
     void start(IPropertyBag& bag);
     void start() { start(*looksBag().get()); }
+    /// Shows it as a new control, without loading anything.
+    void startNew();
 
     void release() override;
     void remove() override;
 
 private:
+    void show();
+
     kit::Hosted m_hosted;
 };
 

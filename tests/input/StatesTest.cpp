@@ -32,7 +32,8 @@ protected:
     }
 };
 
-TEST_P(States, movingOntoTheButtonRaisesMouseEnterOnceAndFurtherMovesInsideOnlyMouseMoveAndLeavingMouseExitOnce)
+TEST_P(States,
+       movingOntoTheButtonRaisesMouseEnterOnceAndFurtherMovesInsideOnlyMouseMoveAndLeavingMouseExitOnce)
 {
     EXPECT_THAT(enter(button()), ElementsAre("MouseEnter", "Paint", "MouseMove"));
     EXPECT_EQ(button().look(), "hot");
@@ -50,7 +51,8 @@ TEST_P(States, movingOntoTheButtonRaisesMouseEnterOnceAndFurtherMovesInsideOnlyM
 
 TEST_P(States, movesBesideTheButtonRaiseNothing)
 {
-    EXPECT_TRUE(actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }));
+    EXPECT_TRUE(
+        actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }));
     EXPECT_THAT(button().happened(), ElementsAre());
     EXPECT_EQ(::GetCapture(), nullptr);
 }
@@ -92,9 +94,9 @@ TEST_P(States, draggingOffShowsTheNormalLookAndDraggingBackThePressedOne)
     EXPECT_THAT(dragOff(button()), ElementsAre("Paint", "MouseMove"));
     EXPECT_EQ(button().look(), "normal");
     EXPECT_EQ(::GetCapture(), button().window());
-    EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); },
-                                "MouseMove"),
-                ElementsAre("MouseMove"));
+    EXPECT_THAT(
+        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
+        ElementsAre("MouseMove"));
     EXPECT_THAT(dragBack(button()), ElementsAre("Paint", "MouseMove"));
     EXPECT_EQ(button().look(), "pressed");
     EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
@@ -109,9 +111,9 @@ TEST_P(States, aReleaseOutsideIsNoClick)
     EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp"));
     EXPECT_EQ(button().look(), "normal");
     EXPECT_EQ(::GetCapture(), button().window()) << "the next move gives it back";
-    EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); },
-                                "MouseMove"),
-                ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(
+        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
+        ElementsAre("MouseExit", "Paint", "MouseMove"));
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -132,10 +134,12 @@ TEST_P(States, aDoubleClickRaisesOneClickAndOneDblClickAndNoSecondMouseDown)
     enter(button());
     Names names = pressDown(button());
     Names const rest[] = {letUp(button()),
-                          button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick"), letUp(button())};
+                          button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick"),
+                          letUp(button())};
     for (Names const& each : rest)
         names.insert(names.end(), each.begin(), each.end());
-    EXPECT_THAT(names, ElementsAre("Paint", "MouseDown", "Paint", "MouseUp", "Click", "DblClick", "Paint", "MouseUp"));
+    EXPECT_THAT(names, ElementsAre("Paint", "MouseDown", "Paint", "MouseUp", "Click", "DblClick", "Paint",
+                                   "MouseUp"));
 }
 
 TEST_P(States, rightButtonPressesRaiseMouseDownAndMouseUpButNeverShowThePressedState)
@@ -163,17 +167,18 @@ TEST_P(States, draggingOffWithTheRightButtonKeepsTheCaptureUntilAMoveWithoutABut
     EXPECT_THAT(dragOff(button()), ElementsAre("MouseMove"));
     EXPECT_EQ(::GetCapture(), button().window());
     EXPECT_THAT(letUp(button(), kit::MouseButton::Right), ElementsAre("MouseUp"));
-    EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); },
-                                "MouseMove"),
-                ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(
+        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
+        ElementsAre("MouseExit", "Paint", "MouseMove"));
 }
 
 TEST_P(States, aMoveOntoTheButtonWithAButtonHeldIsNoEntering)
 {
     ASSERT_TRUE(kit::moveCursorTo(button().window(), kBeside.x, kBeside.y));
     EXPECT_TRUE(actUntilHandled(WM_LBUTTONDOWN, [] { kit::press(kit::MouseButton::Left); }));
-    EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }, "MouseMove"),
-                ElementsAre("MouseMove"));
+    EXPECT_THAT(
+        button().during([&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }, "MouseMove"),
+        ElementsAre("MouseMove"));
     EXPECT_EQ(button().look(), "normal");
     EXPECT_EQ(::GetCapture(), nullptr);
     kit::release(kit::MouseButton::Left);
@@ -213,7 +218,8 @@ TEST_P(States, theDisabledButtonStaysDisabledUnderTheCursorAndRaisesNothing)
     EXPECT_EQ(button().look(), "disabled");
     kit::pumpPending();
     button().happened();
-    EXPECT_TRUE(actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }));
+    EXPECT_TRUE(
+        actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }));
     EXPECT_TRUE(actUntilHandled(WM_LBUTTONUP, [] {
         kit::press(kit::MouseButton::Left);
         kit::release(kit::MouseButton::Left);
@@ -252,8 +258,9 @@ TEST_P(States, aWindowThatOverlapsTheButtonUnderTheCursorCountsAsNotOver)
     for (POINT const covered : {kInside, POINT{10, 10}}) {
         EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), 60, 30); }, "MouseMove"),
                     ElementsAre("MouseEnter", "Paint", "MouseMove"));
-        EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), covered.x, covered.y); }, "MouseMove"),
-                    ElementsAre("MouseExit", "Paint", "MouseMove"));
+        EXPECT_THAT(
+            button().during([&] { kit::moveCursorTo(button().window(), covered.x, covered.y); }, "MouseMove"),
+            ElementsAre("MouseExit", "Paint", "MouseMove"));
         EXPECT_EQ(::GetCapture(), nullptr);
     }
 }

@@ -19,9 +19,9 @@ HWND newHostWindow(HWND parent, RECT const& place)
 {
     if (auto* const init = entry<WinInit>("AtlAxWinInit"))
         init();
-    return ::CreateWindowExW(0, L"AtlAxWin", L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place.left, place.top,
-                             place.right - place.left, place.bottom - place.top, parent, nullptr, nullptr,
-                             nullptr);
+    return ::CreateWindowExW(0, L"AtlAxWin", L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place.left,
+                             place.top, place.right - place.left, place.bottom - place.top, parent, nullptr,
+                             nullptr, nullptr);
 }
 
 } // namespace

@@ -1,0 +1,278 @@
+// Focus that comes and goes: which flat command buttons are repainted, how often and in which order.
+#include "BrokenSibling.h"
+#include "Gestures.h"
+#include "kit/Pump.h"
+
+namespace quillet::input {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+/// Several buttons in one form; the repaints of all of them in one list: the first button's is "1".
+class FocusMoves : public kit::ControlTest {
+protected:
+    kit::FakeForm form;
+    std::vector<std::unique_ptr<FormButton>> buttons;
+    std::vector<int> painted;
+
+    void TearDown() override
+    {
+        ::SetFocus(
+            nullptr); // a button that goes with the focus would look for siblings among those that went
+        for (auto const& each : buttons)
+            each->events().action = nullptr;
+        buttons.clear();
+    }
+    FormButton& add()
+    {
+        int const number = static_cast<int>(buttons.size()) + 1;
+        RECT const place{20, 30 * number, 140, 30 * number + 25};
+        buttons.push_back(
+            std::make_unique<FormButton>(library(), form, place, L"Button" + std::to_wstring(number)));
+        buttons.back()->start();
+        listenTo(*buttons.back(), number);
+        return *buttons.back();
+    }
+    void listenTo(FormButton& button, int number)
+    {
+        button.events().action = [this, number](kit::EventRecorder::Event const& event) {
+            if (event.id == kPaintEvent)
+                painted.push_back(number);
+        };
+    }
+    FormButton& button(int number) { return *buttons.at(static_cast<size_t>(number) - 1); }
+    HWND window(int number) { return button(number).window(); }
+
+    /// The repaints that giving the window the focus brings about.
+    std::vector<int> focusOn(HWND target)
+    {
+        kit::pumpPending();
+        painted.clear();
+        EXPECT_TRUE(kit::focus(target));
+        kit::pumpPending();
+        return std::exchange(painted, {});
+    }
+    std::vector<int> countsOfFocusOn(HWND target)
+    {
+        std::vector<int> counts(buttons.size(), 0);
+        for (int const number : focusOn(target))
+            ++counts.at(static_cast<size_t>(number) - 1);
+        return counts;
+    }
+    /// Lets the form's Controls hand out the controls themselves.
+    void offerControlsThroughParent()
+    {
+        form.record().answer("Site.GetContainer", E_NOTIMPL);
+        form.controls().provide(L"Item", [this](Variant const& index) {
+            return Variant::ofDispatch(button(static_cast<int>(index.toLong()) + 1).operator->());
+        });
+    }
+
+private:
+    static constexpr DISPID kPaintEvent = 3;
+};
+
+// Each of the two that the focus moves between is painted because of its window's message; then every button
+// is painted for the loss and for the gain.
+TEST_F(FocusMoves, focusMovingBetweenTwoFlatCommandButtonsRepaintsEveryFlatCommandButtonOnTheSameContainer)
+{
+    add();
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 2, 2, 1, 2));
+    EXPECT_THAT(focusOn(window(1)), ElementsAre(2, 1, 2, 1, 1, 2));
+}
+
+TEST_F(FocusMoves, betweenTwoOfFiveButtonsRepaintsAllFive)
+{
+    for (int i = 0; i < 5; ++i)
+        add();
+    ASSERT_TRUE(kit::focus(window(2)));
+    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 2, 2, 3, 2));
+}
+
+TEST_F(FocusMoves, toAndFromSomethingElseRepaintEveryButtonOnce)
+{
+    for (int i = 0; i < 5; ++i)
+        add();
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(window(3)));
+    EXPECT_THAT(countsOfFocusOn(edit.get()), ElementsAre(1, 1, 2, 1, 1));
+    EXPECT_THAT(countsOfFocusOn(window(3)), ElementsAre(1, 1, 2, 1, 1));
+}
+
+TEST_F(FocusMoves, askTheContainerForEmbeddingsAndOthers)
+{
+    add();
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    form.record().forget();
+    focusOn(window(2));
+    EXPECT_THAT(form.record().calls(), Contains("Container.EnumObjects(" +
+                                                std::to_string(OLECONTF_EMBEDDINGS | OLECONTF_OTHERS) + ')'));
+    EXPECT_THAT(form.record().calls(), Not(Contains("Parent.Controls")));
+}
+
+TEST_F(FocusMoves, takeTheParentsControlsWhereTheSiteHasNoContainer)
+{
+    for (int i = 0; i < 5; ++i)
+        add();
+    offerControlsThroughParent();
+    ASSERT_TRUE(kit::focus(window(2)));
+    form.record().forget();
+    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
+    EXPECT_THAT(form.record().calls(), Contains("Parent.Controls"));
+    EXPECT_THAT(form.record().calls(), Contains("Controls.Count"));
+}
+
+TEST_F(FocusMoves, findTheControlInsideAnExtenderThatTheParentsControlsHandOut)
+{
+    add();
+    add();
+    add();
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 2));
+}
+
+TEST_F(FocusMoves, takeTheParentsControlsWhereTheContainerEnumeratesNothing)
+{
+    add();
+    add();
+    offerControlsThroughParent();
+    form.record().answerAsUsual("Site.GetContainer");
+    form.record().answer("Container.EnumObjects", E_NOTIMPL);
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3));
+}
+
+TEST_F(FocusMoves, withNeitherContainerNorParentRepaintTheTwoThatAreConcerned)
+{
+    for (int i = 0; i < 3; ++i) {
+        add();
+        buttons.back()->extender().remove(L"Parent");
+    }
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(1, 1, 0));
+}
+
+TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfASibling)
+{
+    auto const broken = kit::make<BrokenSibling>(E_FAIL);
+    add();
+    add();
+    form.container().objects.push_back(broken->unknown());
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    broken->refreshed = 0;
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 0));
+    EXPECT_EQ(broken->refreshed, 2);
+    std::erase(form.container().objects, broken->unknown());
+}
+
+TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfTheParentsControls)
+{
+    for (int i = 0; i < 4; ++i)
+        add();
+    offerControlsThroughParent();
+    ASSERT_TRUE(kit::focus(window(1)));
+    form.controls().provide(L"Item", [this](Variant const& index) {
+        int const number = static_cast<int>(index.toLong()) + 1;
+        if (number == 2)
+            form.controls().refuse(L"Item"); // from the third one on, and for the whole second walk
+        return Variant::ofDispatch(button(number).operator->());
+    });
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(2, 2, 0, 0));
+}
+
+TEST_F(FocusMoves, stopTheWalkAtAMemberOfTheParentsControlsThatIsNoObject)
+{
+    for (int i = 0; i < 4; ++i)
+        add();
+    offerControlsThroughParent();
+    form.controls().provide(L"Item", [this](Variant const& index) {
+        int const number = static_cast<int>(index.toLong()) + 1;
+        return number == 3 ? Variant::ofString(L"nobody") : Variant::ofDispatch(button(number).operator->());
+    });
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 0, 0));
+}
+
+TEST_F(FocusMoves, surviveSiblingsThatGoDuringTheWalk)
+{
+    for (int i = 0; i < 5; ++i)
+        add();
+    ASSERT_TRUE(kit::focus(window(4)));
+    kit::pumpPending();
+    button(1).events().action = [this](kit::EventRecorder::Event const&) {
+        button(2).remove();
+        button(3).release();
+    };
+    focusOn(window(5));
+    EXPECT_FALSE(::IsWindow(window(2)));
+    EXPECT_FALSE(::IsWindow(window(3)));
+    EXPECT_EQ(::GetFocus(), window(5));
+}
+
+TEST_F(FocusMoves, callOnlySiblingsThatAreFlatCommandButtons)
+{
+    auto const sibling = kit::make<BrokenSibling>(S_OK);
+    sibling->hide(__uuidof(_qvFlatCommand));
+    form.container().objects.push_back(sibling->unknown());
+    form.container().objects.push_back(form.frame().unknown());
+    add();
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3)) << "the walk goes on past them";
+    EXPECT_EQ(sibling->refreshed, 0);
+    std::erase(form.container().objects, sibling->unknown());
+    std::erase(form.container().objects, form.frame().unknown());
+}
+
+TEST_F(FocusMoves, repaintTheDefaultButtonOnceMoreWhenItLosesTheFocus)
+{
+    add().extender().offer(L"Default", Variant::ofBool(true));
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 1, 2, 2, 1, 2));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 3)) << "not when it gains the focus";
+}
+
+TEST_F(FocusMoves, ofAButtonWhoseContainerHasNoDefaultNotionDoNotFail)
+{
+    add().extender().remove(L"Default");
+    add().extender().refuse(L"Default");
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 3));
+}
+
+TEST_F(FocusMoves, inDesignModeRaiseNoPaint)
+{
+    add();
+    add();
+    ASSERT_TRUE(kit::focus(window(1)));
+    for (auto const& each : buttons)
+        each->site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    EXPECT_THAT(focusOn(window(2)), ElementsAre());
+}
+
+// A button that was never loaded has no window services; its own handlers work all the same.
+TEST_F(FocusMoves, betweenNewButtonsRepaintEachForTheLossAndForTheGain)
+{
+    for (int number = 1; number <= 2; ++number) {
+        RECT const place{20, 30 * number, 140, 30 * number + 25};
+        buttons.push_back(std::make_unique<FormButton>(library(), form, place));
+        buttons.back()->startNew();
+        listenTo(*buttons.back(), number);
+    }
+    ASSERT_TRUE(kit::focus(window(1)));
+    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 2, 1, 2));
+}
+
+} // namespace
+} // namespace quillet::input

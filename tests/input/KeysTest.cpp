@@ -1,0 +1,188 @@
+// Keys, access keys and the container's own way of pressing a button.
+#include "Gestures.h"
+#include "kit/ByName.h"
+#include "kit/Pump.h"
+
+#include <ole2.h>
+#include <olectl.h>
+
+namespace quillet::input {
+namespace {
+
+using testing::ElementsAre;
+
+/// A message loop as containers have it: access keys go to the control that claims them.
+class MnemonicLoop {
+public:
+    explicit MnemonicLoop(Button const& button) : m_control(button.as<IOleControl>()) {}
+
+    /// Handles messages until that key's going up has been handled.
+    bool untilKeyUp(WPARAM key)
+    {
+        ULONGLONG const end = ::GetTickCount64() + kit::kPumpLimit;
+        for (bool up = false; !up;) {
+            if (::GetTickCount64() >= end)
+                return false;
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+            MSG message;
+            while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+                handle(message);
+                up = up || (message.message == WM_KEYUP && message.wParam == key);
+            }
+        }
+        return true;
+    }
+    int claimed() const noexcept { return m_claimed; }
+
+private:
+    void handle(MSG& message)
+    {
+        CONTROLINFO info{};
+        info.cb = sizeof info;
+        bool const isSystemKey = message.message == WM_SYSKEYDOWN || message.message == WM_SYSCHAR;
+        if (isSystemKey && SUCCEEDED(m_control->GetControlInfo(&info)) && info.hAccel &&
+            ::IsAccelerator(info.hAccel, info.cAccel, &message, nullptr)) {
+            ++m_claimed;
+            m_control->OnMnemonic(&message);
+            return;
+        }
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+
+    ComPtr<IOleControl> m_control;
+    int m_claimed = 0;
+};
+
+/// Types a key with Alt, and another key after both have been let go.
+void typeWithAltAndThen(BYTE key, BYTE after)
+{
+    {
+        HeldKey const alt(VK_MENU);
+        kit::typeKey(key);
+    }
+    kit::typeKey(after);
+}
+
+MSG accessKey(UINT message, wchar_t key)
+{
+    MSG result{};
+    result.message = message;
+    result.wParam = key;
+    return result;
+}
+
+class Keys : public kit::ControlTest, public testing::WithParamInterface<HostKind> {
+protected:
+    kit::FakeForm form;
+    std::unique_ptr<Button> owner;
+
+    Button& button() { return *owner; }
+
+    void SetUp() override
+    {
+        ControlTest::SetUp();
+        owner = newButton(GetParam(), library(), form);
+        ASSERT_TRUE(kit::focus(button().window()));
+        kit::pumpPending();
+        button().events().forget();
+    }
+};
+
+TEST_P(Keys, pressingSpaceOnAFocusedButtonRaisesClick)
+{
+    EXPECT_THAT(typed(button(), VK_SPACE), ElementsAre("Click"));
+    EXPECT_EQ(button().look(), "normal");
+}
+
+TEST_P(Keys, enterRaisesNoClick) { EXPECT_THAT(typed(button(), VK_RETURN), ElementsAre()); }
+
+TEST_P(Keys, otherKeysRaiseNothing)
+{
+    for (int const key : {int{'A'}, int{'1'}, VK_TAB, VK_ESCAPE, VK_F1, VK_LEFT, VK_BACK})
+        EXPECT_THAT(typed(button(), static_cast<BYTE>(key)), ElementsAre()) << key;
+}
+
+TEST_P(Keys, spaceTypedIntoAnotherWindowRaisesNothing)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_THAT(typed(button(), VK_SPACE), ElementsAre());
+}
+
+TEST_P(Keys, spaceTypedWhereTheDisabledButtonHadTheFocusRaisesNoClick)
+{
+    button()->put_Enabled(VARIANT_FALSE);
+    // A disabled window may keep the focus or lose it to nobody: either way the key must come to nothing.
+    kit::pumpPending();
+    button().events().forget();
+    kit::typeKey(VK_SPACE);
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_TRUE(actUntilHandled(WM_KEYUP, [] { kit::typeKey('X'); }));
+    EXPECT_EQ(button().count("Click"), 0);
+}
+
+TEST_P(Keys, theAccessKeyRaisesClickAndTakesTheFocus)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    for (UINT const message : {WM_SYSCHAR, WM_SYSKEYDOWN}) {
+        ASSERT_TRUE(kit::focus(edit.get()));
+        kit::pumpPending();
+        button().events().forget();
+        MSG key = accessKey(message, L'S');
+        EXPECT_EQ(button().as<IOleControl>()->OnMnemonic(&key), S_OK);
+        EXPECT_EQ(button().count("Click"), 1);
+        EXPECT_EQ(::GetFocus(), button().window());
+    }
+}
+
+TEST_P(Keys, theAccessKeyOfTheCaptionTypedWithAltReachesTheButtonThroughItsContainer)
+{
+    button()->put_Caption(Bstr(L"&Save").get());
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    kit::pumpPending();
+    button().events().forget();
+    MnemonicLoop loop(button());
+    typeWithAltAndThen('S', 'Z');
+    EXPECT_TRUE(loop.untilKeyUp('Z'));
+    EXPECT_EQ(loop.claimed(), 1);
+    EXPECT_EQ(button().count("Click"), 1);
+    EXPECT_EQ(::GetFocus(), button().window());
+}
+
+TEST_P(Keys, anAccessKeyThatIsNotTheCaptionsReachesNobody)
+{
+    button()->put_Caption(Bstr(L"&Save").get());
+    kit::pumpPending();
+    button().events().forget();
+    MnemonicLoop loop(button());
+    typeWithAltAndThen('Q', 'Z');
+    EXPECT_TRUE(loop.untilKeyUp('Z'));
+    EXPECT_EQ(loop.claimed(), 0);
+    EXPECT_EQ(button().count("Click"), 0);
+}
+
+TEST_P(Keys, theAccessKeyOfADisabledButtonRaisesNothing)
+{
+    button()->put_Enabled(VARIANT_FALSE);
+    kit::pumpPending();
+    button().events().forget();
+    MSG key = accessKey(WM_SYSCHAR, L'S');
+    button().as<IOleControl>()->OnMnemonic(&key);
+    EXPECT_THAT(button().happened(), ElementsAre());
+}
+
+TEST_P(Keys, theContainersWayOfPressingADefaultButtonRaisesClick)
+{
+    kit::Called const called = kit::invoke(*button().operator->(), DISPID_DOCLICK, DISPATCH_METHOD);
+    EXPECT_EQ(called.result, S_OK);
+    EXPECT_THAT(button().happened(), ElementsAre("Click"));
+}
+
+INSTANTIATE_TEST_SUITE_P(In, Keys, testing::Values(HostKind::Form, HostKind::AtlAxWin),
+                         [](auto const& tested) { return nameOf(tested.param); });
+
+} // namespace
+} // namespace quillet::input
