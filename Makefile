@@ -5,7 +5,7 @@ help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
 
 build: ## out/x86/quilbt.ocx and out/x64/quilbt.ocx, with the gallery beside each
-	@tools/build x86-release x64-release
+	@tools/build --product x86-release x64-release
 
 test: ## every test of both architectures
 	@tools/test
