@@ -27,12 +27,6 @@ ULONG ClassFactory::Release()
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
 {
-    if (!object)
-        return E_POINTER;
-    *object = nullptr;
-    // An aggregate must first get hold of the inner object's own identity, to own it.
-    if (outer && iid != IID_IUnknown)
-        return CLASS_E_NOAGGREGATION;
     return m_row.create(outer, iid, object);
 }
 
