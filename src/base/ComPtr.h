@@ -66,7 +66,10 @@ public:
     explicit operator bool() const noexcept { return m_object != nullptr; }
 
     /// The same object by another interface; empty when it has none, or when this is empty.
-    template <class U> ComPtr<U> as(REFIID iid = __uuidof(U)) const noexcept { return query<U>(m_object, iid); }
+    template <class U> ComPtr<U> as(REFIID iid = __uuidof(U)) const noexcept
+    {
+        return query<U>(m_object, iid);
+    }
 
     /// Asks a borrowed pointer for an interface. A success that hands out nothing counts as a refusal.
     template <class U> static ComPtr<U> query(IUnknown* object, REFIID iid = __uuidof(U)) noexcept

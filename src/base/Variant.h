@@ -4,8 +4,9 @@
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
+
 #include <oleauto.h>
 
 namespace quillet {

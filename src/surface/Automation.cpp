@@ -23,22 +23,31 @@ ComPtr<ITypeLib> ownTypeLibrary()
     return library;
 }
 
+bool assignsObject(DISPPARAMS const& arguments) noexcept
+{
+    return arguments.cArgs == 1 &&
+           (arguments.rgvarg->vt == VT_DISPATCH || arguments.rgvarg->vt == VT_UNKNOWN);
+}
+
 } // namespace
 
-ITypeInfo& TypeInfos::interfaceInfo(IID const& interfaceId)
+ITypeInfo& TypeInfos::dispatchInfo(IID const& interfaceId)
 {
-    if (m_interface)
-        return *m_interface.get();
-    ComPtr<ITypeInfo> dispatch;
-    check(ownTypeLibrary()->GetTypeInfoOfGuid(interfaceId, dispatch.put()));
-    // A dual interface is described twice; only the vtable description calls through the vtable.
+    if (!m_dispatch)
+        check(ownTypeLibrary()->GetTypeInfoOfGuid(interfaceId, m_dispatch.put()));
+    return *m_dispatch.get();
+}
+
+ITypeInfo& TypeInfos::vtableInfo(IID const& interfaceId)
+{
+    if (m_vtable)
+        return *m_vtable.get();
+    // A dual interface is described twice; index -1 leads from the one description to the other.
+    ITypeInfo& dispatch = dispatchInfo(interfaceId);
     HREFTYPE reference = 0;
-    if (FAILED(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference))) {
-        m_interface = dispatch;
-        return *m_interface.get();
-    }
-    check(dispatch->GetRefTypeInfo(reference, m_interface.put()));
-    return *m_interface.get();
+    check(dispatch.GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
+    check(dispatch.GetRefTypeInfo(reference, m_vtable.put()));
+    return *m_vtable.get();
 }
 
 ComPtr<ITypeInfo> TypeInfos::classInfo(CLSID const& classId)
@@ -54,7 +63,7 @@ HRESULT Automation::getTypeInfo(Surface& surface, UINT index, ITypeInfo** info) 
         deref(info) = nullptr;
         if (index != 0)
             throw RunTimeError(DISP_E_BADINDEX);
-        ITypeInfo& found = m_infos.interfaceInfo(surface.controlClass().interfaceId);
+        ITypeInfo& found = m_infos.dispatchInfo(surface.controlClass().interfaceId);
         *info = ComPtr<ITypeInfo>(&found).detach();
     });
 }
@@ -64,7 +73,7 @@ HRESULT Automation::getIdsOfNames(Surface& surface, LPOLESTR* names, UINT count,
     return comCall([&] {
         deref(names);
         deref(ids);
-        return m_infos.interfaceInfo(surface.controlClass().interfaceId).GetIDsOfNames(names, count, ids);
+        return m_infos.dispatchInfo(surface.controlClass().interfaceId).GetIDsOfNames(names, count, ids);
     });
 }
 
@@ -79,8 +88,12 @@ HRESULT Automation::invoke(Surface& surface, IDispatch* dual, DISPID id, WORD ki
             surface.onClick();
             return S_OK;
         }
-        return m_infos.interfaceInfo(surface.controlClass().interfaceId)
-            .Invoke(dual, id, kind, arguments, result, exception, badArgument);
+        ITypeInfo& info = m_infos.vtableInfo(surface.controlClass().interfaceId);
+        HRESULT const done = info.Invoke(dual, id, kind, arguments, result, exception, badArgument);
+        // Script assigns objects like values; the object properties take references.
+        if (done == DISP_E_MEMBERNOTFOUND && kind == DISPATCH_PROPERTYPUT && assignsObject(*arguments))
+            return info.Invoke(dual, id, DISPATCH_PROPERTYPUTREF, arguments, result, exception, badArgument);
+        return done;
     });
 }
 

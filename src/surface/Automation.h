@@ -4,21 +4,24 @@
 #include "base/ComPtr.h"
 #include "surface/Face.h"
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 namespace quillet {
 
 /// The descriptions that the component's own type library gives of a class, loaded at first need.
 class TypeInfos {
 public:
-    /// The vtable form of the described interface. Throws when the type library cannot be loaded.
-    ITypeInfo& interfaceInfo(IID const& interfaceId);
+    /// The dispatch form of the described interface, as hosts look at it, and the vtable form, as calls go
+    /// through it. Throw when the type library cannot be loaded.
+    ITypeInfo& dispatchInfo(IID const& interfaceId);
+    ITypeInfo& vtableInfo(IID const& interfaceId);
     /// The description of the class.
     static ComPtr<ITypeInfo> classInfo(CLSID const& classId);
 
 private:
-    ComPtr<ITypeInfo> m_interface;
+    ComPtr<ITypeInfo> m_dispatch;
+    ComPtr<ITypeInfo> m_vtable;
 };
 
 /// The part of automation that does not depend on the interface.
@@ -56,7 +59,8 @@ public:
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* badArgument) override
     {
-        return m_automation.invoke(this->m_surface, this, id, kind, arguments, result, exception, badArgument);
+        return m_automation.invoke(this->m_surface, this, id, kind, arguments, result, exception,
+                                   badArgument);
     }
 
 private:

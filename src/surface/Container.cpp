@@ -61,7 +61,8 @@ bool Container::userMode() const noexcept
 
 ComPtr<IFont> Container::ambientFont() const
 {
-    auto const answered = orFallback(ComPtr<IUnknown>(), [&] { return ambient(DISPID_AMBIENT_FONT).toObject(); });
+    auto const answered =
+        orFallback(ComPtr<IUnknown>(), [&] { return ambient(DISPID_AMBIENT_FONT).toObject(); });
     if (auto own = copyOfFont(answered.get()))
         return own;
     if (auto own = copyOfFont(m_quickFont.get()))

@@ -4,9 +4,9 @@
 #include "base/ComPtr.h"
 #include "base/Variant.h"
 
-#include <windows.h>
 #include <ocidl.h>
 #include <olectl.h>
+#include <windows.h>
 
 #include <vector>
 

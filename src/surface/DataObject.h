@@ -4,6 +4,7 @@
 #include "surface/Face.h"
 
 #include <windows.h>
+
 #include <objidl.h>
 
 namespace quillet {

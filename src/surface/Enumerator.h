@@ -6,9 +6,10 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 
-#include <windows.h>
-#include <objidl.h>
 #include <ocidl.h>
+#include <windows.h>
+
+#include <objidl.h>
 
 #include <utility>
 #include <vector>
@@ -50,7 +51,10 @@ public:
         *object = ComPtr<Interface>(this).detach();
         return S_OK;
     }
-    STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(::InterlockedIncrement(&m_references)); }
+    STDMETHODIMP_(ULONG) AddRef() override
+    {
+        return static_cast<ULONG>(::InterlockedIncrement(&m_references));
+    }
     STDMETHODIMP_(ULONG) Release() override
     {
         LONG const left = ::InterlockedDecrement(&m_references);

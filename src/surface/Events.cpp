@@ -5,8 +5,9 @@
 #include "surface/Enumerator.h"
 #include "surface/Surface.h"
 
-#include <algorithm>
 #include <olectl.h>
+
+#include <algorithm>
 
 namespace quillet {
 
@@ -32,7 +33,8 @@ HRESULT ConnectionPoint::GetConnectionInterface(IID* iid)
 
 HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer** container)
 {
-    return comCall([&] { deref(container) = ComPtr<IConnectionPointContainer>(&m_surface.events()).detach(); });
+    return comCall(
+        [&] { deref(container) = ComPtr<IConnectionPointContainer>(&m_surface.events()).detach(); });
 }
 
 HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie)
@@ -62,16 +64,14 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie)
 
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** enumerator)
 {
-    return comCall([&] {
-        deref(enumerator) = Enumerator<IEnumConnections, CONNECTDATA>::make(snapshot()).detach();
-    });
+    return comCall(
+        [&] { deref(enumerator) = Enumerator<IEnumConnections, CONNECTDATA>::make(snapshot()).detach(); });
 }
 
 Events::Events(Surface& surface) noexcept
     : Face(surface), m_eventPoint(surface, surface.controlClass().eventsId),
       m_notifyPoint(surface, IID_IPropertyNotifySink)
-{
-}
+{}
 
 HRESULT Events::EnumConnectionPoints(IEnumConnectionPoints** enumerator)
 {

@@ -5,8 +5,8 @@
 #include "base/Variant.h"
 #include "surface/Face.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 #include <initializer_list>
 #include <utility>

@@ -45,8 +45,8 @@ Variant itemByIndex(IDispatch* collection, long index)
     DISPPARAMS arguments = {argument.address(), nullptr, 1, 0};
     Variant result;
     // A collection may offer its items as a property or as a method.
-    check(collection->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD, &arguments,
-                             result.address(), nullptr, nullptr));
+    check(collection->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET | DISPATCH_METHOD,
+                             &arguments, result.address(), nullptr, nullptr));
     return result;
 }
 

@@ -4,8 +4,8 @@
 #include "base/ComPtr.h"
 #include "base/Variant.h"
 
-#include <windows.h>
 #include <oaidl.h>
+#include <windows.h>
 
 namespace quillet {
 

@@ -12,12 +12,14 @@ namespace {
 
 wchar_t lowered(wchar_t character) noexcept
 {
-    return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(::CharLowerW(reinterpret_cast<LPWSTR>(UINT_PTR{character}))));
+    return static_cast<wchar_t>(
+        reinterpret_cast<UINT_PTR>(::CharLowerW(reinterpret_cast<LPWSTR>(UINT_PTR{character}))));
 }
 
 wchar_t raised(wchar_t character) noexcept
 {
-    return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(::CharUpperW(reinterpret_cast<LPWSTR>(UINT_PTR{character}))));
+    return static_cast<wchar_t>(
+        reinterpret_cast<UINT_PTR>(::CharUpperW(reinterpret_cast<LPWSTR>(UINT_PTR{character}))));
 }
 
 /// Plain characters with Alt in both cases: some containers compare the character exactly.
@@ -53,7 +55,8 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* info)
 HRESULT OleControl::OnMnemonic(LPMSG message)
 {
     return m_surface.call([&] {
-        bool const byAccessKey = message && (message->message == WM_SYSCHAR || message->message == WM_SYSKEYDOWN);
+        bool const byAccessKey =
+            message && (message->message == WM_SYSCHAR || message->message == WM_SYSKEYDOWN);
         // An access key brings the focus along; Enter for a default button leaves it where it is.
         if (byAccessKey && m_surface.inPlace().isActive())
             m_surface.inPlace().activate(InPlace::Activation::WithFocus, nullptr);

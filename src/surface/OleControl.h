@@ -4,8 +4,8 @@
 #include "base/Handles.h"
 #include "surface/Face.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 #include <string>
 #include <string_view>

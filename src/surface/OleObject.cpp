@@ -42,7 +42,8 @@ HRESULT OleObject::SetClientSite(IOleClientSite* site)
 
 HRESULT OleObject::GetClientSite(IOleClientSite** site)
 {
-    return m_surface.call([&] { deref(site) = ComPtr<IOleClientSite>(m_surface.container().site()).detach(); });
+    return m_surface.call(
+        [&] { deref(site) = ComPtr<IOleClientSite>(m_surface.container().site()).detach(); });
 }
 
 HRESULT OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
@@ -181,9 +182,8 @@ HRESULT OleObject::EnumAdvise(IEnumSTATDATA** enumerator)
 
 HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status)
 {
-    return comCall([&] {
-        deref(status) = aspect == DVASPECT_CONTENT ? m_surface.controlClass().miscStatus : 0;
-    });
+    return comCall(
+        [&] { deref(status) = aspect == DVASPECT_CONTENT ? m_surface.controlClass().miscStatus : 0; });
 }
 
 HRESULT OleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }

@@ -5,6 +5,7 @@
 #include "surface/Face.h"
 
 #include <windows.h>
+
 #include <oleidl.h>
 
 namespace quillet {

@@ -55,7 +55,8 @@ HRESULT Persistence::Load(IStorage* storage)
 {
     return m_surface.call([&] {
         ComPtr<IStream> stream;
-        check(deref(storage).OpenStream(kStreamName, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.put()));
+        check(deref(storage).OpenStream(kStreamName, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
+                                        stream.put()));
         load(deref(stream.get()));
     });
 }

@@ -67,6 +67,9 @@ Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
     throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
-void HostPropertyBag::write(wchar_t const* name, Variant value) { check(m_bag->Write(name, value.address())); }
+void HostPropertyBag::write(wchar_t const* name, Variant value)
+{
+    check(m_bag->Write(name, value.address()));
+}
 
 } // namespace quillet

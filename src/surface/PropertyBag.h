@@ -3,8 +3,8 @@
 
 #include "base/Variant.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 namespace quillet {
 

@@ -6,9 +6,9 @@
 #include "surface/PropertyBag.h"
 #include "surface/Surface.h"
 
-#include <windows.h>
 #include <ocidl.h>
 #include <olectl.h>
+#include <windows.h>
 
 #include <span>
 #include <type_traits>
@@ -70,7 +70,10 @@ inline void storeField(Bstr& field, Variant const& value) { field = value.toStri
 inline void storeField(bool& field, Variant const& value) { field = value.toBool(); }
 inline void storeField(short& field, Variant const& value) { field = value.toShort(); }
 inline void storeField(long& field, Variant const& value) { field = value.toLong(); }
-inline void storeField(OLE_COLOR& field, Variant const& value) { field = static_cast<OLE_COLOR>(value.toLong()); }
+inline void storeField(OLE_COLOR& field, Variant const& value)
+{
+    field = static_cast<OLE_COLOR>(value.toLong());
+}
 
 /// The properties that the surface itself holds.
 template <class Control> struct SurfaceAccess {
@@ -182,21 +185,20 @@ inline Variant argumentValue(PropertyKind kind, short value)
     return kind == PropertyKind::Flag ? Variant::ofBool(value != VARIANT_FALSE) : Variant::ofShort(value);
 }
 template <class Enumeration>
-    requires std::is_enum_v<Enumeration>
-Variant argumentValue(PropertyKind, Enumeration value)
+requires std::is_enum_v<Enumeration> Variant argumentValue(PropertyKind, Enumeration value)
 {
     return Variant::ofLong(static_cast<long>(value));
 }
 inline void answerValue(Variant const& value, BSTR& out) { out = value.toString().copy(); }
 inline void answerValue(Variant const& value, VARIANT& out) { out = Variant(value).detach(); }
-inline void answerValue(Variant const& value, OLE_COLOR& out) { out = static_cast<OLE_COLOR>(value.get().lVal); }
+inline void answerValue(Variant const& value, OLE_COLOR& out)
+{
+    out = static_cast<OLE_COLOR>(value.get().lVal);
+}
 inline void answerValue(Variant const& value, short& out) { out = value.get().iVal; } // VT_BOOL shares it
 template <class Enumeration>
-    requires std::is_enum_v<Enumeration>
-void answerValue(Variant const& value, Enumeration& out)
-{
-    out = static_cast<Enumeration>(value.get().lVal);
-}
+requires std::is_enum_v<Enumeration>
+void answerValue(Variant const& value, Enumeration& out) { out = static_cast<Enumeration>(value.get().lVal); }
 
 /// A property's members as a vtable has them.
 template <class Control, class Value>
@@ -208,7 +210,8 @@ HRESULT getMember(Control& control, PropertyTable<Control> const& table, DISPID 
     });
 }
 template <class Control, class Value>
-HRESULT putMember(Control& control, PropertyTable<Control> const& table, DISPID id, Value const& value) noexcept
+HRESULT putMember(Control& control, PropertyTable<Control> const& table, DISPID id,
+                  Value const& value) noexcept
 {
     return control.call([&] {
         auto const& row = table.rowOf(id);
@@ -216,7 +219,8 @@ HRESULT putMember(Control& control, PropertyTable<Control> const& table, DISPID 
     });
 }
 template <class Control, class Object>
-HRESULT getObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id, Object** value) noexcept
+HRESULT getObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id,
+                        Object** value) noexcept
 {
     return control.call([&] {
         deref(value) = nullptr;
@@ -224,7 +228,8 @@ HRESULT getObjectMember(Control& control, PropertyTable<Control> const& table, D
     });
 }
 template <class Control>
-HRESULT putObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id, IUnknown* value) noexcept
+HRESULT putObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id,
+                        IUnknown* value) noexcept
 {
     return control.call([&] { table.put(control, table.rowOf(id), Variant::ofUnknown(value)); });
 }

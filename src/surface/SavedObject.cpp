@@ -4,9 +4,10 @@
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
 
-#include <objidl.h>
 #include <ocidl.h>
 #include <olectl.h>
+
+#include <objidl.h>
 
 namespace quillet {
 

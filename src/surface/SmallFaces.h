@@ -4,9 +4,9 @@
 #include "base/ComPtr.h"
 #include "surface/Face.h"
 
-#include <windows.h>
-#include <ocidl.h>
 #include <objsafe.h>
+#include <ocidl.h>
+#include <windows.h>
 
 namespace quillet {
 

@@ -3,8 +3,8 @@
 
 #include "base/ComPtr.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 namespace quillet {
 

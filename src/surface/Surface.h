@@ -20,8 +20,8 @@
 #include "surface/SurfaceWindow.h"
 #include "surface/View.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 #include <string>
 

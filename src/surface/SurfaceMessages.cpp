@@ -21,10 +21,10 @@ struct ButtonRow {
 };
 
 constexpr ButtonRow kButtons[] = {
-    {WM_LBUTTONDOWN, kLeft, ButtonRow::What::Down},     {WM_LBUTTONUP, kLeft, ButtonRow::What::Up},
-    {WM_LBUTTONDBLCLK, kLeft, ButtonRow::What::Double}, {WM_RBUTTONDOWN, kRight, ButtonRow::What::Down},
-    {WM_RBUTTONUP, kRight, ButtonRow::What::Up},        {WM_RBUTTONDBLCLK, kRight, ButtonRow::What::Double},
-    {WM_MBUTTONDOWN, kMiddle, ButtonRow::What::Down},   {WM_MBUTTONUP, kMiddle, ButtonRow::What::Up},
+    {WM_LBUTTONDOWN, kLeft, ButtonRow::What::Down},       {WM_LBUTTONUP, kLeft, ButtonRow::What::Up},
+    {WM_LBUTTONDBLCLK, kLeft, ButtonRow::What::Double},   {WM_RBUTTONDOWN, kRight, ButtonRow::What::Down},
+    {WM_RBUTTONUP, kRight, ButtonRow::What::Up},          {WM_RBUTTONDBLCLK, kRight, ButtonRow::What::Double},
+    {WM_MBUTTONDOWN, kMiddle, ButtonRow::What::Down},     {WM_MBUTTONUP, kMiddle, ButtonRow::What::Up},
     {WM_MBUTTONDBLCLK, kMiddle, ButtonRow::What::Double},
 };
 

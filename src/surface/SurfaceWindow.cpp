@@ -113,7 +113,8 @@ void SurfaceWindow::move(RECT const& position, RECT const* clip)
     ::SetWindowPos(window, nullptr, position.left, position.top, position.right - position.left,
                    position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
     RECT visible;
-    bool const partly = clip && ::IntersectRect(&visible, clip, &position) && !::EqualRect(&visible, &position);
+    bool const partly =
+        clip && ::IntersectRect(&visible, clip, &position) && !::EqualRect(&visible, &position);
     if (!partly) {
         ::SetWindowRgn(window, nullptr, TRUE);
         return;

@@ -16,8 +16,8 @@ ThreadState& threadState()
 {
     if (void* const existing = ::TlsGetValue(g_slot))
         return *static_cast<ThreadState*>(existing);
-    auto* const made = static_cast<ThreadState*>(
-        ::HeapAlloc(::GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(ThreadState)));
+    auto* const made =
+        static_cast<ThreadState*>(::HeapAlloc(::GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(ThreadState)));
     if (!made || !::TlsSetValue(g_slot, made)) {
         ::HeapFree(::GetProcessHeap(), 0, made);
         throw std::bad_alloc();

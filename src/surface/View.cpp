@@ -35,9 +35,9 @@ public:
     {
         ::GdiFlush(); // the bits are read directly
         ::SetStretchBltMode(target, COLORONCOLOR);
-        ::StretchDIBits(target, bounds.left, bounds.top, bounds.right - bounds.left, bounds.bottom - bounds.top,
-                        0, 0, m_info.bmiHeader.biWidth, m_info.bmiHeader.biHeight, m_bits, &m_info,
-                        DIB_RGB_COLORS, SRCCOPY);
+        ::StretchDIBits(target, bounds.left, bounds.top, bounds.right - bounds.left,
+                        bounds.bottom - bounds.top, 0, 0, m_info.bmiHeader.biWidth, m_info.bmiHeader.biHeight,
+                        m_bits, &m_info, DIB_RGB_COLORS, SRCCOPY);
     }
 
 private:
@@ -58,8 +58,8 @@ LONG pixelsOf(LONG himetric, int perInch) noexcept { return ::MulDiv(himetric, p
 
 } // namespace
 
-HRESULT View::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HDC dc, LPCRECTL bounds, LPCRECTL, Continue,
-                   ULONG_PTR)
+HRESULT View::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HDC dc, LPCRECTL bounds, LPCRECTL,
+                   Continue, ULONG_PTR)
 {
     return m_surface.call([&] {
         requireContent(aspect);
@@ -144,7 +144,10 @@ HRESULT View::QueryHitRect(DWORD aspect, LPCRECT bounds, LPCRECT rect, LONG, DWO
     });
 }
 
-HRESULT View::GetNaturalExtent(DWORD, LONG, DVTARGETDEVICE*, HDC, DVEXTENTINFO*, LPSIZEL) { return E_NOTIMPL; }
+HRESULT View::GetNaturalExtent(DWORD, LONG, DVTARGETDEVICE*, HDC, DVEXTENTINFO*, LPSIZEL)
+{
+    return E_NOTIMPL;
+}
 
 SIZE View::naturalSize(RECT const& bounds)
 {

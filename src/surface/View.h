@@ -4,8 +4,8 @@
 #include "base/ComPtr.h"
 #include "surface/Face.h"
 
-#include <windows.h>
 #include <ocidl.h>
+#include <windows.h>
 
 namespace quillet {
 

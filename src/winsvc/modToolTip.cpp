@@ -44,8 +44,9 @@ void relay(HWND toolTip, HWND window, UINT message, WPARAM wParam, LPARAM lParam
 HWND newToolTipWindow() noexcept
 {
     ::InitCommonControls();
-    HWND const made = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, 0, CW_USEDEFAULT, CW_USEDEFAULT,
-                                        CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, moduleInstance(), nullptr);
+    HWND const made =
+        ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, 0, CW_USEDEFAULT, CW_USEDEFAULT,
+                          CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, moduleInstance(), nullptr);
     ::SendMessageA(made, TTM_ACTIVATE, TRUE, 0);
     return made;
 }
@@ -56,8 +57,8 @@ std::string ansiOf(std::wstring_view text)
     std::string result(static_cast<size_t>(::WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0,
                                                                  nullptr, nullptr)),
                        '\0');
-    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, result.data(), static_cast<int>(result.size()), nullptr,
-                          nullptr);
+    ::WideCharToMultiByte(CP_ACP, 0, text.data(), length, result.data(), static_cast<int>(result.size()),
+                          nullptr, nullptr);
     return result;
 }
 

@@ -115,6 +115,11 @@ Names Button::during(std::function<void()> const& act, char const* last)
     return happened();
 }
 
+std::string Button::lastEvent() const
+{
+    return m_events->events.empty() ? std::string() : nameOf(m_events->events.back().id);
+}
+
 void Button::disconnect()
 {
     ComPtr<IConnectionPoint> point;

@@ -54,6 +54,7 @@ public:
     /// What happened from the beginning of the act until the last event came and nothing more was to come.
     Names during(std::function<void()> const& act, char const* last);
     int count(char const* event) const;
+    std::string lastEvent() const;
 
     void disconnect();
     /// Gives up the control without a word to it. Its own references are not the test's.

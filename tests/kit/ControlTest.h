@@ -12,11 +12,16 @@ namespace quillet::kit {
 /// test class have gone.
 class ControlTest : public testing::Test {
 protected:
+    ControlTest();
     ~ControlTest() override;
     void SetUp() override;
 
     /// Loaded once for the whole program, as in a host.
     static Library const& library();
+
+private:
+    long m_aliveBefore; ///< what an earlier test left behind is that one's failure
+    bool m_cleanBefore;
 };
 
 } // namespace quillet::kit

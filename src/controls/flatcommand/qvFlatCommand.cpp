@@ -128,9 +128,9 @@ HRESULT qvFlatCommand::ShowAbout()
 HRESULT qvFlatCommand::WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result)
 {
     return call([&] {
-        deref(result) =
-            static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)), static_cast<UINT>(uMsg),
-                                                   static_cast<WPARAM>(wParam), lParam));
+        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)),
+                                                               static_cast<UINT>(uMsg),
+                                                               static_cast<WPARAM>(wParam), lParam));
     });
 }
 

@@ -44,11 +44,17 @@ public:
 
     // _qvFlatCommand: every property reads and writes through its row.
 #define QV_VALUE(name, id, type, help)                                                                       \
-    STDMETHODIMP get_##name(type* value) override { return getMember(*this, kProperties, id, value); }                            \
+    STDMETHODIMP get_##name(type* value) override { return getMember(*this, kProperties, id, value); }       \
     STDMETHODIMP put_##name(type value) override { return putMember(*this, kProperties, id, value); }
 #define QV_OBJECT(name, id, type, help)                                                                      \
-    STDMETHODIMP get_##name(type** value) override { return getObjectMember(*this, kProperties, id, value); }                          \
-    STDMETHODIMP putref_##name(type* value) override { return putObjectMember(*this, kProperties, id, value); }
+    STDMETHODIMP get_##name(type** value) override                                                           \
+    {                                                                                                        \
+        return getObjectMember(*this, kProperties, id, value);                                               \
+    }                                                                                                        \
+    STDMETHODIMP putref_##name(type* value) override                                                         \
+    {                                                                                                        \
+        return putObjectMember(*this, kProperties, id, value);                                               \
+    }
 #define QV_READ_ONLY(name, id, type, help) STDMETHODIMP get_##name(type* value) override;
 #define QV_METHOD(name, id, help) STDMETHODIMP name() override;
 #define QV_WINDOW_PROCEDURE(name, id, help)                                                                  \

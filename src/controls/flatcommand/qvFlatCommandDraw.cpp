@@ -28,7 +28,8 @@ constexpr COLORREF kLightGrey = 0xE0E0E0;
 constexpr long kFixedSingle = 1;
 
 /// The host's own command button.
-constexpr IID kIntrinsicButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
+constexpr IID kIntrinsicButton = {
+    0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
 
 /// The buttons whose focus takes the emphasis from the form's default button. A tool button is not one.
 bool isEmphasisTaker(IUnknown* control)
@@ -263,9 +264,11 @@ void qvFlatCommand::drawPiece(Painting& painting, std::wstring_view text, Underl
 {
     check(font()->put_Underline(underline == Underline::On));
     painting.canvas.Font(font());
-    long const width = checkedSubtract(checkedSubtract(checkedSubtract(painting.size.cx, x), painting.inset), 1);
+    long const width =
+        checkedSubtract(checkedSubtract(checkedSubtract(painting.size.cx, x), painting.inset), 1);
     long const height = checkedSubtract(between(painting.size.cy, painting.inset), 2);
-    painting.canvas.FillRect(x, checkedAdd(painting.inset, 1), width, height, painting.palette.back, x, y, text);
+    painting.canvas.FillRect(x, checkedAdd(painting.inset, 1), width, height, painting.palette.back, x, y,
+                             text);
 }
 
 } // namespace quillet

@@ -46,8 +46,10 @@ bool qvFlatCommand::enterOrExit(bool over)
 void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
 {
     if (userMode()) {
-        ignoringErrors([&] { m_looks.toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
-        bool const dragged = mouse.button == kLeftButton && ::GetCapture() == hWnd() && isOver() != m_lastOver;
+        ignoringErrors(
+            [&] { m_looks.toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
+        bool const dragged =
+            mouse.button == kLeftButton && ::GetCapture() == hWnd() && isOver() != m_lastOver;
         if (dragged)
             setPressed(true); // painting takes it back when the cursor is not over the button
         else if (mouse.button == 0 && enterOrExit(isOver()))
@@ -120,8 +122,8 @@ void qvFlatCommand::setPressed(bool pressed)
 void qvFlatCommand::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
 {
     MouseArguments own = mouse; // a sink may write to the arguments
-    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift), Variant::ofFloatRef(&own.x),
-                    Variant::ofFloatRef(&own.y)});
+    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
+                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
 }
 
 /// The default button's look depends on which button has the focus.
