@@ -1,0 +1,159 @@
+// Hover between buttons, under code that takes the capture or moves the window, and what it refreshes.
+#include "Gestures.h"
+#include "kit/Pump.h"
+
+namespace quillet::input {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+
+constexpr RECT kNeighbour{140, 30, 260, 70}; // touches the first button's right edge
+
+class Hover : public kit::ControlTest {
+protected:
+    kit::FakeForm form;
+    FormButton button{library(), form};
+    FormButton neighbour{library(), form, kNeighbour, L"Button2"};
+    Names told; ///< the events of both but Paint and MouseMove, as "1.Click"
+
+    void SetUp() override
+    {
+        ControlTest::SetUp();
+        button.start();
+        neighbour.start();
+        ASSERT_TRUE(kit::focus(button.window()));
+        kit::pumpPending();
+        tell(button, "1.");
+        tell(neighbour, "2.");
+    }
+    void TearDown() override
+    {
+        kit::release(kit::MouseButton::Left);
+        button.events().action = nullptr;
+        neighbour.events().action = nullptr;
+        EXPECT_TRUE(kit::moveCursorAway());
+        kit::pumpPending();
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+    void tell(FormButton& who, std::string const& prefix)
+    {
+        who.events().action = [this, &who, prefix](kit::EventRecorder::Event const&) {
+            std::string const name = who.lastEvent();
+            if (name != "Paint" && name != "MouseMove")
+                told.push_back(prefix + name);
+        };
+    }
+    /// Moves on over the neighbour until the system has noticed whose the mouse is now.
+    bool moveOverNeighbourUntil(char const* event)
+    {
+        int x = 20;
+        return kit::pumpUntil([&] {
+            kit::moveCursorTo(neighbour.window(), x = x == 20 ? 25 : 20, 20);
+            return neighbour.count(event) > 0;
+        });
+    }
+    std::wstring toolTipText() const
+    {
+        Bstr text;
+        EXPECT_EQ(button->get_ToolTipText(text.put()), S_OK);
+        return std::wstring(text.view());
+    }
+};
+
+TEST_F(Hover, fromOneButtonToItsNeighbourLeavesTheOneBeforeItEntersTheOther)
+{
+    enter(button);
+    EXPECT_TRUE(moveOverNeighbourUntil("MouseEnter"));
+    EXPECT_THAT(told, ElementsAre("1.MouseEnter", "1.MouseExit", "2.MouseEnter"));
+    EXPECT_EQ(button.look(), "normal");
+    EXPECT_EQ(neighbour.look(), "hot");
+    EXPECT_EQ(::GetCapture(), neighbour.window());
+}
+
+TEST_F(Hover, draggedFromOneButtonToItsNeighbourAndLetGoThereIsNobodysClick)
+{
+    enter(button);
+    pressDown(button);
+    EXPECT_THAT(button.during([&] { kit::moveCursorTo(neighbour.window(), 30, 20); }, "MouseMove"),
+                ElementsAre("Paint", "MouseMove"));
+    EXPECT_EQ(neighbour.look(), "normal");
+    letUp(button);
+    EXPECT_TRUE(moveOverNeighbourUntil("MouseEnter"));
+    EXPECT_THAT(told, ElementsAre("1.MouseEnter", "1.MouseDown", "1.MouseUp", "1.MouseExit", "2.MouseEnter"));
+}
+
+TEST_F(Hover, whoseCaptureSomebodyTookBeginsAgainAtTheNextMoveInside)
+{
+    enter(button);
+    // Giving the capture up makes the system look again where the cursor is: that alone may be a move.
+    auto const lost = [&] {
+        ::ReleaseCapture();
+        kit::moveCursorTo(button.window(), kInsideToo.x, kInsideToo.y);
+    };
+    EXPECT_THAT(button.during(lost, "MouseMove"), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_EQ(::GetCapture(), button.window());
+}
+
+TEST_F(Hover, whoseCaptureSomebodyTookEndsWithoutMouseExit)
+{
+    enter(button);
+    ::SetCapture(form.window());
+    button.events().forget();
+    EXPECT_TRUE(actUntilHandled(WM_MOUSEMOVE,
+                                [&] { kit::moveCursorTo(form.window(), kInside.x, kPlace.bottom + 50); }));
+    ::ReleaseCapture();
+    kit::pumpPending();
+    EXPECT_EQ(button.count("MouseExit"), 0);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.look(), "normal");
+}
+
+TEST_F(Hover, showsAtTheNextPaintingWithoutAnyMouseMessage)
+{
+    ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
+    kit::pumpPending();
+    ASSERT_EQ(button.look(), "normal");
+    RECT const under{20, 180, 140, 220};
+    button.as<IOleInPlaceObject>()->SetObjectRects(&under, &under);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.look(), "hot");
+    button.as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.look(), "normal");
+}
+
+TEST_F(Hover, offAPressedButtonThatMovesAwayForgetsThePress)
+{
+    enter(button);
+    pressDown(button);
+    RECT const elsewhere{20, 180, 140, 220};
+    button.as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, &elsewhere);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.look(), "normal");
+    button.as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace);
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.look(), "hot") << "painting took the press back";
+}
+
+TEST_F(Hover, refreshesTheToolTipTextFromTheExtender)
+{
+    button.extender().offer(L"ToolTipText", Variant::ofString(L"first"));
+    enter(button);
+    EXPECT_EQ(toolTipText(), L"first");
+    button.extender().offer(L"ToolTipText", Variant::ofString(L"second"));
+    EXPECT_EQ(toolTipText(), L"first");
+    moveInside(button);
+    EXPECT_EQ(toolTipText(), L"second");
+}
+
+TEST_F(Hover, goesOnWhereTheExtenderHasNoToolTipText)
+{
+    button.extender().remove(L"ToolTipText");
+    EXPECT_THAT(enter(button), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    EXPECT_THAT(leave(button), Contains("MouseExit"));
+}
+
+} // namespace
+} // namespace quillet::input
