@@ -1,0 +1,285 @@
+// In-place activation: what the site is asked, and where the window is.
+#include "SurfaceTest.h"
+#include "kit/HostWindow.h"
+#include "kit/Input.h"
+
+#include <algorithm>
+
+namespace quillet::hosting {
+namespace {
+
+class InPlace : public SurfaceTest {
+protected:
+    void begin()
+    {
+        ASSERT_EQ(control.setSite(), S_OK);
+        ASSERT_EQ(control.initNew(), S_OK);
+        ASSERT_EQ(control.setExtent(), S_OK);
+        record().forget();
+    }
+    /// The calls to the site and the frame that concern activation, in order.
+    std::vector<std::string> activationCalls()
+    {
+        std::vector<std::string> calls;
+        for (std::string const& call : record().take())
+            for (char const* const part :
+                 {"CanInPlaceActivate", "OnInPlaceActivate", "OnInPlaceActivateEx", "OnUIActivate",
+                  "SetActiveObject", "OnUIDeactivate", "OnInPlaceDeactivate"})
+                if (call.substr(call.find('.') + 1, strlen(part)) == part)
+                    calls.push_back(call.substr(call.find('.') + 1));
+        calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
+        return calls;
+    }
+};
+
+TEST_F(InPlace, activationAsksThenTellsThenShowsTheWindowInTheForm)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_THAT(activationCalls(), testing::ElementsAre("CanInPlaceActivate", "OnInPlaceActivate"));
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(placeOf(control.window()), kPlace);
+}
+
+TEST_F(InPlace, activationUsesTheExtendedSiteWhereThereIsOne)
+{
+    control.site().show(__uuidof(IOleInPlaceSiteEx));
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_EQ(record().count("Site.OnInPlaceActivate") + record().count("Site.OnInPlaceActivateEx"), 1);
+    EXPECT_TRUE(isShown());
+    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(record().count("Site.OnInPlaceDeactivate") + record().count("Site.OnInPlaceDeactivateEx"), 1);
+}
+
+TEST_F(InPlace, activationTwiceTellsOnce)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_EQ(record().count("Site.OnInPlaceActivate"), 1);
+    EXPECT_TRUE(isShown());
+}
+
+TEST_F(InPlace, userInterfaceActivationTellsTheSiteAndTheFrame)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    auto const calls = activationCalls();
+    EXPECT_THAT(calls, testing::IsSupersetOf({"CanInPlaceActivate", "OnInPlaceActivate", "OnUIActivate",
+                                              "SetActiveObject(object)"}));
+    EXPECT_LT(std::ranges::find(calls, "OnInPlaceActivate"), std::ranges::find(calls, "OnUIActivate"));
+    ASSERT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
+    EXPECT_THAT(activationCalls(), testing::UnorderedElementsAre("SetActiveObject(none)", "OnUIDeactivate"));
+    EXPECT_TRUE(isShown()) << "only its user interface was deactivated";
+}
+
+TEST_F(InPlace, deactivationEndsTheUserInterfaceFirstAndTellsOnce)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    record().forget();
+    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    auto const calls = activationCalls();
+    EXPECT_EQ(std::ranges::count(calls, "OnInPlaceDeactivate"), 1);
+    EXPECT_LT(std::ranges::find(calls, "OnUIDeactivate"), std::ranges::find(calls, "OnInPlaceDeactivate"));
+    EXPECT_EQ(std::ranges::count(calls, "OnUIDeactivate"), 1);
+}
+
+TEST_F(InPlace, deactivationBeforeTheUserInterfacesInEitherOrder)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    auto const object = as<IOleInPlaceObject>();
+    EXPECT_EQ(object->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(object->UIDeactivate(), S_OK);
+    EXPECT_EQ(control.doVerb(OLEIVERB_HIDE), S_OK);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_F(InPlace, deactivatedTheWindowIsHiddenUnderAnotherParentAndStaysTheSame)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    HWND const window = control.window();
+    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(ownWindow(), window);
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_FALSE(::IsWindowVisible(window));
+    EXPECT_NE(::GetParent(window), form.window());
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_EQ(control.window(), window);
+    EXPECT_TRUE(isShown());
+}
+
+TEST_F(InPlace, theWindowExistsFromTheSiteOnAndIsNotSeenBeforeActivation)
+{
+    ASSERT_EQ(control.setSite(), S_OK);
+    HWND const window = ownWindow();
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_FALSE(::IsWindowVisible(window));
+    ASSERT_EQ(control.initNew(), S_OK);
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_EQ(control.window(), window);
+}
+
+TEST_F(InPlace, theWindowExistsWhenAskedForWithoutASite)
+{
+    EXPECT_TRUE(::IsWindow(ownWindow()));
+    EXPECT_FALSE(::IsWindowVisible(ownWindow()));
+}
+
+TEST_F(InPlace, theWindowEndsWithTheControl)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    HWND const window = control.window();
+    control.remove();
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(InPlace, releasedWithoutAWordTheControlTakesItsWindowAway)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    HWND const window = control.window();
+    form.frame().forgetActiveObject();
+    control.release();
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(library().canUnloadNow(), S_OK);
+}
+
+TEST_F(InPlace, theWindowIsOfAnOwnDeviceContextAndTakesDoubleClicks)
+{
+    DWORD const style = static_cast<DWORD>(::GetClassLongPtrW(ownWindow(), GCL_STYLE));
+    EXPECT_TRUE(style & CS_OWNDC);
+    EXPECT_TRUE(style & CS_DBLCLKS);
+    EXPECT_FALSE(::IsWindowUnicode(ownWindow()));
+    DWORD const windowStyle = static_cast<DWORD>(::GetWindowLongW(ownWindow(), GWL_STYLE));
+    EXPECT_FALSE(windowStyle & (WS_TABSTOP | WS_GROUP)) << "containers manage the keyboard with these";
+}
+
+TEST_F(InPlace, hidingHidesAndShowingShowsTheSameWindowWithoutTakingTheFocus)
+{
+    begin();
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+    ASSERT_EQ(control.activate(), S_OK);
+    HWND const window = control.window();
+    ASSERT_TRUE(kit::focus(edit.get()));
+    for (int cycle = 0; cycle < 5; ++cycle) {
+        EXPECT_EQ(control.doVerb(OLEIVERB_HIDE), S_OK);
+        EXPECT_FALSE(::IsWindowVisible(window));
+        EXPECT_TRUE(::IsWindow(window));
+        EXPECT_EQ(control.doVerb(OLEIVERB_SHOW), S_OK);
+        EXPECT_TRUE(::IsWindowVisible(window));
+        EXPECT_EQ(control.window(), window);
+        EXPECT_EQ(::GetFocus(), edit.get());
+    }
+}
+
+TEST_F(InPlace, activatingInPlaceDoesNotTakeTheFocus)
+{
+    begin();
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(control.activate(), S_OK);
+    EXPECT_EQ(::GetFocus(), edit.get());
+}
+
+TEST_F(InPlace, activatingTheUserInterfaceTakesTheFocus)
+{
+    begin();
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    EXPECT_EQ(::GetFocus(), control.window());
+}
+
+TEST_F(InPlace, movesToWhereTheContainerSays)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    RECT const elsewhere{5, 6, 205, 106};
+    ASSERT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, &control.site().clip), S_OK);
+    EXPECT_EQ(placeOf(control.window()), elsewhere);
+    EXPECT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&kPlace, nullptr), S_OK);
+    EXPECT_EQ(placeOf(control.window()), kPlace);
+    EXPECT_TRUE(FAILED(as<IOleInPlaceObject>()->SetObjectRects(nullptr, nullptr)));
+    EXPECT_EQ(placeOf(control.window()), kPlace);
+}
+
+TEST_F(InPlace, survivesTheDestructionOfTheFormsWindow)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    HWND const window = control.window();
+    ::DestroyWindow(form.window());
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(button()->put_Caption(Bstr(L"after").get()), S_OK);
+    EXPECT_EQ(button()->Refresh(), S_OK);
+    EXPECT_TRUE(::IsWindow(ownWindow()));
+    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+}
+
+TEST_F(InPlace, theActiveObjectIsThereForWhoAsksAndAnswersTheFrame)
+{
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    auto const active = as<IOleInPlaceActiveObject>();
+    EXPECT_EQ(form.frame().activeObject(), active.get());
+    HWND window = nullptr;
+    EXPECT_EQ(active->GetWindow(&window), S_OK);
+    EXPECT_EQ(window, control.window());
+    EXPECT_EQ(active->GetWindow(nullptr), E_POINTER);
+    EXPECT_EQ(active->OnFrameWindowActivate(TRUE), S_OK);
+    EXPECT_EQ(active->OnDocWindowActivate(FALSE), S_OK);
+    EXPECT_EQ(active->OnDocWindowActivate(TRUE), S_OK);
+    EXPECT_EQ(active->ResizeBorder(&kPlace, &form.frame(), TRUE), S_OK);
+    EXPECT_EQ(active->EnableModeless(FALSE), S_OK);
+    EXPECT_EQ(active->EnableModeless(TRUE), S_OK);
+}
+
+// Whatever a site does not do, the button gets into its form.
+class InPlaceWithFaults : public InPlace, public testing::WithParamInterface<char const*> {};
+
+TEST_P(InPlaceWithFaults, activatesWhereTheSiteFailsThisCall)
+{
+    record().answer(GetParam(), E_NOTIMPL);
+    begin();
+    EXPECT_EQ(control.activate(), S_OK);
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(placeOf(control.window()), kPlace);
+    EXPECT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    EXPECT_EQ(::GetFocus(), control.window());
+    EXPECT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
+    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_FALSE(isShown());
+}
+
+TEST_P(InPlaceWithFaults, activatesWhereTheSiteSucceedsWithNothing)
+{
+    record().answerNothing(GetParam());
+    begin();
+    EXPECT_EQ(control.activate(), S_OK);
+    EXPECT_TRUE(isShown());
+    EXPECT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, InPlaceWithFaults,
+                         testing::Values("Site.CanInPlaceActivate", "Site.OnInPlaceActivate",
+                                         "Site.GetWindow", "Site.GetWindowContext", "Site.ShowObject",
+                                         "Site.OnUIActivate", "Site.OnUIDeactivate",
+                                         "Site.OnInPlaceDeactivate", "Site.OnFocus", "Site.GetContainer",
+                                         "Site.GetExtendedControl", "Site.OnControlInfoChanged",
+                                         "Site.OnPosRectChange", "Frame.SetActiveObject"),
+                         [](testing::TestParamInfo<char const*> const& row) {
+                             std::string name(row.param);
+                             std::ranges::replace(name, '.', '_');
+                             return name;
+                         });
+
+} // namespace
+} // namespace quillet::hosting
