@@ -66,7 +66,8 @@ std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& c
         {key + L"\\ToolboxBitmap32", L"", componentPath + L", " + std::to_wstring(row.toolboxBitmap)},
         {key + L"\\TypeLib", L"", guidText(kLibraryId)},
         {key + L"\\Version", L"", L"1.0"},
-        {key + L"\\Verb\\0", L"", L"&Edit,0,2"}, // no menu flags; 2: on the container's menu
+        {key + L"\\Verb\\0", L"",
+         std::wstring(kPrimaryVerbName) + L",0,2"}, // no menu flags; 2: on the container's menu
     };
     for (wchar_t const* const category : kCategories)
         rows.push_back(keyOnly(key + L"\\Implemented Categories\\" + category));

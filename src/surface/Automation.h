@@ -56,9 +56,11 @@ public:
     {
         return m_automation.getIdsOfNames(this->m_surface, names, count, ids);
     }
-    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+    STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* badArgument) override
     {
+        if (reserved != IID_NULL)
+            return DISP_E_UNKNOWNINTERFACE;
         return m_automation.invoke(this->m_surface, this, id, kind, arguments, result, exception,
                                    badArgument);
     }

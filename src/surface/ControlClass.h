@@ -15,4 +15,7 @@ struct ControlClass {
     DWORD miscStatus;      ///< OLEMISC flags
 };
 
+/// The name of the verb that activates a control, as container menus show it.
+inline constexpr wchar_t kPrimaryVerbName[] = L"&Edit";
+
 } // namespace quillet

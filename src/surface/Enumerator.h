@@ -87,7 +87,10 @@ public:
     }
     STDMETHODIMP Clone(Interface** clone) override
     {
-        return comCall([&] { deref(clone) = make(m_values, m_at).detach(); });
+        return comCall([&] {
+            deref(clone) = nullptr;
+            *clone = make(m_values, m_at).detach();
+        });
     }
 
 private:

@@ -33,8 +33,10 @@ HRESULT ConnectionPoint::GetConnectionInterface(IID* iid)
 
 HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer** container)
 {
-    return comCall(
-        [&] { deref(container) = ComPtr<IConnectionPointContainer>(&m_surface.events()).detach(); });
+    return comCall([&] {
+        deref(container) = nullptr; // before anything is counted for it
+        *container = ComPtr<IConnectionPointContainer>(&m_surface.events()).detach();
+    });
 }
 
 HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie)
@@ -64,8 +66,10 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie)
 
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** enumerator)
 {
-    return comCall(
-        [&] { deref(enumerator) = Enumerator<IEnumConnections, CONNECTDATA>::make(snapshot()).detach(); });
+    return comCall([&] {
+        deref(enumerator) = nullptr;
+        *enumerator = Enumerator<IEnumConnections, CONNECTDATA>::make(snapshot()).detach();
+    });
 }
 
 Events::Events(Surface& surface) noexcept

@@ -78,24 +78,27 @@ HRESULT InPlace::ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, WINBOOL) { return S
 
 HRESULT InPlace::EnableModeless(WINBOOL) { return S_OK; }
 
-void InPlace::activate(Activation kind, RECT const* position)
+void InPlace::activate(Activation kind, Offer const& offer)
 {
-    activateVisibly(position);
+    activateVisibly(offer);
     if (kind == Activation::WithFocus && m_active)
         activateKeyboard();
 }
 
-void InPlace::activateVisibly(RECT const* position)
+void InPlace::activateVisibly(Offer const& offer)
 {
     if (m_active) {
         m_surface.window().show();
         return;
     }
     auto const site = query<IOleInPlaceSite>(m_surface.container().site());
-    if (!site || site->CanInPlaceActivate() != S_OK)
+    // A site that cannot answer has not refused.
+    if (!site || site->CanInPlaceActivate() == S_FALSE)
         throw RunTimeError(E_FAIL);
     HWND parent = nullptr;
     if (FAILED(site->GetWindow(&parent)) || !parent)
+        parent = offer.parent;
+    if (!parent)
         throw RunTimeError(E_FAIL);
 
     m_active = true;
@@ -116,8 +119,8 @@ void InPlace::activateVisibly(RECT const* position)
         m_frame = frame;
         m_document = document;
     }
-    if (!hasSize(given) && position)
-        given = *position;
+    if (!hasSize(given) && offer.position)
+        given = *offer.position;
     m_surface.window().attach(parent);
     place(given, hasSize(clip) ? &clip : nullptr);
     m_surface.window().show();

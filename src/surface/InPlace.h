@@ -13,6 +13,11 @@ namespace quillet {
 class InPlace final : public Face<IOleInPlaceObject, IOleInPlaceActiveObject> {
 public:
     enum class Activation { Visible, WithFocus };
+    /// What a verb brings along, for sites that say nothing themselves. Both may be null.
+    struct Offer {
+        HWND parent;
+        RECT const* position;
+    };
 
     using Face::Face;
 
@@ -31,9 +36,8 @@ public:
     STDMETHODIMP ResizeBorder(LPCRECT border, IOleInPlaceUIWindow* window, WINBOOL frame) override;
     STDMETHODIMP EnableModeless(WINBOOL enable) override;
 
-    /// Shows the control in its container's window, and with WithFocus gives it the keyboard. The position
-    /// counts only where the site itself gives none.
-    void activate(Activation kind, RECT const* position);
+    /// Shows the control in its container's window, and with WithFocus gives it the keyboard.
+    void activate(Activation kind, Offer const& offer = {});
     void hide();
     /// Ends activation whatever the state: window parked, container told.
     void leave() noexcept;
@@ -48,7 +52,7 @@ public:
     RECT const& position() const noexcept { return m_position; }
 
 private:
-    void activateVisibly(RECT const* position);
+    void activateVisibly(Offer const& offer);
     void activateKeyboard();
     void leaveKeyboard() noexcept;
     void place(RECT const& position, RECT const* clip);

@@ -59,7 +59,7 @@ HRESULT OleControl::OnMnemonic(LPMSG message)
             message && (message->message == WM_SYSCHAR || message->message == WM_SYSKEYDOWN);
         // An access key brings the focus along; Enter for a default button leaves it where it is.
         if (byAccessKey && m_surface.inPlace().isActive())
-            m_surface.inPlace().activate(InPlace::Activation::WithFocus, nullptr);
+            m_surface.inPlace().activate(InPlace::Activation::WithFocus);
         if (m_surface.enabled())
             m_surface.onAccessKeyPress(message ? static_cast<short>(message->wParam) : short{0});
     });

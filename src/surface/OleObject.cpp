@@ -2,6 +2,7 @@
 #include "surface/OleObject.h"
 
 #include "base/RunTimeError.h"
+#include "surface/Enumerator.h"
 #include "surface/Surface.h"
 
 #include <ole2.h>
@@ -29,7 +30,23 @@ void requireContent(DWORD aspect)
         throw RunTimeError(DV_E_DVASPECT);
 }
 
+/// The one verb that a container lists; the others are for containers alone. Not left to the registry: a
+/// control may run without being registered.
+constexpr OLEVERB kPrimaryVerb = {OLEIVERB_PRIMARY, const_cast<LPOLESTR>(kPrimaryVerbName), 0,
+                                  OLEVERBATTRIB_ONCONTAINERMENU};
+
 } // namespace
+
+/// A verb's name is handed out as a copy that the caller frees.
+template <> struct Handed<OLEVERB> {
+    using Kept = OLEVERB;
+    static void give(Kept const& kept, OLEVERB& out)
+    {
+        OLEVERB given = kept;
+        given.lpszVerbName = taskString(kept.lpszVerbName);
+        out = given;
+    }
+};
 
 HRESULT OleObject::SetClientSite(IOleClientSite* site)
 {
@@ -42,8 +59,10 @@ HRESULT OleObject::SetClientSite(IOleClientSite* site)
 
 HRESULT OleObject::GetClientSite(IOleClientSite** site)
 {
-    return m_surface.call(
-        [&] { deref(site) = ComPtr<IOleClientSite>(m_surface.container().site()).detach(); });
+    return m_surface.call([&] {
+        deref(site) = nullptr;
+        *site = ComPtr<IOleClientSite>(m_surface.container().site()).detach();
+    });
 }
 
 HRESULT OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
@@ -80,18 +99,19 @@ HRESULT OleObject::GetClipboardData(DWORD, IDataObject** data)
     });
 }
 
-HRESULT OleObject::DoVerb(LONG verb, MSG* message, IOleClientSite*, LONG, HWND, LPCRECT position)
+HRESULT OleObject::DoVerb(LONG verb, MSG* message, IOleClientSite*, LONG, HWND parent, LPCRECT position)
 {
     return m_surface.call([&] {
         InPlace& inPlace = m_surface.inPlace();
+        InPlace::Offer const offer = {parent, position};
         switch (verb) {
         case OLEIVERB_PRIMARY:
         case OLEIVERB_UIACTIVATE:
-            inPlace.activate(InPlace::Activation::WithFocus, position);
+            inPlace.activate(InPlace::Activation::WithFocus, offer);
             break;
         case OLEIVERB_SHOW:
         case OLEIVERB_INPLACEACTIVATE:
-            inPlace.activate(InPlace::Activation::Visible, position);
+            inPlace.activate(InPlace::Activation::Visible, offer);
             break;
         case OLEIVERB_HIDE:
             inPlace.hide();
@@ -110,7 +130,7 @@ HRESULT OleObject::EnumVerbs(IEnumOLEVERB** enumerator)
 {
     return comCall([&] {
         deref(enumerator) = nullptr;
-        return ::OleRegEnumVerbs(m_surface.controlClass().classId, enumerator);
+        *enumerator = Enumerator<IEnumOLEVERB, OLEVERB>::make({kPrimaryVerb}).detach();
     });
 }
 

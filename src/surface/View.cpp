@@ -21,6 +21,8 @@ public:
         m_info.bmiHeader.biHeight = size.cy;
         m_info.bmiHeader.biPlanes = 1;
         m_info.bmiHeader.biBitCount = 32;
+        // A metafile copies so many bytes of the picture, and nothing for 0.
+        m_info.bmiHeader.biSizeImage = static_cast<DWORD>(size.cx) * static_cast<DWORD>(size.cy) * 4;
         m_bitmap.reset(::CreateDIBSection(m_dc.get(), &m_info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
         if (!m_dc || !m_bitmap)
             throw RunTimeError(E_OUTOFMEMORY);
@@ -85,6 +87,8 @@ HRESULT View::Unfreeze(DWORD) { return E_NOTIMPL; }
 HRESULT View::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink)
 {
     return m_surface.call([&] {
+        if (aspects & ~static_cast<DWORD>(DVASPECT_CONTENT))
+            throw RunTimeError(DV_E_DVASPECT);
         m_aspects = aspects;
         m_flags = flags;
         m_sink = sink;
