@@ -1,0 +1,1 @@
+// Nothing: the headers that the tests share belong to a target, and a target needs a source.
