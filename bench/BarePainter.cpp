@@ -1,0 +1,75 @@
+// The picture of a flat button made with bare GDI calls.
+#include "bench/BarePainter.h"
+
+#include <cmath>
+#include <utility>
+
+namespace quillet::bench {
+
+namespace {
+
+constexpr COLORREF kFrame = RGB(128, 128, 128);
+
+UniqueFont fontLike(HFONT font, bool underlined)
+{
+    LOGFONTW shape{};
+    ::GetObjectW(font, sizeof shape, &shape);
+    shape.lfUnderline = underlined;
+    return UniqueFont(::CreateFontIndirectW(&shape));
+}
+
+SIZE sizeOf(HDC dc, HFONT font, std::string const& text)
+{
+    SelectScope const selected(dc, font);
+    SIZE size{};
+    ::GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    return size;
+}
+
+int centred(int space, int length) { return static_cast<int>(std::lrint(space / 2.0 - length / 2.0)); }
+
+void fill(HDC dc, RECT const& rectangle, COLORREF color, int x = 0, int y = 0, std::string const& text = {})
+{
+    ::SetBkColor(dc, color);
+    ::ExtTextOutA(dc, x, y, ETO_OPAQUE | ETO_CLIPPED, &rectangle, text.c_str(),
+                  static_cast<UINT>(text.size()), nullptr);
+}
+
+} // namespace
+
+BarePainter::BarePainter(HDC target, SIZE size, HFONT font, std::string caption)
+    : m_target(target), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
+      m_underlined(fontLike(font, true)), m_key(caption.substr(0, 1)), m_rest(caption.substr(1))
+{
+    SIZE const text = sizeOf(target, m_plain.get(), caption);
+    m_y = centred(m_height, text.cy);
+    m_keyAt = centred(m_width, text.cx);
+    m_restAt = m_keyAt + sizeOf(target, m_plain.get(), m_key).cx;
+}
+
+void BarePainter::paint(BareLook const& look) const
+{
+    UniqueMemoryDc const dc(::CreateCompatibleDC(m_target));
+    UniqueBitmap const bitmap(::CreateCompatibleBitmap(m_target, m_width, m_height));
+    SelectScope const selectedBitmap(dc.get(), bitmap.get());
+    SelectScope const selectedFont(dc.get(), m_plain.get());
+    ::SetTextColor(dc.get(), look.fore);
+    int inset = look.focused ? 2 : 1;
+    fill(dc.get(), inside(0), look.border);
+    fill(dc.get(), inside(inset), look.back);
+    if (look.focused) {
+        inset += 2;
+        fill(dc.get(), inside(inset), kFrame);
+        fill(dc.get(), inside(inset + 1), look.back);
+    }
+    RECT piece = inside(inset + 1);
+    piece.left = m_keyAt;
+    ::SelectObject(dc.get(), m_underlined.get()); // only now: underlining costs even where there is no text
+    fill(dc.get(), piece, look.back, m_keyAt, m_y, m_key);
+    ::SelectObject(dc.get(), m_plain.get());
+    piece.left = m_restAt;
+    fill(dc.get(), piece, look.back, m_restAt, m_y, m_rest);
+    ::BitBlt(m_target, 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,43 @@
+// The picture of a flat button made with bare GDI calls: the floor that a paint is measured against.
+#pragma once
+
+#include "base/Handles.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace quillet::bench {
+
+struct BareLook {
+    COLORREF fore;
+    COLORREF back;
+    COLORREF border;
+    bool focused; ///< a border one pixel thicker, and a frame inside
+};
+
+/// Knows beforehand what a control finds out in each paint: its size, its colours, both fonts and where each
+/// piece of the caption begins. What is left is the least that makes the picture without flicker.
+class BarePainter {
+public:
+    /// For a window's DC and a caption whose first letter is the access key, centred.
+    BarePainter(HDC target, SIZE size, HFONT font, std::string caption);
+
+    void paint(BareLook const& look) const;
+
+private:
+    RECT inside(int inset) const { return {inset, inset, m_width - inset, m_height - inset}; }
+
+    HDC m_target;
+    int m_width;
+    int m_height;
+    UniqueFont m_plain;
+    UniqueFont m_underlined;
+    std::string m_key;
+    std::string m_rest;
+    int m_y;
+    int m_keyAt;
+    int m_restAt;
+};
+
+} // namespace quillet::bench

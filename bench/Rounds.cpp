@@ -1,0 +1,92 @@
+// Two things timed in turns within one run, so that what slows the machine down slows both.
+#include "bench/Rounds.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <iomanip>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace quillet::bench {
+
+namespace {
+
+double microsecondsNow()
+{
+    LARGE_INTEGER frequency;
+    LARGE_INTEGER ticks;
+    ::QueryPerformanceFrequency(&frequency);
+    ::QueryPerformanceCounter(&ticks);
+    return static_cast<double>(ticks.QuadPart) * 1e6 / static_cast<double>(frequency.QuadPart);
+}
+
+double microsecondsOf(int calls, std::function<void()> const& body)
+{
+    double const start = microsecondsNow();
+    for (int i = 0; i < calls; ++i)
+        body();
+    return (microsecondsNow() - start) / calls;
+}
+
+double medianOf(std::vector<double> values)
+{
+    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+std::string fixed(double value, int decimals)
+{
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(decimals) << value;
+    return text.str();
+}
+
+} // namespace
+
+Comparison compare(int rounds, int calls, std::function<void()> const& ours,
+                   std::function<void()> const& floor, std::function<void()> const& settle)
+{
+    std::vector<double> ourTimes;
+    std::vector<double> floorTimes;
+    std::vector<double> ratios;
+    for (int round = 0; round < rounds; ++round) {
+        bool const oursFirst = round % 2 == 0;
+        double first = microsecondsOf(calls, oursFirst ? ours : floor);
+        double second = microsecondsOf(calls, oursFirst ? floor : ours);
+        if (!oursFirst)
+            std::swap(first, second);
+        ourTimes.push_back(first);
+        floorTimes.push_back(second);
+        ratios.push_back(first / second);
+        if (settle)
+            settle();
+    }
+    return {medianOf(std::move(ourTimes)), medianOf(std::move(floorTimes)), medianOf(std::move(ratios))};
+}
+
+Row rowOf(std::string what, Comparison const& comparison, std::string goal)
+{
+    return {std::move(what), durationText(comparison.ours), durationText(comparison.floor),
+            fixed(comparison.ratio, 2), std::move(goal)};
+}
+
+std::string durationText(double microseconds)
+{
+    if (microseconds < 1)
+        return fixed(microseconds * 1000, 0) + " ns";
+    if (microseconds < 1000)
+        return fixed(microseconds, 1) + " µs";
+    return fixed(microseconds / 1000, 1) + " ms";
+}
+
+void require(bool holds, char const* otherwise)
+{
+    if (!holds)
+        throw std::runtime_error(otherwise);
+}
+
+} // namespace quillet::bench

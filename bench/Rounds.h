@@ -1,0 +1,31 @@
+// Two things timed in turns within one run, so that what slows the machine down slows both.
+#pragma once
+
+#include "bench/Bench.h"
+
+#include <functional>
+#include <string>
+
+namespace quillet::bench {
+
+/// Medians over the rounds.
+struct Comparison {
+    double ours;  ///< microseconds of one call
+    double floor; ///< microseconds of one call
+    double ratio; ///< of the rounds' own ratios, not of the two medians
+};
+
+/// In each round times a number of calls of ours and as many of the floor; which goes first changes from
+/// round to round. Afterwards, untimed, runs settle if there is one.
+Comparison compare(int rounds, int calls, std::function<void()> const& ours,
+                   std::function<void()> const& floor, std::function<void()> const& settle = {});
+
+Row rowOf(std::string what, Comparison const& comparison, std::string goal);
+
+/// A duration in the unit that reads best.
+std::string durationText(double microseconds);
+
+/// Throws std::runtime_error with the text unless it holds.
+void require(bool holds, char const* otherwise);
+
+} // namespace quillet::bench
