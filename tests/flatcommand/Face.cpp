@@ -52,6 +52,12 @@ Face hotFace()
             ::GetSysColor(COLOR_3DDKSHADOW)};
 }
 
+Face pressedFace()
+{
+    return {::GetSysColor(COLOR_3DHIGHLIGHT), ::GetSysColor(COLOR_3DDKSHADOW),
+            ::GetSysColor(COLOR_3DDKSHADOW)};
+}
+
 Face disabledFace()
 {
     return {::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_3DDKSHADOW)};

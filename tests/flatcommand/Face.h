@@ -28,6 +28,7 @@ struct Face {
 /// The looks of a button whose colours are as they come.
 Face normalFace();
 Face hotFace();
+Face pressedFace();
 Face disabledFace();
 /// The same in the task-pane scheme.
 Face taskPaneNormalFace();

@@ -19,6 +19,8 @@ constexpr DISPID kMouseEnter = 1;
 constexpr DISPID kMouseExit = 2;
 constexpr DISPID kPaint = 3;
 constexpr DISPID kClick = 4;
+constexpr DISPID kMouseDown = 6;
+constexpr DISPID kMouseUp = 8;
 
 constexpr RECT kPlace{20, 30, 140, 70};
 

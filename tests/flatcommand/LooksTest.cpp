@@ -139,6 +139,64 @@ TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
     EXPECT_EQ(button.differencesFrom(normal), "");
 }
 
+TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"&Press");
+    EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(button->put_PressedBorderWidth(Variant::ofShort(3).get()), S_OK);
+    EXPECT_EQ(button->put_PressedForeColor(RGB(1, 200, 1)), S_OK);
+    EXPECT_EQ(button->put_PressedBorderColor(RGB(200, 3, 3)), S_OK);
+    button.makePressed();
+    Face face = pressedFace();
+    face.caption = L"&Press";
+    face.fore = RGB(1, 200, 1);
+    face.border = RGB(200, 3, 3);
+    face.borderWidth = 3;
+    face.emphasis = 1; // the press gave it the focus
+    EXPECT_EQ(button.differencesFrom(face), "");
+    EXPECT_EQ(button->put_PressedBackColor(RGB(5, 55, 155)), S_OK);
+    ASSERT_EQ(button->Refresh(), S_OK);
+    face.back = RGB(5, 55, 155);
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.leave();
+    Face normal = normalFace();
+    normal.caption = L"&Press";
+    normal.emphasis = 1;
+    EXPECT_EQ(button.differencesFrom(normal), "");
+}
+
+TEST_F(FlatLooks, taskPanePressedIsTheDeepBlendWithASelectionBorderAndNoEmphasis)
+{
+    ShownButton button(library(), form);
+    button.setCaption(L"T&ask");
+    EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(button->put_PressedBorderWidth(Variant::ofShort(2).get()), S_OK);
+    button.makePressed();
+    Face face = taskPanePressedFace();
+    face.caption = L"T&ask";
+    face.borderWidth = 2;
+    face.frame = face.back == 0x808080 ? 0xE0E0E0 : 0x808080;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.leave();
+}
+
+TEST_F(FlatLooks, atDesignTimeAPressedStateNeverShows)
+{
+    ShownButton button(library(), form);
+    EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
+    button.makePressed();
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    ASSERT_EQ(button->DrawButton(), S_OK);
+    Face face = normalFace();
+    face.emphasis = 1;
+    EXPECT_EQ(button.differencesFrom(face), "");
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(true));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    button.leave();
+}
+
 TEST_F(FlatLooks, settingHotBackColorWhileTheButtonIsAtRestChangesNothingUntilTheMouseEnters)
 {
     ShownButton button(library(), form);

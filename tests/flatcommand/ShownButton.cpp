@@ -5,6 +5,8 @@
 #include "kit/Painter.h"
 #include "kit/Pump.h"
 
+#include <utility>
+
 namespace quillet::flat {
 
 ShownButton::ShownButton(kit::Library const& library, kit::FakeForm& form, RECT const& place)
@@ -50,8 +52,21 @@ void ShownButton::makeHot()
     EXPECT_EQ(dual()->Refresh(), S_OK);
 }
 
+void ShownButton::makePressed()
+{
+    makeHot();
+    kit::press(kit::MouseButton::Left);
+    EXPECT_TRUE(kit::pumpUntil([this] { return events().count(kMouseDown) > 0; }));
+    EXPECT_EQ(::GetFocus(), window());
+    m_pressed = true;
+}
+
 void ShownButton::leave()
 {
+    if (std::exchange(m_pressed, false)) {
+        kit::release(kit::MouseButton::Left);
+        EXPECT_TRUE(kit::pumpUntil([this] { return events().count(kMouseUp) > 0; }));
+    }
     EXPECT_TRUE(kit::moveCursorAway());
     kit::pumpPending();
     EXPECT_EQ(dual()->Refresh(), S_OK);

@@ -25,7 +25,13 @@ public:
 
     /// Moves the cursor onto the button and repaints it.
     void makeHot();
+    /// The same with the left mouse button held down; the button has the focus then.
+    void makePressed();
+    /// Lets the mouse button go and takes the cursor away.
     void leave();
+
+private:
+    bool m_pressed = false;
 };
 
 } // namespace quillet::flat
