@@ -2,6 +2,7 @@
 #include "gallery/Console.h"
 
 #include "gallery/UniqueFile.h"
+#include "gallery/Utf8.h"
 
 #include <windows.h>
 
@@ -10,15 +11,6 @@
 namespace quillet::gallery {
 
 namespace {
-
-std::string utf8(std::wstring_view text)
-{
-    int const count = static_cast<int>(text.size());
-    int const needed = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<std::size_t>(needed), '\0');
-    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, bytes.data(), needed, nullptr, nullptr);
-    return bytes;
-}
 
 bool write(HANDLE file, std::wstring_view text)
 {

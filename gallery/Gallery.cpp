@@ -4,10 +4,14 @@
 #include "base/RunTimeError.h"
 #include "gallery/Console.h"
 #include "gallery/ControlLibrary.h"
+#include "gallery/EventLog.h"
+#include "gallery/EventPane.h"
+#include "gallery/EventText.h"
 #include "gallery/Form.h"
 #include "gallery/FormReader.h"
 #include "gallery/Options.h"
 #include "gallery/UniqueFile.h"
+#include "gallery/Utf8.h"
 
 #include <ole2.h>
 #include <windows.h>
@@ -46,17 +50,26 @@ void writeFile(std::wstring const& path, std::wstring_view text)
 {
     UniqueFile const file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                         FILE_ATTRIBUTE_NORMAL, nullptr));
-    std::string const bytes(text.begin(), text.end());
+    std::string const bytes = utf8(text);
     DWORD written = 0;
     if (file.get() == INVALID_HANDLE_VALUE ||
         !::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
         throw FormError{path, 0, L"the file cannot be written"};
 }
 
-void announce(Form const& form, std::wstring const& file)
+/// The form and, beside it, its events.
+RECT placeOnScreen(HWND form, HWND events)
 {
     RECT place{};
-    ::GetWindowRect(form.window(), &place);
+    RECT beside{};
+    ::GetWindowRect(form, &place);
+    if (events && ::GetWindowRect(events, &beside))
+        ::UnionRect(&place, &place, &beside);
+    return place;
+}
+
+void announce(RECT const& place, std::wstring const& file)
+{
     wchar_t line[96];
     ::wsprintfW(line, L"ready %ld %ld %ld %ld\n", place.left, place.top, place.right - place.left,
                 place.bottom - place.top);
@@ -99,25 +112,53 @@ void runLoop(Form& form)
         ::MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
 
-void openAndRun(Options const& options)
+/// Where the events of a form go. A designer's form raises none, so it has no pane.
+struct EventOutputs {
+    std::optional<EventLog> log;
+    std::optional<EventPane> pane;
+
+    void add(FormEvent const& event)
+    {
+        if (log)
+            log->add(eventText(event));
+        if (pane)
+            pane->add(event);
+    }
+};
+
+FormOptions formOptions(Options const& options, ControlLibraries& libraries, EventOutputs& outputs)
 {
-    FormTree const tree = readFormFile(options.form);
-    OleScope const ole;
-    ControlLibraries libraries(tree.objects, {programFolder(), folderOf(options.form)});
     FormOptions how;
     how.mode = options.design ? UserMode::Design : UserMode::Run;
     how.file = options.form;
     how.factory = [&](std::wstring_view library, std::wstring_view className) {
         return libraries.create(library, className);
     };
+    how.onEvent = [&](FormEvent const& event) { outputs.add(event); };
     how.onWarning = [](FormError const& warning) {
         say(Stream::Error, L"gallery: " + warning.text() + L"\n");
     };
     how.onClosed = [] { ::PostQuitMessage(0); };
-    Form form(tree, std::move(how));
+    return how;
+}
+
+void openAndRun(Options const& options)
+{
+    FormTree const tree = readFormFile(options.form);
+    EventOutputs outputs;
+    if (!options.logFile.empty())
+        outputs.log.emplace(options.logFile);
+    OleScope const ole;
+    ControlLibraries libraries(tree.objects, {programFolder(), folderOf(options.form)});
+    Form form(tree, formOptions(options, libraries, outputs));
+    if (!form.isDesign())
+        outputs.pane.emplace(form.window());
     form.show();
+    if (outputs.pane)
+        outputs.pane->show();
     if (options.announceReady && becomeIdle(form))
-        announce(form, options.readyFile);
+        announce(placeOnScreen(form.window(), outputs.pane ? outputs.pane->window() : nullptr),
+                 options.readyFile);
     runLoop(form);
 }
 
@@ -129,6 +170,10 @@ int runGallery(std::vector<std::wstring> const& words)
     if (!options) {
         say(Stream::Error, kUsage);
         return kCannotOpen;
+    }
+    if (options->help) {
+        say(Stream::Output, kUsage);
+        return kDone;
     }
     try {
         openAndRun(*options);

@@ -1,6 +1,7 @@
 // The command line of the gallery.
 #include "gallery/Options.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace quillet::gallery {
@@ -8,22 +9,55 @@ namespace quillet::gallery {
 namespace {
 
 constexpr std::wstring_view kReady = L"--screenshot-ready";
+constexpr std::wstring_view kLog = L"--log";
 
-/// Takes a word that begins with two dashes.
-bool takeOption(std::wstring_view word, Options& options)
+using Words = std::vector<std::wstring>;
+
+bool isOption(std::wstring_view word) noexcept { return word.starts_with(L"--"); }
+
+/// What stands behind the option's name and an equals sign; nothing when that is another option, or nothing
+/// stands there.
+std::optional<std::wstring_view> assigned(std::wstring_view word, std::wstring_view name)
 {
-    if (word == L"--design") {
-        options.design = true;
-        return true;
-    }
-    if (!word.starts_with(kReady))
-        return false;
-    word.remove_prefix(kReady.size());
-    if (!word.empty() && (!word.starts_with(L'=') || word.size() == 1))
+    if (!word.starts_with(name) || word.size() < name.size() + 2 || word[name.size()] != L'=')
+        return std::nullopt;
+    return word.substr(name.size() + 1);
+}
+
+bool takeReady(std::wstring_view word, Options& options)
+{
+    auto const file = assigned(word, kReady);
+    if (!file && word != kReady)
         return false;
     options.announceReady = true;
-    options.readyFile = word.empty() ? word : word.substr(1);
+    options.readyFile = file.value_or(L"");
     return true;
+}
+
+/// The file may be a word of its own: the next one.
+bool takeLog(Words const& words, std::size_t& position, Options& options)
+{
+    std::wstring_view const word = words[position];
+    if (auto const file = assigned(word, kLog)) {
+        options.logFile = *file;
+        return true;
+    }
+    bool const hasNext = position + 1 < words.size();
+    if (word != kLog || !hasNext || words[position + 1].empty() || isOption(words[position + 1]))
+        return false;
+    options.logFile = words[++position];
+    return true;
+}
+
+/// Takes the option at the position, which moves on to its last word.
+bool takeOption(Words const& words, std::size_t& position, Options& options)
+{
+    std::wstring_view const word = words[position];
+    if (word == L"--design")
+        return options.design = true;
+    if (word == L"--help")
+        return options.help = true;
+    return takeReady(word, options) || takeLog(words, position, options);
 }
 
 } // namespace
@@ -31,17 +65,17 @@ bool takeOption(std::wstring_view word, Options& options)
 std::optional<Options> parseOptions(std::vector<std::wstring> const& words)
 {
     Options options;
-    for (std::wstring const& word : words) {
-        if (word.starts_with(L"--")) {
-            if (!takeOption(word, options))
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (isOption(words[i])) {
+            if (!takeOption(words, i, options))
                 return std::nullopt;
         } else if (options.form.empty()) {
-            options.form = word;
+            options.form = words[i];
         } else {
             return std::nullopt;
         }
     }
-    return options.form.empty() ? std::nullopt : std::optional(options);
+    return options.form.empty() && !options.help ? std::nullopt : std::optional(options);
 }
 
 } // namespace quillet::gallery

@@ -117,6 +117,7 @@ Begin VB.Form frmButtons
          Height          =   390
          Left            =   240
          TabIndex        =   7
+         ToolTipText     =   "Enabled False"
          Top             =   2280
          Width           =   2400
       End
@@ -145,6 +146,7 @@ Begin VB.Form frmButtons
          Height          =   390
          Left            =   240
          TabIndex        =   10
+         ToolTipText     =   "CentreCaption True"
          Top             =   360
          Width           =   2400
       End
@@ -154,6 +156,7 @@ Begin VB.Form frmButtons
          Height          =   390
          Left            =   240
          TabIndex        =   11
+         ToolTipText     =   "CentreCaption False: CaptionIndent pixels from the border"
          Top             =   840
          Width           =   2400
       End
@@ -163,6 +166,7 @@ Begin VB.Form frmButtons
          Height          =   390
          Left            =   240
          TabIndex        =   12
+         ToolTipText     =   "CaptionIndent 32"
          Top             =   1320
          Width           =   2400
       End
@@ -171,6 +175,7 @@ Begin VB.Form frmButtons
             Name            =   "Tahoma"
             Size            =   8.25
             Charset         =   0
+            ToolTipText     =   "A font of its own"
             Weight          =   700
             Underline       =   0   'False
             Italic          =   0   'False
@@ -189,6 +194,7 @@ Begin VB.Form frmButtons
             Name            =   "Times New Roman"
             Size            =   11.25
             Charset         =   0
+            ToolTipText     =   "A font of its own"
             Weight          =   400
             Underline       =   0   'False
             Italic          =   -1  'True
@@ -207,6 +213,7 @@ Begin VB.Form frmButtons
             Name            =   "Tahoma"
             Size            =   12
             Charset         =   0
+            ToolTipText     =   "A font of its own"
             Weight          =   700
             Underline       =   0   'False
             Italic          =   0   'False
@@ -306,6 +313,7 @@ Begin VB.Form frmButtons
          Left            =   240
          OfficeXPColors  =   -1  'True
          TabIndex        =   22
+         ToolTipText     =   "The task pane's colours, with a border"
          Top             =   2160
          Width           =   2310
       End
@@ -317,6 +325,7 @@ Begin VB.Form frmButtons
          Left            =   240
          OfficeXPColors  =   -1  'True
          TabIndex        =   23
+         ToolTipText     =   "The task pane's colours, Enabled False"
          Top             =   2550
          Width           =   2310
       End
@@ -419,6 +428,7 @@ Begin VB.Form frmButtons
          Left            =   6630
          TabIndex        =   33
          Tag             =   "help"
+         ToolTipText     =   "BorderStyle 0, and its own colours"
          Top             =   1440
          Width           =   2100
       End

@@ -1,0 +1,85 @@
+// Moves and presses the real mouse over the gallery's form, from outside: pointer DEED…, where a DEED is
+// "move X Y" (pixels of the form's client area), "down", "up" or "tooltip" (waits until one shows, and says
+// where). For scripts that want to see what a user sees.
+#include <windows.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+namespace {
+
+using Words = wchar_t**;
+
+constexpr DWORD kPatience = 20000; // milliseconds
+constexpr DWORD kBetweenLooks = 20;
+
+HWND galleryForm() noexcept { return ::FindWindowW(L"QuilletGalleryForm", nullptr); }
+
+int number(wchar_t const* word) noexcept { return static_cast<int>(std::wcstol(word, nullptr, 10)); }
+
+bool move(int x, int y)
+{
+    POINT at{x, y};
+    ::ClientToScreen(galleryForm(), &at);
+    ::SetCursorPos(at.x, at.y);
+    POINT now{};
+    return ::GetCursorPos(&now) && now.x == at.x && now.y == at.y;
+}
+
+bool turnButton(DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return ::SendInput(1, &input, sizeof input) == 1;
+}
+
+HWND shownTooltip() noexcept
+{
+    HWND found = nullptr;
+    while ((found = ::FindWindowExW(nullptr, found, L"tooltips_class32", nullptr)) != nullptr)
+        if (::IsWindowVisible(found))
+            return found;
+    return nullptr;
+}
+
+bool awaitTooltip()
+{
+    for (DWORD const start = ::GetTickCount(); ::GetTickCount() - start < kPatience; ::Sleep(kBetweenLooks)) {
+        RECT at{};
+        if (HWND const tooltip = shownTooltip(); tooltip && ::GetWindowRect(tooltip, &at)) {
+            std::printf("tooltip %ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Does the deed that begins at word, which moves on to the next one; whether that was possible.
+bool doOne(Words& word, Words end)
+{
+    std::wstring_view const deed = *word++;
+    if (deed == L"move" && end - word >= 2) {
+        word += 2;
+        return move(number(word[-2]), number(word[-1]));
+    }
+    if (deed == L"down")
+        return turnButton(MOUSEEVENTF_LEFTDOWN);
+    if (deed == L"up")
+        return turnButton(MOUSEEVENTF_LEFTUP);
+    return deed == L"tooltip" && awaitTooltip();
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** words)
+{
+    Words const end = words + count;
+    for (Words word = words + 1; word < end;)
+        if (!galleryForm() || !doOne(word, end)) {
+            std::fputs("pointer: there is no form, or no such deed\n", stderr);
+            return 1;
+        }
+    return 0;
+}
