@@ -39,7 +39,8 @@ void OffScreenDC::Font(IFont* newFont)
         m_initialFont = selectFont();
         return;
     }
-    // The old font is given up before the new one is taken, so nothing else than that order keeps it alive.
+    // Given up first: a font that only the surface still holds is gone before its successor is asked for
+    // a handle.
     m_font.reset();
     m_font = newFont;
     if (m_font)
@@ -108,6 +109,13 @@ void OffScreenDC::BlastToScreen(long left, long top, long&& width, long&& height
 void OffScreenDC::BlastToScreen(long left, long top) const noexcept
 {
     BlastToScreen(left, top, long{kWholeLength}, long{kWholeLength});
+}
+
+SIZE OffScreenDC::textExtent(std::wstring_view text) const noexcept
+{
+    SIZE extent = {};
+    ::GetTextExtentPoint32W(m_memoryDc.get(), text.data(), static_cast<int>(text.size()), &extent);
+    return extent;
 }
 
 void OffScreenDC::PrintString(long x, long y, std::wstring_view caption)

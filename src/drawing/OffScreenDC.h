@@ -52,6 +52,9 @@ public:
 
     void InvertRectangle(long left, long top, long width, long height);
 
+    /// Width and height of a text in the selected font, in pixels.
+    SIZE textExtent(std::wstring_view text) const noexcept;
+
     /// Copies a rectangle to the same place of the control's DC. A width or height of -1 stands for that of
     /// the surface, which the caller's variable then holds.
     void BlastToScreen(long left, long top, long& width, long& height) const noexcept;

@@ -127,17 +127,6 @@ void Surface::setFont(IUnknown* font)
     m_font.set(std::move(own));
 }
 
-SIZE Surface::textSize(std::wstring_view text)
-{
-    HFONT shape = nullptr;
-    check(m_font.get()->get_hFont(&shape));
-    HDC const dc = hDC();
-    SelectScope const selected(dc, shape);
-    SIZE size = {};
-    ::GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size);
-    return size;
-}
-
 void Surface::propertyChanged(DISPID property, ViewChange view)
 {
     m_persistence.setDirty();

@@ -107,9 +107,6 @@ public:
     /// Takes a copy of the font as its own. ObjectNotSet for none, TypeMismatch for what is no font.
     void setFont(IUnknown* font);
 
-    /// Width and height of a text in the surface's font, in whole pixels.
-    SIZE textSize(std::wstring_view text);
-
     /// The characters that, with Alt, reach onAccessKeyPress.
     void setAccessKeys(std::wstring_view keys) { m_oleControl.setAccessKeys(keys); }
 

@@ -2,6 +2,7 @@
 #include "surface/SurfaceFont.h"
 
 #include "base/ComCall.h"
+#include "base/RunTimeError.h"
 #include "surface/Surface.h"
 
 #include <olectl.h>
@@ -62,6 +63,7 @@ void SurfaceFont::set(ComPtr<IFont> font) noexcept
     m_point.reset();
     m_listener.reset();
     m_font = std::move(font);
+    m_underlined.reset();
     if (!m_font)
         return;
     ignoringErrors([&] {
@@ -74,10 +76,22 @@ void SurfaceFont::set(ComPtr<IFont> font) noexcept
     });
 }
 
+IFont* SurfaceFont::underlined()
+{
+    if (!m_underlined) {
+        ComPtr<IFont> twin;
+        check(deref(m_font.get()).Clone(twin.put()));
+        check(deref(twin.get()).put_Underline(TRUE));
+        m_underlined = std::move(twin);
+    }
+    return m_underlined.get();
+}
+
 void SurfaceFont::changed()
 {
     if (m_deaf > 0)
         return;
+    m_underlined.reset();
     auto const alive = m_surface.keepAlive();
     m_surface.propertyChanged(DISPID_FONT, ViewChange::Yes);
     m_surface.onFontChanged();

@@ -19,6 +19,9 @@ public:
     SurfaceFont& operator=(SurfaceFont const&) = delete;
 
     IFont* get() const noexcept { return m_font.get(); }
+    /// The same font with underline, as an object of its own: switching it on the font itself would make the
+    /// system build a font, and tell every listener, several times a paint. Throws when there is none.
+    IFont* underlined();
     void set(ComPtr<IFont> font) noexcept;
 
     /// Changes made during this scope are the painting's own and go unheard.
@@ -39,6 +42,7 @@ private:
 
     Surface& m_surface;
     ComPtr<IFont> m_font;
+    ComPtr<IFont> m_underlined; ///< made at first need, dropped when the font changes
     ComPtr<IConnectionPoint> m_point;
     ComPtr<Listener> m_listener;
     DWORD m_cookie = 0;

@@ -103,10 +103,12 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SETCURSOR:
         return LOWORD(lParam) == HTCLIENT && setCursor() ? TRUE : passOn(message, wParam, lParam);
     case WM_SETFOCUS:
+        tellFocus(true);
         m_surface.inPlace().focusGained();
         m_surface.onGotFocus();
         return 0;
     case WM_KILLFOCUS:
+        tellFocus(false);
         m_surface.onLostFocus();
         m_surface.inPlace().focusLost();
         return 0;

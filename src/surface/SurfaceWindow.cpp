@@ -161,6 +161,7 @@ void SurfaceWindow::destroy() noexcept
     ::SetWindowLongPtrA(m_window, 0, 0);
     HWND const window = std::exchange(m_window, nullptr);
     m_dc = nullptr;
+    m_focusTold = false;
     ::DestroyWindow(window);
     leaveParking();
 }
@@ -170,6 +171,7 @@ void SurfaceWindow::lost() noexcept
     m_window = nullptr;
     m_dc = nullptr;
     m_clickBegun = false;
+    m_focusTold = false;
     leaveParking();
     m_surface.inPlace().leave();
 }

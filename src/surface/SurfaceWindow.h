@@ -31,6 +31,11 @@ public:
     void show();
     void hide() noexcept;
     void takeFocus();
+    /// Whether the window has the keyboard. Windows is asked only between the two messages that say so: the
+    /// question costs some systems as much as a fill.
+    bool hasFocus() const noexcept { return m_focusTold && ::GetFocus() == m_window; }
+    /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
+    void tellFocus(bool gained) noexcept { m_focusTold = gained; }
     void enable(bool enabled) noexcept;
     void invalidate() noexcept;
     void destroy() noexcept;
@@ -53,6 +58,7 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
+    bool m_focusTold = false;
     bool m_clickBegun = false; ///< the left button went down here and has not come up
 };
 

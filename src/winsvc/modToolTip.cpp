@@ -146,9 +146,10 @@ LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
 {
     WNDPROC const previous = m_previous; // handling a message may end the subclassing
     ignoringErrors([&] {
-        if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
+        if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
+            m_surface.window().tellFocus(message == WM_SETFOCUS);
             repaintNow();
-        else if (isRelayed(message))
+        } else if (isRelayed(message))
             relay(threadState().toolTip, window, message, wParam, lParam);
         else if (message == WM_NOTIFY)
             answerText(lParam);

@@ -88,7 +88,6 @@ protected:
 private:
     struct Palette;
     struct Painting;
-    enum class Underline { Off, On };
 
     bool isOver();
     bool enterOrExit(bool over);
@@ -104,8 +103,9 @@ private:
     void drawFace(Painting& painting) const;
     void drawFocusFrame(Painting& painting) const;
     void drawCaption(Painting& painting);
-    long captionLeft(Painting const& painting, std::wstring_view caption);
-    void drawPiece(Painting& painting, std::wstring_view text, Underline underline, long x, long y);
+    void takeUnderlineOff();
+    long captionLeft(Painting const& painting, long captionWidth) const;
+    void drawPiece(Painting& painting, std::wstring_view text, long x, long y) const;
 
     static PropertyTable<qvFlatCommand> const kProperties;
 

@@ -62,18 +62,6 @@ struct SplitCaption {
     size_t keyAt = 0; ///< where the access key stands in the shown text
 };
 
-/// The font is left without underline, however a paint ends.
-class UnderlineOff {
-public:
-    explicit UnderlineOff(IFont* font) noexcept : m_font(font) {}
-    ~UnderlineOff() { m_font->put_Underline(FALSE); }
-    UnderlineOff(UnderlineOff const&) = delete;
-    UnderlineOff& operator=(UnderlineOff const&) = delete;
-
-private:
-    ComPtr<IFont> m_font;
-};
-
 /// a less twice b, the size of what is left between two insets.
 long between(long a, long b) { return checkedSubtract(a, checkedMultiply(2, b)); }
 
@@ -175,12 +163,11 @@ bool qvFlatCommand::isEmphasisedDefault(bool userMode) const
 
 void qvFlatCommand::draw(bool userMode)
 {
-    SurfaceFont::Deaf const ownChanges(surfaceFont());
-    UnderlineOff const afterwards(font());
     bool const designedNormal = !userMode && m_state != VisualState::Disabled;
     VisualState const state = designedNormal ? VisualState::Normal : m_state;
-    Painting painting = {userMode, ::GetFocus() == hWnd(), state, clientSize(), paletteOf(state)};
+    Painting painting = {userMode, window().hasFocus(), state, clientSize(), paletteOf(state)};
     painting.canvas.Initialize(hDC(), painting.size.cx, painting.size.cy);
+    takeUnderlineOff();
     painting.canvas.Font(font());
     drawBorder(painting);
     drawFace(painting);
@@ -229,10 +216,17 @@ void qvFlatCommand::drawFocusFrame(Painting& painting) const
                              painting.palette.back);
 }
 
-long qvFlatCommand::captionLeft(Painting const& painting, std::wstring_view caption)
+/// Underline belongs to the access key: a font that has it loses it for good at the next paint.
+void qvFlatCommand::takeUnderlineOff()
+{
+    SurfaceFont::Deaf const ownChange(surfaceFont());
+    check(font()->put_Underline(FALSE));
+}
+
+long qvFlatCommand::captionLeft(Painting const& painting, long captionWidth) const
 {
     if (m_looks.centreCaption)
-        return centred(painting.size.cx, textSize(caption).cx);
+        return centred(painting.size.cx, captionWidth);
     return checkedAdd(checkedSubtract(painting.inset, painting.marker), m_looks.captionIndent);
 }
 
@@ -241,29 +235,31 @@ void qvFlatCommand::drawCaption(Painting& painting)
     SplitCaption const caption(m_looks.caption.view());
     setAccessKeys(caption.accessKey);
 
+    OffScreenDC& canvas = painting.canvas;
     std::wstring_view const shown = caption.shown;
-    long const y = centred(painting.size.cy, textSize(shown).cy);
-    long x = captionLeft(painting, shown);
+    SIZE const extent = canvas.textExtent(shown);
+    long const x = captionLeft(painting, extent.cx);
+    long const y = centred(painting.size.cy, extent.cy);
     if (!caption.marked) {
-        drawPiece(painting, shown, Underline::Off, x, y);
+        drawPiece(painting, shown, x, y);
         return;
     }
     // Each piece starts further right and so never paints over an earlier one.
     auto const before = shown.substr(0, caption.keyAt);
     auto const key = shown.substr(caption.keyAt, 1);
-    if (!before.empty()) {
-        drawPiece(painting, before, Underline::Off, x, y);
-        x = checkedAdd(x, textSize(before).cx);
-    }
-    drawPiece(painting, key, Underline::On, x, y);
-    x = checkedAdd(x, textSize(key).cx);
-    drawPiece(painting, shown.substr(caption.keyAt + key.size()), Underline::Off, x, y);
+    auto const after = shown.substr(caption.keyAt + key.size());
+    long const keyX = before.empty() ? x : checkedAdd(x, canvas.textExtent(before).cx);
+    long const afterX = checkedAdd(keyX, canvas.textExtent(key).cx);
+    if (!before.empty())
+        drawPiece(painting, before, x, y);
+    canvas.Font(surfaceFont().underlined());
+    drawPiece(painting, key, keyX, y);
+    canvas.Font(font());
+    drawPiece(painting, after, afterX, y);
 }
 
-void qvFlatCommand::drawPiece(Painting& painting, std::wstring_view text, Underline underline, long x, long y)
+void qvFlatCommand::drawPiece(Painting& painting, std::wstring_view text, long x, long y) const
 {
-    check(font()->put_Underline(underline == Underline::On));
-    painting.canvas.Font(font());
     long const width =
         checkedSubtract(checkedSubtract(checkedSubtract(painting.size.cx, x), painting.inset), 1);
     long const height = checkedSubtract(between(painting.size.cy, painting.inset), 2);
