@@ -33,6 +33,7 @@ public:
     void ours(int count)
     {
         std::vector<std::unique_ptr<Hosted>> buttons;
+        buttons.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
             buttons.push_back(std::make_unique<Hosted>(deref(m_factory.get()), m_saved, m_frame,
                                                        m_window.handle(), placeOf(i)));
@@ -41,6 +42,7 @@ public:
     void systems(int count)
     {
         std::vector<UniqueWindow> buttons;
+        buttons.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             RECT const place = placeOf(i);
             buttons.emplace_back(::CreateWindowExW(0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP,
@@ -77,9 +79,7 @@ Rows measureCreation(kit::Library const& library, Effort effort)
         comparison.ours /= size.buttons;
         comparison.floor /= size.buttons;
         rows.push_back(
-            rowOf("one of " + std::to_string(size.buttons) +
-                      " buttons in a window: create, load, activate, destroy, against BUTTON windows",
-                  comparison, "–"));
+            rowOf("one of " + std::to_string(size.buttons) + " buttons in a window", comparison, "–"));
     }
     return rows;
 }

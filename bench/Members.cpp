@@ -56,7 +56,7 @@ Rows measureMembers(kit::Library const& library, Effort effort)
 
     auto const row = [&](char const* what, auto byName, auto throughInterface) {
         bool const full = effort == Effort::Full;
-        return rowOf(std::string(what) + " by name, against through the interface",
+        return rowOf(std::string(what) + " by name",
                      compare(full ? 201 : 3, full ? 1000 : 5, byName, throughInterface), "–");
     };
     OLE_COLOR read = 0;

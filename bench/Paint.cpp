@@ -140,8 +140,7 @@ Row measureLook(Bench& bench, BarePainter const& bare, Look const& look, Effort 
     if (look.leave)
         (bench.*look.leave)();
     kit::pumpPending();
-    return rowOf(std::string("one paint, ") + look.name + " look, against bare GDI calls", comparison,
-                 "≤ 1.05");
+    return rowOf(std::string("one paint, ") + look.name + " look", comparison, "≤ 1.05");
 }
 
 } // namespace
