@@ -167,6 +167,7 @@ TEST_F(FlatCaption, leavesTheFontWithoutUnderline)
     EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
     auto const underlined = kit::copyOf(*formFont().get(), true);
     button.setFont(underlined.get());
+    EXPECT_TRUE(kit::isUnderlined(*underlined.get())) << "the font of whoever gave it was changed";
     EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
     expectShown(L"Plain now");
 }

@@ -294,6 +294,15 @@ TEST_F(FlatEmphasis, theDefaultMarkMayBeAnyNumberThatIsNotZero)
     EXPECT_EQ(repaintedAgainst(normalFace()), "");
 }
 
+TEST_F(FlatEmphasis, atDesignTimeAFocusedButtonHasNoFrame)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+}
+
 TEST_F(FlatEmphasis, theDefaultButtonHasNoneAtDesignTime)
 {
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));

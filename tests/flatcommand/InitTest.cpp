@@ -141,13 +141,19 @@ TEST_F(FlatInit, leavesBackAndForeColourAloneWhateverTheFormsAre)
 {
     button.site().setAmbient(DISPID_AMBIENT_BACKCOLOR, Variant::ofLong(0x0000FF));
     button.site().setAmbient(DISPID_AMBIENT_FORECOLOR, Variant::ofLong(0x00FF00));
-    ASSERT_EQ(button->put_BackColor(0x112233), S_OK);
     initialise();
     OLE_COLOR color = 0;
     button->get_BackColor(&color);
-    EXPECT_EQ(color, 0x112233U);
+    EXPECT_EQ(color, 0x8000000FU);
     button->get_ForeColor(&color);
     EXPECT_EQ(color, 0x80000012U);
+    ASSERT_EQ(button->put_BackColor(0x112233), S_OK);
+    ASSERT_EQ(button->put_ForeColor(0x332211), S_OK);
+    initialise();
+    button->get_BackColor(&color);
+    EXPECT_EQ(color, 0x112233U);
+    button->get_ForeColor(&color);
+    EXPECT_EQ(color, 0x332211U);
 }
 
 TEST_F(FlatInit, setsEveryOtherSavedPropertyBackToItsInitialValue)

@@ -253,6 +253,20 @@ TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
     EXPECT_FALSE(kept);
 }
 
+TEST_F(FlatProperties, enabledIsWhetherTheWindowTakesInput)
+{
+    FlatButton button(library(), form);
+    EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    button.start();
+    EXPECT_FALSE(::IsWindowEnabled(button.window()));
+    EXPECT_EQ(button->put_Enabled(VARIANT_TRUE), S_OK);
+    EXPECT_TRUE(::IsWindowEnabled(button.window()));
+    auto const bag = kit::make<kit::FakeBag>();
+    bag->put(L"Enabled", Variant::ofBool(false));
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
+    EXPECT_FALSE(::IsWindowEnabled(button.window()));
+}
+
 TEST_F(FlatProperties, hwndAndHdcAreTheWindowAndItsDeviceContext)
 {
     FlatButton button(library(), form);
