@@ -77,7 +77,7 @@ private:
 };
 
 /// In a form of ours.
-class FormButton final : public Button {
+class FormButton : public Button {
 public:
     FormButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
                std::wstring const& name = L"Button1");

@@ -1,0 +1,151 @@
+// The users of the tooltip window, by the thread's own numbers.
+#include "PlainControl.h"
+#include "ToolTips.h"
+#include "kit/FakeForm.h"
+#include "kit/FakeSite.h"
+
+#include <ole2.h>
+
+#include <limits>
+
+namespace quillet::winsvc {
+namespace {
+
+constexpr RECT kAnyPlace{10, 10, 60, 40};
+
+/// A control in a form that is designed or runs.
+struct Sited {
+    kit::FakeForm form;
+    ComPtr<kit::FakeSite> site = kit::make<kit::FakeSite>(form, kAnyPlace, L"Button1");
+    PlainOwner control;
+
+    explicit Sited(bool running)
+    {
+        site->setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(running));
+        control.as<IOleObject>()->SetClientSite(site.get());
+    }
+    ~Sited()
+    {
+        control.release();
+        site->dismantle();
+    }
+    Sited(Sited const&) = delete;
+    Sited& operator=(Sited const&) = delete;
+
+    void createToolTip() { control.toolTip().CreateToolTip(control->hWnd()); }
+    void end() { control.release(); }
+};
+
+class Users : public RoomTest {};
+
+TEST_F(Users, areCountedFirstThingAndTheWindowIsMadeOnce)
+{
+    onNewThread([] {
+        ThreadState& state = threadState();
+        EXPECT_EQ(state.toolTipUsers, 0);
+        EXPECT_FALSE(state.toolTipCreated);
+        EXPECT_EQ(state.toolTip, nullptr);
+        Sited first(true);
+        first.createToolTip();
+        EXPECT_EQ(state.toolTipUsers, 1);
+        EXPECT_TRUE(state.toolTipCreated);
+        EXPECT_EQ(state.toolTip, theToolTipWindow());
+        HWND const made = state.toolTip;
+        Sited second(true);
+        second.createToolTip();
+        EXPECT_EQ(state.toolTipUsers, 2);
+        EXPECT_EQ(state.toolTip, made);
+    });
+}
+
+TEST_F(Users, ofDesignTimeAreCountedButMakeNoWindowAndSubclassNothing)
+{
+    onNewThread([] {
+        ThreadState const& state = threadState();
+        Sited designed(false);
+        auto const before = ::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC);
+        designed.createToolTip();
+        EXPECT_EQ(state.toolTipUsers, 1);
+        EXPECT_FALSE(state.toolTipCreated);
+        EXPECT_EQ(state.toolTip, nullptr);
+        EXPECT_EQ(::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC), before);
+        designed.end();
+        EXPECT_EQ(state.toolTipUsers, 0);
+    });
+}
+
+TEST_F(Users, thatHaveAllGoneTakeTheWindowAlongButNeitherItsHandleNorItsFlag)
+{
+    onNewThread([] {
+        ThreadState const& state = threadState();
+        Sited first(true);
+        Sited second(true);
+        first.createToolTip();
+        second.createToolTip();
+        HWND const made = state.toolTip;
+        first.end();
+        EXPECT_EQ(state.toolTipUsers, 1);
+        EXPECT_TRUE(::IsWindow(made));
+        second.end();
+        EXPECT_EQ(state.toolTipUsers, 0);
+        EXPECT_FALSE(::IsWindow(made));
+        EXPECT_TRUE(state.toolTipCreated);
+        EXPECT_EQ(state.toolTip, made);
+        Sited third(true);
+        third.createToolTip();
+        EXPECT_EQ(state.toolTipUsers, 1);
+        EXPECT_EQ(state.toolTip, made);
+        EXPECT_TRUE(toolTipWindows().empty());
+    });
+}
+
+TEST_F(Users, beyondThirtyTwoBitsAreAnOverflow)
+{
+    onNewThread([] {
+        ThreadState& state = threadState();
+        Sited control(true);
+        state.toolTipUsers = std::numeric_limits<long>::max();
+        try {
+            control.createToolTip();
+            ADD_FAILURE() << "no error";
+        } catch (RunTimeError const& error) {
+            EXPECT_EQ(error.result(), static_cast<HRESULT>(0x800A0006));
+        }
+        EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max());
+        EXPECT_FALSE(state.toolTipCreated);
+        control.end();
+        EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max())
+            << "who was not counted is not uncounted";
+        state.toolTipUsers = 0;
+    });
+}
+
+TEST_F(Users, whoNeverCountedAreNotUncounted)
+{
+    onNewThread([] {
+        Sited fresh(true);
+        fresh.end();
+        EXPECT_EQ(threadState().toolTipUsers, 0);
+    });
+}
+
+TEST_F(Users, ofTwoThreadsAreCountedApart)
+{
+    onNewThread([] {
+        Sited here(true);
+        here.createToolTip();
+        EXPECT_EQ(threadState().toolTipUsers, 1);
+        onNewThread([] {
+            EXPECT_EQ(threadState().toolTipUsers, 0);
+            EXPECT_FALSE(threadState().toolTipCreated);
+            Sited there(true);
+            there.createToolTip();
+            EXPECT_EQ(threadState().toolTipUsers, 1);
+        });
+        EXPECT_EQ(threadState().toolTipUsers, 1);
+        EXPECT_TRUE(::IsWindow(threadState().toolTip));
+    });
+}
+
+} // namespace
+} // namespace quillet::winsvc

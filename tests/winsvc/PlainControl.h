@@ -1,0 +1,56 @@
+// The least that uses the window services: a control without a look, for tests of the room itself.
+#pragma once
+
+#include "base/Module.h"
+#include "surface/Surface.h"
+#include "surface/ThreadState.h"
+#include "winsvc/modToolTip.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillet::winsvc {
+
+class PlainControl final : public Surface {
+public:
+    PlainControl();
+
+    ToolTipUser toolTip{*this};
+    std::vector<std::string>* log = nullptr; ///< notes "paint" where a test wants to see it
+
+    void onPaint() override;
+    void onTerminate() override { toolTip.Terminate(); }
+
+protected:
+    IDispatch* dual() noexcept override { return nullptr; }
+};
+
+/// Owns a control by its only reference.
+class PlainOwner {
+public:
+    PlainOwner() : m_control(new PlainControl), m_reference(ComPtr<IUnknown>::adopt(m_control->inner())) {}
+
+    PlainControl* operator->() const noexcept { return m_control; }
+    PlainControl& operator*() const noexcept { return *m_control; }
+    ToolTipUser& toolTip() const noexcept { return m_control->toolTip; }
+    template <class T> ComPtr<T> as() const { return query<T>(m_reference.get()); }
+    void release() { m_reference.reset(); }
+
+private:
+    PlainControl* m_control;
+    ComPtr<IUnknown> m_reference;
+};
+
+/// Makes this program what the component is to its rooms. Each body runs on a thread of its own.
+class RoomTest : public testing::Test {
+protected:
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
+    ~RoomTest() override { EXPECT_EQ(liveObjects(), 0); }
+
+    static void onNewThread(void (*body)());
+};
+
+} // namespace quillet::winsvc

@@ -1,0 +1,143 @@
+// Many lives one after another leave nothing behind: no window, no handle, no memory.
+#include "ServiceTest.h"
+#include "input/Gestures.h"
+
+#include <algorithm>
+
+namespace quillet::winsvc {
+namespace {
+
+constexpr int kRounds = 300;
+constexpr int kWarmUp = 20; // until caches of the system's have what they keep
+
+BOOL CALLBACK countOne(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK countWithChildren(HWND window, LPARAM count)
+{
+    ::EnumChildWindows(window, countOne, count);
+    return countOne(window, count);
+}
+
+/// Windows of the calling thread, children included.
+int windowsOfThread()
+{
+    int count = 0;
+    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+/// Bytes in use on all heaps of the process.
+size_t bytesInUse()
+{
+    HANDLE heaps[64];
+    DWORD const count = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
+    size_t bytes = 0;
+    for (DWORD i = 0; i < count; ++i) {
+        ::HeapLock(heaps[i]);
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                bytes += entry.cbData;
+        ::HeapUnlock(heaps[i]);
+    }
+    return bytes;
+}
+
+/// The place in its table that a new handle gets: it climbs as long as handles are lost.
+int placeOfNewGdiHandle()
+{
+    UniqueBrush const brush(::CreateSolidBrush(0));
+    return LOWORD(HandleToULong(brush.get()));
+}
+
+int placeOfNewWindow()
+{
+    UniqueWindow const window(
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+    return LOWORD(HandleToULong(window.get()));
+}
+
+struct Usage {
+    int windows;
+    int window;
+    int gdi;
+    size_t bytes;
+
+    static Usage now()
+    {
+        return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()};
+    }
+};
+
+/// Create, load, activate, hover, press, show the way out, destroy.
+void liveOnce(kit::Library const& library, kit::FakeForm& form, int number)
+{
+    RunningButton button(library, form, number);
+    button.start();
+    button.extender().offer(L"ToolTipText", Variant::ofString(L"Soaked"));
+    ASSERT_TRUE(kit::moveCursorTo(button.window(), number % 2 ? 60 : 90, 20));
+    ASSERT_TRUE(kit::pumpUntil([&] { return button.count("MouseEnter") > 0; }));
+    kit::press(kit::MouseButton::Left);
+    kit::release(kit::MouseButton::Left);
+    ASSERT_TRUE(kit::pumpUntil([&] { return button.count("Click") > 0; }));
+    button.remove();
+    ASSERT_EQ(::GetCapture(), nullptr);
+}
+
+/// Whether the thread's tooltip window lives throughout, or goes with the first of the controls.
+enum class ToolTip { Kept, Gone };
+
+class Soak : public ServiceTest {
+protected:
+    static void soak(ToolTip toolTip)
+    {
+        kit::FakeForm form;
+        RunningButton keeper(library(), form, 4);
+        if (toolTip == ToolTip::Kept)
+            keeper.start();
+        Usage before{};
+        for (int i = 0; i < kRounds; ++i) {
+            if (i == kWarmUp)
+                before = Usage::now();
+            ASSERT_NO_FATAL_FAILURE(liveOnce(library(), form, 1 + i % 2)) << "round " << i;
+            form.record().forget();
+            keeper.events().forget();
+        }
+        EXPECT_TRUE(kit::moveCursorAway());
+        kit::pumpPending();
+        Usage const after = Usage::now();
+        EXPECT_EQ(after.windows, before.windows);
+        EXPECT_LE(after.window, before.window + kHandlesAtRandom);
+        EXPECT_LE(after.gdi, before.gdi + kHandlesAtRandom);
+        EXPECT_LE(after.bytes, before.bytes + kBytesAtRandom + bytesOfTools(toolTip));
+    }
+
+private:
+    // Far below one handle, or the smallest block, a round.
+    static constexpr int kHandlesAtRandom = 40;
+    static constexpr size_t kBytesAtRandom = 2048;
+
+    /// The tooltip window keeps a record of every tool that it was ever told of: nobody takes tools out.
+    static size_t bytesOfTools(ToolTip toolTip)
+    {
+        constexpr size_t kBytesOfOne = 2 * sizeof(TTTOOLINFOA);
+        return toolTip == ToolTip::Kept ? kRounds * kBytesOfOne : 0;
+    }
+};
+
+TEST_F(Soak, ofThreeHundredLivesBesideAControlThatStaysLeavesNothingBehind)
+{
+    kit::onNewThread([] { soak(ToolTip::Kept); });
+}
+
+TEST_F(Soak, ofThreeHundredLivesOneAtATimeLeavesNothingBehind)
+{
+    kit::onNewThread([] { soak(ToolTip::Gone); });
+}
+
+} // namespace
+} // namespace quillet::winsvc

@@ -1,0 +1,210 @@
+// Subclassing by itself: one window, one user, and the procedures before and between.
+#include "PlainControl.h"
+#include "PreviousProcedure.h"
+#include "kit/HostWindow.h"
+
+#include <gmock/gmock.h>
+
+namespace quillet::winsvc {
+namespace {
+
+constexpr UINT kMessage = WM_APP + 3;
+
+/// A window that is nobody's control, with a procedure that keeps what reaches it.
+struct Window {
+    kit::HostWindow host{100, 100, 60, 40};
+    PreviousProcedure previous{host.handle()};
+
+    HWND handle() const { return host.handle(); }
+    WNDPROC procedure() const
+    {
+        return reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(handle(), GWLP_WNDPROC));
+    }
+    LRESULT send(UINT message = kMessage, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::SendMessageA(handle(), message, wParam, lParam);
+    }
+};
+
+class Subclassing : public RoomTest {};
+
+TEST_F(Subclassing, putsTheDispatcherBeforeThePreviousProcedureAndTheUserIntoTheSlot)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner const control;
+        control.toolTip().Subclass(window.handle());
+        EXPECT_EQ(window.procedure(), &SubclassWndProc);
+        EXPECT_NE(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
+        window.previous.answer = 5;
+        EXPECT_EQ(window.send(), 5);
+        EXPECT_EQ(window.previous.count(kMessage), 1);
+        control.toolTip().Unsubclass();
+    });
+}
+
+TEST_F(Subclassing, twiceInstallsTheDispatchProcedureOnceSoTheChainNeverPointsAtItself)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner const control;
+        control.toolTip().Subclass(window.handle());
+        control.toolTip().Subclass(window.handle());
+        EXPECT_EQ(window.procedure(), &SubclassWndProc);
+        window.previous.answer = 5;
+        EXPECT_EQ(window.send(), 5);
+        EXPECT_EQ(window.previous.count(kMessage), 1);
+        control.toolTip().Unsubclass();
+        EXPECT_EQ(window.procedure(), window.previous.address()) << "one step back is all the way back";
+    });
+}
+
+TEST_F(Subclassing, anotherWindowFirstGivesTheFormerOneBack)
+{
+    onNewThread([] {
+        kit::HostWindow const former(100, 100, 60, 40);
+        auto const own = ::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC);
+        Window window;
+        PlainOwner const control;
+        control.toolTip().Subclass(former.handle());
+        ASSERT_NE(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
+        control.toolTip().Subclass(window.handle());
+        EXPECT_EQ(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
+        EXPECT_EQ(window.procedure(), &SubclassWndProc);
+        control.toolTip().Unsubclass();
+    });
+}
+
+TEST_F(Subclassing, onceEndedLetsMessagesGoStraightToThePreviousProcedure)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner const control;
+        LONG_PTR const emptySlot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
+        control.toolTip().Subclass(window.handle());
+        LONG_PTR const slot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
+        control.toolTip().Unsubclass();
+        EXPECT_EQ(window.procedure(), window.previous.address());
+        EXPECT_NE(slot, emptySlot);
+        EXPECT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), slot) << "the slot is left as it is";
+        std::vector<std::string> log;
+        control->log = &log;
+        window.previous.answer = 6;
+        EXPECT_EQ(window.send(), 6);
+        window.send(WM_SETFOCUS);
+        EXPECT_TRUE(log.empty());
+        control.toolTip().Unsubclass();
+        EXPECT_EQ(window.procedure(), window.previous.address()) << "ending twice is ending once";
+    });
+}
+
+TEST_F(Subclassing, thatWindowsRefusesLeavesTheUserUnsubclassed)
+{
+    onNewThread([] {
+        HWND dead = nullptr;
+        {
+            Window const gone;
+            dead = gone.handle();
+        }
+        PlainOwner const control;
+        control.toolTip().Subclass(dead);
+        control.toolTip().Subclass(nullptr);
+        control.toolTip().Unsubclass();
+        Window window;
+        control.toolTip().Subclass(window.handle());
+        EXPECT_EQ(window.procedure(), &SubclassWndProc) << "the next one may work";
+        control.toolTip().Unsubclass();
+    });
+}
+
+TEST_F(Subclassing, ofARefusedWindowEndsTheFormerOneAllTheSame)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner const control;
+        control.toolTip().Subclass(window.handle());
+        control.toolTip().Subclass(nullptr);
+        EXPECT_EQ(window.procedure(), window.previous.address());
+    });
+}
+
+TEST_F(Subclassing, endsWithItsControl)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner control;
+        control.toolTip().Subclass(window.handle());
+        control.release();
+        EXPECT_EQ(window.procedure(), window.previous.address());
+        window.previous.answer = 7;
+        EXPECT_EQ(window.send(), 7);
+    });
+}
+
+TEST_F(Subclassing, doesNotKeepTheControlAlive)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner control;
+        long const before = liveObjects();
+        control.toolTip().Subclass(window.handle());
+        control.release();
+        EXPECT_LT(liveObjects(), before);
+    });
+}
+
+TEST_F(Subclassing, keepsTheControlAliveForTheLengthOfOneMessage)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner control;
+        control.toolTip().Subclass(window.handle());
+        long alive = 0;
+        window.previous.answer = 8;
+        window.previous.action = [&](MSG const& seen) {
+            if (seen.message != kMessage)
+                return;
+            control.release();
+            alive = liveObjects();
+        };
+        long const before = liveObjects();
+        EXPECT_EQ(window.send(), 8);
+        EXPECT_EQ(alive, before) << "the message's own reference";
+        EXPECT_LT(liveObjects(), before);
+    });
+}
+
+TEST_F(Subclassing, dispatchAnswersZeroAndPassesNothingOnWhereTheSlotHoldsNoControl)
+{
+    onNewThread([] {
+        Window window;
+        window.previous.answer = 9;
+        ASSERT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
+        EXPECT_EQ(SubclassWndProc(window.handle(), kMessage, 1, 2), 0);
+        EXPECT_EQ(SubclassWndProc(nullptr, kMessage, 1, 2), 0);
+        EXPECT_EQ(window.previous.count(kMessage), 0);
+    });
+}
+
+TEST_F(Subclassing, ofAUserWhoseWindowIsGoneEndsWithoutTouchingAnotherWindow)
+{
+    onNewThread([] {
+        PlainOwner control;
+        {
+            Window const window;
+            control.toolTip().Subclass(window.handle());
+        }
+        std::vector<std::unique_ptr<Window>> later;
+        for (int i = 0; i < 8; ++i)
+            later.push_back(std::make_unique<Window>());
+        std::vector<WNDPROC> before;
+        for (auto const& each : later)
+            before.push_back(each->procedure());
+        control.release();
+        for (size_t i = 0; i < later.size(); ++i)
+            EXPECT_EQ(later[i]->procedure(), before[i]);
+    });
+}
+
+} // namespace
+} // namespace quillet::winsvc
