@@ -28,6 +28,43 @@ TEST(Options, switchesMayStandBeforeAndBehindTheForm)
     EXPECT_EQ(plain->readyFile, L"");
 }
 
+void expectLogAndForm(std::optional<Options> const& options, bool design)
+{
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->logFile, L"e.txt");
+    EXPECT_EQ(options->form, L"a.frm");
+    EXPECT_EQ(options->design, design);
+}
+
+TEST(Options, theLogsFileIsTheNextWordOrStandsBehindAnEqualsSign)
+{
+    expectLogAndForm(parseOptions({L"--log", L"e.txt", L"a.frm"}), false);
+    expectLogAndForm(parseOptions({L"a.frm", L"--log", L"e.txt"}), false);
+    expectLogAndForm(parseOptions({L"--log=e.txt", L"a.frm"}), false);
+    expectLogAndForm(parseOptions({L"--design", L"--log", L"e.txt", L"a.frm"}), true);
+    auto const without = parseOptions({L"a.frm"});
+    ASSERT_TRUE(without);
+    EXPECT_TRUE(without->logFile.empty());
+}
+
+TEST(Options, aLogWithoutAFileIsRefused)
+{
+    EXPECT_FALSE(parseOptions({L"a.frm", L"--log"}));
+    EXPECT_FALSE(parseOptions({L"a.frm", L"--log="}));
+    EXPECT_FALSE(parseOptions({L"--log", L"--design", L"a.frm"}));
+    EXPECT_FALSE(parseOptions({L"--log", std::wstring(), L"a.frm"}));
+    EXPECT_FALSE(parseOptions({L"--log", L"a.frm"})) << "the only word is the log, so there is no form";
+    EXPECT_FALSE(parseOptions({L"--logs", L"e.txt"}));
+}
+
+TEST(Options, helpNeedsNoForm)
+{
+    auto const options = parseOptions({L"--help"});
+    ASSERT_TRUE(options);
+    EXPECT_TRUE(options->help);
+    EXPECT_FALSE(parseOptions({L"a.frm"})->help);
+}
+
 TEST(Options, whatMakesNoSenseIsRefused)
 {
     EXPECT_FALSE(parseOptions({}));

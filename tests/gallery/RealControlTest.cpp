@@ -1,7 +1,6 @@
 // The component's own controls on the demonstration form: found by file, loaded, pressed, and let go again.
-#include "gallery/ControlLibrary.h"
+#include "gallery/Demo.h"
 #include "gallery/Extender.h"
-#include "gallery/Form.h"
 #include "gallery/HostedControl.h"
 
 #include <gmock/gmock.h>
@@ -17,86 +16,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-
-constexpr wchar_t kFormFile[] = GALLERY_FORMS L"/buttons.frm";
-constexpr DWORD kPatience = 5000; // milliseconds
-
-std::wstring programFolder()
-{
-    std::wstring path(1024, L'\0');
-    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return path.substr(0, path.find_last_of(L'\\'));
-}
-
-std::string narrow(std::wstring const& text) { return std::string(text.begin(), text.end()); }
-
-/// The demonstration form, live, with everything that it raises written down.
-class Demo {
-public:
-    explicit Demo(UserMode mode = UserMode::Run)
-        : m_tree(readFormFile(kFormFile)), m_libraries(m_tree.objects, {programFolder()})
-    {
-        FormOptions options;
-        options.mode = mode;
-        options.factory = [this](auto library, auto className) {
-            return m_libraries.create(library, className);
-        };
-        options.onEvent = [this](FormEvent const& event) {
-            events.push_back(narrow(event.control.state().name + L"." + std::wstring(event.name)));
-        };
-        options.onWarning = [this](FormError const& warning) { warnings.push_back(narrow(warning.text())); };
-        m_form = std::make_unique<Form>(m_tree, std::move(options));
-    }
-
-    Form& form() { return *m_form; }
-    FormTree const& tree() const { return m_tree; }
-    FormControl& control(wchar_t const* name) { return *m_form->find(name); }
-    IDispatch& extender(wchar_t const* name) { return control(name).extender(); }
-    void focusOn(wchar_t const* name)
-    {
-        control(name).focus();
-        m_form->focus().update();
-    }
-
-    /// One key message, the way that the message loop handles it.
-    void key(UINT message, WPARAM key)
-    {
-        MSG sent{::GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 | 1 : 1, 0, {}};
-        if (!m_form->translate(sent))
-            ::SendMessageW(sent.hwnd, message, key, sent.lParam);
-    }
-
-    /// Pumps messages until the event has been raised; whether it was.
-    bool waitFor(std::string const& event)
-    {
-        DWORD const end = ::GetTickCount() + kPatience;
-        while (std::find(events.begin(), events.end(), event) == events.end()) {
-            if (static_cast<LONG>(::GetTickCount() - end) > 0)
-                return false;
-            pump();
-            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-        }
-        return true;
-    }
-
-    void pump()
-    {
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-            if (!m_form->translate(message)) {
-                ::TranslateMessage(&message);
-                ::DispatchMessageW(&message);
-            }
-    }
-
-    std::vector<std::string> events;
-    std::vector<std::string> warnings;
-
-private:
-    FormTree m_tree;
-    ControlLibraries m_libraries;
-    std::unique_ptr<Form> m_form;
-};
 
 TEST(RealControl, theFileBesideTheProgramMakesItsControlsWithoutRegistration)
 {

@@ -1,6 +1,7 @@
 // Moves and presses the real mouse over the gallery's form, from outside: pointer DEED…, where a DEED is
-// "move X Y" (pixels of the form's client area), "down", "up" or "tooltip" (waits until one shows, and says
-// where). For scripts that want to see what a user sees.
+// "move X Y" (pixels of the form's client area), "away" (to the screen's corner), "down", "up", "origin" (says
+// where the client area begins on the screen) or "tooltip" (waits until one shows, and says where). For scripts
+// that want to see what a user sees.
 #include <windows.h>
 
 #include <cstdio>
@@ -13,18 +14,30 @@ using Words = wchar_t**;
 
 constexpr DWORD kPatience = 20000; // milliseconds
 constexpr DWORD kBetweenLooks = 20;
+// A pixel off the corner: a new display's cursor counts as being in it, so moving there would do nothing.
+constexpr POINT kAway{1, 1};
 
 HWND galleryForm() noexcept { return ::FindWindowW(L"QuilletGalleryForm", nullptr); }
 
 int number(wchar_t const* word) noexcept { return static_cast<int>(std::wcstol(word, nullptr, 10)); }
 
-bool move(int x, int y)
+bool moveOnScreen(POINT at)
 {
-    POINT at{x, y};
-    ::ClientToScreen(galleryForm(), &at);
     ::SetCursorPos(at.x, at.y);
     POINT now{};
     return ::GetCursorPos(&now) && now.x == at.x && now.y == at.y;
+}
+
+bool move(int x, int y)
+{
+    POINT at{x, y};
+    return ::ClientToScreen(galleryForm(), &at) && moveOnScreen(at);
+}
+
+bool sayOrigin()
+{
+    POINT origin{};
+    return ::ClientToScreen(galleryForm(), &origin) && std::printf("%ld %ld\n", origin.x, origin.y) > 0;
 }
 
 bool turnButton(DWORD flags)
@@ -49,7 +62,7 @@ bool awaitTooltip()
     for (DWORD const start = ::GetTickCount(); ::GetTickCount() - start < kPatience; ::Sleep(kBetweenLooks)) {
         RECT at{};
         if (HWND const tooltip = shownTooltip(); tooltip && ::GetWindowRect(tooltip, &at)) {
-            std::printf("tooltip %ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
+            std::printf("%ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
             return true;
         }
     }
@@ -64,6 +77,10 @@ bool doOne(Words& word, Words end)
         word += 2;
         return move(number(word[-2]), number(word[-1]));
     }
+    if (deed == L"away")
+        return moveOnScreen(kAway);
+    if (deed == L"origin")
+        return sayOrigin();
     if (deed == L"down")
         return turnButton(MOUSEEVENTF_LEFTDOWN);
     if (deed == L"up")
@@ -77,7 +94,7 @@ int wmain(int count, wchar_t** words)
 {
     Words const end = words + count;
     for (Words word = words + 1; word < end;)
-        if (!galleryForm() || !doOne(word, end)) {
+        if (!doOne(word, end)) {
             std::fputs("pointer: there is no form, or no such deed\n", stderr);
             return 1;
         }

@@ -1,0 +1,78 @@
+// The demonstration form with the component's own controls, live, for tests.
+#include "gallery/Demo.h"
+
+#include "gallery/EventText.h"
+#include "gallery/Extender.h"
+#include "gallery/Utf8.h"
+
+#include <algorithm>
+
+namespace quillet::gallery::test {
+
+namespace {
+
+constexpr wchar_t kFormFile[] = GALLERY_FORMS L"/buttons.frm";
+constexpr DWORD kPatience = 5000; // milliseconds
+
+} // namespace
+
+std::wstring programFolder()
+{
+    std::wstring path(1024, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
+std::string narrow(std::wstring_view text) { return utf8(text); }
+
+Demo::Demo(UserMode mode) : m_tree(readFormFile(kFormFile)), m_libraries(m_tree.objects, {programFolder()})
+{
+    FormOptions options;
+    options.mode = mode;
+    options.factory = [this](auto library, auto className) { return m_libraries.create(library, className); };
+    options.onEvent = [this](FormEvent const& event) {
+        events.push_back(narrow(event.control.state().name + L"." + std::wstring(event.name)));
+        lines.push_back(narrow(eventText(event)));
+    };
+    options.onWarning = [this](FormError const& warning) { warnings.push_back(narrow(warning.text())); };
+    m_form = std::make_unique<Form>(m_tree, std::move(options));
+}
+
+IDispatch& Demo::extender(wchar_t const* name) { return control(name).extender(); }
+
+void Demo::focusOn(wchar_t const* name)
+{
+    control(name).focus();
+    m_form->focus().update();
+}
+
+void Demo::key(UINT message, WPARAM key)
+{
+    MSG sent{::GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 | 1 : 1, 0, {}};
+    if (!m_form->translate(sent))
+        ::SendMessageW(sent.hwnd, message, key, sent.lParam);
+}
+
+bool Demo::waitFor(std::string const& event)
+{
+    DWORD const start = ::GetTickCount();
+    while (std::find(events.begin(), events.end(), event) == events.end()) {
+        if (::GetTickCount() - start > kPatience)
+            return false;
+        pump();
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+    return true;
+}
+
+void Demo::pump()
+{
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        if (!m_form->translate(message)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+}
+
+} // namespace quillet::gallery::test

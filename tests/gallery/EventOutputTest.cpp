@@ -1,0 +1,194 @@
+// Events as lines of text, in the log's file and in the pane beside the form.
+#include "base/Variant.h"
+#include "gallery/EventLog.h"
+#include "gallery/EventPane.h"
+#include "gallery/EventText.h"
+#include "gallery/FormKit.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace quillet::gallery::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// A form with one button and one of a control array, and events that they are said to raise.
+class EventOutput : public ::testing::Test {
+protected:
+    FormKit kit{node("VB.CommandButton", "cmdOne") + node("VB.CommandButton", "cmdTwo", "Index = 2")};
+
+    /// With the arguments in the caller's order.
+    template <class... Values> FormEvent event(wchar_t const* control, wchar_t const* name, Values... values)
+    {
+        m_values = {std::move(values)...};
+        m_raw.clear();
+        for (auto value = m_values.rbegin(); value != m_values.rend(); ++value)
+            m_raw.push_back(value->get()); // automation has the last one first
+        m_params = {m_raw.data(), nullptr, static_cast<UINT>(m_raw.size()), 0};
+        return {kit.control(control), name, m_params};
+    }
+    FormEvent move(float x)
+    {
+        return event(L"cmdOne", L"MouseMove", Variant::ofShort(0), Variant::ofShort(0), Variant::ofFloat(x),
+                     Variant::ofFloat(0));
+    }
+
+private:
+    std::vector<Variant> m_values;
+    std::vector<VARIANT> m_raw;
+    DISPPARAMS m_params{};
+};
+
+TEST_F(EventOutput, anEventWithoutArgumentsIsItsName)
+{
+    EXPECT_EQ(eventText(event(L"cmdOne", L"Click")), L"cmdOne.Click");
+}
+
+TEST_F(EventOutput, argumentsStandInTheOrderOfTheDeclarationAndReferencesAreFollowed)
+{
+    short button = 1;
+    float across = 120.5F;
+    EXPECT_EQ(eventText(event(L"cmdOne", L"MouseDown", Variant::ofShortRef(&button), Variant::ofShort(2),
+                              Variant::ofFloatRef(&across), Variant::ofFloat(-90))),
+              L"cmdOne.MouseDown(1, 2, 120.5, -90)");
+}
+
+TEST_F(EventOutput, textIsQuotedAndWhatIsNoValueIsAQuestionMark)
+{
+    EXPECT_EQ(eventText(event(L"cmdOne", L"Change", Variant::ofString(L"a \"b\", c"), Variant::ofBool(true),
+                              Variant::ofDispatch(&kit.extender(L"cmdOne")))),
+              L"cmdOne.Change(\"a \"\"b\"\", c\", True, ?)");
+}
+
+TEST_F(EventOutput, aControlOfAnArrayIsNamedWithItsIndex)
+{
+    EXPECT_EQ(eventText(event(L"cmdTwo", L"Click")), L"cmdTwo(2).Click");
+}
+
+std::wstring logPath()
+{
+    wchar_t folder[MAX_PATH];
+    ::GetTempPathW(MAX_PATH, folder);
+    return std::wstring(folder) + L"quillet-events.txt";
+}
+
+/// As another program reads it while it is written.
+std::string contents(std::wstring const& path)
+{
+    UniqueFile const file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
+    std::array<char, 256> bytes{};
+    DWORD count = 0;
+    if (file.get() == INVALID_HANDLE_VALUE ||
+        !::ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))
+        return "the file cannot be read";
+    return std::string(bytes.data(), count);
+}
+
+TEST(EventLog, everyLineIsInTheFileAtOnceAndAnOldFileIsReplaced)
+{
+    std::wstring const path = logPath();
+    {
+        EventLog log(path);
+        log.add(L"cmdOne.MouseEnter");
+        EXPECT_EQ(contents(path), "cmdOne.MouseEnter\n");
+        log.add(L"cmd\x00D6l.Click");
+        EXPECT_EQ(contents(path), "cmdOne.MouseEnter\ncmd\xC3\x96l.Click\n");
+    }
+    {
+        EventLog const log(path);
+        EXPECT_EQ(contents(path), "");
+    }
+    ::DeleteFileW(path.c_str());
+}
+
+TEST(EventLog, aFileThatCannotBeWrittenIsSaidAtTheBeginning)
+{
+    try {
+        EventLog const log(L"no such folder\\events.txt");
+        FAIL() << "it was opened";
+    } catch (FormError const& error) {
+        EXPECT_EQ(error.text(), L"no such folder\\events.txt: the file cannot be written");
+    }
+}
+
+std::vector<std::wstring> linesOf(HWND list)
+{
+    std::vector<std::wstring> lines;
+    LRESULT const count = ::SendMessageW(list, LB_GETCOUNT, 0, 0);
+    for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i) {
+        std::wstring line(static_cast<std::size_t>(::SendMessageW(list, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
+        ::SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(line.data()));
+        line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+TEST_F(EventOutput, thePaneLeavesPaintOutAndShowsOfMovesInARowTheNewest)
+{
+    EventPane pane(kit.form().window());
+    EXPECT_THAT(linesOf(pane.window()), IsEmpty());
+    pane.add(event(L"cmdOne", L"MouseEnter"));
+    pane.add(event(L"cmdOne", L"Paint"));
+    pane.add(move(1));
+    pane.add(event(L"cmdOne", L"Paint"));
+    pane.add(move(2));
+    pane.add(event(L"cmdOne", L"Click"));
+    pane.add(event(L"cmdOne", L"Click"));
+    pane.add(move(3));
+    EXPECT_THAT(linesOf(pane.window()),
+                ElementsAre(L"cmdOne.MouseEnter", L"cmdOne.MouseMove(0, 0, 2, 0)", L"cmdOne.Click",
+                            L"cmdOne.Click", L"cmdOne.MouseMove(0, 0, 3, 0)"));
+}
+
+TEST_F(EventOutput, thePaneKeepsTheNewestLineInSightAndDropsTheOldest)
+{
+    EventPane pane(kit.form().window());
+    pane.add(event(L"cmdTwo", L"Click"));
+    for (int i = 0; i < 500; ++i)
+        pane.add(event(L"cmdOne", L"Click"));
+    EXPECT_EQ(::SendMessageW(pane.window(), LB_GETCOUNT, 0, 0), 500);
+    EXPECT_EQ(linesOf(pane.window()).front(), L"cmdOne.Click");
+    RECT line{};
+    RECT area{};
+    ::SendMessageW(pane.window(), LB_GETITEMRECT, 499, reinterpret_cast<LPARAM>(&line));
+    ::GetClientRect(pane.window(), &area);
+    EXPECT_GE(line.top, 0);
+    EXPECT_LE(line.bottom, area.bottom);
+}
+
+TEST_F(EventOutput, thePaneStandsBesideTheFormAndTakesNoFocus)
+{
+    kit.form().show();
+    EventPane pane(kit.form().window());
+    HWND const active = ::GetActiveWindow();
+    pane.show();
+    EXPECT_TRUE(::IsWindowVisible(pane.window()));
+    EXPECT_EQ(::GetActiveWindow(), active);
+    RECT form{};
+    RECT beside{};
+    RECT common{};
+    ::GetWindowRect(kit.form().window(), &form);
+    ::GetWindowRect(pane.window(), &beside);
+    EXPECT_FALSE(::IntersectRect(&common, &form, &beside));
+    EXPECT_GT(beside.right - beside.left, 0);
+}
+
+TEST_F(EventOutput, aPaneThatIsGoneTakesNoMoreLines)
+{
+    EventPane pane(kit.form().window());
+    ::SendMessageW(pane.window(), WM_CLOSE, 0, 0);
+    EXPECT_FALSE(::IsWindow(pane.window()));
+    pane.add(event(L"cmdOne", L"Click"));
+    EventPane other(kit.form().window());
+    kit.form().close();
+    EXPECT_FALSE(::IsWindow(other.window()));
+}
+
+} // namespace
+} // namespace quillet::gallery::test
