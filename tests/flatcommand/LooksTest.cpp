@@ -6,12 +6,9 @@
 namespace quillet::flat {
 namespace {
 
-constexpr RECT kSmall{20, 30, 34, 38}; // 14 x 8
-
 constexpr COLORREF kFore = RGB(10, 20, 30);
 constexpr COLORREF kBack = RGB(40, 50, 60);
 constexpr COLORREF kBorder = RGB(70, 80, 90);
-kit::Letters const kLetters{{'.', kBack}, {'#', kBorder}, {'f', kFore}, {'g', RGB(0x80, 0x80, 0x80)}};
 
 class FlatLooks : public FlatTest {
 protected:
@@ -28,78 +25,6 @@ protected:
         EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
     }
 };
-
-TEST_F(FlatLooks, normalIsABorderOfOnePixelRoundTheFace)
-{
-    ShownButton button(library(), form, kSmall);
-    setColors(button);
-    EXPECT_EQ(button.picture(kLetters), "##############\n"
-                                        "#............#\n"
-                                        "#............#\n"
-                                        "#............#\n"
-                                        "#............#\n"
-                                        "#............#\n"
-                                        "#............#\n"
-                                        "##############\n");
-}
-
-TEST_F(FlatLooks, aBorderWidthOf3IsThreePixelsOnEverySide)
-{
-    ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 3);
-    EXPECT_EQ(button.picture(kLetters), "##############\n"
-                                        "##############\n"
-                                        "##############\n"
-                                        "###........###\n"
-                                        "###........###\n"
-                                        "##############\n"
-                                        "##############\n"
-                                        "##############\n");
-}
-
-TEST_F(FlatLooks, aBorderWidthOf0IsAllFace)
-{
-    ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 0);
-    kit::Canvas shown(14, 8);
-    button.read(shown);
-    EXPECT_EQ(shown.count(kBack), 14 * 8);
-}
-
-TEST_F(FlatLooks, withTheFocusTheBorderIsOnePixelThickerAndAFrameStandsTwoPixelsInside)
-{
-    ShownButton button(library(), form, kSmall);
-    setColors(button);
-    ASSERT_TRUE(kit::focus(button.window()));
-    ASSERT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.picture(kLetters), "##############\n"
-                                        "##############\n"
-                                        "##..........##\n"
-                                        "##..........##\n"
-                                        "##..........##\n"
-                                        "##..........##\n"
-                                        "##############\n"
-                                        "##############\n")
-        << "8 rows leave no room for a frame";
-    button.site().position = {20, 30, 36, 42};
-    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-              S_OK);
-    ASSERT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.picture(kLetters), "################\n"
-                                        "################\n"
-                                        "##............##\n"
-                                        "##............##\n"
-                                        "##..gggggggg..##\n"
-                                        "##..g......g..##\n"
-                                        "##..g......g..##\n"
-                                        "##..gggggggg..##\n"
-                                        "##............##\n"
-                                        "##............##\n"
-                                        "################\n"
-                                        "################\n");
-}
 
 TEST_F(FlatLooks, normalShowsForeBackAndBorderColourAndTheCaptionAtItsIndent)
 {
@@ -378,40 +303,6 @@ TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
     Face face = normalFace();
     face.caption = L"&Off";
     EXPECT_EQ(button.differencesFrom(face), "");
-}
-
-TEST_F(FlatLooks, extremeWidthsAndIndentsEndThePaintSilently)
-{
-    ShownButton button(library(), form);
-    button.setCaption(L"&Far");
-    button.events().forget();
-    int paints = 0;
-    for (short const width : std::initializer_list<short>{SHRT_MIN, -1, 0, 60, SHRT_MAX})
-        for (short const indent : std::initializer_list<short>{SHRT_MIN, -1, 0, 300, SHRT_MAX}) {
-            EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
-            setWidth(button, width);
-            EXPECT_EQ(button->DrawButton(), S_OK);
-            paints += 2;
-        }
-    EXPECT_EQ(button.events().count(kPaint), paints);
-    setWidth(button, 1);
-    EXPECT_EQ(button->put_CaptionIndent(4), S_OK);
-    Face face = normalFace();
-    face.caption = L"&Far";
-    EXPECT_EQ(button.differencesFrom(face), "");
-}
-
-TEST_F(FlatLooks, aBorderWiderThanTheButtonIsAllBorder)
-{
-    ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 4);
-    kit::Canvas shown(14, 8);
-    button.read(shown);
-    EXPECT_EQ(shown.count(kBorder), 14 * 8);
-    setWidth(button, SHRT_MAX);
-    button.read(shown);
-    EXPECT_EQ(shown.count(kBorder), 14 * 8);
 }
 
 } // namespace

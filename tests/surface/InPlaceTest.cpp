@@ -52,6 +52,15 @@ TEST_F(InPlace, activationUsesTheExtendedSiteWhereThereIsOne)
     EXPECT_EQ(record().count("Site.OnInPlaceDeactivate") + record().count("Site.OnInPlaceDeactivateEx"), 1);
 }
 
+TEST_F(InPlace, activationIsRefusedWhereTheSiteSaysNo)
+{
+    record().answer("Site.CanInPlaceActivate", S_FALSE);
+    begin();
+    EXPECT_TRUE(FAILED(control.activate()));
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(record().count("Site.OnInPlaceActivate"), 0);
+}
+
 TEST_F(InPlace, activationTwiceTellsOnce)
 {
     begin();

@@ -36,6 +36,19 @@ TEST_F(Order, rectanglesBeforeActivation)
     EXPECT_EQ(placeOf(control.window()), kPlace);
 }
 
+TEST_F(Order, rectanglesBeforeActivationAreWhatCountsWhereNobodySaysMore)
+{
+    RECT const elsewhere{7, 8, 107, 58};
+    ASSERT_EQ(control.setSite(), S_OK);
+    ASSERT_EQ(control.initNew(), S_OK);
+    ASSERT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, nullptr), S_OK);
+    record().answer("Site.GetWindowContext", E_NOTIMPL);
+    ASSERT_EQ(as<IOleObject>()->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &control.site(), 0, form.window(),
+                                       nullptr),
+              S_OK);
+    EXPECT_EQ(placeOf(control.window()), elsewhere);
+}
+
 TEST_F(Order, rectanglesBeforeEverything)
 {
     EXPECT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&kPlace, nullptr), S_OK);

@@ -45,7 +45,6 @@ TEST_F(Quick, setsTheSiteAndAnswersTheStatus)
 
 TEST_F(Quick, joinsTheSinksThatItIsGiven)
 {
-    auto const view = kit::make<kit::ViewRecorder>();
     auto const sinkFace = query<IUnknown>(events->unknown());
     container.pUnkEventSink = sinkFace.get();
     container.pPropertyNotifySink = changes.get();
