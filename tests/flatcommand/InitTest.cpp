@@ -182,6 +182,25 @@ TEST_F(FlatInit, setsEveryOtherSavedPropertyBackToItsInitialValue)
     EXPECT_EQ(stateOf(button), initial);
 }
 
+TEST_F(FlatInit, paintsOnceBecauseTheFontIsAssigned)
+{
+    ASSERT_EQ(button.setSite(), S_OK);
+    button.events().forget();
+    button.changes().take();
+    ASSERT_EQ(button.initNew(), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_THAT(button.changes().take(), testing::ElementsAre(DISPID_FONT));
+}
+
+TEST_F(FlatInit, loadingPaintsOnceBecauseTheFontIsAssigned)
+{
+    ASSERT_EQ(button.setSite(), S_OK);
+    auto const bag = kit::make<kit::FakeBag>();
+    button.events().forget();
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+}
+
 TEST_F(FlatInit, throughABagIsTheSame)
 {
     ASSERT_EQ(button.setSite(), S_OK);
