@@ -21,11 +21,23 @@ HWND galleryForm() noexcept { return ::FindWindowW(L"QuilletGalleryForm", nullpt
 
 int number(wchar_t const* word) noexcept { return static_cast<int>(std::wcstol(word, nullptr, 10)); }
 
+/// Tries until check holds.
+template <class Check> bool await(Check const& check)
+{
+    for (DWORD const start = ::GetTickCount(); ::GetTickCount() - start < kPatience; ::Sleep(kBetweenLooks))
+        if (check())
+            return true;
+    return false;
+}
+
+/// The display may not follow at once.
 bool moveOnScreen(POINT at)
 {
-    ::SetCursorPos(at.x, at.y);
-    POINT now{};
-    return ::GetCursorPos(&now) && now.x == at.x && now.y == at.y;
+    return await([at] {
+        ::SetCursorPos(at.x, at.y);
+        POINT now{};
+        return ::GetCursorPos(&now) && now.x == at.x && now.y == at.y;
+    });
 }
 
 bool move(int x, int y)
@@ -59,14 +71,12 @@ HWND shownTooltip() noexcept
 
 bool awaitTooltip()
 {
-    for (DWORD const start = ::GetTickCount(); ::GetTickCount() - start < kPatience; ::Sleep(kBetweenLooks)) {
+    return await([] {
         RECT at{};
-        if (HWND const tooltip = shownTooltip(); tooltip && ::GetWindowRect(tooltip, &at)) {
-            std::printf("%ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top);
-            return true;
-        }
-    }
-    return false;
+        HWND const tooltip = shownTooltip();
+        return tooltip && ::GetWindowRect(tooltip, &at) &&
+               std::printf("%ld %ld %ld %ld\n", at.left, at.top, at.right - at.left, at.bottom - at.top) > 0;
+    });
 }
 
 /// Does the deed that begins at word, which moves on to the next one; whether that was possible.
@@ -95,7 +105,7 @@ int wmain(int count, wchar_t** words)
     Words const end = words + count;
     for (Words word = words + 1; word < end;)
         if (!doOne(word, end)) {
-            std::fputs("pointer: there is no form, or no such deed\n", stderr);
+            std::fputs("pointer: a deed could not be done; is there a form?\n", stderr);
             return 1;
         }
     return 0;
