@@ -93,6 +93,19 @@ TEST_F(Dispatch, passesOnTheMessagesThatItHandlesToo)
     });
 }
 
+TEST_F(Dispatch, ofADoubleClickPassesItOnButDoesNotRelayItToTheToolTip)
+{
+    kit::onNewThread([] {
+        Subclassed subclassed(library());
+        for (UINT const message : {515U, 518U, 521U}) {
+            ToolTipWatch const watch;
+            ::SendMessageA(subclassed.window(), message, MK_CONTROL, MAKELPARAM(5, 6));
+            EXPECT_EQ(subclassed.previous->count(message), 1) << message;
+            EXPECT_THAT(watch.numbers(), ElementsAre()) << message;
+        }
+    });
+}
+
 // A WM_NOTIFY with code -520 from another window than hToolTip is passed on untouched.
 TEST_F(Dispatch, ofATextRequestFromAnotherWindowThanTheToolTipWindowPassesItOnUntouched)
 {
