@@ -52,6 +52,17 @@ constexpr WORD kCursors[] = {32512, 32512, 32515, 32513, 32512, 32646, 32643, 32
                              32642, 32644, 32516, 32514, 32648, 32650, 32651, 32646};
 constexpr short kCustomPointer = 99;
 
+/// The cursor in an icon picture, which keeps it; null for every other picture and for none.
+HCURSOR cursorOf(IUnknown* object) noexcept
+{
+    auto const picture = query<IPicture>(object);
+    OLE_HANDLE handle = 0;
+    SHORT type = PICTYPE_NONE;
+    if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON || FAILED(picture->get_Handle(&handle)))
+        return nullptr;
+    return reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle)));
+}
+
 } // namespace
 
 LRESULT CALLBACK SurfaceWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
@@ -101,7 +112,10 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_GETDLGCODE:
         return m_surface.dialogCode();
     case WM_SETCURSOR:
-        return LOWORD(lParam) == HTCLIENT && setCursor() ? TRUE : passOn(message, wParam, lParam);
+        if (LOWORD(lParam) != HTCLIENT)
+            return passOn(message, wParam, lParam);
+        setCursor();
+        return TRUE;
     case WM_SETFOCUS:
         tellFocus(true);
         m_surface.inPlace().focusGained();
@@ -177,23 +191,13 @@ void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
         m_surface.onClick();
 }
 
-bool SurfaceWindow::setCursor() const
+void SurfaceWindow::setCursor() const
 {
     short const pointer = m_surface.mousePointer();
-    if (pointer == kCustomPointer) {
-        auto const picture = query<IPicture>(m_surface.mouseIcon());
-        OLE_HANDLE handle = 0;
-        SHORT type = PICTYPE_NONE;
-        if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON ||
-            FAILED(picture->get_Handle(&handle)) || !handle)
-            return false;
-        ::SetCursor(reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle))));
-        return true;
-    }
-    if (pointer < 0 || pointer >= static_cast<short>(std::size(kCursors)))
-        return false;
-    ::SetCursor(::LoadCursorA(nullptr, MAKEINTRESOURCEA(kCursors[pointer])));
-    return true;
+    bool const named = pointer >= 0 && pointer < static_cast<short>(std::size(kCursors));
+    HCURSOR const custom = pointer == kCustomPointer ? cursorOf(m_surface.mouseIcon()) : nullptr;
+    WORD const system = kCursors[named ? pointer : 0]; // the arrow for a number that names none
+    ::SetCursor(custom ? custom : ::LoadCursorA(nullptr, MAKEINTRESOURCEA(system)));
 }
 
 } // namespace quillet

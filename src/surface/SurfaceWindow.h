@@ -52,7 +52,7 @@ private:
     void paint();
     void button(UINT message, WPARAM wParam, LPARAM lParam);
     void release(short button, WPARAM wParam, LPARAM lParam);
-    bool setCursor() const;
+    void setCursor() const;
     void lost() noexcept;
 
     Surface& m_surface;
