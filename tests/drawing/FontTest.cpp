@@ -4,6 +4,7 @@
 #include "drawing/FakeFont.h"
 #include "drawing/GdiCalls.h"
 #include "kit/Fonts.h"
+#include "kit/Painter.h"
 
 #include <gtest/gtest.h>
 
@@ -163,6 +164,21 @@ TEST_F(SurfaceFont, theTextIsWrittenInTheFontGiven)
     EXPECT_GT(expected.count(kWhite), 0);
     EXPECT_LT(expected.count(kWhite), 80 * 30);
     EXPECT_EQ(differences(expected, actual.target), "");
+}
+
+TEST_F(SurfaceFont, aTextIsMeasuredInTheFontGivenAndDrawsNothing)
+{
+    BoundSurface bound(80, 30);
+    for (int const points : {8, 20}) {
+        auto const font = kit::newFont(L"Arial", points);
+        bound.surface.Font(font.get());
+        SIZE const expected = kit::textSize(kit::handleOf(*font.get()), L"Quill");
+        SIZE const measured = bound.surface.textExtent(L"Quill");
+        EXPECT_EQ(measured.cx, expected.cx) << points << " points";
+        EXPECT_EQ(measured.cy, expected.cy) << points << " points";
+    }
+    bound.surface.BlastToScreen();
+    EXPECT_EQ(bound.target.count(kWhite), 80 * 30);
 }
 
 } // namespace
