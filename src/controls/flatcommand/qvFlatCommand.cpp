@@ -1,6 +1,7 @@
 // The flat command button: its properties, their defaults and their order, and its plain methods.
 #include "controls/flatcommand/qvFlatCommand.h"
 
+#include "controls/button/SystemColours.h"
 #include "controls/flatcommand/Create.h"
 #include "surface/AboutBox.h"
 #include "typelib/DispatchIds.h"
@@ -32,12 +33,12 @@ constexpr PropertyAccess<qvFlatCommand> kField = {
     [](qvFlatCommand& control, Variant const& value) { storeField(control.looks().*Field, value); }};
 
 // The system colours among the defaults.
-constexpr long kButtonFace = static_cast<long>(0x8000000F);
-constexpr long kButtonShadow = static_cast<long>(0x80000010);
-constexpr long kGreyText = static_cast<long>(0x80000011);
-constexpr long kButtonText = static_cast<long>(0x80000012);
-constexpr long k3dHighlight = static_cast<long>(0x80000014);
-constexpr long k3dDarkShadow = static_cast<long>(0x80000015);
+constexpr long kButtonFace = static_cast<long>(colour::kButtonFace);
+constexpr long kButtonShadow = static_cast<long>(colour::kButtonShadow);
+constexpr long kGreyText = static_cast<long>(colour::kGreyText);
+constexpr long kButtonText = static_cast<long>(colour::kButtonText);
+constexpr long k3dHighlight = static_cast<long>(colour::k3dHighlight);
+constexpr long k3dDarkShadow = static_cast<long>(colour::k3dDarkShadow);
 
 constexpr auto kNew = AtStart::Default;
 constexpr auto kAsSurface = AtStart::Surface;
@@ -75,9 +76,6 @@ constexpr Row kRows[] = {
 };
 // clang-format on
 
-/// A GDI or USER handle as hosts know it: 32 bits are significant on every Windows.
-long handleAsLong(HANDLE handle) noexcept { return HandleToLong(handle); }
-
 } // namespace
 
 PropertyTable<qvFlatCommand> const qvFlatCommand::kProperties(kRows);
@@ -89,7 +87,9 @@ HRESULT createFlatCommand(IUnknown* outer, REFIID iid, void** object) noexcept
     return createControl<qvFlatCommand>(outer, iid, object);
 }
 
-qvFlatCommand::qvFlatCommand(IUnknown* outer) : Surface(kClass, outer), Dual(static_cast<Surface&>(*this)) {}
+qvFlatCommand::qvFlatCommand(IUnknown* outer)
+    : CommandButton(kClass, outer), Dual(static_cast<Surface&>(*this))
+{}
 
 void qvFlatCommand::onInitProperties()
 {
@@ -100,20 +100,14 @@ void qvFlatCommand::onInitProperties()
 void qvFlatCommand::onReadProperties(PropertyBag& bag)
 {
     kProperties.read(*this, bag);
-    m_toolTip.CreateToolTip(hWnd());
+    toolTip().CreateToolTip(hWnd());
 }
 
 void qvFlatCommand::onWriteProperties(PropertyBag& bag) { kProperties.write(*this, bag); }
 
-HRESULT qvFlatCommand::get_hwnd(LONG* value)
-{
-    return call([&] { deref(value) = handleAsLong(hWnd()); });
-}
+HRESULT qvFlatCommand::get_hwnd(LONG* value) { return answerHwnd(value); }
 
-HRESULT qvFlatCommand::get_hdc(LONG* value)
-{
-    return call([&] { deref(value) = handleAsLong(hDC()); });
-}
+HRESULT qvFlatCommand::get_hdc(LONG* value) { return answerHdc(value); }
 
 HRESULT qvFlatCommand::Refresh()
 {
@@ -127,11 +121,7 @@ HRESULT qvFlatCommand::ShowAbout()
 
 HRESULT qvFlatCommand::WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result)
 {
-    return call([&] {
-        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)),
-                                                               static_cast<UINT>(uMsg),
-                                                               static_cast<WPARAM>(wParam), lParam));
-    });
+    return answerWindowProc(hwnd, uMsg, wParam, lParam, result);
 }
 
 } // namespace quillet

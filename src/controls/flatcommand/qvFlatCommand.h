@@ -2,19 +2,13 @@
 #pragma once
 
 #include "base/Bstr.h"
+#include "controls/button/CommandButton.h"
 #include "surface/PropertyTable.h"
-#include "surface/Surface.h"
 #include "typelib/Interfaces.h"
-#include "winsvc/modToolTip.h"
 
 #include <windows.h>
 
-#include <string_view>
-
 namespace quillet {
-
-/// Decided by the Paint handler, painted by DrawButton.
-enum class VisualState : long { Normal = 0, Hot = 1, Pressed = 2, Disabled = 3 };
 
 /// Everything about a flat command button that its properties keep and the surface does not.
 struct FlatCommandLooks {
@@ -38,7 +32,7 @@ struct FlatCommandLooks {
     Bstr toolTipText; ///< the extender's, as it was at the last mouse move
 };
 
-class qvFlatCommand final : public Surface, public Dual<_qvFlatCommand> {
+class qvFlatCommand final : public CommandButton, public Dual<_qvFlatCommand> {
 public:
     explicit qvFlatCommand(IUnknown* outer);
 
@@ -66,18 +60,9 @@ public:
     void onReadProperties(PropertyBag& bag) override;
     void onWriteProperties(PropertyBag& bag) override;
     void onPaint() override;
-    void onClick() override;
-    void onDblClick() override;
-    void onMouseDown(MouseArguments const& mouse) override;
     void onMouseMove(MouseArguments const& mouse) override;
-    void onMouseUp(MouseArguments const& mouse) override;
-    void onKeyPress(short keyAscii) override;
-    void onAccessKeyPress(short keyAscii) override;
     void onGotFocus() override;
     void onLostFocus() override;
-    void onShow() override { repaint(); }
-    void onTerminate() override { m_toolTip.Terminate(); }
-    void onFontChanged() override { repaint(); }
 
     FlatCommandLooks& looks() noexcept { return m_looks; }
     FlatCommandLooks const& looks() const noexcept { return m_looks; }
@@ -89,31 +74,20 @@ private:
     struct Palette;
     struct Painting;
 
-    bool isOver();
-    bool enterOrExit(bool over);
-    void setPressed(bool pressed);
-    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
     void refreshSiblings() noexcept;
 
-    VisualState currentState(bool userMode);
     void draw(bool userMode);
     Palette paletteOf(VisualState state) const;
-    bool isEmphasisedDefault(bool userMode) const;
     void drawBorder(Painting& painting) const;
     void drawFace(Painting& painting) const;
     void drawFocusFrame(Painting& painting) const;
     void drawCaption(Painting& painting);
-    void takeUnderlineOff();
     long captionLeft(Painting const& painting, long captionWidth) const;
-    void drawPiece(Painting& painting, std::wstring_view text, long x, long y) const;
 
     static PropertyTable<qvFlatCommand> const kProperties;
 
     FlatCommandLooks m_looks;
-    VisualState m_state = VisualState::Normal;
-    bool m_pressed = false;  ///< between a press of the left button and its release
     bool m_lastOver = false; ///< whether the cursor was over the button at the last mouse move
-    ToolTipUser m_toolTip{*this};
 };
 
 } // namespace quillet

@@ -10,38 +10,8 @@ namespace {
 namespace event = eventid::command;
 
 constexpr short kLeftButton = 1;
-constexpr short kSpace = 32;
-
-/// Whether a press or release is the button's: a test of bits, which every ordinary shift state passes.
-bool isOwnPress(MouseArguments const& mouse) noexcept
-{
-    int const left = mouse.button == kLeftButton ? VARIANT_TRUE : VARIANT_FALSE;
-    return (left & ~mouse.shift) != 0;
-}
 
 } // namespace
-
-bool qvFlatCommand::isOver()
-{
-    POINT cursor = {};
-    ::GetCursorPos(&cursor);
-    return ::WindowFromPoint(cursor) == hWnd();
-}
-
-/// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
-bool qvFlatCommand::enterOrExit(bool over)
-{
-    HWND const window = hWnd();
-    bool const captured = ::GetCapture() == window;
-    if (over == captured)
-        return false;
-    if (over)
-        ::SetCapture(window);
-    else
-        ::ReleaseCapture();
-    raiseEvent(over ? event::MouseEnter : event::MouseExit);
-    return true;
-}
 
 void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
 {
@@ -59,45 +29,6 @@ void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
     m_lastOver = isOver();
 }
 
-void qvFlatCommand::onMouseDown(MouseArguments const& mouse)
-{
-    if (!userMode())
-        return;
-    if (isOwnPress(mouse))
-        setPressed(true);
-    raiseMouseEvent(event::MouseDown, mouse);
-}
-
-void qvFlatCommand::onMouseUp(MouseArguments const& mouse)
-{
-    if (!userMode())
-        return;
-    if (isOwnPress(mouse))
-        setPressed(false);
-    raiseMouseEvent(event::MouseUp, mouse);
-}
-
-void qvFlatCommand::onClick()
-{
-    if (userMode())
-        raiseEvent(event::Click);
-}
-
-void qvFlatCommand::onDblClick()
-{
-    if (userMode())
-        raiseEvent(event::DblClick);
-}
-
-/// Enter reaches a default button through its container.
-void qvFlatCommand::onKeyPress(short keyAscii)
-{
-    if (keyAscii == kSpace)
-        onClick();
-}
-
-void qvFlatCommand::onAccessKeyPress(short) { onClick(); }
-
 void qvFlatCommand::onGotFocus()
 {
     if (userMode())
@@ -111,19 +42,6 @@ void qvFlatCommand::onLostFocus()
     if (isDefault(*this))
         repaint();
     refreshSiblings();
-}
-
-void qvFlatCommand::setPressed(bool pressed)
-{
-    m_pressed = pressed;
-    repaint();
-}
-
-void qvFlatCommand::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
-{
-    MouseArguments own = mouse; // a sink may write to the arguments
-    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
-                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
 }
 
 /// The default button's look depends on which button has the focus.

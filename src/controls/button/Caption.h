@@ -1,0 +1,44 @@
+// A button's caption: its access key, and its text in up to three pieces.
+#pragma once
+
+#include "surface/SurfaceFont.h"
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+class OffScreenDC;
+
+/// A caption without its access-key mark. Only the first mark counts; two in a row are no escape.
+/// Overflow where the mark stands beyond 16 bits.
+struct SplitCaption {
+    explicit SplitCaption(std::wstring_view caption);
+
+    std::wstring shown;
+    std::wstring accessKey;
+    bool marked = false;
+    size_t keyAt = 0; ///< where the access key stands in the shown text
+};
+
+/// a less twice b, the size of what is left between two insets.
+long between(long a, long b);
+
+/// Where something is placed whose middle is the middle of the space, in pixels.
+long centred(long space, long length);
+
+/// The face that a caption is written on, in pixels.
+struct CaptionSpace {
+    SIZE size;  ///< of the button
+    long inset; ///< what is drawn round the face
+    COLORREF back;
+};
+
+/// Writes the caption with its top left corner at a point, the access key underlined. Every piece paints the
+/// face from its own beginning to the right end.
+void writeCaption(OffScreenDC& canvas, SurfaceFont& font, SplitCaption const& caption,
+                  CaptionSpace const& space, POINT at);
+
+} // namespace quillet

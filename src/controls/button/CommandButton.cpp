@@ -1,0 +1,166 @@
+// What all command buttons do alike: follow the mouse, press, click, tell whether they are emphasised.
+#include "controls/button/CommandButton.h"
+
+#include "drawing/OffScreenDC.h"
+#include "typelib/DispatchIds.h"
+#include "winsvc/modCmdSupport.h"
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+namespace event = eventid::command;
+
+constexpr short kLeftButton = 1;
+constexpr short kSpace = 32;
+
+/// A GDI or USER handle as hosts know it: 32 bits are significant on every Windows.
+long handleAsLong(HANDLE handle) noexcept { return HandleToLong(handle); }
+
+} // namespace
+
+bool isOwnPress(MouseArguments const& mouse) noexcept
+{
+    int const left = mouse.button == kLeftButton ? VARIANT_TRUE : VARIANT_FALSE;
+    return (left & ~mouse.shift) != 0;
+}
+
+bool CommandButton::isOver()
+{
+    POINT cursor = {};
+    ::GetCursorPos(&cursor);
+    return ::WindowFromPoint(cursor) == hWnd();
+}
+
+/// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
+bool CommandButton::enterOrExit(bool over)
+{
+    HWND const window = hWnd();
+    bool const captured = ::GetCapture() == window;
+    if (over == captured)
+        return false;
+    if (over)
+        ::SetCapture(window);
+    else
+        ::ReleaseCapture();
+    raiseEvent(over ? event::MouseEnter : event::MouseExit);
+    return true;
+}
+
+void CommandButton::onMouseDown(MouseArguments const& mouse)
+{
+    if (!reacts())
+        return;
+    if (isOwnPress(mouse))
+        setPressed(true);
+    raiseMouseEvent(event::MouseDown, mouse);
+}
+
+void CommandButton::onMouseUp(MouseArguments const& mouse)
+{
+    if (!reacts())
+        return;
+    if (isOwnPress(mouse)) {
+        m_pressed = false;
+        onReleased(mouse);
+        repaint();
+    }
+    raiseMouseEvent(event::MouseUp, mouse);
+}
+
+void CommandButton::onClick()
+{
+    if (reacts())
+        raiseEvent(event::Click);
+}
+
+void CommandButton::onDblClick()
+{
+    if (reacts())
+        raiseEvent(event::DblClick);
+}
+
+/// Enter reaches a default button through its container.
+void CommandButton::onKeyPress(short keyAscii)
+{
+    if (keyAscii == kSpace)
+        onClick();
+}
+
+void CommandButton::onAccessKeyPress(short) { onClick(); }
+
+void CommandButton::setPressed(bool pressed)
+{
+    m_pressed = pressed;
+    repaint();
+}
+
+void CommandButton::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
+{
+    MouseArguments own = mouse; // a sink may write to the arguments
+    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
+                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
+}
+
+void CommandButton::decideState(bool reacting)
+{
+    if (!reacting) {
+        m_state = VisualState::Normal;
+        return;
+    }
+    bool const live = enabled() && isOver();
+    if (!live)
+        m_pressed = false;
+    if (!enabled())
+        m_state = VisualState::Disabled;
+    else if (!live)
+        m_state = VisualState::Normal;
+    else
+        m_state = m_pressed ? VisualState::Pressed : VisualState::Hot;
+}
+
+bool CommandButton::isEmphasisedDefault(bool userMode, std::span<IID const> takers) const
+{
+    if (!userMode || !isDefault(*this))
+        return false;
+    auto const active = container().activeControl();
+    return std::ranges::none_of(
+        takers, [&](IID const& kind) { return static_cast<bool>(controlInterface(active.get(), kind)); });
+}
+
+void CommandButton::open(OffScreenDC& canvas, SIZE size)
+{
+    canvas.Initialize(hDC(), size.cx, size.cy);
+    takeUnderlineOff();
+    canvas.Font(font());
+}
+
+/// Underline belongs to the access key: a font that has it loses it for good at the next paint.
+void CommandButton::takeUnderlineOff()
+{
+    SurfaceFont::Deaf const ownChange(surfaceFont());
+    check(font()->put_Underline(FALSE));
+}
+
+HRESULT CommandButton::answerHwnd(LONG* value)
+{
+    return call([&] { deref(value) = handleAsLong(hWnd()); });
+}
+
+HRESULT CommandButton::answerHdc(LONG* value)
+{
+    return call([&] { deref(value) = handleAsLong(hDC()); });
+}
+
+HRESULT CommandButton::answerWindowProc(LONG window, LONG message, LONG wParam, LONG lParam, LONG* result)
+{
+    return call([&] {
+        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(window)),
+                                                               static_cast<UINT>(message),
+                                                               static_cast<WPARAM>(wParam), lParam));
+    });
+}
+
+} // namespace quillet

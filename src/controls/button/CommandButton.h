@@ -1,0 +1,77 @@
+// What all command buttons do alike: follow the mouse, press, click, tell whether they are emphasised.
+#pragma once
+
+#include "controls/button/VisualState.h"
+#include "surface/Surface.h"
+#include "winsvc/modToolTip.h"
+
+#include <windows.h>
+
+#include <span>
+
+namespace quillet {
+
+class OffScreenDC;
+
+/// The host's own command button.
+inline constexpr IID kIntrinsicButton = {
+    0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
+
+/// Whether a press or release is a button's own: a test of bits, which every ordinary shift state passes.
+bool isOwnPress(MouseArguments const& mouse) noexcept;
+
+/// A surface whose left button presses it. A derived class paints it and follows the mouse over it.
+class CommandButton : public Surface {
+public:
+    void onClick() override;
+    void onDblClick() override;
+    void onMouseDown(MouseArguments const& mouse) override;
+    void onMouseUp(MouseArguments const& mouse) override;
+    void onKeyPress(short keyAscii) override;
+    void onAccessKeyPress(short keyAscii) override;
+    void onShow() override { repaint(); }
+    void onTerminate() override { m_toolTip.Terminate(); }
+    void onFontChanged() override { repaint(); }
+
+protected:
+    using Surface::Surface;
+
+    /// Whether the button reacts to the user. Never in design mode.
+    virtual bool reacts() const noexcept { return userMode(); }
+    /// The left button came up; the repaint comes after it.
+    virtual void onReleased(MouseArguments const&) {}
+
+    // For the published members of the same names.
+    HRESULT answerHwnd(LONG* value);
+    HRESULT answerHdc(LONG* value);
+    HRESULT answerWindowProc(LONG window, LONG message, LONG wParam, LONG lParam, LONG* result);
+
+    /// Whether the cursor is over the button's own window.
+    bool isOver();
+    /// Takes the capture and raises MouseEnter, or gives it up and raises MouseExit. Whether either came.
+    bool enterOrExit(bool over);
+    void setPressed(bool pressed);
+    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
+
+    VisualState state() const noexcept { return m_state; }
+    /// Decides the look. A disabled button, and one that the cursor has left, forget that they were pressed.
+    void decideState(bool reacting);
+    bool isPressed() const noexcept { return m_pressed; }
+
+    /// Whether the form's default button shows it: not while a control with one of these interfaces has the
+    /// focus.
+    bool isEmphasisedDefault(bool userMode, std::span<IID const> takers) const;
+    /// Binds the canvas of one paint, with the button's font.
+    void open(OffScreenDC& canvas, SIZE size);
+
+    ToolTipUser& toolTip() noexcept { return m_toolTip; }
+
+private:
+    void takeUnderlineOff();
+
+    VisualState m_state = VisualState::Normal;
+    bool m_pressed = false; ///< between a press of the left button and its release
+    ToolTipUser m_toolTip{*this};
+};
+
+} // namespace quillet
