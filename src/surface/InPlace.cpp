@@ -44,7 +44,7 @@ HRESULT InPlace::ContextSensitiveHelp(WINBOOL) { return E_NOTIMPL; }
 
 HRESULT InPlace::InPlaceDeactivate()
 {
-    return m_surface.call([&] { leave(); });
+    return m_surface.call([&] { leave(WindowThen::Parked); });
 }
 
 HRESULT InPlace::UIDeactivate()
@@ -121,8 +121,8 @@ void InPlace::activateVisibly(Offer const& offer)
     }
     if (!hasSize(given) && offer.position)
         given = *offer.position;
-    m_surface.window().attach(parent);
-    place(given, hasSize(clip) ? &clip : nullptr);
+    m_position = given;
+    m_surface.window().attach(parent, hasSize(clip) ? &clip : nullptr);
     m_surface.window().show();
     if (ComPtr<IOleClientSite> const client = m_surface.container().site(); client && m_active)
         client->ShowObject();
@@ -164,7 +164,7 @@ void InPlace::hide()
     m_surface.window().hide();
 }
 
-void InPlace::leave() noexcept
+void InPlace::leave(WindowThen then) noexcept
 {
     if (!m_active)
         return;
@@ -172,7 +172,10 @@ void InPlace::leave() noexcept
     if (!m_active)
         return;
     m_active = false;
-    m_surface.window().park();
+    if (then == WindowThen::Parked)
+        m_surface.window().park();
+    else
+        m_surface.window().destroy();
     m_frame.reset();
     m_document.reset();
     if (auto const site = std::move(m_site))
@@ -196,7 +199,7 @@ void InPlace::place(RECT const& position, RECT const* clip)
 {
     m_position = position;
     if (m_active)
-        m_surface.window().move(position, clip);
+        m_surface.window().move(clip);
 }
 
 void InPlace::focusGained()

@@ -39,8 +39,10 @@ public:
     /// Shows the control in its container's window, and with WithFocus gives it the keyboard.
     void activate(Activation kind, Offer const& offer = {});
     void hide();
-    /// Ends activation whatever the state: window parked, container told.
-    void leave() noexcept;
+    /// What becomes of the window of a control that is not active any more. A parked one keeps its handle.
+    enum class WindowThen { Parked, Destroyed };
+    /// Ends activation whatever the state, and then tells the container.
+    void leave(WindowThen then) noexcept;
     /// Sends the message that led to an activation on to the window.
     void forward(MSG const* message);
 

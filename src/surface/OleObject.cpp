@@ -52,7 +52,7 @@ HRESULT OleObject::SetClientSite(IOleClientSite* site)
 {
     return m_surface.call([&] {
         if (!site || site != m_surface.container().site())
-            m_surface.inPlace().leave();
+            m_surface.inPlace().leave(InPlace::WindowThen::Parked);
         m_surface.container().setSite(site);
     });
 }
@@ -73,7 +73,7 @@ HRESULT OleObject::Close(DWORD saveOption)
         ComPtr<IOleClientSite> const site = m_surface.container().site();
         if (saveOption != OLECLOSE_NOSAVE && m_surface.persistence().isDirty() && site)
             site->SaveObject();
-        m_surface.inPlace().leave();
+        m_surface.inPlace().leave(InPlace::WindowThen::Destroyed);
         if (ComPtr<IOleAdviseHolder> const holder = m_adviseHolder)
             holder->SendOnClose();
     });

@@ -1,7 +1,6 @@
 // The user-control surface: identity, life and the services that belong to no single face.
 #include "surface/Surface.h"
 
-#include "base/Handles.h"
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
 
@@ -9,19 +8,15 @@ namespace quillet {
 
 IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
 
-TwipsPerPixel twipsPerPixel() noexcept
+TwipsPerPixel twipsPerPixel(HDC dc) noexcept
 {
     constexpr double kTwipsPerInch = 1440.0;
-    WindowDc const screen(nullptr);
-    return {kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSX),
-            kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
+    return {kTwipsPerInch / ::GetDeviceCaps(dc, LOGPIXELSX), kTwipsPerInch / ::GetDeviceCaps(dc, LOGPIXELSY)};
 }
 
 Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
     : m_class(controlClass), m_outer(outer ? outer : &m_identity)
-{
-    m_font.set(systemFont());
-}
+{}
 
 Surface::~Surface() = default;
 
@@ -94,7 +89,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
 
 void Surface::terminate() noexcept
 {
-    m_inPlace.leave();
+    m_inPlace.leave(InPlace::WindowThen::Destroyed);
     ignoringErrors([&] { onTerminate(); });
     m_window.destroy();
     m_events.disconnect();

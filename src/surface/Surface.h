@@ -38,12 +38,14 @@ struct MouseArguments {
     float y;
 };
 
-/// Twips in one pixel of the screen.
+/// Twips in one pixel of a device.
 struct TwipsPerPixel {
     double x;
     double y;
 };
-TwipsPerPixel twipsPerPixel() noexcept;
+TwipsPerPixel twipsPerPixel(HDC dc) noexcept;
+
+inline bool isEmpty(SIZE size) noexcept { return size.cx <= 0 || size.cy <= 0; }
 
 /// Whether the container that changes a property should hear of a changed look, too.
 enum class ViewChange { No, Yes };
@@ -98,7 +100,8 @@ public:
     bool enabled() const noexcept { return m_enabled; }
     short mousePointer() const noexcept { return m_mousePointer; }
     IPictureDisp* mouseIcon() const noexcept { return m_mouseIcon.get(); }
-    IFont* font() const noexcept { return m_font.get(); }
+    /// Never null: the system's until the control is given one.
+    IFont* font() const { return m_font.get(); }
     void setBackColor(OLE_COLOR colour) noexcept { m_backColor = colour; }
     void setForeColor(OLE_COLOR colour) noexcept { m_foreColor = colour; }
     void setEnabled(bool enabled) noexcept;
@@ -142,6 +145,8 @@ public:
     virtual void onResize() {}
     virtual void onAmbientChanged(DISPID) {}
     virtual void onTerminate() {}
+    /// The window was made, or made anew: somebody destroyed a window above the last one.
+    virtual void onWindowMade() {}
     /// The font that the surface shows changed inside: somebody made it bold, say.
     virtual void onFontChanged() {}
     /// What the window tells a dialog's keyboard handling (DLGC flags).
@@ -187,7 +192,7 @@ private:
     SIZE m_paintSize = {};
 
     Container m_container;
-    SurfaceFont m_font{*this};
+    mutable SurfaceFont m_font{*this}; // makes its font at first need
     SurfaceWindow m_window{*this};
     Events m_events{*this};
     InPlace m_inPlace{*this};

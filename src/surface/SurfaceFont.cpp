@@ -3,6 +3,7 @@
 
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
+#include "surface/StandardFont.h"
 #include "surface/Surface.h"
 
 #include <olectl.h>
@@ -76,11 +77,18 @@ void SurfaceFont::set(ComPtr<IFont> font) noexcept
     });
 }
 
+IFont* SurfaceFont::get()
+{
+    if (!m_font)
+        set(systemFont());
+    return m_font.get();
+}
+
 IFont* SurfaceFont::underlined()
 {
     if (!m_underlined) {
         ComPtr<IFont> twin;
-        check(deref(m_font.get()).Clone(twin.put()));
+        check(get()->Clone(twin.put()));
         check(deref(twin.get()).put_Underline(TRUE));
         m_underlined = std::move(twin);
     }

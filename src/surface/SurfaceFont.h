@@ -18,9 +18,11 @@ public:
     SurfaceFont(SurfaceFont const&) = delete;
     SurfaceFont& operator=(SurfaceFont const&) = delete;
 
-    IFont* get() const noexcept { return m_font.get(); }
+    /// Never null: the system's font while none was set, made at first need.
+    IFont* get();
     /// The same font with underline, as an object of its own: switching it on the font itself would make the
-    /// system build a font, and tell every listener, several times a paint. Throws when there is none.
+    /// system build a font, and tell every listener, several times a paint. Throws when the font cannot be
+    /// copied.
     IFont* underlined();
     void set(ComPtr<IFont> font) noexcept;
 

@@ -40,9 +40,9 @@ short shiftState(WPARAM keys) noexcept
                               (::GetKeyState(VK_MENU) < 0 ? 4 : 0));
 }
 
-MouseArguments argumentsOf(short button, WPARAM keys, LPARAM at)
+MouseArguments argumentsOf(HDC dc, short button, WPARAM keys, LPARAM at)
 {
-    TwipsPerPixel const twips = twipsPerPixel();
+    TwipsPerPixel const twips = twipsPerPixel(dc);
     return {button, shiftState(keys), static_cast<float>(GET_X_LPARAM(at) * twips.x),
             static_cast<float>(GET_Y_LPARAM(at) * twips.y)};
 }
@@ -58,7 +58,8 @@ HCURSOR cursorOf(IUnknown* object) noexcept
     auto const picture = query<IPicture>(object);
     OLE_HANDLE handle = 0;
     SHORT type = PICTYPE_NONE;
-    if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON || FAILED(picture->get_Handle(&handle)))
+    if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON ||
+        FAILED(picture->get_Handle(&handle)))
         return nullptr;
     return reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle)));
 }
@@ -89,11 +90,13 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_ERASEBKGND: // painting covers everything
         return 1;
+    case WM_NCPAINT: // there is no frame
+        return 0;
     case WM_PRINTCLIENT:
         m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
         return 0;
     case WM_MOUSEMOVE:
-        m_surface.onMouseMove(argumentsOf(heldButtons(wParam), wParam, lParam));
+        m_surface.onMouseMove(argumentsOf(dc(), heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -127,7 +130,6 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.inPlace().focusLost();
         return 0;
     case WM_SIZE:
-        invalidate();
         m_surface.onResize();
         return 0;
     case WM_WINDOWPOSCHANGED: {
@@ -166,7 +168,7 @@ void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
                 m_clickBegun = true;
                 takeFocus();
             }
-            m_surface.onMouseDown(argumentsOf(row.button, wParam, lParam));
+            m_surface.onMouseDown(argumentsOf(dc(), row.button, wParam, lParam));
             return;
         case ButtonRow::What::Double:
             if (row.button == kLeft)
@@ -184,7 +186,7 @@ void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
     bool const begun = button == kLeft && m_clickBegun;
     if (button == kLeft)
         m_clickBegun = false;
-    m_surface.onMouseUp(argumentsOf(button, wParam, lParam));
+    m_surface.onMouseUp(argumentsOf(dc(), button, wParam, lParam));
     RECT client = {};
     if (begun && m_window && ::GetClientRect(m_window, &client) &&
         ::PtInRect(&client, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))

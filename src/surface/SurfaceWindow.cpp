@@ -33,7 +33,7 @@ void registerClass(WNDPROC procedure)
         return;
     description = {};
     description.cbSize = sizeof(description);
-    description.style = CS_OWNDC | CS_DBLCLKS;
+    description.style = CS_OWNDC | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
     description.lpfnWndProc = procedure;
     // The surface is found through the window's extra bytes: the user-data slot belongs to subclassing.
     description.cbWndExtra = sizeof(void*);
@@ -67,6 +67,7 @@ void SurfaceWindow::create(HWND parent)
         throw RunTimeError(HRESULT_FROM_WIN32(reason));
     }
     ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
+    m_surface.onWindowMade();
 }
 
 HWND SurfaceWindow::handle()
@@ -91,12 +92,16 @@ SIZE SurfaceWindow::clientSize() const noexcept
     return {client.right, client.bottom};
 }
 
-void SurfaceWindow::attach(HWND parent)
+void SurfaceWindow::attach(HWND parent, RECT const* clip)
 {
-    if (!m_window)
+    if (!m_window) {
         create(parent);
-    else if (::GetParent(m_window) != parent)
+        clipTo(clip);
+        return;
+    }
+    if (::GetParent(m_window) != parent)
         ::SetParent(m_window, parent);
+    move(clip);
 }
 
 void SurfaceWindow::park() noexcept
@@ -107,22 +112,31 @@ void SurfaceWindow::park() noexcept
     ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
 }
 
-void SurfaceWindow::move(RECT const& position, RECT const* clip)
+void SurfaceWindow::move(RECT const* clip)
 {
-    HWND const window = handle();
-    ::SetWindowPos(window, nullptr, position.left, position.top, position.right - position.left,
+    RECT const& position = m_surface.inPlace().position();
+    ::SetWindowPos(handle(), nullptr, position.left, position.top, position.right - position.left,
                    position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    clipTo(clip);
+}
+
+void SurfaceWindow::clipTo(RECT const* clip)
+{
+    RECT const& position = m_surface.inPlace().position();
     RECT visible;
     bool const partly =
         clip && ::IntersectRect(&visible, clip, &position) && !::EqualRect(&visible, &position);
     if (!partly) {
-        ::SetWindowRgn(window, nullptr, TRUE);
+        if (std::exchange(m_clipped, false))
+            ::SetWindowRgn(m_window, nullptr, TRUE);
         return;
     }
     ::OffsetRect(&visible, -position.left, -position.top);
     UniqueRegion region(::CreateRectRgnIndirect(&visible));
-    if (::SetWindowRgn(window, region.get(), TRUE))
+    if (::SetWindowRgn(m_window, region.get(), TRUE)) {
         region.release(); // the window owns it from here on
+        m_clipped = true;
+    }
 }
 
 void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
@@ -147,33 +161,29 @@ void SurfaceWindow::enable(bool enabled) noexcept
         ::EnableWindow(m_window, enabled);
 }
 
-void SurfaceWindow::invalidate() noexcept
-{
-    if (m_window)
-        ::InvalidateRect(m_window, nullptr, FALSE);
-}
-
 void SurfaceWindow::destroy() noexcept
 {
     if (!m_window)
         return;
     // From here on messages find no surface: they must not reach a control that is going.
     ::SetWindowLongPtrA(m_window, 0, 0);
-    HWND const window = std::exchange(m_window, nullptr);
-    m_dc = nullptr;
-    m_focusTold = false;
-    ::DestroyWindow(window);
+    ::DestroyWindow(forget());
     leaveParking();
+}
+
+/// Everything that was the window's own goes with it.
+HWND SurfaceWindow::forget() noexcept
+{
+    m_dc = nullptr;
+    m_clipped = m_clickBegun = m_focusTold = false;
+    return std::exchange(m_window, nullptr);
 }
 
 void SurfaceWindow::lost() noexcept
 {
-    m_window = nullptr;
-    m_dc = nullptr;
-    m_clickBegun = false;
-    m_focusTold = false;
+    forget();
     leaveParking();
-    m_surface.inPlace().leave();
+    m_surface.inPlace().leave(InPlace::WindowThen::Destroyed); // it is
 }
 
 } // namespace quillet

@@ -23,21 +23,21 @@ public:
     /// The client area in pixels; empty while there is no window.
     SIZE clientSize() const noexcept;
 
-    /// Puts the window, hidden, into a container's window.
-    void attach(HWND parent);
+    /// Puts the window, hidden, to its place in a container's window.
+    void attach(HWND parent, RECT const* clip);
     /// Hides the window and puts it back under the parking window.
     void park() noexcept;
-    void move(RECT const& position, RECT const* clip);
+    /// Follows the container's rectangle. A clip shows only what lies in it, too.
+    void move(RECT const* clip);
     void show();
     void hide() noexcept;
     void takeFocus();
-    /// Whether the window has the keyboard. Windows is asked only between the two messages that say so: the
-    /// question costs some systems as much as a fill.
-    bool hasFocus() const noexcept { return m_focusTold && ::GetFocus() == m_window; }
+    /// Whether the window has the keyboard, as its last message said: asking Windows at each paint costs some
+    /// systems as much as a fill.
+    bool hasFocus() const noexcept { return m_focusTold; }
     /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
     void tellFocus(bool gained) noexcept { m_focusTold = gained; }
     void enable(bool enabled) noexcept;
-    void invalidate() noexcept;
     void destroy() noexcept;
 
     /// For the entry point, when the component goes.
@@ -47,6 +47,7 @@ private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
     void create(HWND parent);
+    void clipTo(RECT const* clip);
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
@@ -54,11 +55,13 @@ private:
     void release(short button, WPARAM wParam, LPARAM lParam);
     void setCursor() const;
     void lost() noexcept;
+    HWND forget() noexcept;
 
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
     bool m_focusTold = false;
+    bool m_clipped = false;    ///< a region cuts off what the container does not show
     bool m_clickBegun = false; ///< the left button went down here and has not come up
 };
 

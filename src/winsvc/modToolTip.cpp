@@ -92,8 +92,17 @@ void ToolTipUser::CreateToolTip(HWND window)
         state.toolTipCreated = true; // for good: a window that is gone stays gone on this thread
         state.toolTip = newToolTipWindow();
     }
+    m_running = true;
+    if (window)
+        windowMade(window);
+}
+
+void ToolTipUser::windowMade(HWND window) noexcept
+{
+    if (!m_running)
+        return;
     Subclass(window);
-    AddTool(state.toolTip, window);
+    AddTool(threadState().toolTip, window);
 }
 
 void ToolTipUser::Terminate()
@@ -104,7 +113,7 @@ void ToolTipUser::Terminate()
     Unsubclass();
     if (m_counted && state.toolTipCreated && state.toolTipUsers == 0)
         ::DestroyWindow(state.toolTip);
-    m_counted = false;
+    m_counted = m_running = false;
 }
 
 void ToolTipUser::AddTool(HWND toolTip, HWND window) noexcept

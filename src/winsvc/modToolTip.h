@@ -20,9 +20,11 @@ public:
     ToolTipUser& operator=(ToolTipUser const&) = delete;
 
     /// Called when the saved properties have been read. Counts the control as a user; at run time makes the
-    /// thread's tooltip window unless it was ever made, subclasses the window and registers it as a tool.
-    /// Overflow when the users leave 32 bits.
+    /// thread's tooltip window unless it was ever made, subclasses the window and registers it as a tool; a
+    /// window that is not made yet (null) as soon as it is. Overflow when the users leave 32 bits.
     void CreateToolTip(HWND window);
+    /// The tool's window was made, or made anew.
+    void windowMade(HWND window) noexcept;
     /// Called when the control ends. The last user takes the tooltip window along; it is never made again.
     void Terminate();
 
@@ -46,6 +48,7 @@ private:
 
     Surface& m_surface;
     bool m_counted = false;
+    bool m_running = false;       ///< has a tooltip, or will have it with its window
     WNDPROC m_previous = nullptr; ///< null while no window is subclassed
     HWND m_subclassed = nullptr;
     std::string m_ansiText; ///< what the tooltip window was last handed: it reads it after the answer

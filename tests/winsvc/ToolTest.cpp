@@ -34,6 +34,53 @@ TEST_F(Tool, isAddedOnceTheWindowIsActiveAndActivatesItAgain)
     });
 }
 
+TEST_F(Tool, isTheWindowThatAnActivationMakesAfterTheLoad)
+{
+    kit::onNewThread([] {
+        kit::FakeForm form;
+        RunningButton button(library(), form);
+        ToolTipWatch const watch;
+        ASSERT_EQ(button.hosted().setSite(), S_OK);
+        button.load(*looksBag().get());
+        EXPECT_THAT(watch.numbers(), ElementsAre(kActivate)) << "nothing needs a window yet";
+        ASSERT_EQ(button.hosted().activate(), S_OK);
+        EXPECT_THAT(watch.numbers(), ElementsAre(kActivate, kAddTool, kActivate));
+        EXPECT_EQ(watch.messages.at(1).tool.hwnd, windowOf(button));
+    });
+}
+
+TEST_F(Tool, isTheNewWindowOfAControlThatIsShownAgainAfterItWasClosed)
+{
+    kit::onNewThread([] {
+        kit::FakeForm form;
+        RunningButton button(library(), form);
+        button.start();
+        HWND const first = windowOf(button);
+        ASSERT_EQ(button.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+        EXPECT_FALSE(::IsWindow(first));
+        ToolTipWatch const watch;
+        ASSERT_EQ(button.hosted().activate(), S_OK);
+        EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
+        EXPECT_EQ(watch.messages.at(0).tool.hwnd, windowOf(button));
+        EXPECT_TRUE(::IsWindowVisible(windowOf(button)));
+    });
+}
+
+TEST_F(Tool, isTheNewWindowOfAControlWhoseContainerDestroyedTheLastOne)
+{
+    kit::onNewThread([] {
+        kit::FakeForm form;
+        RunningButton button(library(), form);
+        button.start();
+        ::DestroyWindow(windowOf(button));
+        ToolTipWatch const watch;
+        HWND const made = windowOf(button);
+        ASSERT_NE(made, nullptr);
+        EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
+        EXPECT_EQ(watch.messages.at(0).tool.hwnd, made);
+    });
+}
+
 TEST_F(Tool, isTheControlsWindowByItsHandleWithTextOnDemand)
 {
     kit::onNewThread([] {

@@ -29,6 +29,8 @@ bool isOwnPress(MouseArguments const& mouse) noexcept
 
 bool CommandButton::isOver()
 {
+    if (isEmpty(clientSize())) // asking Windows costs as much as a fill
+        return false;
     POINT cursor = {};
     ::GetCursorPos(&cursor);
     return ::WindowFromPoint(cursor) == hWnd();
@@ -137,9 +139,14 @@ void CommandButton::open(OffScreenDC& canvas, SIZE size)
     canvas.Font(font());
 }
 
-/// Underline belongs to the access key: a font that has it loses it for good at the next paint.
+/// Underline belongs to the access key: a font that has it loses it for good at the next paint. Taking it off
+/// a font without it would make some systems build the font anew.
 void CommandButton::takeUnderlineOff()
 {
+    BOOL underlined = FALSE;
+    check(deref(font()).get_Underline(&underlined));
+    if (!underlined)
+        return;
     SurfaceFont::Deaf const ownChange(surfaceFont());
     check(font()->put_Underline(FALSE));
 }

@@ -31,6 +31,7 @@ public:
     void onAccessKeyPress(short keyAscii) override;
     void onShow() override { repaint(); }
     void onTerminate() override { m_toolTip.Terminate(); }
+    void onWindowMade() override { m_toolTip.windowMade(hWnd()); }
     void onFontChanged() override { repaint(); }
 
 protected:

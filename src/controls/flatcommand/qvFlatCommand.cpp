@@ -100,7 +100,7 @@ void qvFlatCommand::onInitProperties()
 void qvFlatCommand::onReadProperties(PropertyBag& bag)
 {
     kProperties.read(*this, bag);
-    toolTip().CreateToolTip(hWnd());
+    toolTip().CreateToolTip(window().existing());
 }
 
 void qvFlatCommand::onWriteProperties(PropertyBag& bag) { kProperties.write(*this, bag); }

@@ -94,7 +94,12 @@ void qvFlatCommand::draw(bool userMode)
 {
     bool const designedNormal = !userMode && state() != VisualState::Disabled;
     VisualState const shown = designedNormal ? VisualState::Normal : state();
-    Painting painting = {userMode, window().hasFocus(), shown, clientSize(), paletteOf(shown)};
+    SIZE const size = clientSize();
+    if (isEmpty(size)) { // while a form loads
+        setAccessKeys(SplitCaption(m_looks.caption.view()).accessKey);
+        return;
+    }
+    Painting painting = {userMode, window().hasFocus(), shown, size, paletteOf(shown)};
     open(painting.canvas, painting.size);
     drawBorder(painting);
     drawFace(painting);
