@@ -1,6 +1,8 @@
 // The command line of the gallery.
 #include "gallery/Options.h"
 
+#include <windows.h>
+
 #include <cstddef>
 #include <string_view>
 
@@ -34,19 +36,29 @@ bool takeReady(std::wstring_view word, Options& options)
     return true;
 }
 
+/// Somebody who forgets the log's name would lose the form that stands there instead.
+bool isForm(std::wstring_view file)
+{
+    constexpr std::wstring_view kEnding = L".frm";
+    constexpr int kLength = static_cast<int>(kEnding.size());
+    return file.size() >= kEnding.size() &&
+           ::CompareStringOrdinal(file.data() + file.size() - kEnding.size(), kLength, kEnding.data(),
+                                  kLength, TRUE) == CSTR_EQUAL;
+}
+
 /// The file may be a word of its own: the next one.
 bool takeLog(Words const& words, std::size_t& position, Options& options)
 {
     std::wstring_view const word = words[position];
     if (auto const file = assigned(word, kLog)) {
         options.logFile = *file;
-        return true;
+        return !isForm(*file);
     }
     bool const hasNext = position + 1 < words.size();
     if (word != kLog || !hasNext || words[position + 1].empty() || isOption(words[position + 1]))
         return false;
     options.logFile = words[++position];
-    return true;
+    return !isForm(options.logFile);
 }
 
 /// Takes the option at the position, which moves on to its last word.

@@ -3,6 +3,7 @@
 
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
+#include "base/HelpFile.h"
 #include "base/RunTimeError.h"
 
 #include <new>
@@ -11,8 +12,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr wchar_t kHelpFile[] = L"quillet.chm";
 
 std::wstring systemText(HRESULT result)
 {

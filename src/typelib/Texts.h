@@ -5,7 +5,6 @@ namespace quillet {
 
 inline constexpr wchar_t kLibraryName[] = L"Quillet";
 inline constexpr wchar_t kLibraryText[] = L"Quillet flat buttons";
-inline constexpr wchar_t kHelpFile[] = L"quillet.chm";
 
 inline constexpr wchar_t kQvFlatCommandText[] = L"Quillet flat command button";
 inline constexpr wchar_t kQvFlatOptionText[] = L"Quillet flat option button";

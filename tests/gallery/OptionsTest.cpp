@@ -57,6 +57,13 @@ TEST(Options, aLogWithoutAFileIsRefused)
     EXPECT_FALSE(parseOptions({L"--logs", L"e.txt"}));
 }
 
+TEST(Options, aFormAsTheLogIsRefusedRatherThanWrittenOver)
+{
+    EXPECT_FALSE(parseOptions({L"--log", L"a.frm", L"b.frm"}));
+    EXPECT_FALSE(parseOptions({L"--log=A.FRM", L"b.frm"}));
+    EXPECT_TRUE(parseOptions({L"--log", L"frm", L"b.frm"}));
+}
+
 TEST(Options, helpNeedsNoForm)
 {
     auto const options = parseOptions({L"--help"});

@@ -1,6 +1,7 @@
 // Writes the type library's file from its descriptions.
 #include "typelib/maker/LibraryWriter.h"
 
+#include "base/HelpFile.h"
 #include "base/RunTimeError.h"
 #include "typelib/Guids.h"
 #include "typelib/Texts.h"
