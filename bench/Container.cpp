@@ -72,6 +72,29 @@ HRESULT Extender::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* re
     }
 }
 
+HRESULT Siblings::QueryInterface(REFIID iid, void** object)
+{
+    bool const known = iid == IID_IUnknown || iid == IID_IOleContainer;
+    return handOut(known ? static_cast<IOleContainer*>(this) : nullptr, object);
+}
+
+HRESULT Siblings::EnumObjects(DWORD, IEnumUnknown** enumerator)
+{
+    m_next = 0;
+    *enumerator = this;
+    return S_OK;
+}
+
+HRESULT Siblings::Next(ULONG count, IUnknown** controls, ULONG* fetched)
+{
+    ULONG given = 0;
+    for (; given < count && m_next < m_controls.size(); ++given)
+        controls[given] = ComPtr<IUnknown>(m_controls[m_next++]).detach();
+    if (fetched)
+        *fetched = given;
+    return given == count ? S_OK : S_FALSE;
+}
+
 HRESULT Frame::QueryInterface(REFIID iid, void** object)
 {
     bool const known = iid == IID_IUnknown || iid == IID_IOleWindow || iid == IID_IOleInPlaceUIWindow ||
@@ -98,8 +121,8 @@ HRESULT Site::QueryInterface(REFIID iid, void** object)
 
 HRESULT Site::GetContainer(IOleContainer** container)
 {
-    *container = nullptr;
-    return E_NOINTERFACE;
+    *container = m_frame.container();
+    return *container ? S_OK : E_NOINTERFACE;
 }
 
 HRESULT Site::GetExtendedControl(IDispatch** extender)

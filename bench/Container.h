@@ -10,6 +10,9 @@
 
 #include <oleidl.h>
 
+#include <utility>
+#include <vector>
+
 namespace quillet::bench {
 
 /// Counts references and nothing else: the bench owns its objects itself.
@@ -30,10 +33,34 @@ public:
                         UINT*) override;
 };
 
+/// The controls of one form, as they find each other.
+class Siblings final : public Owned<IOleContainer, IEnumUnknown> {
+public:
+    void add(ComPtr<IUnknown> control) { m_controls.push_back(std::move(control)); }
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
+    // IOleContainer
+    STDMETHODIMP ParseDisplayName(IBindCtx*, LPOLESTR, ULONG*, IMoniker**) override { return E_NOTIMPL; }
+    STDMETHODIMP EnumObjects(DWORD, IEnumUnknown** enumerator) override;
+    STDMETHODIMP LockContainer(BOOL) override { return S_OK; }
+    // IEnumUnknown: one walk at a time
+    STDMETHODIMP Next(ULONG count, IUnknown** controls, ULONG* fetched) override;
+    STDMETHODIMP Skip(ULONG) override { return E_NOTIMPL; }
+    STDMETHODIMP Reset() override { return E_NOTIMPL; }
+    STDMETHODIMP Clone(IEnumUnknown**) override { return E_NOTIMPL; }
+
+private:
+    std::vector<ComPtr<IUnknown>> m_controls;
+    std::size_t m_next = 0;
+};
+
 /// The window's frame; there are no menus and no borders to negotiate.
 class Frame final : public Owned<IOleInPlaceFrame> {
 public:
-    explicit Frame(HWND window) : m_window(window) {}
+    explicit Frame(HWND window, IOleContainer* container = nullptr) : m_window(window), m_container(container)
+    {}
+
+    IOleContainer* container() const noexcept { return m_container; }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP GetWindow(HWND* window) override;
@@ -51,6 +78,7 @@ public:
 
 private:
     HWND m_window;
+    IOleContainer* m_container;
 };
 
 /// The place of one control: its sites and its ambient properties (run mode).

@@ -23,14 +23,6 @@ double microsecondsNow()
     return static_cast<double>(ticks.QuadPart) * 1e6 / static_cast<double>(frequency.QuadPart);
 }
 
-double microsecondsOf(int calls, std::function<void()> const& body)
-{
-    double const start = microsecondsNow();
-    for (int i = 0; i < calls; ++i)
-        body();
-    return (microsecondsNow() - start) / calls;
-}
-
 double medianOf(std::vector<double> values)
 {
     auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
@@ -47,16 +39,23 @@ std::string fixed(double value, int decimals)
 
 } // namespace
 
-Comparison compare(int rounds, int calls, std::function<void()> const& ours,
-                   std::function<void()> const& floor, std::function<void()> const& settle)
+double microsecondsOf(std::function<void()> const& body)
+{
+    double const start = microsecondsNow();
+    body();
+    return microsecondsNow() - start;
+}
+
+Comparison compareTimed(int rounds, TimedBody const& ours, TimedBody const& floor,
+                        std::function<void()> const& settle)
 {
     std::vector<double> ourTimes;
     std::vector<double> floorTimes;
     std::vector<double> ratios;
     for (int round = 0; round < rounds; ++round) {
         bool const oursFirst = round % 2 == 0;
-        double first = microsecondsOf(calls, oursFirst ? ours : floor);
-        double second = microsecondsOf(calls, oursFirst ? floor : ours);
+        double first = oursFirst ? ours() : floor();
+        double second = oursFirst ? floor() : ours();
         if (!oursFirst)
             std::swap(first, second);
         ourTimes.push_back(first);
@@ -66,6 +65,21 @@ Comparison compare(int rounds, int calls, std::function<void()> const& ours,
             settle();
     }
     return {medianOf(std::move(ourTimes)), medianOf(std::move(floorTimes)), medianOf(std::move(ratios))};
+}
+
+Comparison compare(int rounds, int calls, std::function<void()> const& ours,
+                   std::function<void()> const& floor, std::function<void()> const& settle)
+{
+    auto const repeated = [calls](std::function<void()> const& body) {
+        return [calls, &body] {
+            return microsecondsOf([&] {
+                       for (int i = 0; i < calls; ++i)
+                           body();
+                   }) /
+                   calls;
+        };
+    };
+    return compareTimed(rounds, repeated(ours), repeated(floor), settle);
 }
 
 Row rowOf(std::string what, Comparison const& comparison, std::string goal)

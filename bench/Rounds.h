@@ -15,6 +15,14 @@ struct Comparison {
     double ratio; ///< of the rounds' own ratios, not of the two medians
 };
 
+/// Microseconds that a body takes.
+double microsecondsOf(std::function<void()> const& body);
+
+/// A body that times a part of itself: what prepares it is not counted. Answers microseconds.
+using TimedBody = std::function<double()>;
+Comparison compareTimed(int rounds, TimedBody const& ours, TimedBody const& floor,
+                        std::function<void()> const& settle = {});
+
 /// In each round times a number of calls of ours and as many of the floor; which goes first changes from
 /// round to round. Afterwards, untimed, runs settle if there is one.
 Comparison compare(int rounds, int calls, std::function<void()> const& ours,

@@ -1,5 +1,5 @@
 // Measures the built component from outside, as a host uses it, and writes one line for each figure:
-// bench [--smoke] [paint|creation|members|size]
+// bench [--smoke] [paint|mouse|focus|creation|members|size|soak]
 #include "base/RunTimeError.h"
 #include "bench/Bench.h"
 #include "bench/Rounds.h"
@@ -31,10 +31,9 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"paint", &measurePaint},
-    {"creation", &measureCreation},
-    {"members", &measureMembers},
-    {"size", &measureSize},
+    {"paint", &measurePaint},       {"mouse", &measureMouse},     {"focus", &measureFocus},
+    {"creation", &measureCreation}, {"members", &measureMembers}, {"size", &measureSize},
+    {"soak", &measureSoak},
 };
 
 struct Wish {

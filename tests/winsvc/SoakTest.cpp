@@ -1,77 +1,13 @@
 // Many lives one after another leave nothing behind: no window, no handle, no memory.
 #include "ServiceTest.h"
 #include "input/Gestures.h"
-
-#include <algorithm>
+#include "kit/Usage.h"
 
 namespace quillet::winsvc {
 namespace {
 
 constexpr int kRounds = 300;
 constexpr int kWarmUp = 20; // until caches of the system's have what they keep
-
-BOOL CALLBACK countOne(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK countWithChildren(HWND window, LPARAM count)
-{
-    ::EnumChildWindows(window, countOne, count);
-    return countOne(window, count);
-}
-
-/// Windows of the calling thread, children included.
-int windowsOfThread()
-{
-    int count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
-/// Bytes in use on all heaps of the process.
-size_t bytesInUse()
-{
-    HANDLE heaps[64];
-    DWORD const count = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
-    size_t bytes = 0;
-    for (DWORD i = 0; i < count; ++i) {
-        ::HeapLock(heaps[i]);
-        PROCESS_HEAP_ENTRY entry{};
-        while (::HeapWalk(heaps[i], &entry))
-            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
-                bytes += entry.cbData;
-        ::HeapUnlock(heaps[i]);
-    }
-    return bytes;
-}
-
-/// The place in its table that a new handle gets: it climbs as long as handles are lost.
-int placeOfNewGdiHandle()
-{
-    UniqueBrush const brush(::CreateSolidBrush(0));
-    return LOWORD(HandleToULong(brush.get()));
-}
-
-int placeOfNewWindow()
-{
-    UniqueWindow const window(
-        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
-    return LOWORD(HandleToULong(window.get()));
-}
-
-struct Usage {
-    int windows;
-    int window;
-    int gdi;
-    size_t bytes;
-
-    static Usage now()
-    {
-        return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()};
-    }
-};
 
 /// Create, load, activate, hover, press, show the way out, destroy.
 void liveOnce(kit::Library const& library, kit::FakeForm& form, int number)
@@ -99,17 +35,17 @@ protected:
         RunningButton keeper(library(), form, 4);
         if (toolTip == ToolTip::Kept)
             keeper.start();
-        Usage before{};
+        kit::Usage before{};
         for (int i = 0; i < kRounds; ++i) {
             if (i == kWarmUp)
-                before = Usage::now();
+                before = kit::Usage::now();
             ASSERT_NO_FATAL_FAILURE(liveOnce(library(), form, 1 + i % 2)) << "round " << i;
             form.record().forget();
             keeper.events().forget();
         }
         EXPECT_TRUE(kit::moveCursorAway());
         kit::pumpPending();
-        Usage const after = Usage::now();
+        kit::Usage const after = kit::Usage::now();
         EXPECT_EQ(after.windows, before.windows);
         EXPECT_LE(after.window, before.window + kHandlesAtRandom);
         EXPECT_LE(after.gdi, before.gdi + kHandlesAtRandom);

@@ -2,6 +2,7 @@
 #include "controls/button/CommandButton.h"
 
 #include "drawing/OffScreenDC.h"
+#include "surface/Cursor.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 
@@ -29,11 +30,8 @@ bool isOwnPress(MouseArguments const& mouse) noexcept
 
 bool CommandButton::isOver()
 {
-    if (isEmpty(clientSize())) // asking Windows costs as much as a fill
-        return false;
-    POINT cursor = {};
-    ::GetCursorPos(&cursor);
-    return ::WindowFromPoint(cursor) == hWnd();
+    HWND const own = window().existing();
+    return own && isUnderCursor(own);
 }
 
 /// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.

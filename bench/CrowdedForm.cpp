@@ -1,0 +1,45 @@
+// A visible window with as many flat command buttons as are asked for.
+#include "bench/CrowdedForm.h"
+
+#include "base/RunTimeError.h"
+#include "typelib/Guids.h"
+
+namespace quillet::bench {
+
+CrowdedForm::CrowdedForm(kit::Library const& library, int buttons)
+    : m_factory(library.factory(kQvFlatCommandClass))
+{
+    add(buttons);
+}
+
+void CrowdedForm::add(int buttons)
+{
+    m_buttons.reserve(m_buttons.size() + static_cast<std::size_t>(buttons));
+    for (int i = 0; i < buttons; ++i)
+        m_buttons.push_back(std::make_unique<Hosted>(deref(m_factory.get()), m_saved, m_frame, window(),
+                                                     placeOf(static_cast<int>(m_buttons.size()))));
+}
+
+void CrowdedForm::joinAsSiblings()
+{
+    for (auto const& button : m_buttons)
+        m_siblings.add(button->as<IUnknown>());
+}
+
+HWND CrowdedForm::windowOf(int index) const
+{
+    HWND window = nullptr;
+    check(m_buttons.at(static_cast<std::size_t>(index))->as<IOleWindow>()->GetWindow(&window));
+    return window;
+}
+
+RECT CrowdedForm::placeOf(int index)
+{
+    int const columns = kForm.cx / kButton.cx;
+    int const rows = kForm.cy / kButton.cy;
+    LONG const left = index % columns * kButton.cx;
+    LONG const top = index / columns % rows * kButton.cy;
+    return {left, top, left + kButton.cx, top + kButton.cy};
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,43 @@
+// A visible window with as many flat command buttons as are asked for.
+#pragma once
+
+#include "bench/Container.h"
+#include "kit/HostWindow.h"
+#include "kit/Library.h"
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+namespace quillet::bench {
+
+class CrowdedForm {
+public:
+    static constexpr SIZE kForm{800, 600};
+    static constexpr SIZE kButton{75, 23};
+
+    explicit CrowdedForm(kit::Library const& library, int buttons = 0);
+
+    HWND window() const noexcept { return m_window.handle(); }
+    /// Creates, loads and activates so many more.
+    void add(int buttons);
+    void clear() { m_buttons.clear(); }
+
+    /// Lets the buttons find each other, as they do on a form.
+    void joinAsSiblings();
+    HWND windowOf(int index) const;
+
+    /// Places that fill the form row by row, again and again.
+    static RECT placeOf(int index);
+
+private:
+    kit::HostWindow m_window{40, 40, kForm.cx, kForm.cy};
+    Siblings m_siblings;
+    Frame m_frame{m_window.handle(), &m_siblings};
+    SavedButton m_saved;
+    ComPtr<IClassFactory> m_factory;
+    std::vector<std::unique_ptr<Hosted>> m_buttons;
+};
+
+} // namespace quillet::bench

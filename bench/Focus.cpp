@@ -1,0 +1,52 @@
+// The focus moving from one button of a form to the next, on forms of more and more buttons.
+#include "bench/CrowdedForm.h"
+#include "bench/Rounds.h"
+#include "bench/ShownButton.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+
+namespace quillet::bench {
+
+namespace {
+
+/// Every button of the form paints itself when one loses the focus and when one gets it, and those two once
+/// more at once.
+constexpr int paintsOf(int buttons) { return 2 * buttons + 2; }
+
+Row measureForm(kit::Library const& library, int buttons, int rounds)
+{
+    CrowdedForm form(library, buttons);
+    form.joinAsSiblings();
+    ShownButton alone(library); // gives the floor its picture
+    BarePainter const bare = alone.barePainter();
+    BareLook const look = alone.bareLook(Look::Normal);
+    require(kit::moveCursorAway() && kit::focus(form.windowOf(0)), "the focus does not move");
+    kit::pumpPending();
+
+    int next = 0;
+    auto const ours = [&] {
+        next = 1 - next;
+        double const taken = microsecondsOf([&] { ::SetFocus(form.windowOf(next)); });
+        require(::GetFocus() == form.windowOf(next), "the focus does not move");
+        return taken;
+    };
+    auto const floor = [&] {
+        return microsecondsOf([&] {
+            for (int i = 0; i < paintsOf(buttons); ++i)
+                bare.paint(look);
+        });
+    };
+    return rowOf("focus change on a form of " + std::to_string(buttons), compareTimed(rounds, ours, floor),
+                 "–");
+}
+
+} // namespace
+
+Rows measureFocus(kit::Library const& library, Effort effort)
+{
+    if (effort == Effort::Smoke)
+        return {measureForm(library, 10, 3)};
+    return {measureForm(library, 10, 101), measureForm(library, 100, 31), measureForm(library, 1000, 5)};
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,69 @@
+// What a process and a thread hold at a moment.
+#include "kit/Usage.h"
+
+#include "base/Handles.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+namespace quillet::kit {
+
+namespace {
+
+BOOL CALLBACK countOne(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK countWithChildren(HWND window, LPARAM count)
+{
+    ::EnumChildWindows(window, countOne, count);
+    return countOne(window, count);
+}
+
+/// Windows of the calling thread, children included.
+int windowsOfThread()
+{
+    int count = 0;
+    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+/// Bytes in use on all heaps of the process.
+std::size_t bytesInUse()
+{
+    HANDLE heaps[64];
+    DWORD const count = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
+    std::size_t bytes = 0;
+    for (DWORD i = 0; i < count; ++i) {
+        ::HeapLock(heaps[i]);
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                bytes += entry.cbData;
+        ::HeapUnlock(heaps[i]);
+    }
+    return bytes;
+}
+
+/// The place in its table that a new handle gets: it climbs as long as handles are lost.
+int placeOfNewGdiHandle()
+{
+    UniqueBrush const brush(::CreateSolidBrush(0));
+    return LOWORD(HandleToULong(brush.get()));
+}
+
+int placeOfNewWindow()
+{
+    UniqueWindow const window(
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+    return LOWORD(HandleToULong(window.get()));
+}
+
+} // namespace
+
+Usage Usage::now() { return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()}; }
+
+} // namespace quillet::kit
