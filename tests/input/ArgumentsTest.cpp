@@ -3,6 +3,7 @@
 #include "kit/Pump.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace quillet::input {
 namespace {
@@ -18,6 +19,15 @@ constexpr DISPID kMouseMove = 7;
 constexpr DISPID kMouseUp = 8;
 constexpr VARTYPE kShortByReference = VT_I2 | VT_BYREF;
 constexpr VARTYPE kSingleByReference = VT_R4 | VT_BYREF;
+
+/// A key that is known to be down. A mouse message reads the thread's key state, which follows the keys only
+/// as their messages are taken.
+std::unique_ptr<HeldKey> heldForTheMouse(BYTE key)
+{
+    auto held = std::make_unique<HeldKey>(key);
+    EXPECT_TRUE(kit::pumpUntil([key] { return ::GetKeyState(key) < 0; }));
+    return held;
+}
 
 class MouseEventArguments : public kit::ControlTest {
 protected:
@@ -171,7 +181,7 @@ TEST_F(MouseEventArguments, tellShiftControlAndAlt)
         short expected;
     };
     for (Row const row : {Row{VK_SHIFT, 1}, Row{VK_CONTROL, 2}, Row{VK_MENU, 4}}) {
-        HeldKey const held(row.key);
+        auto const held = heldForTheMouse(row.key);
         press(MouseButton::Left);
         EXPECT_EQ(shiftOf(kMouseDown), row.expected);
         release(MouseButton::Left);
@@ -192,7 +202,7 @@ TEST_F(MouseEventArguments, withAnyShiftStateMakeALeftPressThePressedLookAndARel
         std::vector<std::unique_ptr<HeldKey>> held;
         for (unsigned bit = 0; bit < 3; ++bit)
             if (state & 1U << bit)
-                held.push_back(std::make_unique<HeldKey>(kKeys[bit]));
+                held.push_back(heldForTheMouse(kKeys[bit]));
         press(MouseButton::Left);
         EXPECT_EQ(shiftOf(kMouseDown), static_cast<short>(state));
         EXPECT_EQ(button.look(), "pressed") << "shift state " << state;

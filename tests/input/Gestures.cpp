@@ -65,17 +65,8 @@ Names typed(Button& button, BYTE virtualKey)
     return button.happened();
 }
 
-// A mouse message reads the thread's key state, which follows the keys only as their messages are taken.
-HeldKey::HeldKey(BYTE virtualKey) : m_key(virtualKey)
-{
-    sendKey(m_key, 0);
-    EXPECT_TRUE(kit::pumpUntil([this] { return ::GetKeyState(m_key) < 0; }));
-}
+HeldKey::HeldKey(BYTE virtualKey) : m_key(virtualKey) { sendKey(m_key, 0); }
 
-HeldKey::~HeldKey()
-{
-    sendKey(m_key, KEYEVENTF_KEYUP);
-    EXPECT_TRUE(kit::pumpUntil([this] { return ::GetKeyState(m_key) >= 0; }));
-}
+HeldKey::~HeldKey() { sendKey(m_key, KEYEVENTF_KEYUP); }
 
 } // namespace quillet::input
