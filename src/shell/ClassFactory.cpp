@@ -1,4 +1,4 @@
-// Makes controls for hosts.
+// Makes controls and property pages for hosts.
 #include "shell/ClassFactory.h"
 
 namespace quillet {
@@ -27,7 +27,7 @@ ULONG ClassFactory::Release()
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
 {
-    return m_row.create(outer, iid, object);
+    return m_create(outer, iid, object);
 }
 
 HRESULT ClassFactory::LockServer(WINBOOL lock)

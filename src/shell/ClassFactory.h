@@ -1,4 +1,4 @@
-// Makes controls for hosts.
+// Makes controls and property pages for hosts.
 #pragma once
 
 #include "base/Module.h"
@@ -14,7 +14,7 @@ namespace quillet {
 class ClassFactory final : public IClassFactory {
 public:
     /// A new factory with no reference yet.
-    static ClassFactory* make(ClassRow const& row) { return new ClassFactory(row); }
+    static ClassFactory* make(CreateFunction create) { return new ClassFactory(create); }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override;
@@ -23,11 +23,11 @@ public:
     STDMETHODIMP LockServer(WINBOOL lock) override;
 
 private:
-    explicit ClassFactory(ClassRow const& row) noexcept : m_row(row) {}
+    explicit ClassFactory(CreateFunction create) noexcept : m_create(create) {}
     ~ClassFactory() = default;
 
     LiveObject m_live;
-    ClassRow const& m_row;
+    CreateFunction m_create;
     LONG volatile m_references = 0;
 };
 

@@ -11,10 +11,12 @@
 
 namespace quillet {
 
+using CreateFunction = HRESULT (*)(IUnknown* outer, REFIID iid, void** object) noexcept;
+
 /// A class that a host can create.
 struct ClassRow {
     ControlClass const& (*controlClass)() noexcept;
-    HRESULT (*create)(IUnknown* outer, REFIID iid, void** object) noexcept;
+    CreateFunction create;
     wchar_t const* description; ///< as a designer's toolbox shows it
     int toolboxBitmap;          ///< of the component's resources
 };

@@ -4,6 +4,7 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "shell/ClassFactory.h"
+#include "shell/PageTable.h"
 #include "shell/Registration.h"
 #include "surface/SurfaceWindow.h"
 #include "surface/ThreadState.h"
@@ -11,6 +12,21 @@
 #include <windows.h>
 
 using namespace quillet;
+
+namespace {
+
+/// Null for a class that the component does not have.
+CreateFunction creatorOf(CLSID const& classId) noexcept
+{
+    if (ClassRow const* const row = findClass(classId))
+        return row->create;
+    for (PageRow const& row : pageTable())
+        if (row.classId == classId)
+            return row.create;
+    return nullptr;
+}
+
+} // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds)
 {
@@ -36,10 +52,10 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void**
 {
     return comCall([&] {
         deref(object) = nullptr;
-        ClassRow const* const row = findClass(classId);
-        if (!row)
+        CreateFunction const create = creatorOf(classId);
+        if (!create)
             return CLASS_E_CLASSNOTAVAILABLE;
-        ComPtr<IClassFactory> const factory = ClassFactory::make(*row);
+        ComPtr<IClassFactory> const factory = ClassFactory::make(create);
         return factory->QueryInterface(iid, object);
     });
 }

@@ -25,9 +25,9 @@ std::wstring componentPath()
     return path;
 }
 
-std::wstring serverPath(Scope scope, ClassRow const& row, REGSAM view = 0)
+std::wstring serverPath(Scope scope, CLSID const& classId, REGSAM view = 0)
 {
-    return classesValue(scope, classKey(row) + L"\\InprocServer32", view);
+    return classesValue(scope, classKey(classId) + L"\\InprocServer32", view);
 }
 
 void removeTree(HKEY root, std::wstring const& key)
@@ -37,17 +37,26 @@ void removeTree(HKEY root, std::wstring const& key)
         checkStatus(status);
 }
 
+/// Whether the class was ours, and is gone now.
+bool unregisterServer(Scope scope, CLSID const& classId, std::wstring const& path)
+{
+    if (!samePath(serverPath(scope, classId), path))
+        return false;
+    removeTree(classesForWriting(scope).get(), classKey(classId));
+    return true;
+}
+
 void unregisterClass(Scope scope, ClassRow const& row, std::wstring const& path)
 {
-    if (!samePath(serverPath(scope, row), path))
+    CLSID const& classId = row.controlClass().classId;
+    if (!unregisterServer(scope, classId, path))
+        return;
+    // Both architectures share the programmatic identifiers.
+    if (!serverPath(scope, classId, kOtherView).empty())
         return;
     UniqueKey const classes = classesForWriting(scope);
-    removeTree(classes.get(), classKey(row));
-    // Both architectures share the programmatic identifiers.
-    if (!serverPath(scope, row, kOtherView).empty())
-        return;
     for (std::wstring const& progId : {versionedProgId(row), currentProgId(row)})
-        if (classesValue(scope, progId + L"\\CLSID") == guidText(row.controlClass().classId))
+        if (classesValue(scope, progId + L"\\CLSID") == guidText(classId))
             removeTree(classes.get(), progId);
 }
 
@@ -64,6 +73,9 @@ void registerComponent(Scope scope)
     UniqueKey const classes = classesForWriting(scope);
     RegistryWriter writer(classes.get());
     for (ClassRow const& row : classTable())
+        for (RegistryRow const& value : registryRows(row, path))
+            writer.write(value);
+    for (PageRow const& row : pageTable())
         for (RegistryRow const& value : registryRows(row, path))
             writer.write(value);
     registerTypeLibrary(scope, path);
@@ -87,6 +99,8 @@ void unregisterComponent(Scope scope)
     unregisterTypeLibrary(scope, path);
     for (ClassRow const& row : classTable())
         unregisterClass(scope, row, path);
+    for (PageRow const& row : pageTable())
+        unregisterServer(scope, row.classId, path);
 }
 
 } // namespace quillet

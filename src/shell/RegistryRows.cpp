@@ -23,6 +23,14 @@ constexpr wchar_t const* kCategories[] = {
 
 RegistryRow keyOnly(std::wstring key) { return {std::move(key), {}, {}, false}; }
 
+std::vector<RegistryRow> serverRows(std::wstring const& key, wchar_t const* description,
+                                    std::wstring const& componentPath)
+{
+    return {{key, L"", description},
+            {key + L"\\InprocServer32", L"", componentPath},
+            {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"}};
+}
+
 void appendProgIds(std::vector<RegistryRow>& rows, ClassRow const& row, std::wstring const& classId)
 {
     std::wstring const current = currentProgId(row);
@@ -43,7 +51,7 @@ std::wstring guidText(GUID const& id)
     return text;
 }
 
-std::wstring classKey(ClassRow const& row) { return L"CLSID\\" + guidText(row.controlClass().classId); }
+std::wstring classKey(CLSID const& classId) { return L"CLSID\\" + guidText(classId); }
 
 std::wstring currentProgId(ClassRow const& row) { return row.controlClass().progId; }
 
@@ -51,12 +59,10 @@ std::wstring versionedProgId(ClassRow const& row) { return currentProgId(row) + 
 
 std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& componentPath)
 {
-    std::wstring const key = classKey(row);
+    std::wstring const key = classKey(row.controlClass().classId);
     std::wstring const status = std::to_wstring(row.controlClass().miscStatus);
-    std::vector<RegistryRow> rows{
-        {key, L"", row.description},
-        {key + L"\\InprocServer32", L"", componentPath},
-        {key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
+    std::vector<RegistryRow> rows = serverRows(key, row.description, componentPath);
+    std::vector<RegistryRow> const controlRows{
         {key + L"\\ProgID", L"", versionedProgId(row)},
         {key + L"\\VersionIndependentProgID", L"", currentProgId(row)},
         keyOnly(key + L"\\Control"),
@@ -69,10 +75,16 @@ std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& c
         {key + L"\\Verb\\0", L"",
          std::wstring(kPrimaryVerbName) + L",0,2"}, // no menu flags; 2: on the container's menu
     };
+    rows.insert(rows.end(), controlRows.begin(), controlRows.end());
     for (wchar_t const* const category : kCategories)
         rows.push_back(keyOnly(key + L"\\Implemented Categories\\" + category));
     appendProgIds(rows, row, guidText(row.controlClass().classId));
     return rows;
+}
+
+std::vector<RegistryRow> registryRows(PageRow const& row, std::wstring const& componentPath)
+{
+    return serverRows(classKey(row.classId), row.description, componentPath);
 }
 
 } // namespace quillet

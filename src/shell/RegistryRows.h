@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/ClassTable.h"
+#include "shell/PageTable.h"
 
 #include <string>
 #include <string_view>
@@ -18,9 +19,10 @@ struct RegistryRow {
 };
 
 std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& componentPath);
+std::vector<RegistryRow> registryRows(PageRow const& row, std::wstring const& componentPath);
 
 /// "CLSID\{…}": everything below it is the class's own.
-std::wstring classKey(ClassRow const& row);
+std::wstring classKey(CLSID const& classId);
 /// "Quillet.qvFlatCommand", for whatever version is the current one.
 std::wstring currentProgId(ClassRow const& row);
 /// "Quillet.qvFlatCommand.1"

@@ -124,6 +124,12 @@ void Container::controlInfoChanged() const noexcept
         site->OnControlInfoChanged();
 }
 
+bool Container::showsPropertyFrame() const noexcept
+{
+    ComPtr<IOleControlSite> const site = m_controlSite;
+    return site && site->ShowPropertyFrame() == S_OK;
+}
+
 void Container::focusChanged(bool gained) const noexcept
 {
     if (ComPtr<IOleControlSite> const site = m_controlSite)

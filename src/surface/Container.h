@@ -47,6 +47,8 @@ public:
 
     /// Tells the container that the access keys changed.
     void controlInfoChanged() const noexcept;
+    /// Whether the container shows the property pages itself, in a frame that has more of them.
+    bool showsPropertyFrame() const noexcept;
     void focusChanged(bool gained) const noexcept;
     /// Offers a key to the container; true when it took it.
     bool takesKey(MSG const& message) const noexcept;

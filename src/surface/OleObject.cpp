@@ -4,25 +4,13 @@
 #include "base/RunTimeError.h"
 #include "surface/Enumerator.h"
 #include "surface/Surface.h"
+#include "surface/TaskMemory.h"
 
 #include <ole2.h>
-
-#include <cstring>
 
 namespace quillet {
 
 namespace {
-
-/// A copy of a text in memory that the receiver frees.
-LPOLESTR taskString(wchar_t const* text)
-{
-    size_t const bytes = (std::wcslen(text) + 1) * sizeof(wchar_t);
-    auto* const copy = static_cast<LPOLESTR>(::CoTaskMemAlloc(bytes));
-    if (!copy)
-        throw std::bad_alloc();
-    std::memcpy(copy, text, bytes);
-    return copy;
-}
 
 void requireContent(DWORD aspect)
 {
@@ -30,10 +18,12 @@ void requireContent(DWORD aspect)
         throw RunTimeError(DV_E_DVASPECT);
 }
 
-/// The one verb that a container lists; the others are for containers alone. Not left to the registry: a
-/// control may run without being registered.
+/// The verbs that a container lists; the others are for containers alone. Not left to the registry: a control
+/// may run without being registered.
 constexpr OLEVERB kPrimaryVerb = {OLEIVERB_PRIMARY, const_cast<LPOLESTR>(kPrimaryVerbName), 0,
                                   OLEVERBATTRIB_ONCONTAINERMENU};
+constexpr OLEVERB kPropertiesVerb = {OLEIVERB_PROPERTIES, const_cast<LPOLESTR>(L"&Properties..."), 0,
+                                     OLEVERBATTRIB_ONCONTAINERMENU};
 
 } // namespace
 
@@ -116,6 +106,9 @@ HRESULT OleObject::DoVerb(LONG verb, MSG* message, IOleClientSite*, LONG, HWND p
         case OLEIVERB_HIDE:
             inPlace.hide();
             return S_OK;
+        case OLEIVERB_PROPERTIES:
+            m_surface.browsing().showPages(parent);
+            return S_OK;
         case OLEIVERB_DISCARDUNDOSTATE:
             return S_OK;
         default:
@@ -130,7 +123,7 @@ HRESULT OleObject::EnumVerbs(IEnumOLEVERB** enumerator)
 {
     return comCall([&] {
         deref(enumerator) = nullptr;
-        *enumerator = Enumerator<IEnumOLEVERB, OLEVERB>::make({kPrimaryVerb}).detach();
+        *enumerator = Enumerator<IEnumOLEVERB, OLEVERB>::make({kPrimaryVerb, kPropertiesVerb}).detach();
     });
 }
 

@@ -80,6 +80,9 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
         {IID_ISupportErrorInfo, &m_errorInfoSupport},
         {IID_IObjectWithSite, &m_objectWithSite},
         {IID_IObjectSafety, &m_objectSafety},
+        {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(&m_browsing)},
+        {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&m_browsing)},
+        {__uuidof(ICategorizeProperties), static_cast<ICategorizeProperties*>(&m_browsing)},
     };
     for (Row const& row : rows)
         if (iid == row.iid)

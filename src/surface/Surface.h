@@ -6,6 +6,7 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "surface/Automation.h"
+#include "surface/Browsing.h"
 #include "surface/Container.h"
 #include "surface/ControlClass.h"
 #include "surface/DataObject.h"
@@ -85,6 +86,7 @@ public:
     View& view() noexcept { return m_view; }
     Events& events() noexcept { return m_events; }
     SurfaceFont& surfaceFont() noexcept { return m_font; }
+    Browsing& browsing() noexcept { return m_browsing; }
 
     bool userMode() const noexcept { return m_container.userMode(); }
 
@@ -206,6 +208,7 @@ private:
     ErrorInfoSupport m_errorInfoSupport{*this};
     ObjectWithSite m_objectWithSite{*this};
     ObjectSafety m_objectSafety{*this};
+    Browsing m_browsing{*this};
 };
 
 /// Makes a control, alone or as part of an outer object, and hands out one of its interfaces.

@@ -51,7 +51,7 @@ public:
     STDMETHODIMP TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
     STDMETHODIMP TranslateAccelerator(MSG* message, DWORD modifiers) override;
     STDMETHODIMP OnFocus(BOOL gained) override;
-    STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
+    STDMETHODIMP ShowPropertyFrame() override { return asked("ShowPropertyFrame"); }
 
     // IOleInPlaceSiteEx
     STDMETHODIMP GetWindow(HWND* window) override;

@@ -1,0 +1,127 @@
+// The fonts page: a sample, and the system's dialog to choose another font.
+#include "base/Bstr.h"
+#include "pages/CommonDialogs.h"
+#include "pages/Create.h"
+#include "pages/ListPage.h"
+
+#include <olectl.h>
+#include <windows.h>
+
+#include <sstream>
+
+namespace quillet {
+
+namespace {
+
+constexpr WORD kChoose = 110;
+constexpr WORD kName = 111;
+constexpr int kTenthsPerPoint = 10;
+constexpr LONGLONG kCurrencyUnit = 10000;
+
+class FontsPage final : public ListPage {
+public:
+    FontsPage() noexcept : ListPage(L"Fonts", ValueKind::Font) {}
+
+protected:
+    void fillBeside(PageWindow& window) override;
+    void showValue() override;
+    void onOtherCommand(WORD control, WORD notification) override;
+    void drawSample(HDC dc, RECT const& place) override;
+
+private:
+    ComPtr<IFont> font() const { return query<IFont>(shown(chosen()).toObject().get()); }
+    HFONT fontHandle() const;
+    void choose();
+};
+
+/// A new font object like what the dialog answered.
+ComPtr<IFontDisp> fontOf(LOGFONTW const& shape, int tenthsOfPoints)
+{
+    FONTDESC description = {};
+    description.cbSizeofstruct = sizeof(description);
+    description.lpstrName = const_cast<LPOLESTR>(shape.lfFaceName);
+    description.cySize.int64 = tenthsOfPoints * kCurrencyUnit / kTenthsPerPoint;
+    description.sWeight = static_cast<SHORT>(shape.lfWeight);
+    description.sCharset = shape.lfCharSet;
+    description.fItalic = shape.lfItalic;
+    description.fUnderline = shape.lfUnderline;
+    description.fStrikethrough = shape.lfStrikeOut;
+    ComPtr<IFontDisp> font;
+    check(::OleCreateFontIndirect(&description, IID_IFontDisp, reinterpret_cast<void**>(font.put())));
+    return font;
+}
+
+std::wstring describe(IFont& font)
+{
+    Bstr name;
+    CY size = {};
+    check(font.get_Name(name.put()));
+    check(font.get_Size(&size));
+    std::wostringstream text;
+    text << name.view() << L", " << static_cast<double>(size.int64) / kCurrencyUnit << L" pt";
+    return text.str();
+}
+
+void FontsPage::fillBeside(PageWindow& window)
+{
+    window.add(L"STATIC", L"", SS_LEFT | SS_NOPREFIX, kName, {kBeside, 4, 134, 9});
+    addSample(window, {kBeside, 16, 134, 68});
+    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChoose, {kBeside, 90, 60, 14});
+}
+
+void FontsPage::showValue()
+{
+    if (properties().empty())
+        return;
+    auto const shown = font();
+    ::SetWindowTextW(window().control(kName), shown ? describe(*shown.get()).c_str() : L"");
+}
+
+HFONT FontsPage::fontHandle() const
+{
+    HFONT handle = nullptr;
+    if (auto const shown = font())
+        shown->get_hFont(&handle);
+    return handle;
+}
+
+void FontsPage::onOtherCommand(WORD control, WORD notification)
+{
+    if (control == kChoose && notification == BN_CLICKED)
+        choose();
+}
+
+void FontsPage::choose()
+{
+    LOGFONTW shape = {};
+    if (HFONT const handle = fontHandle())
+        ::GetObjectW(handle, sizeof(shape), &shape);
+    CHOOSEFONTW dialog = {};
+    dialog.lStructSize = sizeof(dialog);
+    dialog.hwndOwner = ::GetAncestor(window().handle(), GA_ROOT);
+    dialog.lpLogFont = &shape;
+    dialog.Flags = CF_SCREENFONTS | CF_INITTOLOGFONTSTRUCT | CF_EFFECTS | CF_FORCEFONTEXIST;
+    if (chooseFont(dialog))
+        changeChosen(Variant::ofDispatch(fontOf(shape, dialog.iPointSize).get()));
+}
+
+void FontsPage::drawSample(HDC dc, RECT const& place)
+{
+    HFONT const handle = fontHandle();
+    if (!handle)
+        return;
+    SelectScope const selected(dc, handle);
+    ::SetBkMode(dc, TRANSPARENT);
+    ::SetTextColor(dc, ::GetSysColor(COLOR_BTNTEXT));
+    RECT at = place;
+    ::DrawTextW(dc, L"AaBbYyZz 123", -1, &at, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+} // namespace
+
+HRESULT createFontsPage(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createPage<FontsPage>(outer, iid, object);
+}
+
+} // namespace quillet

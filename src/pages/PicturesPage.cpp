@@ -1,0 +1,97 @@
+// The pictures page: a preview, another picture from a file, none.
+#include "pages/CommonDialogs.h"
+#include "pages/Create.h"
+#include "pages/ListPage.h"
+
+#include <olectl.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <string>
+
+namespace quillet {
+
+namespace {
+
+constexpr WORD kLoad = 110;
+constexpr WORD kClear = 111;
+constexpr wchar_t kFilter[] = L"Pictures\0*.bmp;*.gif;*.jpg;*.ico;*.cur;*.wmf;*.emf\0All files\0*.*\0";
+
+class PicturesPage final : public ListPage {
+public:
+    PicturesPage() noexcept : ListPage(L"Pictures", ValueKind::Picture) {}
+
+protected:
+    void fillBeside(PageWindow& window) override;
+    void onOtherCommand(WORD control, WORD notification) override;
+    void drawSample(HDC dc, RECT const& place) override;
+
+private:
+    void load();
+};
+
+void PicturesPage::fillBeside(PageWindow& window)
+{
+    addSample(window, {kBeside, 4, 134, 80});
+    window.add(L"BUTTON", L"&Load...", WS_TABSTOP | BS_PUSHBUTTON, kLoad, {kBeside, 90, 60, 14});
+    window.add(L"BUTTON", L"Cl&ear", WS_TABSTOP | BS_PUSHBUTTON, kClear, {kBeside + 64, 90, 60, 14});
+}
+
+void PicturesPage::onOtherCommand(WORD control, WORD notification)
+{
+    if (notification != BN_CLICKED)
+        return;
+    if (control == kLoad)
+        load();
+    if (control == kClear)
+        changeChosen(Variant::ofDispatch(nullptr));
+}
+
+void PicturesPage::load()
+{
+    wchar_t path[MAX_PATH] = L"";
+    OPENFILENAMEW dialog = {};
+    dialog.lStructSize = sizeof(dialog);
+    dialog.hwndOwner = ::GetAncestor(window().handle(), GA_ROOT);
+    dialog.lpstrFilter = kFilter;
+    dialog.lpstrFile = path;
+    dialog.nMaxFile = MAX_PATH;
+    dialog.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    if (!chooseFile(dialog))
+        return;
+    ComPtr<IPictureDisp> picture;
+    if (FAILED(::OleLoadPicturePath(path, nullptr, 0, 0, IID_IPictureDisp,
+                                    reinterpret_cast<void**>(picture.put())))) {
+        ::MessageBoxW(dialog.hwndOwner, (std::wstring(path) + L" is not a picture that can be used.").c_str(),
+                      L"Pictures", MB_OK | MB_ICONEXCLAMATION);
+        return;
+    }
+    changeChosen(Variant::ofDispatch(picture.get()));
+}
+
+/// The picture whole, as large as it fits.
+void PicturesPage::drawSample(HDC dc, RECT const& place)
+{
+    auto const picture = query<IPicture>(shown(chosen()).toObject().get());
+    OLE_XSIZE_HIMETRIC width = 0;
+    OLE_YSIZE_HIMETRIC height = 0;
+    if (!picture || FAILED(picture->get_Width(&width)) || FAILED(picture->get_Height(&height)) ||
+        width <= 0 || height <= 0)
+        return;
+    LONG const spaceX = place.right - place.left;
+    LONG const spaceY = place.bottom - place.top;
+    LONG const shownX = std::min<LONG>(spaceX, ::MulDiv(spaceY, width, height));
+    LONG const shownY = std::min<LONG>(spaceY, ::MulDiv(spaceX, height, width));
+    // Pictures have their origin at the bottom.
+    picture->Render(dc, place.left + (spaceX - shownX) / 2, place.top + (spaceY - shownY) / 2, shownX, shownY,
+                    0, height, width, -height, nullptr);
+}
+
+} // namespace
+
+HRESULT createPicturesPage(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createPage<PicturesPage>(outer, iid, object);
+}
+
+} // namespace quillet

@@ -1,0 +1,176 @@
+// A property page: what the frame that shows it calls, and the changes not yet applied.
+#include "pages/PropertyPage.h"
+
+#include "base/HelpFile.h"
+#include "surface/TaskMemory.h"
+
+#include <olectl.h>
+
+#include <algorithm>
+
+namespace quillet {
+
+HRESULT PropertyPage::QueryInterface(REFIID iid, void** object)
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IPropertyPage && iid != IID_IPropertyPage2)
+        return E_NOINTERFACE;
+    *object = ComPtr<IPropertyPage2>(this).detach();
+    return S_OK;
+}
+
+ULONG PropertyPage::Release()
+{
+    ULONG const left = --m_references;
+    if (left == 0)
+        delete this;
+    return left;
+}
+
+HRESULT PropertyPage::SetPageSite(IPropertyPageSite* site)
+{
+    if (site && m_site)
+        return E_UNEXPECTED;
+    m_site = site;
+    return S_OK;
+}
+
+void PropertyPage::requireWindow() const
+{
+    if (!m_window)
+        throw RunTimeError(E_UNEXPECTED);
+}
+
+HRESULT PropertyPage::Activate(HWND parent, LPCRECT place, WINBOOL)
+{
+    return comCall([&] {
+        deref(place);
+        if (m_window)
+            throw RunTimeError(E_UNEXPECTED);
+        auto window = std::make_unique<PageWindow>(parent, *this);
+        m_window = std::move(window);
+        try {
+            fill(*m_window);
+        } catch (...) {
+            m_window.reset();
+            throw;
+        }
+        check(Move(place));
+    });
+}
+
+HRESULT PropertyPage::Deactivate()
+{
+    return comCall([&] {
+        requireWindow();
+        m_window.reset();
+    });
+}
+
+HRESULT PropertyPage::GetPageInfo(PROPPAGEINFO* info)
+{
+    return comCall([&] {
+        deref(info) = {sizeof(PROPPAGEINFO), nullptr, {0, 0}, nullptr, nullptr, 0};
+        // How many pixels a dialog unit is only a dialog knows.
+        PageWindow const measured(::GetDesktopWindow(), *this);
+        RECT const size = measured.pixels(PageWindow::kPage);
+        info->size = {size.right, size.bottom};
+        TaskArray<LPOLESTR> texts(2);
+        texts[0] = taskString(m_title);
+        texts[1] = taskString(kHelpFile);
+        info->pszTitle = std::exchange(texts[0], nullptr);
+        info->pszHelpFile = std::exchange(texts[1], nullptr);
+    });
+}
+
+HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects)
+{
+    return comCall([&] {
+        if (count > 0)
+            deref(objects);
+        m_objects.set(objects, count);
+        m_changes.clear();
+        m_properties = m_objects.properties();
+        std::erase_if(m_properties, [this](DescribedProperty const& each) { return !edits(each); });
+    });
+}
+
+HRESULT PropertyPage::Show(UINT command)
+{
+    return comCall([&] {
+        requireWindow();
+        ::ShowWindow(m_window->handle(), static_cast<int>(command));
+    });
+}
+
+HRESULT PropertyPage::Move(LPCRECT place)
+{
+    return comCall([&] {
+        RECT const& at = deref(place);
+        requireWindow();
+        ::MoveWindow(m_window->handle(), at.left, at.top, at.right - at.left, at.bottom - at.top, TRUE);
+    });
+}
+
+HRESULT PropertyPage::IsPageDirty() { return m_changes.empty() ? S_FALSE : S_OK; }
+
+HRESULT PropertyPage::Apply()
+{
+    return comCall([&] { apply(); });
+}
+
+/// A change that an object refuses stays, so that the user can mend it.
+void PropertyPage::apply()
+{
+    while (!m_changes.empty()) {
+        auto const change = m_changes.begin();
+        std::wstring const& name = m_properties[change->first].name;
+        std::wstring const reason = m_objects.put(name, change->second);
+        if (!reason.empty()) {
+            goTo(change->first);
+            ::MessageBoxW(m_window ? m_window->handle() : nullptr, (name + L": " + reason).c_str(), m_title,
+                          MB_OK | MB_ICONEXCLAMATION);
+            throw RunTimeError(E_FAIL);
+        }
+        m_changes.erase(change);
+    }
+}
+
+HRESULT PropertyPage::Help(LPCOLESTR) { return E_NOTIMPL; } // the frame opens the help file
+
+HRESULT PropertyPage::TranslateAccelerator(MSG* message)
+{
+    return comCall([&] {
+        deref(message);
+        bool const isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+        return m_window && isKey && ::IsDialogMessageW(m_window->handle(), message) ? S_OK : S_FALSE;
+    });
+}
+
+HRESULT PropertyPage::EditProperty(DISPID id)
+{
+    return comCall([&] {
+        requireWindow();
+        auto const found = std::ranges::find(m_properties, id, &DescribedProperty::id);
+        if (found == m_properties.end())
+            throw RunTimeError(E_INVALIDARG);
+        goTo(static_cast<size_t>(found - m_properties.begin()));
+    });
+}
+
+Variant PropertyPage::shown(size_t property) const
+{
+    auto const changed = m_changes.find(property);
+    return changed == m_changes.end() ? m_objects.get(m_properties[property].name) : changed->second;
+}
+
+void PropertyPage::change(size_t property, Variant value)
+{
+    m_changes.insert_or_assign(property, std::move(value));
+    if (ComPtr<IPropertyPageSite> const site = m_site)
+        site->OnStatusChange(PROPPAGESTATUS_DIRTY | PROPPAGESTATUS_VALIDATE);
+}
+
+} // namespace quillet

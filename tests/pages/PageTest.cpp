@@ -1,0 +1,301 @@
+// Pages opened, changed and applied under a real window.
+#include "OpenPage.h"
+#include "base/Bstr.h"
+#include "base/Variant.h"
+#include "browse/PageIds.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+#include "typelib/DispatchIds.h"
+
+#include <olectl.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace quillet::pages {
+namespace {
+
+namespace id = dispid::qvFlatCommand;
+
+class Pages : public kit::ControlTest {};
+
+std::wstring captionOf(_qvFlatCommand& button)
+{
+    Bstr caption;
+    EXPECT_EQ(button.get_Caption(caption.put()), S_OK);
+    return std::wstring(caption.view());
+}
+
+/// Closes the message box that is about to open, from a timer; what it said is in text.
+class BoxCloser {
+public:
+    BoxCloser() : m_timer(::SetTimer(nullptr, 0, 20, &BoxCloser::look)) { s_text.clear(); }
+    ~BoxCloser() { ::KillTimer(nullptr, m_timer); }
+    BoxCloser(BoxCloser const&) = delete;
+    BoxCloser& operator=(BoxCloser const&) = delete;
+    std::wstring const& text() const { return s_text; }
+
+private:
+    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
+    {
+        if (HWND const box = ::FindWindowW(L"#32770", L"General")) {
+            for (HWND each = ::GetWindow(box, GW_CHILD); each; each = ::GetWindow(each, GW_HWNDNEXT))
+                if (textOf(each).find(L':') != std::wstring::npos)
+                    s_text = textOf(each);
+            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        }
+    }
+    static inline std::wstring s_text;
+    UINT_PTR m_timer;
+};
+
+TEST_F(Pages, tellTheirTitleSizeAndHelpFile)
+{
+    struct Row {
+        CLSID const& page;
+        wchar_t const* title;
+    };
+    for (Row const& row : {Row{kGeneralPageClass, L"General"}, Row{kColoursPageClass, L"Colors"},
+                           Row{kFontsPageClass, L"Fonts"}, Row{kPicturesPageClass, L"Pictures"}}) {
+        OpenPage page(library(), row.page);
+        PROPPAGEINFO info{};
+        info.cb = sizeof(info);
+        ASSERT_EQ(page->GetPageInfo(&info), S_OK);
+        EXPECT_STREQ(info.pszTitle, row.title);
+        EXPECT_STREQ(info.pszHelpFile, L"quillet.chm");
+        EXPECT_GT(info.size.cx, 250);
+        EXPECT_GT(info.size.cy, 110);
+        ::CoTaskMemFree(info.pszTitle);
+        ::CoTaskMemFree(info.pszHelpFile);
+        EXPECT_EQ(page->GetPageInfo(nullptr), E_POINTER);
+    }
+}
+
+TEST_F(Pages, openInTheirPlaceAndCloseAgain)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    RECT const place{1, 2, 30, 40};
+    EXPECT_EQ(page->Activate(page.parent(), nullptr, FALSE), E_POINTER);
+    EXPECT_EQ(page->Move(&place), E_UNEXPECTED) << "there is no window yet";
+    EXPECT_EQ(page->Show(SW_SHOW), E_UNEXPECTED);
+    ASSERT_EQ(page.open(), S_OK);
+    EXPECT_EQ(page->Activate(page.parent(), &place, FALSE), E_UNEXPECTED) << "once is enough";
+    RECT at{};
+    ::GetWindowRect(page.window(), &at);
+    ::MapWindowPoints(nullptr, page.parent(), reinterpret_cast<POINT*>(&at), 2);
+    RECT const expected{10, 20, 450, 260};
+    EXPECT_TRUE(::EqualRect(&at, &expected));
+    EXPECT_TRUE(::IsWindowVisible(page.window()));
+    EXPECT_EQ(page->Deactivate(), S_OK);
+    EXPECT_EQ(page.window(), nullptr);
+    EXPECT_EQ(page->Deactivate(), E_UNEXPECTED);
+}
+
+TEST_F(Pages, areNoPartOfAnotherObject)
+{
+    void* object = nullptr;
+    auto const factory = library().factory(kGeneralPageClass);
+    ASSERT_TRUE(factory);
+    auto const outer = kit::make<PageSite>();
+    EXPECT_EQ(factory->CreateInstance(outer.get(), IID_IUnknown, &object), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(object, nullptr);
+}
+
+TEST_F(Pages, theGeneralPageShowsTextsNumbersChoicesAndFlags)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    page.button().put_Caption(Bstr(L"&Save").get());
+    page.button().put_CaptionIndent(7);
+    page.button().put_CentreCaption(VARIANT_TRUE);
+    ASSERT_EQ(page.open(), S_OK);
+    EXPECT_EQ(textOf(page.fieldOf(L"Caption")), L"&Save");
+    EXPECT_EQ(textOf(page.fieldOf(L"CaptionIndent")), L"7");
+    EXPECT_EQ(textOf(page.fieldOf(L"BorderStyle")), L"1 - Fixed");
+    EXPECT_EQ(::SendMessageW(page.fieldOf(L"CentreCaption"), BM_GETCHECK, 0, 0), BST_CHECKED);
+    EXPECT_EQ(::SendMessageW(page.fieldOf(L"OfficeXPColors"), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+    EXPECT_EQ(page->IsPageDirty(), S_FALSE) << "showing is not changing";
+    EXPECT_EQ(page.site().dirty, 0);
+}
+
+TEST_F(Pages, theGeneralPageAppliesWhatWasChangedAndNothingElse)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    page.button().put_Caption(Bstr(L"Before").get());
+    ASSERT_EQ(page.open(), S_OK);
+    ::SetWindowTextW(page.fieldOf(L"Caption"), L"After");
+    ::SendMessageW(page.fieldOf(L"CentreCaption"), BM_CLICK, 0, 0);
+    choose(page.fieldOf(L"BorderStyle"), L"0 - None");
+    EXPECT_EQ(captionOf(page.button()), L"Before") << "not applied yet";
+    EXPECT_EQ(page->IsPageDirty(), S_OK);
+    EXPECT_GE(page.site().dirty, 3);
+    EXPECT_EQ(page->Apply(), S_OK);
+    EXPECT_EQ(page->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(captionOf(page.button()), L"After");
+    VARIANT_BOOL centred = VARIANT_FALSE;
+    page.button().get_CentreCaption(&centred);
+    EXPECT_EQ(centred, VARIANT_TRUE);
+    auto style = pdsButtonBorderStyleConstants::Fixed;
+    page.button().get_BorderStyle(&style);
+    EXPECT_EQ(style, pdsButtonBorderStyleConstants::None);
+}
+
+TEST_F(Pages, aRefusedValueIsToldAndStaysToBeMended)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    ASSERT_EQ(page.open(), S_OK);
+    ::SetWindowTextW(page.fieldOf(L"BorderWidth"), L"40000");
+    {
+        BoxCloser const closer;
+        EXPECT_EQ(page->Apply(), E_FAIL);
+        EXPECT_EQ(closer.text(), L"BorderWidth: Overflow");
+    }
+    EXPECT_EQ(page->IsPageDirty(), S_OK);
+    EXPECT_EQ(textOf(page.fieldOf(L"BorderWidth")), L"40000");
+    Variant width;
+    page.button().get_BorderWidth(width.put());
+    EXPECT_EQ(width.toShort(), 1);
+    ::SetWindowTextW(page.fieldOf(L"BorderWidth"), L"4");
+    EXPECT_EQ(page->Apply(), S_OK);
+    page.button().get_BorderWidth(width.put());
+    EXPECT_EQ(width.toShort(), 4);
+}
+
+TEST_F(Pages, editSeveralControlsAtOnce)
+{
+    OpenPage page(library(), kGeneralPageClass, 3);
+    page.button(0).put_Caption(Bstr(L"First").get());
+    page.button(1).put_CaptionIndent(9);
+    ASSERT_EQ(page.open(), S_OK);
+    EXPECT_EQ(textOf(page.fieldOf(L"Caption")), L"First");
+    ::SetWindowTextW(page.fieldOf(L"Caption"), L"All");
+    EXPECT_EQ(page->Apply(), S_OK);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(captionOf(page.button(i)), L"All");
+    short indent = 0;
+    page.button(1).get_CaptionIndent(&indent);
+    EXPECT_EQ(indent, 9) << "what was not changed stays different";
+}
+
+TEST_F(Pages, refuseWhatCannotBeEditedByName)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    IUnknown* object = page.site().unknown();
+    EXPECT_TRUE(FAILED(page->SetObjects(1, &object)));
+    EXPECT_EQ(page->SetObjects(1, nullptr), E_POINTER);
+    IUnknown* none = nullptr;
+    EXPECT_TRUE(FAILED(page->SetObjects(1, &none)));
+}
+
+TEST_F(Pages, openOnNoControlAtAll)
+{
+    for (CLSID const& each : {kGeneralPageClass, kColoursPageClass, kFontsPageClass, kPicturesPageClass}) {
+        OpenPage page(library(), each, 0);
+        ASSERT_EQ(page.open(), S_OK);
+        kit::pumpPending();
+        EXPECT_EQ(page->Apply(), S_OK);
+    }
+}
+
+TEST_F(Pages, goToTheFieldOfAProperty)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    EXPECT_EQ(page->EditProperty(id::Caption), E_UNEXPECTED) << "there is no window yet";
+    ASSERT_EQ(page.open(), S_OK);
+    ASSERT_TRUE(kit::focus(page.parent()));
+    EXPECT_EQ(page->EditProperty(id::Caption), S_OK);
+    EXPECT_EQ(::GetFocus(), page.fieldOf(L"Caption"));
+    EXPECT_EQ(page->EditProperty(id::HotBackColor), E_INVALIDARG) << "another page's";
+}
+
+TEST_F(Pages, moveOnWithTabAndLeaveOtherKeysAlone)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    ASSERT_EQ(page.open(), S_OK);
+    ASSERT_TRUE(kit::focus(page.fieldOf(L"Caption")));
+    MSG tab{};
+    tab.hwnd = page.fieldOf(L"Caption");
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    EXPECT_EQ(page->TranslateAccelerator(&tab), S_OK);
+    EXPECT_NE(::GetFocus(), page.fieldOf(L"Caption"));
+    MSG mouse{};
+    mouse.hwnd = page.window();
+    mouse.message = WM_MOUSEMOVE;
+    EXPECT_EQ(page->TranslateAccelerator(&mouse), S_FALSE);
+    EXPECT_EQ(page->TranslateAccelerator(nullptr), E_POINTER);
+}
+
+TEST_F(Pages, theColoursPageAssignsADesktopColourToTheChosenProperty)
+{
+    OpenPage page(library(), kColoursPageClass);
+    ASSERT_EQ(page.open(), S_OK);
+    HWND const properties = page.firstOf(L"ListBox");
+    EXPECT_EQ(::SendMessageW(properties, LB_GETCOUNT, 0, 0), 10);
+    choose(properties, L"HotBackColor");
+    HWND const colours = page.firstOf(L"ComboBox");
+    EXPECT_EQ(textOf(colours), L"Button Shadow");
+    choose(colours, L"Highlight");
+    EXPECT_EQ(page.site().dirty, 1);
+    EXPECT_EQ(page->Apply(), S_OK);
+    OLE_COLOR colour = 0;
+    page.button().get_HotBackColor(&colour);
+    EXPECT_EQ(colour, 0x8000000DU);
+    OLE_COLOR other = 0;
+    page.button().get_BackColor(&other);
+    EXPECT_EQ(other, 0x8000000FU);
+}
+
+TEST_F(Pages, theColoursPageNamesNoDesktopColourForAnother)
+{
+    OpenPage page(library(), kColoursPageClass);
+    page.button().put_BackColor(RGB(1, 2, 3));
+    ASSERT_EQ(page.open(), S_OK);
+    EXPECT_EQ(page->EditProperty(id::BackColor), S_OK);
+    EXPECT_EQ(textOf(page.firstOf(L"ComboBox")), L"");
+}
+
+TEST_F(Pages, theFontsPageTellsTheFont)
+{
+    OpenPage page(library(), kFontsPageClass);
+    FONTDESC description{};
+    wchar_t name[] = L"Arial";
+    description.cbSizeofstruct = sizeof(description);
+    description.lpstrName = name;
+    description.cySize.int64 = 120000; // a whole number of pixels
+    description.sWeight = FW_NORMAL;
+    ComPtr<IFontDisp> font;
+    ASSERT_EQ(::OleCreateFontIndirect(&description, IID_IFontDisp, reinterpret_cast<void**>(font.put())),
+              S_OK);
+    ASSERT_EQ(page.button().putref_Font(font.get()), S_OK);
+    ASSERT_EQ(page.open(), S_OK);
+    // The font has the name of what the system has in its place.
+    ComPtr<IFontDisp> own;
+    ASSERT_EQ(page.button().get_Font(own.put()), S_OK);
+    Bstr face;
+    ASSERT_EQ(own.as<IFont>(IID_IFont)->get_Name(face.put()), S_OK);
+    EXPECT_NE(page.named(std::wstring(face.view()) + L", 12 pt"), nullptr);
+}
+
+TEST_F(Pages, thePicturesPageTakesAPictureAway)
+{
+    OpenPage page(library(), kPicturesPageClass);
+    PICTDESC description{};
+    description.cbSizeofstruct = sizeof(description);
+    description.picType = PICTYPE_ICON;
+    description.icon.hicon = ::LoadIconW(nullptr, MAKEINTRESOURCEW(32512));
+    ComPtr<IPictureDisp> picture;
+    ASSERT_EQ(::OleCreatePictureIndirect(&description, IID_IPictureDisp, FALSE,
+                                         reinterpret_cast<void**>(picture.put())),
+              S_OK);
+    ASSERT_EQ(page.button().putref_MouseIcon(picture.get()), S_OK);
+    ASSERT_EQ(page.open(), S_OK);
+    kit::pumpPending(); // the preview is drawn
+    ::SendMessageW(page.named(L"Cl&ear"), BM_CLICK, 0, 0);
+    EXPECT_EQ(page->Apply(), S_OK);
+    ComPtr<IPictureDisp> left;
+    page.button().get_MouseIcon(left.put());
+    EXPECT_FALSE(left);
+}
+
+} // namespace
+} // namespace quillet::pages
