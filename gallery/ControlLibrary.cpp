@@ -36,6 +36,12 @@ std::wstring nameOf(ITypeLib& types, INT index)
     return std::wstring(name.view());
 }
 
+/// The same name with another ending, beside the component.
+std::wstring manifestOf(std::wstring const& path)
+{
+    return path.substr(0, path.find_last_of(L'.')) + L".manifest";
+}
+
 NewControl createRegistered(std::wstring_view library, std::wstring_view className)
 {
     std::wstring const programId = std::wstring(library) + L"." + std::wstring(className);
@@ -63,7 +69,8 @@ bool isFile(std::wstring const& path) noexcept
 } // namespace
 
 ControlLibrary::ControlLibrary(std::wstring const& path)
-    : m_library(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH))
+    : m_library(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)),
+      m_manifest(manifestOf(path))
 {
     if (!m_library)
         throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
@@ -77,6 +84,8 @@ ControlLibrary::~ControlLibrary()
     auto const canUnload = exported<CanUnloadNow>(m_library.get(), "DllCanUnloadNow");
     if (!canUnload || canUnload() != S_OK)
         m_library.release(); // somebody still holds an object of it: better a loaded file than a crash
+    m_library.reset();
+    ::CoFreeUnusedLibrariesEx(0, 0); // the runtime loaded it, too, for what the manifest made
 }
 
 ComPtr<ITypeInfo> ControlLibrary::findClass(std::wstring_view className) const
@@ -101,18 +110,24 @@ NewControl ControlLibrary::create(std::wstring_view className) const
         created.failure = L"the library has no class of that name";
         return created;
     }
+    if (FAILED(make(TypeAttributes(*created.classInfo.get())->guid, created.object)))
+        created.failure = L"its file does not make one";
+    return created;
+}
+
+HRESULT ControlLibrary::make(CLSID const& classId, ComPtr<IUnknown>& object) const
+{
+    auto** const out = reinterpret_cast<void**>(object.put());
+    if (m_manifest) {
+        ActivationContext::Scope const active(m_manifest);
+        return ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IUnknown), out);
+    }
     auto const getClassObject = exported<GetClassObject>(m_library.get(), "DllGetClassObject");
     ComPtr<IClassFactory> factory;
     HRESULT made = E_NOINTERFACE;
     if (getClassObject)
-        made = getClassObject(TypeAttributes(*created.classInfo.get())->guid, __uuidof(IClassFactory),
-                              reinterpret_cast<void**>(factory.put()));
-    if (SUCCEEDED(made))
-        made = factory->CreateInstance(nullptr, __uuidof(IUnknown),
-                                       reinterpret_cast<void**>(created.object.put()));
-    if (FAILED(made))
-        created.failure = L"its file does not make one";
-    return created;
+        made = getClassObject(classId, __uuidof(IClassFactory), reinterpret_cast<void**>(factory.put()));
+    return SUCCEEDED(made) ? factory->CreateInstance(nullptr, __uuidof(IUnknown), out) : made;
 }
 
 NewControl ControlLibraries::create(std::wstring_view library, std::wstring_view className)

@@ -3,6 +3,7 @@
 
 #include "base/ComPtr.h"
 #include "base/Handles.h"
+#include "gallery/ActivationContext.h"
 #include "gallery/ControlFactory.h"
 #include "gallery/FormTree.h"
 
@@ -33,13 +34,16 @@ public:
 
     /// The library's name, which a form writes before the dot: Quillet in Quillet.qvFlatCommand.
     std::wstring const& name() const noexcept { return m_name; }
-    /// Makes a control of the class of that name, through the file's own class object.
+    /// Makes a control of the class of that name: by the manifest beside the file, and where there is none
+    /// through the file's own class object.
     NewControl create(std::wstring_view className) const;
 
 private:
+    HRESULT make(CLSID const& classId, ComPtr<IUnknown>& object) const;
     ComPtr<ITypeInfo> findClass(std::wstring_view className) const;
 
     UniqueLibrary m_library;
+    ActivationContext m_manifest;
     ComPtr<ITypeLib> m_types;
     std::wstring m_name;
 };
