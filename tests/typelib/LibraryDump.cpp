@@ -47,10 +47,11 @@ private:
         ComPtr<ITypeInfo> info;
         check(m_library.GetTypeInfo(index, info.put()));
         TypeAttributes const attributes(*info.get());
-        m_lines.push_back(format("%u %s%s version %u.%u %s", index, headOf(*info.get(), *attributes).c_str(),
-                                 typeFlagNames(typeFlags(*info.get(), *attributes)).c_str(),
-                                 attributes->wMajorVerNum, attributes->wMinorVerNum,
-                                 guidText(attributes->guid).c_str()));
+        m_topic = topicOf(*info.get(), MEMBERID_NIL);
+        m_lines.push_back(
+            format("%u %s%s version %u.%u %s topic %lu", index, headOf(*info.get(), *attributes).c_str(),
+                   typeFlagNames(typeFlags(*info.get(), *attributes)).c_str(), attributes->wMajorVerNum,
+                   attributes->wMinorVerNum, guidText(attributes->guid).c_str(), m_topic));
         addHelp(helpOf(*info.get()));
         switch (attributes->typekind) {
         case TKIND_DISPATCH:
@@ -107,6 +108,7 @@ private:
                 dual ? format("%2d ", function->oVft / static_cast<int>(sizeof(void*))) : "";
             m_lines.push_back("    " + slot + functionText(*members.get(), *function, *lastName++));
             addHelp(helpOf(*members.get(), function->memid));
+            noteOtherTopic(topicOf(*members.get(), function->memid));
         }
     }
 
@@ -308,6 +310,20 @@ private:
         }
     }
 
+    static DWORD topicOf(ITypeInfo& info, MEMBERID id)
+    {
+        DWORD topic = 0;
+        check(info.GetDocumentation(id, nullptr, nullptr, &topic, nullptr));
+        return topic;
+    }
+
+    /// A member leads to the topic of its description; only another one is worth a line.
+    void noteOtherTopic(DWORD topic)
+    {
+        if (topic != m_topic)
+            m_lines.push_back(format("        topic %lu", topic));
+    }
+
     void addHelp(Bstr const& help)
     {
         if (!help.view().empty())
@@ -318,6 +334,7 @@ private:
     std::string m_ownName;
     std::vector<std::string> m_imports;
     std::vector<std::string> m_lines;
+    DWORD m_topic = 0; ///< of the description at hand
 };
 
 } // namespace

@@ -36,6 +36,8 @@ public:
 
     void write(Description const& row)
     {
+        m_helpContext = helpContextOf(row);
+        check(m_type->SetHelpContext(m_helpContext));
         m_functionKind = row.kind == DescriptionKind::Events ? FUNC_DISPATCH : FUNC_PUREVIRTUAL;
         switch (row.kind) {
         case DescriptionKind::Interface:
@@ -127,6 +129,7 @@ private:
         description.wFuncFlags = function.flags;
         check(m_type->AddFuncDesc(m_functions, &description));
         nameFunction(function);
+        check(m_type->SetFuncHelpContext(m_functions, m_helpContext));
         if (*function.member->help)
             check(m_type->SetFuncDocString(m_functions, mutableText(function.member->help)));
         ++m_functions;
@@ -170,6 +173,7 @@ private:
     TypeNames const& m_names;
     FUNCKIND m_functionKind = FUNC_PUREVIRTUAL;
     UINT m_functions = 0;
+    DWORD m_helpContext = 0;
     std::deque<TYPEDESC> m_targets; ///< what the pointers point to; a deque moves nothing
 };
 

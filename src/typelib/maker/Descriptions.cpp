@@ -2,7 +2,10 @@
 #include "typelib/maker/Descriptions.h"
 
 #include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 #include "typelib/Texts.h"
+
+#include <string_view>
 
 namespace quillet {
 
@@ -47,6 +50,24 @@ Description enumerationRow(wchar_t const* name, GUID const& id, std::span<EnumVa
 }
 
 } // namespace
+
+DWORD helpContextOf(Description const& row) noexcept
+{
+    struct TopicRow {
+        std::wstring_view control;
+        DWORD topic;
+    };
+    constexpr TopicRow kTopics[] = {
+        {L"qvFlatCommand", kHelpQvFlatCommand},   {L"qvImageCommand", kHelpQvImageCommand},
+        {L"FlatToolButton", kHelpFlatToolButton}, {L"qvFlatOption", kHelpQvFlatOption},
+        {L"qvFlatCheck", kHelpQvFlatCheck},
+    };
+    // Interfaces, events and aliases have the control's name in theirs.
+    for (TopicRow const& each : kTopics)
+        if (std::wstring_view(row.name).find(each.control) != std::wstring_view::npos)
+            return each.topic;
+    return kHelpManual;
+}
 
 std::vector<Description> const& descriptions()
 {

@@ -31,4 +31,7 @@ struct Description {
 
 std::vector<Description> const& descriptions();
 
+/// The topic that a description and its members lead to: that of the control, or the manual's start.
+DWORD helpContextOf(Description const& row) noexcept;
+
 } // namespace quillet
