@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench check clean
+.PHONY: help build test gallery bench dist check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -15,6 +15,9 @@ gallery: ## opens a form with live buttons; ARGS="FORM" for another one
 
 bench: ## speed and size, as ratios
 	@tools/bench
+
+dist: ## out/dist/quillet-*.zip, what is shipped
+	@tools/dist
 
 check: ## format, tidy, build, tests, benchmark smoke run
 	@tools/check

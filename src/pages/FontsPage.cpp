@@ -7,7 +7,7 @@
 #include <olectl.h>
 #include <windows.h>
 
-#include <sstream>
+#include <string>
 
 namespace quillet {
 
@@ -54,12 +54,11 @@ ComPtr<IFontDisp> fontOf(LOGFONTW const& shape, int tenthsOfPoints)
 std::wstring describe(IFont& font)
 {
     Bstr name;
-    CY size = {};
+    Variant size;
     check(font.get_Name(name.put()));
-    check(font.get_Size(&size));
-    std::wostringstream text;
-    text << name.view() << L", " << static_cast<double>(size.int64) / kCurrencyUnit << L" pt";
-    return text.str();
+    check(font.get_Size(&size.address()->cyVal));
+    size.address()->vt = VT_CY;
+    return std::wstring(name.view()) + L", " + std::wstring(size.toString().view()) + L" pt";
 }
 
 void FontsPage::fillBeside(PageWindow& window)

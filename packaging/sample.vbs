@@ -1,0 +1,11 @@
+' Makes a flat command button from script. Register quilbt.ocx first, then: cscript sample.vbs
+Option Explicit
+Dim button
+Set button = CreateObject("Quillet.qvFlatCommand")
+button.Caption = "&Save changes"
+button.BorderWidth = 2
+WScript.Echo button.Caption & ", border " & button.BorderWidth
+
+On Error Resume Next
+button.BorderWidth = 40000
+WScript.Echo "40000 is refused: " & Err.Description & " (" & Err.Source & ")"
