@@ -206,7 +206,9 @@ void ImageButton::drawCaption(Painting& painting, long inset)
     SplitCaption const caption(m_looks.caption.view());
     setAccessKeys(caption.accessKey);
 
-    SIZE const extent = painting.canvas.textExtent(caption.shown);
+    // One character is as high as all of them; the width counts only where it is halved.
+    std::wstring_view const shown = caption.shown;
+    SIZE const extent = painting.canvas.textExtent(m_looks.centreCaption ? shown : shown.substr(0, 1));
     long const offset = pressedOffset();
     POINT const at = {checkedAdd(captionLeft(painting, extent.cx), offset),
                       checkedAdd(centred(painting.size.cy, extent.cy), offset)};
