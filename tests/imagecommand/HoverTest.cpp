@@ -129,6 +129,16 @@ TEST_P(ImageHover, whileNotActiveRaisesNothingAndDoesNotRepaint)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_P(ImageHover, madeInactiveUnderTheCursorGivesTheMouseBackWithoutAWord)
+{
+    button().moveTo(kInside);
+    ASSERT_EQ(::GetCapture(), button().window());
+    button().events().forget();
+    ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_THAT(button().happened(), IsEmpty());
+}
+
 TEST_P(ImageHover, survivesASinkThatClosesTheButtonInEveryEvent)
 {
     button().events().action = [&](auto const&) {

@@ -2,6 +2,7 @@
 #include "Face.h"
 #include "kit/ByName.h"
 #include "kit/Input.h"
+#include "kit/Painter.h"
 #include "kit/Pump.h"
 
 namespace quillet::image {
@@ -250,6 +251,20 @@ TEST_P(ImageLooks, cutACaptionThatIsTooLongAtTheBorder)
     Face expected = face(kFore, kBack, kLight, kDark, 3);
     expected.caption = button.caption();
     expect(expected);
+}
+
+TEST_P(ImageLooks, ofABorderBeyondTheButtonAreThoseOfItsRingsThatCanBeSeen)
+{
+    setColors();
+    SIZE const size = button.size();
+    kit::Canvas all(size.cx, size.cy);
+    kit::Canvas more(size.cx, size.cy);
+    setWidths(static_cast<short>(size.cx + 1), 1, 1);
+    kit::readWindow(button.window(), all);
+    setWidths(32767, 1, 1);
+    kit::readWindow(button.window(), more);
+    EXPECT_EQ(kit::differences(all, more), "");
+    EXPECT_EQ(all.count(kBack), 0);
 }
 
 TEST_P(ImageLooks, doNotChangeWithPropertiesThatAreOnlyStored)

@@ -11,6 +11,7 @@
 #include "typelib/DispatchIds.h"
 #include "typelib/Interfaces.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillet {
@@ -188,7 +189,9 @@ long ImageButton::drawBorder(Painting& painting)
     Palette const& palette = painting.palette;
     bool const emphasised = window().hasFocus() || isEmphasisedDefault(painting.userMode, kEmphasisTakers);
     long const width = checkedAdd(palette.borderWidth, emphasised ? 1 : 0);
-    painting.canvas.Draw3DBorder(palette.light, palette.dark, width);
+    // Rings beyond the whole surface show nothing, but a saved form may ask for thousands.
+    long const visible = std::min(width, std::max(painting.size.cx, painting.size.cy));
+    painting.canvas.Draw3DBorder(palette.light, palette.dark, visible);
     return width;
 }
 

@@ -45,6 +45,16 @@ bool assignOfficeXPColors(ImageButton& control, Variant const& value)
     return true;
 }
 
+/// A button that ignores the mouse must not keep it from everybody else.
+bool assignActive(ImageButton& control, Variant const& value)
+{
+    control.looks().active = value.toBool();
+    HWND const window = control.window().existing();
+    if (!control.looks().active && window && ::GetCapture() == window)
+        ::ReleaseCapture();
+    return true;
+}
+
 /// A refused picture is the program's error at run time, and the designer's in design mode.
 bool acceptsPicture(ImageButton& control, IUnknown* picture, wchar_t const* refusal)
 {
@@ -133,7 +143,7 @@ constexpr auto kRows = std::to_array<Row>({
     {L"CheckedLightBorderColor",  id::CheckedLightBorderColor,  Kind::Colour,  kDark,        kField<&Looks::checkedLightBorderColor>,  kSaved, kNew, kQuiet},
     {L"AutoSizeWidth",            id::AutoSizeWidth,            Kind::Flag,    false,        kField<&Looks::autoSizeWidth>,            kSaved, kNew, kMeasure},
     {L"CheckedFont",              id::CheckedFont,              Kind::Font,    0,            kField<&Looks::checkedFont>,              kSaved, kNew, kQuiet},
-    {L"Active",                   id::Active,                   Kind::Flag,    true,         kField<&Looks::active>,                   kSaved, kNew, kQuiet},
+    {L"Active",                   id::Active,                   Kind::Flag,    true,         kField<&Looks::active>,                   kSaved, kNew, kQuiet,   &assignActive},
     {L"OffsetPressed",            id::OffsetPressed,            Kind::Flag,    false,        kField<&Looks::offsetPressed>,            kSaved, kNew, kQuiet},
     {L"OfficeXPColors",           id::OfficeXPColors,           Kind::FlagAsInteger, false,  kField<&Looks::officeXPColors>,           kSaved, kNew, kPaint,   &assignOfficeXPColors},
     // The container's extender keeps this one.
