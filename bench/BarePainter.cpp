@@ -10,6 +10,8 @@ namespace {
 
 constexpr COLORREF kFrame = RGB(128, 128, 128);
 
+} // namespace
+
 UniqueFont fontLike(HFONT font, bool underlined)
 {
     LOGFONTW shape{};
@@ -28,14 +30,12 @@ SIZE sizeOf(HDC dc, HFONT font, std::string const& text)
 
 int centred(int space, int length) { return static_cast<int>(std::lrint(space / 2.0 - length / 2.0)); }
 
-void fill(HDC dc, RECT const& rectangle, COLORREF color, int x = 0, int y = 0, std::string const& text = {})
+void fill(HDC dc, RECT const& rectangle, COLORREF color, int x, int y, std::string const& text)
 {
     ::SetBkColor(dc, color);
     ::ExtTextOutA(dc, x, y, ETO_OPAQUE | ETO_CLIPPED, &rectangle, text.c_str(),
                   static_cast<UINT>(text.size()), nullptr);
 }
-
-} // namespace
 
 BarePainter::BarePainter(HDC target, SIZE size, HFONT font, std::string caption)
     : m_target(target), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),

@@ -9,6 +9,14 @@
 
 namespace quillet::bench {
 
+/// A font of that one's shape, underlined or not.
+UniqueFont fontLike(HFONT font, bool underlined);
+SIZE sizeOf(HDC dc, HFONT font, std::string const& text);
+/// Where something begins whose middle is the middle of the space.
+int centred(int space, int length);
+/// Fills a rectangle and writes a text into it, in one call.
+void fill(HDC dc, RECT const& rectangle, COLORREF color, int x = 0, int y = 0, std::string const& text = {});
+
 struct BareLook {
     COLORREF fore;
     COLORREF back;

@@ -23,6 +23,7 @@ enum class Effort { Full, Smoke };
 
 // Each throws std::runtime_error when what it measures does not do what it is measured at.
 Rows measurePaint(kit::Library const& library, Effort effort);
+Rows measurePictures(kit::Library const& library, Effort effort);
 Rows measureMouse(kit::Library const& library, Effort effort);
 Rows measureFocus(kit::Library const& library, Effort effort);
 Rows measureCreation(kit::Library const& library, Effort effort);

@@ -181,7 +181,7 @@ HRESULT SavedButton::Read(LPCOLESTR name, VARIANT* value, IErrorLog*)
     return E_INVALIDARG; // not saved: the default holds
 }
 
-Hosted::Hosted(IClassFactory& factory, SavedButton& saved, Frame& frame, HWND window, RECT const& position)
+Hosted::Hosted(IClassFactory& factory, IPropertyBag& saved, Frame& frame, HWND window, RECT const& position)
     : m_site(frame, window, position)
 {
     check(factory.CreateInstance(nullptr, IID_IOleObject, reinterpret_cast<void**>(m_object.put())));

@@ -151,7 +151,7 @@ constexpr wchar_t kCaption[] = L"&Save changes";
 /// A control that is created, loaded and activated in its site, and closed at its end.
 class Hosted {
 public:
-    Hosted(IClassFactory& factory, SavedButton& saved, Frame& frame, HWND window, RECT const& position);
+    Hosted(IClassFactory& factory, IPropertyBag& saved, Frame& frame, HWND window, RECT const& position);
     ~Hosted();
     Hosted(Hosted const&) = delete;
     Hosted& operator=(Hosted const&) = delete;

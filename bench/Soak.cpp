@@ -1,7 +1,10 @@
 // Many paints and many whole lives, and what they leave behind.
+#include "base/RunTimeError.h"
 #include "bench/CrowdedForm.h"
 #include "bench/Rounds.h"
 #include "bench/ShownButton.h"
+#include "bench/ShownImageButton.h"
+#include "kit/Fonts.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
 #include "kit/Usage.h"
@@ -54,6 +57,16 @@ void liveOnce(CrowdedForm& form, int round)
     form.clear();
 }
 
+/// Create, load with a picture, activate, paint, close, release.
+void livePictured(kit::Library const& library, kit::HostWindow const& window, Frame& frame, int round)
+{
+    auto const picture = round % 2 ? kit::newIconPicture() : kit::newBitmapPicture(16, 16, RGB(10, 120, 200));
+    SavedImageButton saved(picture.get());
+    auto const factory = library.factory(kImageKinds[round / 2 % 2].classId);
+    Hosted const button(deref(factory.get()), saved, frame, window.handle(), ShownImageButton::kPlace);
+    kit::pumpPending();
+}
+
 } // namespace
 
 Rows measureSoak(kit::Library const& library, Effort effort)
@@ -66,6 +79,15 @@ Rows measureSoak(kit::Library const& library, Effort effort)
     }
     CrowdedForm form(library);
     rows.push_back(soak(" lives with a hover", full ? 10000 : 20, [&](int round) { liveOnce(form, round); }));
+    {
+        ShownImageButton button(library, kImageKinds[0], kit::newIconPicture().get());
+        rows.push_back(
+            soak(" paints with an icon", full ? 100000 : 100, [&](int) { button.control().DrawButton(); }));
+    }
+    kit::HostWindow const window{40, 40, 200, 100};
+    Frame frame{window.handle()};
+    rows.push_back(soak(" lives with a picture", full ? 10000 : 20,
+                        [&](int round) { livePictured(library, window, frame, round); }));
     return rows;
 }
 

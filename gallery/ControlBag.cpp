@@ -2,8 +2,12 @@
 #include "gallery/ControlBag.h"
 
 #include "base/ComCall.h"
+#include "base/RunTimeError.h"
 #include "gallery/Fonts.h"
+#include "gallery/FormText.h"
+#include "gallery/FormValue.h"
 #include "gallery/Names.h"
+#include "gallery/Pictures.h"
 
 #include <windows.h>
 
@@ -44,14 +48,17 @@ constexpr std::wstring_view kOwnPrefix = L"Object.";
 
 constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 
+bool isMarkedOwn(std::wstring_view name) noexcept
+{
+    return name.size() > kOwnPrefix.size() && sameName(name.substr(0, kOwnPrefix.size()), kOwnPrefix);
+}
+
 /// The name that the control knows a line by; nothing for a line of the extender's.
 std::optional<std::wstring_view> ownName(std::wstring_view name) noexcept
 {
-    if (name.size() > kOwnPrefix.size() && sameName(name.substr(0, kOwnPrefix.size()), kOwnPrefix))
-        return name.substr(kOwnPrefix.size());
-    if (isExtenderProperty(name))
+    if (!isMarkedOwn(name) && isExtenderProperty(name))
         return std::nullopt;
-    return name;
+    return ownNameOf(name);
 }
 
 bool isFont(PropertyBlock const& block) noexcept
@@ -73,7 +80,40 @@ struct ToVariant {
     std::optional<Variant> operator()(ResourceReference const&) const { return std::nullopt; }
 };
 
+/// What lies in the companion file: a picture or a long text.
+Variant referredTo(ResourceReference const& reference, BagSources const& sources)
+{
+    std::string_view const record = sources.record(reference);
+    if (reference.isText)
+        return Variant::ofString(decodedFormText(record));
+    try {
+        return Variant::ofDispatch(pictureOf(record).get());
+    } catch (RunTimeError const&) {
+        throw ValueFault{L"it is no picture"};
+    }
+}
+
+void addReferred(PropertyBag& bag, std::wstring_view name, FormProperty const& property,
+                 BagSources const& sources)
+{
+    if (!sources.record)
+        return;
+    try {
+        bag.set(name, referredTo(std::get<ResourceReference>(property.value), sources));
+    } catch (ValueFault const& fault) {
+        if (sources.onFailure)
+            sources.onFailure(property.line, std::wstring(name) + L" cannot be read: " + fault.reason);
+    }
+}
+
 } // namespace
+
+std::wstring_view ownNameOf(std::wstring_view name) noexcept
+{
+    return isMarkedOwn(name) ? name.substr(kOwnPrefix.size()) : name;
+}
+
+std::optional<Variant> variantOf(FormValue const& value) { return std::visit(ToVariant(), value); }
 
 bool isExtenderProperty(std::wstring_view name) noexcept
 {
@@ -83,15 +123,17 @@ bool isExtenderProperty(std::wstring_view name) noexcept
     return false;
 }
 
-ComPtr<PropertyBag> controlBag(FormNode const& node)
+ComPtr<PropertyBag> controlBag(FormNode const& node, BagSources const& sources)
 {
     ComPtr<PropertyBag> bag = makeCounted<PropertyBag>();
     for (FormProperty const& property : node.properties) {
         std::optional<std::wstring_view> const name = ownName(property.name);
         if (!name)
             continue;
-        if (std::optional<Variant> value = std::visit(ToVariant(), property.value))
+        if (std::optional<Variant> value = variantOf(property.value))
             bag->set(*name, std::move(*value));
+        else
+            addReferred(*bag.get(), *name, property, sources);
     }
     for (PropertyBlock const& block : node.blocks)
         if (isFont(block))

@@ -5,6 +5,9 @@
 #include "gallery/FormTree.h"
 #include "gallery/PropertyBag.h"
 
+#include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace quillet::gallery {
@@ -12,8 +15,22 @@ namespace quillet::gallery {
 /// Whether a line of that name is the extender's, so that the control never sees it.
 bool isExtenderProperty(std::wstring_view name) noexcept;
 
-/// The bag of one control: its own properties only, fonts as standard font objects. What a stage without
-/// the companion file cannot give, such as a picture, is left out: the control takes its default.
-ComPtr<PropertyBag> controlBag(FormNode const& node);
+/// The name that the control knows a line by: without the mark of those whose name the extender has taken.
+std::wstring_view ownNameOf(std::wstring_view name) noexcept;
+
+/// A value of a form as the variant that a bag holds; nothing for what lies in the companion file.
+std::optional<Variant> variantOf(FormValue const& value);
+
+/// What a bag takes from outside the form's text.
+struct BagSources {
+    /// A record of the companion file; throws ValueFault.
+    std::function<std::string_view(ResourceReference const&)> record;
+    /// Told of each property that could not be read, with its line.
+    std::function<void(int line, std::wstring reason)> onFailure;
+};
+
+/// The bag of one control: its own properties only, fonts and pictures as standard objects. What cannot be
+/// read is told and left out: the control takes its default.
+ComPtr<PropertyBag> controlBag(FormNode const& node, BagSources const& sources = {});
 
 } // namespace quillet::gallery

@@ -149,8 +149,10 @@ private:
             std::wstring_view const line = needLine(L"an End is missing").text;
             std::wstring_view rest = line;
             std::wstring_view const word = takeWord(rest);
-            if (sameName(word, L"End") && rest.empty())
+            if (sameName(word, L"End") && rest.empty()) {
+                node.endLine = m_lines.number();
                 return node;
+            }
             if (sameName(word, L"Begin"))
                 node.children.push_back(readNode(rest, depth + 1));
             else if (sameName(word, L"BeginProperty"))
@@ -174,8 +176,10 @@ private:
             std::wstring_view const line = needLine(L"an EndProperty is missing").text;
             std::wstring_view rest = line;
             std::wstring_view const word = takeWord(rest);
-            if (sameName(word, L"EndProperty") && rest.empty())
+            if (sameName(word, L"EndProperty") && rest.empty()) {
+                block.endLine = m_lines.number();
                 return block;
+            }
             if (sameName(word, L"BeginProperty"))
                 block.blocks.push_back(readBlock(rest, depth + 1));
             else

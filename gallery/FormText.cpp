@@ -28,6 +28,18 @@ std::wstring decodedFormText(std::string_view bytes)
     return text;
 }
 
+std::string encodedFormText(std::wstring_view text, bool isUtf8)
+{
+    if (text.empty())
+        return {};
+    UINT const codePage = isUtf8 ? CP_UTF8 : kWindows1252;
+    int const count = static_cast<int>(text.size());
+    int const needed = ::WideCharToMultiByte(codePage, 0, text.data(), count, nullptr, 0, nullptr, nullptr);
+    std::string bytes(static_cast<std::size_t>(needed), '\0');
+    ::WideCharToMultiByte(codePage, 0, text.data(), count, bytes.data(), needed, nullptr, nullptr);
+    return bytes;
+}
+
 std::wstring_view trimmed(std::wstring_view text) noexcept
 {
     std::size_t const first = text.find_first_not_of(kBlanks);

@@ -10,6 +10,9 @@ namespace quillet::gallery {
 /// The bytes as text: Windows-1252, as the format has it, or UTF-8 behind a byte order mark.
 std::wstring decodedFormText(std::string_view bytes);
 
+/// A line as it stands in a form file: what decoding turns back into the text.
+std::string encodedFormText(std::wstring_view text, bool isUtf8);
+
 /// The text without the blanks and tabs at its ends.
 std::wstring_view trimmed(std::wstring_view text) noexcept;
 

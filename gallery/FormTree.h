@@ -38,6 +38,7 @@ struct PropertyBlock {
     int line = 0;
     std::vector<FormProperty> properties;
     std::vector<PropertyBlock> blocks;
+    int endLine = 0; ///< of EndProperty
 };
 
 /// Begin … End: the form or one of its controls.
@@ -49,6 +50,7 @@ struct FormNode {
     std::vector<FormProperty> properties;
     std::vector<PropertyBlock> blocks;
     std::vector<FormNode> children;
+    int endLine = 0; ///< of End
 
     /// The class as the form file writes it, such as VB.Form.
     std::wstring fullClass() const { return library + L"." + className; }

@@ -2,15 +2,17 @@
 #include "gallery/Gallery.h"
 
 #include "base/RunTimeError.h"
+#include "gallery/Companion.h"
 #include "gallery/Console.h"
 #include "gallery/ControlLibrary.h"
 #include "gallery/EventLog.h"
 #include "gallery/EventPane.h"
 #include "gallery/EventText.h"
+#include "gallery/FileBytes.h"
 #include "gallery/Form.h"
 #include "gallery/FormReader.h"
+#include "gallery/FormSaver.h"
 #include "gallery/Options.h"
-#include "gallery/UniqueFile.h"
 #include "gallery/Utf8.h"
 
 #include <ole2.h>
@@ -31,30 +33,11 @@ public:
     OleScope& operator=(OleScope const&) = delete;
 };
 
-std::wstring folderOf(std::wstring const& path)
-{
-    std::wstring full(32768, L'\0');
-    full.resize(::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
-    std::size_t const slash = full.find_last_of(L'\\');
-    return slash == std::wstring::npos ? L"." : full.substr(0, slash);
-}
-
 std::wstring programFolder()
 {
     std::wstring path(32768, L'\0');
     path.resize(::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     return folderOf(path);
-}
-
-void writeFile(std::wstring const& path, std::wstring_view text)
-{
-    UniqueFile const file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
-    std::string const bytes = utf8(text);
-    DWORD written = 0;
-    if (file.get() == INVALID_HANDLE_VALUE ||
-        !::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
-        throw FormError{path, 0, L"the file cannot be written"};
 }
 
 /// The form and, beside it, its events.
@@ -76,7 +59,7 @@ void announce(RECT const& place, std::wstring const& file)
     if (file.empty())
         say(Stream::Output, line);
     else
-        writeFile(file, line);
+        writeFileBytes(file, utf8(line));
 }
 
 bool dispatchWaiting(Form& form)
@@ -126,10 +109,13 @@ struct EventOutputs {
     }
 };
 
-FormOptions formOptions(Options const& options, ControlLibraries& libraries, EventOutputs& outputs)
+FormOptions formOptions(Options const& options, ControlLibraries& libraries, Companions& companions,
+                        EventOutputs& outputs)
 {
     FormOptions how;
-    how.mode = options.design ? UserMode::Design : UserMode::Run;
+    bool const designed = options.design || !options.saveFile.empty();
+    how.mode = designed ? UserMode::Design : UserMode::Run;
+    how.record = [&](ResourceReference const& reference) { return companions.record(reference); };
     how.file = options.form;
     how.factory = [&](std::wstring_view library, std::wstring_view className) {
         return libraries.create(library, className);
@@ -150,7 +136,10 @@ void openAndRun(Options const& options)
         outputs.log.emplace(options.logFile);
     OleScope const ole;
     ControlLibraries libraries(tree.objects, {programFolder(), folderOf(options.form)});
-    Form form(tree, formOptions(options, libraries, outputs));
+    Companions companions(folderOf(options.form));
+    Form form(tree, formOptions(options, libraries, companions, outputs));
+    if (!options.saveFile.empty())
+        return saveForm(form, tree, options.form, options.saveFile);
     if (!form.isDesign())
         outputs.pane.emplace(form.window());
     form.show();

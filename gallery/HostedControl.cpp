@@ -46,6 +46,8 @@ void HostedControl::load(FormNode const& node, ITypeInfo* classInfo)
     loadProperties(node);
     if (!siteFirst)
         setSite();
+    if (form().isDesign())
+        m_asLoaded = save(false);
     advise(classInfo);
     setExtent();
     m_ole->SetHostNames(form().name().c_str(), form().name().c_str());
@@ -56,7 +58,9 @@ void HostedControl::setSite() { check(m_ole->SetClientSite(m_site.get())); }
 void HostedControl::loadProperties(FormNode const& node)
 {
     if (auto const bagLoader = m_object.as<IPersistPropertyBag>()) {
-        ComPtr<PropertyBag> const bag = controlBag(node);
+        ComPtr<PropertyBag> const bag =
+            controlBag(node, {form().options().record,
+                              [&](int line, std::wstring reason) { form().warn(line, std::move(reason)); }});
         HRESULT const loaded = bagLoader->Load(bag.get(), nullptr);
         if (!isLeftOut(loaded))
             return check(loaded);
@@ -170,6 +174,7 @@ void HostedControl::close()
     m_ole->Close(OLECLOSE_NOSAVE);
     m_ole->SetClientSite(nullptr);
     m_site->disconnect();
+    m_asLoaded.reset();
     m_view.reset();
     m_inPlace.reset();
     m_control.reset();

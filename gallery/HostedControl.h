@@ -49,6 +49,8 @@ public:
 
     /// What the control would save, as a bag; for a control that keeps no property bag, an empty one.
     ComPtr<PropertyBag> save(bool allProperties);
+    /// What it would have saved as soon as it was loaded; empty at run time.
+    PropertyBag* asLoaded() const noexcept { return m_asLoaded.get(); }
 
 protected:
     void placeChanged() override;
@@ -71,6 +73,7 @@ private:
     ComPtr<Site> m_site;
     ComPtr<EventSink> m_events;
     ComPtr<ChangeSink> m_changes;
+    ComPtr<PropertyBag> m_asLoaded;
     Connection m_eventConnection;
     Connection m_changeConnection;
     DWORD m_status = 0;

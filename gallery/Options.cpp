@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::wstring_view kReady = L"--screenshot-ready";
 constexpr std::wstring_view kLog = L"--log";
+constexpr std::wstring_view kSave = L"--save";
 
 using Words = std::vector<std::wstring>;
 
@@ -46,19 +47,19 @@ bool isForm(std::wstring_view file)
                                   kLength, TRUE) == CSTR_EQUAL;
 }
 
-/// The file may be a word of its own: the next one.
-bool takeLog(Words const& words, std::size_t& position, Options& options)
+/// The file of an option that needs one; it may be a word of its own: the next one.
+bool takeFile(Words const& words, std::size_t& position, std::wstring_view name, std::wstring& taken)
 {
     std::wstring_view const word = words[position];
-    if (auto const file = assigned(word, kLog)) {
-        options.logFile = *file;
-        return !isForm(*file);
+    if (auto const file = assigned(word, name)) {
+        taken = *file;
+        return true;
     }
     bool const hasNext = position + 1 < words.size();
-    if (word != kLog || !hasNext || words[position + 1].empty() || isOption(words[position + 1]))
+    if (word != name || !hasNext || words[position + 1].empty() || isOption(words[position + 1]))
         return false;
-    options.logFile = words[++position];
-    return !isForm(options.logFile);
+    taken = words[++position];
+    return true;
 }
 
 /// Takes the option at the position, which moves on to its last word.
@@ -69,7 +70,8 @@ bool takeOption(Words const& words, std::size_t& position, Options& options)
         return options.design = true;
     if (word == L"--help")
         return options.help = true;
-    return takeReady(word, options) || takeLog(words, position, options);
+    return takeReady(word, options) || takeFile(words, position, kSave, options.saveFile) ||
+           (takeFile(words, position, kLog, options.logFile) && !isForm(options.logFile));
 }
 
 } // namespace

@@ -72,6 +72,7 @@ public:
     ~SelectScope() { ::SelectObject(m_dc, m_previous); }
     SelectScope(SelectScope const&) = delete;
     SelectScope& operator=(SelectScope const&) = delete;
+    bool succeeded() const noexcept { return m_previous != nullptr; }
 
 private:
     HDC m_dc;

@@ -52,6 +52,9 @@ public:
 
     void InvertRectangle(long left, long top, long width, long height);
 
+    /// For elements that draw themselves; owned by the surface.
+    HDC dc() const noexcept { return m_memoryDc.get(); }
+
     /// Width and height of a text in the selected font, in pixels.
     SIZE textExtent(std::wstring_view text) const noexcept;
 

@@ -2,6 +2,7 @@
 #include "shell/ClassTable.h"
 
 #include "controls/flatcommand/Create.h"
+#include "controls/imagecommand/Create.h"
 #include "shell/ResourceIds.h"
 #include "typelib/Texts.h"
 
@@ -11,6 +12,8 @@ namespace {
 
 constexpr ClassRow kClasses[] = {
     {&flatCommandClass, &createFlatCommand, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
+    {&flatToolButtonClass, &createFlatToolButton, kFlatToolButtonText, QV_TOOLBOX_TOOL_BUTTON},
+    {&imageCommandClass, &createImageCommand, kQvImageCommandText, QV_TOOLBOX_IMAGE_COMMAND},
 };
 
 } // namespace

@@ -88,6 +88,14 @@ Variant Container::requiredExtenderProperty(wchar_t const* name) const
     return propertyByName(extender().get(), name);
 }
 
+bool Container::putExtenderProperty(wchar_t const* name, Variant value) const noexcept
+{
+    return orFallback(false, [&] {
+        putPropertyByName(extender().get(), name, std::move(value));
+        return true;
+    });
+}
+
 ComPtr<IUnknown> Container::activeControl() const noexcept
 {
     return orFallback(ComPtr<IUnknown>(), [&] {

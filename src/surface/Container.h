@@ -39,6 +39,9 @@ public:
     Variant extenderProperty(wchar_t const* name) const noexcept;
     /// The same, but a failure is the extender's own; ObjectNotSet where there is no extender.
     Variant requiredExtenderProperty(wchar_t const* name) const;
+    /// Assigns a property of the extender. False where there is no extender, no such property, or the value
+    /// is refused.
+    bool putExtenderProperty(wchar_t const* name, Variant value) const noexcept;
     /// The control of the same form that has the focus; empty where the container does not say.
     ComPtr<IUnknown> activeControl() const noexcept;
 

@@ -1,7 +1,7 @@
 // In-place activation. Every call-out may come back in: state is set before the container is told.
 #include "surface/InPlace.h"
 
-#include "base/RunTimeError.h"
+#include "base/Checked.h"
 #include "surface/Surface.h"
 
 namespace quillet {
@@ -162,6 +162,14 @@ void InPlace::hide()
 {
     leaveKeyboard();
     m_surface.window().hide();
+}
+
+void InPlace::requestWidth(long width)
+{
+    RECT const wanted = {m_position.left, m_position.top, checkedAdd(m_position.left, width),
+                         m_position.bottom};
+    if (auto const site = m_site)
+        site->OnPosRectChange(&wanted); // the answer comes as SetObjectRects, or not at all
 }
 
 void InPlace::leave(WindowThen then) noexcept

@@ -39,6 +39,8 @@ public:
     /// Shows the control in its container's window, and with WithFocus gives it the keyboard.
     void activate(Activation kind, Offer const& offer = {});
     void hide();
+    /// While active: asks the site for another width, in pixels.
+    void requestWidth(long width);
     /// What becomes of the window of a control that is not active any more. A parked one keeps its handle.
     enum class WindowThen { Parked, Destroyed };
     /// Ends activation whatever the state, and then tells the container.

@@ -38,6 +38,15 @@ Variant propertyByName(IDispatch* object, wchar_t const* name)
     return propertyById(object, identifierOf(object, name));
 }
 
+void putPropertyByName(IDispatch* object, wchar_t const* name, Variant value)
+{
+    DISPID const id = identifierOf(object, name);
+    DISPID assigned = DISPID_PROPERTYPUT;
+    DISPPARAMS arguments = {value.address(), &assigned, 1, 1};
+    check(object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr,
+                         nullptr, nullptr));
+}
+
 Variant itemByIndex(IDispatch* collection, long index)
 {
     DISPID const id = identifierOf(collection, L"Item");

@@ -15,6 +15,9 @@ Variant propertyByName(IDispatch* object, wchar_t const* name);
 /// Reads a property by identifier. Throws as above.
 Variant propertyById(IDispatch* object, DISPID id);
 
+/// Assigns a property by name. Throws as above.
+void putPropertyByName(IDispatch* object, wchar_t const* name, Variant value);
+
 /// Reads one item of a collection. Throws as above.
 Variant itemByIndex(IDispatch* collection, long index);
 

@@ -201,6 +201,12 @@ HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status)
 
 HRESULT OleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }
 
+void OleObject::setWidth(long width) noexcept
+{
+    m_extent.cx = width;
+    m_surface.persistence().setDirty();
+}
+
 void OleObject::notifySaved() noexcept
 {
     if (ComPtr<IOleAdviseHolder> const holder = m_adviseHolder)

@@ -39,6 +39,8 @@ public:
 
     /// The size in HIMETRIC that the container last gave; it is echoed and never sizes the window.
     SIZEL extent() const noexcept { return m_extent; }
+    /// The control's own wish, in HIMETRIC, for a container that has no other way to hear it.
+    void setWidth(long width) noexcept;
     void notifySaved() noexcept;
     void disconnect() noexcept { m_adviseHolder.reset(); }
 

@@ -23,7 +23,7 @@ HRESULT Persistence::IsDirty() { return m_dirty ? S_OK : S_FALSE; }
 
 HRESULT Persistence::Load(IStream* stream)
 {
-    return m_surface.call([&] { load(deref(stream)); });
+    return m_surface.call([&] { return load(deref(stream)); });
 }
 
 HRESULT Persistence::Save(IStream* stream, WINBOOL clearDirty)
@@ -57,7 +57,7 @@ HRESULT Persistence::Load(IStorage* storage)
         ComPtr<IStream> stream;
         check(deref(storage).OpenStream(kStreamName, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0,
                                         stream.put()));
-        load(deref(stream.get()));
+        return load(deref(stream.get()));
     });
 }
 
@@ -109,12 +109,18 @@ SavedValues Persistence::savedValues()
     return values;
 }
 
-void Persistence::load(IStream& stream)
+/// S_FALSE, with error info, for a control that was loaded without a damaged picture.
+HRESULT Persistence::load(IStream& stream)
 {
     // The whole form is read before the control sees any of it: a broken one changes nothing.
     SavedValues values = SavedValues::fromStream(stream);
     m_surface.onReadProperties(values);
-    m_dirty = false;
+    m_dirty = values.isIncomplete();
+    if (!values.isIncomplete())
+        return S_OK;
+    ControlClass const& own = m_surface.controlClass();
+    comCall({own.progId, own.interfaceId}, [] { throw RunTimeError(ErrorNumber::InvalidPicture); });
+    return S_FALSE;
 }
 
 void Persistence::save(IStream& stream) { savedValues().toStream(stream); }

@@ -39,7 +39,7 @@ public:
 
 private:
     SavedValues savedValues();
-    void load(IStream& stream);
+    HRESULT load(IStream& stream);
     void save(IStream& stream);
 
     bool m_dirty = false;

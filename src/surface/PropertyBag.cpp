@@ -3,14 +3,24 @@
 
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
+#include "surface/StandardPicture.h"
 
 namespace quillet {
 
 namespace {
 
+/// An empty picture stands for none.
+IUnknown* savedObject(IUnknown* object) noexcept
+{
+    auto const picture = query<IPicture>(object);
+    return picture && isEmptyPicture(picture.get()) ? nullptr : object;
+}
+
 /// Objects are equal when they are the same one, or fonts of the same look.
 bool sameObject(IUnknown* a, IUnknown* b) noexcept
 {
+    a = savedObject(a);
+    b = savedObject(b);
     if (a == b)
         return true;
     auto const fontA = query<IFont>(a);

@@ -12,13 +12,10 @@ struct KindRow {
 };
 
 constexpr KindRow kKinds[] = {
-    {PropertyKind::Colour, VT_I4, VT_I4},
-    {PropertyKind::Flag, VT_BOOL, VT_BOOL},
-    {PropertyKind::Integer, VT_I2, VT_I2},
-    {PropertyKind::Style, VT_I4, VT_I2},
-    {PropertyKind::Text, VT_BSTR, VT_BSTR},
-    {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},
-    {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
+    {PropertyKind::Colour, VT_I4, VT_I4},          {PropertyKind::Flag, VT_BOOL, VT_BOOL},
+    {PropertyKind::FlagAsInteger, VT_BOOL, VT_I2}, {PropertyKind::Integer, VT_I2, VT_I2},
+    {PropertyKind::Style, VT_I4, VT_I2},           {PropertyKind::Text, VT_BSTR, VT_BSTR},
+    {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},  {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
 };
 
 KindRow const& rowOf(PropertyKind kind) noexcept

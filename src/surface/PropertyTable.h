@@ -18,10 +18,11 @@ namespace quillet {
 
 /// What a property is: the type in which its control keeps it, and the type in which it is saved.
 enum class PropertyKind {
-    Colour,  ///< 32 bits
-    Flag,    ///< 16-bit boolean
-    Integer, ///< 16 bits
-    Style,   ///< kept in 32 bits, saved in 16 where it fits
+    Colour,        ///< 32 bits
+    Flag,          ///< 16-bit boolean
+    FlagAsInteger, ///< a flag that is saved as a 16-bit integer
+    Integer,       ///< 16 bits
+    Style,         ///< kept in 32 bits, saved in 16 where it fits
     Text,
     Font,
     Picture,
@@ -41,7 +42,9 @@ Variant plainFallback(PropertyKind kind, long fallback);
 enum class Saved { No, Yes };
 /// What gives a new control its value: the default of its row, or whatever the surface starts with.
 enum class AtStart { Default, Surface };
-enum class Repaint { No, Yes };
+enum class Repaint { No, Yes, AfterMeasuring };
+/// How loading stores fonts and pictures: as their setters do, or like every other value.
+enum class LoadedObjects { ThroughSetters, IntoFields };
 
 /// How a property is read and stored, in the type of its kind. Storing has no further effect.
 template <class Control> struct PropertyAccess {
@@ -58,6 +61,9 @@ template <class Control> struct PropertyRow {
     Saved saved;
     AtStart atStart;
     Repaint repaint; ///< whether the setter ends by painting
+    /// The setter's own way of storing, where it does more than that. False for a value that it refused with
+    /// a word to the user: the property has not changed then.
+    bool (*assign)(Control&, Variant const&) = nullptr;
 };
 
 /// A field's value as a variant of its property's kind, and back.
@@ -66,6 +72,10 @@ inline Variant fieldValue(bool field) { return Variant::ofBool(field); }
 inline Variant fieldValue(short field) { return Variant::ofShort(field); }
 inline Variant fieldValue(long field) { return Variant::ofLong(field); }
 inline Variant fieldValue(OLE_COLOR field) { return Variant::ofLong(static_cast<long>(field)); }
+template <class Object> Variant fieldValue(ComPtr<Object> const& field)
+{
+    return Variant::ofUnknown(field.get());
+}
 inline void storeField(Bstr& field, Variant const& value) { field = value.toString(); }
 inline void storeField(bool& field, Variant const& value) { field = value.toBool(); }
 inline void storeField(short& field, Variant const& value) { field = value.toShort(); }
@@ -73,6 +83,11 @@ inline void storeField(long& field, Variant const& value) { field = value.toLong
 inline void storeField(OLE_COLOR& field, Variant const& value)
 {
     field = static_cast<OLE_COLOR>(value.toLong());
+}
+
+template <class Object> void storeField(ComPtr<Object>& field, Variant const& value)
+{
+    field = query<Object>(value.toObject().get());
 }
 
 /// The properties that the surface itself holds.
@@ -102,7 +117,10 @@ template <class Control> class PropertyTable {
 public:
     using Row = PropertyRow<Control>;
 
-    explicit constexpr PropertyTable(std::span<Row const> rows) noexcept : m_rows(rows) {}
+    explicit constexpr PropertyTable(std::span<Row const> rows,
+                                     LoadedObjects objects = LoadedObjects::ThroughSetters) noexcept
+        : m_rows(rows), m_objects(objects)
+    {}
 
     Row const& rowOf(DISPID id) const
     {
@@ -112,29 +130,49 @@ public:
         throw RunTimeError(DISP_E_MEMBERNOTFOUND);
     }
 
-    /// The setter: stores the value, tells who listens, repaints where the row says so. A value that does
-    /// not convert changes nothing.
+    /// The setter: stores the value, tells who listens, measures and repaints where the row says so. A value
+    /// that does not convert changes nothing.
     void put(Control& control, Row const& row, Variant const& value) const
     {
-        row.access.set(control, convertedProperty(row.kind, value));
-        control.propertyChanged(row.id, row.repaint == Repaint::Yes ? ViewChange::Yes : ViewChange::No);
-        if (row.repaint == Repaint::Yes)
+        Variant const converted = convertedProperty(row.kind, value);
+        if (!row.assign)
+            row.access.set(control, converted);
+        else if (!row.assign(control, converted))
+            return;
+        control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
+        if (row.repaint == Repaint::AfterMeasuring)
+            control.onMeasure();
+        if (row.repaint != Repaint::No)
             control.repaint();
     }
 
-    /// The values of a new control; the font is the container's.
+    /// The values of a new control, fonts first; they are the container's.
     void init(Control& control) const
     {
         for (Row const& row : m_rows)
             if (row.kind == PropertyKind::Font)
-                put(control, row, fallbackOf(control, row));
+                storeObject(control, row, fallbackOf(control, row));
+        setDefaults(control, m_rows);
+    }
+
+    /// What a control has that nobody has initialised: the defaults that no container has a part in.
+    void setPlainDefaults(Control& control) const
+    {
         for (Row const& row : m_rows)
-            if (row.atStart == AtStart::Default)
-                row.access.set(control, fallbackOf(control, row));
+            if (row.atStart == AtStart::Default && keptType(row.kind) != VT_UNKNOWN)
+                row.access.set(control, plainFallback(row.kind, row.fallback));
+    }
+
+    /// The defaults of the rows up to a property, which is the last of them, or of all rows after it.
+    enum class Part { Through, After };
+    void setDefaults(Control& control, Part part, DISPID border) const
+    {
+        auto const after = static_cast<size_t>(&rowOf(border) - m_rows.data()) + 1;
+        setDefaults(control, part == Part::Through ? m_rows.first(after) : m_rows.subspan(after));
     }
 
     /// Reads every saved property in order and then stores them: a value that does not convert leaves the
-    /// control as it was. Objects pass through their setters.
+    /// control as it was.
     void read(Control& control, PropertyBag& bag) const
     {
         std::vector<Variant> values;
@@ -147,7 +185,7 @@ public:
             if (row.saved == Saved::No)
                 continue;
             if (keptType(row.kind) == VT_UNKNOWN)
-                put(control, row, *value++);
+                storeObject(control, row, *value++);
             else
                 row.access.set(control, *value++);
         }
@@ -162,6 +200,19 @@ public:
     }
 
 private:
+    static void setDefaults(Control& control, std::span<Row const> rows)
+    {
+        for (Row const& row : rows)
+            if (row.atStart == AtStart::Default)
+                row.access.set(control, fallbackOf(control, row));
+    }
+    void storeObject(Control& control, Row const& row, Variant const& value) const
+    {
+        if (m_objects == LoadedObjects::ThroughSetters)
+            put(control, row, value);
+        else
+            row.access.set(control, value);
+    }
     static Variant fallbackOf(Control const& control, Row const& row)
     {
         if (row.kind == PropertyKind::Font)
@@ -174,6 +225,7 @@ private:
     }
 
     std::span<Row const> m_rows;
+    LoadedObjects m_objects;
 };
 
 /// A member's value as a variant of its property's kind, and back into a caller's out-parameter.
@@ -182,7 +234,7 @@ inline Variant argumentValue(PropertyKind, VARIANT const& value) { return Varian
 inline Variant argumentValue(PropertyKind, OLE_COLOR value) { return fieldValue(value); }
 inline Variant argumentValue(PropertyKind kind, short value)
 {
-    return kind == PropertyKind::Flag ? Variant::ofBool(value != VARIANT_FALSE) : Variant::ofShort(value);
+    return keptType(kind) == VT_BOOL ? Variant::ofBool(value != VARIANT_FALSE) : Variant::ofShort(value);
 }
 template <class Enumeration>
 requires std::is_enum_v<Enumeration> Variant argumentValue(PropertyKind, Enumeration value)

@@ -3,6 +3,7 @@
 
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
+#include "surface/StandardPicture.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -38,20 +39,13 @@ std::vector<BYTE> contentsOf(IStream& stream)
     return bytes;
 }
 
-ComPtr<IUnknown> emptyPicture()
-{
-    ComPtr<IUnknown> made;
-    check(::OleCreatePictureIndirect(nullptr, IID_IUnknown, TRUE, reinterpret_cast<void**>(made.put())));
-    return made;
-}
-
 ComPtr<IUnknown> emptyObject(SavedObject::Kind kind)
 {
     switch (kind) {
     case SavedObject::Kind::Font:
         return systemFont().as<IUnknown>();
     case SavedObject::Kind::Picture:
-        return emptyPicture();
+        return unloadedPicture().as<IUnknown>();
     case SavedObject::Kind::None:
         return {};
     }

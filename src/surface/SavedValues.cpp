@@ -2,6 +2,7 @@
 // against what is there before it is used.
 #include "surface/SavedValues.h"
 
+#include "base/ComCall.h"
 #include "base/RunTimeError.h"
 #include "surface/SavedObject.h"
 
@@ -104,6 +105,14 @@ void putValue(Writer& out, Variant const& value)
     }
 }
 
+/// A damaged picture comes back as no value at all.
+Variant loadedObject(SavedObject const& saved)
+{
+    if (saved.kind != SavedObject::Kind::Picture)
+        return Variant::ofUnknown(objectOf(saved).get());
+    return orFallback(Variant(), [&] { return Variant::ofUnknown(objectOf(saved).get()); });
+}
+
 Variant takeValue(Reader& in)
 {
     switch (in.take<WORD>()) {
@@ -120,7 +129,7 @@ Variant takeValue(Reader& in)
     case VT_UNKNOWN: {
         auto const kind = static_cast<SavedObject::Kind>(in.take<WORD>());
         auto const size = in.take<DWORD>();
-        return Variant::ofUnknown(objectOf({kind, in.takeBytes(size)}).get());
+        return loadedObject({kind, in.takeBytes(size)});
     }
     default:
         throw RunTimeError(E_FAIL);
@@ -172,7 +181,9 @@ SavedValues SavedValues::fromStream(IStream& stream)
     for (WORD i = 0; i < count; ++i) {
         auto const length = in.take<WORD>();
         std::wstring name = in.takeText(length);
-        result.m_values.push_back({std::move(name), takeValue(in)});
+        Variant value = takeValue(in);
+        result.m_isIncomplete |= value.type() == VT_EMPTY;
+        result.m_values.push_back({std::move(name), std::move(value)});
     }
     if (in.rest() != 0)
         throw RunTimeError(E_FAIL);

@@ -18,9 +18,13 @@ namespace quillet {
 ///   the object itself wrote.
 class SavedValues final : public PropertyBag {
 public:
-    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read.
+    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read. A picture whose
+    /// own bytes are damaged is left out: it has nothing to do with the values round it.
     static SavedValues fromStream(IStream& stream);
     void toStream(IStream& stream) const;
+
+    /// Whether a damaged picture was left out.
+    bool isIncomplete() const noexcept { return m_isIncomplete; }
 
     /// The binary form's size in bytes.
     ULONG size() const;
@@ -36,6 +40,7 @@ private:
     std::vector<BYTE> bytes() const;
 
     std::vector<Named> m_values;
+    bool m_isIncomplete = false;
 };
 
 } // namespace quillet

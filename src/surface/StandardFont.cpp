@@ -51,4 +51,15 @@ bool equalFonts(IFont* a, IFont* b) noexcept
     return a->IsEqual(b) == S_OK;
 }
 
+long textWidth(IFont& font, std::wstring_view text)
+{
+    HFONT handle = nullptr;
+    check(font.get_hFont(&handle));
+    UniqueMemoryDc const dc(::CreateCompatibleDC(nullptr));
+    SelectScope const selected(dc.get(), handle);
+    SIZE extent = {};
+    ::GetTextExtentPoint32W(dc.get(), text.data(), static_cast<int>(text.size()), &extent);
+    return extent.cx;
+}
+
 } // namespace quillet

@@ -6,6 +6,8 @@
 #include <ocidl.h>
 #include <windows.h>
 
+#include <string_view>
+
 namespace quillet {
 
 /// A copy of the control's own: two controls that share a container's font object would underline each
@@ -17,5 +19,8 @@ ComPtr<IFont> systemFont();
 
 /// Whether two fonts look the same.
 bool equalFonts(IFont* a, IFont* b) noexcept;
+
+/// The width of a text in whole pixels of the screen. Throws where the font has no handle to give.
+long textWidth(IFont& font, std::wstring_view text);
 
 } // namespace quillet

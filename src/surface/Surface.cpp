@@ -1,17 +1,28 @@
 // The user-control surface: identity, life and the services that belong to no single face.
 #include "surface/Surface.h"
 
+#include "base/Checked.h"
+#include "base/Handles.h"
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
 
+#include <algorithm>
+
 namespace quillet {
+
+namespace {
+
+constexpr int kTwipsPerInch = 1440;
+constexpr int kHimetricPerInch = 2540;
+
+} // namespace
 
 IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
 
 TwipsPerPixel twipsPerPixel(HDC dc) noexcept
 {
-    constexpr double kTwipsPerInch = 1440.0;
-    return {kTwipsPerInch / ::GetDeviceCaps(dc, LOGPIXELSX), kTwipsPerInch / ::GetDeviceCaps(dc, LOGPIXELSY)};
+    return {static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(dc, LOGPIXELSX),
+            static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(dc, LOGPIXELSY)};
 }
 
 Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
@@ -123,6 +134,16 @@ void Surface::setFont(IUnknown* font)
     if (!own)
         throw RunTimeError(ErrorNumber::TypeMismatch);
     m_font.set(std::move(own));
+}
+
+void Surface::setWidth(long twips)
+{
+    if (m_container.putExtenderProperty(L"Width", Variant::ofFloat(static_cast<float>(twips))))
+        return;
+    if (m_inPlace.isActive())
+        m_inPlace.requestWidth(roundedToEven(twips / twipsPerPixel(WindowDc(nullptr).get()).x));
+    else
+        m_oleObject.setWidth(std::max(0, ::MulDiv(twips, kHimetricPerInch, kTwipsPerInch)));
 }
 
 void Surface::propertyChanged(DISPID property, ViewChange view)

@@ -112,6 +112,10 @@ public:
     /// Takes a copy of the font as its own. ObjectNotSet for none, TypeMismatch for what is no font.
     void setFont(IUnknown* font);
 
+    /// Asks the container for another width, in twips: by its extender, or where there is none by its site;
+    /// before activation the control's own extent changes.
+    void setWidth(long twips);
+
     /// The characters that, with Alt, reach onAccessKeyPress.
     void setAccessKeys(std::wstring_view keys) { m_oleControl.setAccessKeys(keys); }
 
@@ -145,6 +149,8 @@ public:
     virtual void onLostFocus() {}
     virtual void onShow() {}
     virtual void onResize() {}
+    /// A property changed that the control's size may depend on.
+    virtual void onMeasure() {}
     virtual void onAmbientChanged(DISPID) {}
     virtual void onTerminate() {}
     /// The window was made, or made anew: somebody destroyed a window above the last one.

@@ -1,5 +1,6 @@
 // The surface's window: its procedure, and what mouse and keyboard messages become.
 #include "base/ComCall.h"
+#include "surface/StandardPicture.h"
 #include "surface/Surface.h"
 #include "surface/SurfaceWindow.h"
 
@@ -56,12 +57,9 @@ constexpr short kCustomPointer = 99;
 HCURSOR cursorOf(IUnknown* object) noexcept
 {
     auto const picture = query<IPicture>(object);
-    OLE_HANDLE handle = 0;
-    SHORT type = PICTYPE_NONE;
-    if (!picture || FAILED(picture->get_Type(&type)) || type != PICTYPE_ICON ||
-        FAILED(picture->get_Handle(&handle)))
+    if (!picture || pictureType(object) != PICTYPE_ICON)
         return nullptr;
-    return reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle)));
+    return static_cast<HCURSOR>(pictureHandle(*picture.get()));
 }
 
 } // namespace

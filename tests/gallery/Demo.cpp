@@ -3,6 +3,7 @@
 
 #include "gallery/EventText.h"
 #include "gallery/Extender.h"
+#include "gallery/FileBytes.h"
 #include "gallery/Utf8.h"
 
 #include <algorithm>
@@ -25,10 +26,15 @@ std::wstring programFolder()
 
 std::string narrow(std::wstring_view text) { return utf8(text); }
 
-Demo::Demo(UserMode mode) : m_tree(readFormFile(kFormFile)), m_libraries(m_tree.objects, {programFolder()})
+Demo::Demo(UserMode mode) : Demo(kFormFile, mode) {}
+
+Demo::Demo(std::wstring const& file, UserMode mode)
+    : m_tree(readFormFile(file)), m_libraries(m_tree.objects, {programFolder()}), m_companions(folderOf(file))
 {
     FormOptions options;
     options.mode = mode;
+    options.file = fileNameOf(file);
+    options.record = [this](ResourceReference const& reference) { return m_companions.record(reference); };
     options.factory = [this](auto library, auto className) { return m_libraries.create(library, className); };
     options.onEvent = [this](FormEvent const& event) {
         events.push_back(narrow(event.control.state().name + L"." + std::wstring(event.name)));

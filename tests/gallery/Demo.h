@@ -1,6 +1,7 @@
 // The demonstration form with the component's own controls, live, for tests.
 #pragma once
 
+#include "gallery/Companion.h"
 #include "gallery/ControlLibrary.h"
 #include "gallery/Form.h"
 #include "gallery/FormReader.h"
@@ -19,6 +20,7 @@ std::string narrow(std::wstring_view text);
 class Demo {
 public:
     explicit Demo(UserMode mode = UserMode::Run);
+    Demo(std::wstring const& file, UserMode mode);
 
     Form& form() { return *m_form; }
     FormTree const& tree() const { return m_tree; }
@@ -39,6 +41,7 @@ public:
 private:
     FormTree m_tree;
     ControlLibraries m_libraries;
+    Companions m_companions;
     std::unique_ptr<Form> m_form;
 };
 

@@ -27,6 +27,29 @@ std::wstring const kTypeLib = L"typelib\\{b451fb09-0e80-40cf-b3bd-7cc480918f2f}"
 std::wstring const kLibraryFile = kTypeLib + (sizeof(void*) == 8 ? L"\\1.0\\0\\win64" : L"\\1.0\\0\\win32");
 wchar_t const* const kProgIds[] = {L"quillet.qvflatcommand", L"quillet.qvflatcommand.1"};
 
+struct PublishedClass {
+    wchar_t const* name;
+    wchar_t const* text;
+    wchar_t const* classId;
+    CLSID id;
+    wchar_t const* toolboxBitmap;
+};
+
+PublishedClass const kClasses[] = {
+    {L"qvFlatCommand", L"Quillet flat command button", L"{CF82FC21-7B85-4C5D-A482-1BBDBA57101F}",
+     kQvFlatCommandClass, L"101"},
+    {L"qvImageCommand", L"Quillet image command button", L"{E8F64720-1D71-4A18-8153-6F9D6621C282}",
+     kQvImageCommandClass, L"102"},
+    {L"FlatToolButton", L"Quillet flat tool button", L"{0E4FB5B5-7A88-42CB-81F7-6CC85145053E}",
+     kFlatToolButtonClass, L"103"},
+};
+
+std::wstring lowered(std::wstring text)
+{
+    ::CharLowerW(text.data());
+    return text;
+}
+
 struct PublishedInterface {
     wchar_t const* name;
     wchar_t const* key;
@@ -53,6 +76,16 @@ std::wstring folder()
 
 Snapshot ofClass(HKEY root) { return classesBelow(root, {kClass, kProgIds[0], kProgIds[1]}); }
 
+Snapshot ofClasses(HKEY root)
+{
+    Lines keys;
+    for (PublishedClass const& row : kClasses) {
+        std::wstring const progId = lowered(std::wstring(L"Quillet.") + row.name);
+        keys.insert(keys.end(), {lowered(std::wstring(L"clsid\\") + row.classId), progId, progId + L".1"});
+    }
+    return classesBelow(root, keys);
+}
+
 Snapshot ofTypeLibrary(HKEY root)
 {
     Lines keys{kTypeLib};
@@ -61,29 +94,30 @@ Snapshot ofTypeLibrary(HKEY root)
     return classesBelow(root, keys);
 }
 
-/// Everything about the class itself, written down from what containers read.
-Snapshot expectedClass()
+/// Everything about one class, written down from what containers read.
+void expectClass(Snapshot& rows, PublishedClass const& row)
 {
-    wchar_t const text[] = L"Quillet flat command button";
-    wchar_t const classId[] = L"{CF82FC21-7B85-4C5D-A482-1BBDBA57101F}";
-    Snapshot rows{
-        {kClass + L"@", text},
-        {kClass + L"\\inprocserver32@", kit::Library::path()},
-        {kClass + L"\\inprocserver32@threadingmodel", L"Apartment"},
-        {kClass + L"\\progid@", L"Quillet.qvFlatCommand.1"},
-        {kClass + L"\\versionindependentprogid@", L"Quillet.qvFlatCommand"},
-        {kClass + L"\\miscstatus@", L"0"},
-        {kClass + L"\\miscstatus\\1@", L"135569"}, // 0x20000 + 0x1000 + 0x100 + 0x80 + 0x10 + 0x1
-        {kClass + L"\\toolboxbitmap32@", kit::Library::path() + L", 101"},
-        {kClass + L"\\typelib@", L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}"},
-        {kClass + L"\\version@", L"1.0"},
-        {kClass + L"\\verb\\0@", L"&Edit,0,2"},
-        {L"quillet.qvflatcommand@", text},
-        {L"quillet.qvflatcommand\\clsid@", classId},
-        {L"quillet.qvflatcommand\\curver@", L"Quillet.qvFlatCommand.1"},
-        {L"quillet.qvflatcommand.1@", text},
-        {L"quillet.qvflatcommand.1\\clsid@", classId},
-    };
+    std::wstring const key = lowered(std::wstring(L"clsid\\") + row.classId);
+    std::wstring const shown = std::wstring(L"Quillet.") + row.name;
+    std::wstring const progId = lowered(shown);
+    rows.insert({
+        {key + L"@", row.text},
+        {key + L"\\inprocserver32@", kit::Library::path()},
+        {key + L"\\inprocserver32@threadingmodel", L"Apartment"},
+        {key + L"\\progid@", shown + L".1"},
+        {key + L"\\versionindependentprogid@", shown},
+        {key + L"\\miscstatus@", L"0"},
+        {key + L"\\miscstatus\\1@", L"135569"}, // 0x20000 + 0x1000 + 0x100 + 0x80 + 0x10 + 0x1
+        {key + L"\\toolboxbitmap32@", kit::Library::path() + L", " + row.toolboxBitmap},
+        {key + L"\\typelib@", L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}"},
+        {key + L"\\version@", L"1.0"},
+        {key + L"\\verb\\0@", L"&Edit,0,2"},
+        {progId + L"@", row.text},
+        {progId + L"\\clsid@", row.classId},
+        {progId + L"\\curver@", shown + L".1"},
+        {progId + L".1@", row.text},
+        {progId + L".1\\clsid@", row.classId},
+    });
     for (wchar_t const* const name :
          {L"", L"\\inprocserver32", L"\\progid", L"\\versionindependentprogid", L"\\miscstatus",
           L"\\miscstatus\\1", L"\\toolboxbitmap32", L"\\typelib", L"\\version", L"\\verb", L"\\verb\\0",
@@ -93,11 +127,16 @@ Snapshot expectedClass()
           L"\\implemented categories\\{0de86a52-2baa-11cf-a229-00aa003d7352}",
           L"\\implemented categories\\{0de86a54-2baa-11cf-a229-00aa003d7352}",
           L"\\implemented categories\\{0de86a57-2baa-11cf-a229-00aa003d7352}"})
-        rows[kClass + name + L"\\"] = L"";
-    for (std::wstring const name :
-         {L"quillet.qvflatcommand", L"quillet.qvflatcommand\\clsid", L"quillet.qvflatcommand\\curver",
-          L"quillet.qvflatcommand.1", L"quillet.qvflatcommand.1\\clsid"})
-        rows[name + L"\\"] = L"";
+        rows[key + name + L"\\"] = L"";
+    for (wchar_t const* const name : {L"", L"\\clsid", L"\\curver", L".1", L".1\\clsid"})
+        rows[progId + name + L"\\"] = L"";
+}
+
+Snapshot expectedClasses()
+{
+    Snapshot rows;
+    for (PublishedClass const& row : kClasses)
+        expectClass(rows, row);
     return rows;
 }
 
@@ -118,7 +157,7 @@ void expectTypeLibrary(HKEY root)
 
 void expectNothing(HKEY root)
 {
-    EXPECT_EQ(differences({}, ofClass(root)), kNone);
+    EXPECT_EQ(differences({}, ofClasses(root)), kNone);
     EXPECT_EQ(differences({}, ofTypeLibrary(root)), kNone);
 }
 
@@ -154,7 +193,7 @@ protected:
 TEST_F(Registration, forTheMachineWritesClassAndTypeLibraryAndLeavesTheUserAlone)
 {
     ASSERT_EQ(regsvr32(L""), 0u);
-    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_LOCAL_MACHINE)), kNone);
+    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_LOCAL_MACHINE)), kNone);
     expectTypeLibrary(HKEY_LOCAL_MACHINE);
     expectNothing(HKEY_CURRENT_USER);
 }
@@ -162,7 +201,7 @@ TEST_F(Registration, forTheMachineWritesClassAndTypeLibraryAndLeavesTheUserAlone
 TEST_F(Registration, forTheUserWritesTheSameAndLeavesTheMachineAlone)
 {
     ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
-    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_CURRENT_USER)), kNone);
+    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_CURRENT_USER)), kNone);
     expectTypeLibrary(HKEY_CURRENT_USER);
     expectNothing(HKEY_LOCAL_MACHINE);
 
@@ -176,7 +215,7 @@ TEST_F(Registration, unregisteringForTheUserLeavesTheMachineRegistered)
     ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
     ASSERT_EQ(regsvr32(L"/u /n /i:user"), 0u);
     expectNothing(HKEY_CURRENT_USER);
-    EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_LOCAL_MACHINE)), kNone);
+    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_LOCAL_MACHINE)), kNone);
     expectTypeLibrary(HKEY_LOCAL_MACHINE);
 }
 
@@ -192,22 +231,24 @@ TEST_F(Registration, twiceIsTheSameAsOnceAndUnregisteringLeavesTheRegistryAsItWa
     EXPECT_EQ(differences(before, allClasses(HKEY_LOCAL_MACHINE)), kNone);
 }
 
-TEST_F(Registration, letsTheSystemFindTheClassByName)
+TEST_F(Registration, letsTheSystemFindEachClassByName)
 {
     ASSERT_EQ(regsvr32(L""), 0u);
-    CLSID classId{};
-    ASSERT_EQ(::CLSIDFromProgID(L"Quillet.qvFlatCommand", &classId), S_OK);
-    EXPECT_EQ(classId, kQvFlatCommandClass);
-    ASSERT_EQ(::CLSIDFromProgID(L"Quillet.qvFlatCommand.1", &classId), S_OK);
-    EXPECT_EQ(classId, kQvFlatCommandClass);
+    for (PublishedClass const& row : kClasses) {
+        CLSID classId{};
+        ASSERT_EQ(::CLSIDFromProgID((std::wstring(L"Quillet.") + row.name).c_str(), &classId), S_OK);
+        EXPECT_EQ(classId, row.id);
+        ASSERT_EQ(::CLSIDFromProgID((std::wstring(L"Quillet.") + row.name + L".1").c_str(), &classId), S_OK);
+        EXPECT_EQ(classId, row.id);
 
-    DWORD status = 0;
-    EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_CONTENT, &status), S_OK);
-    EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
-                                         OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
-                                         OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON));
-    EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_ICON, &status), S_OK);
-    EXPECT_EQ(status, 0u);
+        DWORD status = 0;
+        EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_CONTENT, &status), S_OK);
+        EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
+                                             OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
+                                             OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON));
+        EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_ICON, &status), S_OK);
+        EXPECT_EQ(status, 0u);
+    }
 
     Bstr path;
     EXPECT_EQ(::QueryPathOfRegTypeLib(kLibraryId, 1, 0, LOCALE_NEUTRAL, path.put()), S_OK);
@@ -217,9 +258,9 @@ TEST_F(Registration, letsTheSystemFindTheClassByName)
 TEST_F(Registration, letsTheSystemMakeAnObjectAndUnloadTheComponent)
 {
     ASSERT_EQ(regsvr32(L""), 0u);
-    {
+    for (PublishedClass const& row : kClasses) {
         ComPtr<IUnknown> object;
-        EXPECT_EQ(::CoCreateInstance(kQvFlatCommandClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+        EXPECT_EQ(::CoCreateInstance(row.id, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                      reinterpret_cast<void**>(object.put())),
                   S_OK);
         EXPECT_NE(::GetModuleHandleW(L"quilbt.ocx"), nullptr);
@@ -292,7 +333,7 @@ TEST_F(Registration, withoutTheRightsForTheMachineIsForTheUser)
         MachineWithoutRights const machine;
         EXPECT_EQ(library.entry<EntryPoint>("DllRegisterServer")(), S_OK);
         expectNothing(HKEY_LOCAL_MACHINE);
-        EXPECT_EQ(differences(expectedClass(), ofClass(HKEY_CURRENT_USER)), kNone);
+        EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_CURRENT_USER)), kNone);
         expectTypeLibrary(HKEY_CURRENT_USER);
         EXPECT_EQ(library.entry<EntryPoint>("DllUnregisterServer")(), S_OK);
     }

@@ -3,7 +3,7 @@
 
 #include "controls/button/SystemColours.h"
 #include "controls/flatcommand/Create.h"
-#include "surface/AboutBox.h"
+#include "surface/MessageBoxes.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 

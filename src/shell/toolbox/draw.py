@@ -32,6 +32,44 @@ PICTURES = {
         ...........kwkk.
         ...........kk...
     """,
+    # The same button with a picture, a sun, before its caption.
+    'qvImageCommand': """
+        ................
+        ................
+        bbbbbbbbbbbbbbbb
+        bwwwwwwwwwwwwwwb
+        bwwwywwwwwwwwwwb
+        bwywywywwwwwwwwb
+        bwwYYYwwwwkwkwwb
+        bwyYYYywkwkkwwwb
+        bwwYYYwwwwkkkwwb
+        bwywywywwwkwkkwb
+        bwwwywwwwwkwwkkb
+        bwwwwwwwwwkwwwkk
+        bbbbbbbbbbkwwwwk
+        ..........kwkkkk
+        ..........kkwk..
+        ..........k.kk..
+    """,
+    # A tool bar's button, raised by its light and dark edges, with a sheet of paper.
+    'FlatToolButton': """
+        ................
+        .wwwwwwwwwwwww-.
+        .w............-.
+        .w.kkkkkkk....-.
+        .w.kwwwwwkk...-.
+        .w.kwwwwwkwk..-.
+        .w.kwBBwwkkk..-.
+        .w.kwwwwwwwk..-.
+        .w.kwBBBBBwk..-.
+        .w.kwwwwwwwk..-.
+        .w.kwBBBBBwk..-.
+        .w.kwwwwwwwk..-.
+        .w.kkkkkkkkk..-.
+        .w............-.
+        .--------------.
+        ................
+    """,
 }
 
 

@@ -1,5 +1,5 @@
-// What every control's ShowAbout shows.
-#include "surface/AboutBox.h"
+// The library's message boxes.
+#include "surface/MessageBoxes.h"
 
 namespace quillet {
 
@@ -7,6 +7,11 @@ void showAboutBox(HWND owner) noexcept
 {
     ::MessageBoxW(::GetAncestor(owner, GA_ROOT), L"Quillet flat buttons\nVersion 1.03.0041\n\nMIT License",
                   L"About Quillet", MB_OK | MB_ICONINFORMATION);
+}
+
+void showExclamation(HWND owner, wchar_t const* text) noexcept
+{
+    ::MessageBoxW(::GetAncestor(owner, GA_ROOT), text, L"Quillet", MB_OK | MB_ICONEXCLAMATION);
 }
 
 } // namespace quillet

@@ -1,0 +1,149 @@
+// Buttons with pictures: their paint, what the mouse does to them, and a form of five hundred.
+#include "base/RunTimeError.h"
+#include "bench/CrowdedForm.h"
+#include "bench/Rounds.h"
+#include "bench/ShownImageButton.h"
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+
+#include <memory>
+
+namespace quillet::bench {
+
+namespace {
+
+constexpr POINT kOutside{ShownImageButton::kSize.cx + 30, ShownImageButton::kMiddle.y};
+
+struct PictureRow {
+    char const* name;
+    ComPtr<IPictureDisp> picture;
+};
+
+std::vector<PictureRow> pictures()
+{
+    PICTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.picType = PICTYPE_ICON;
+    description.icon.hicon = static_cast<HICON>(
+        ::CopyImage(::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_WARNING)), IMAGE_ICON, 16, 16, 0));
+    ComPtr<IPictureDisp> icon;
+    check(::OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE,
+                                     reinterpret_cast<void**>(icon.put())));
+    return {{"no picture", {}},
+            {"a bitmap", kit::newBitmapPicture(16, 16, RGB(10, 120, 200))},
+            {"an icon", icon}};
+}
+
+/// What the button shows, painted by body.
+template <class Body> kit::Canvas& painted(ShownImageButton const& button, kit::Canvas& canvas, Body&& body)
+{
+    RECT const all{0, 0, ShownImageButton::kSize.cx, ShownImageButton::kSize.cy};
+    ::FillRect(button.dc(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
+    body();
+    kit::readWindow(button.window(), canvas);
+    return canvas;
+}
+
+Row measurePaint(ShownImageButton& button, std::string const& name, Effort effort)
+{
+    BareImagePainter const bare = button.barePainter();
+    BareImageLook const look = button.bareLook(ImageLook::Normal);
+    auto const ours = [&] { button.control().DrawButton(); };
+    auto const floor = [&] { bare.paint(look); };
+    kit::Canvas actual(ShownImageButton::kSize.cx, ShownImageButton::kSize.cy);
+    kit::Canvas expected(ShownImageButton::kSize.cx, ShownImageButton::kSize.cy);
+    std::string const different =
+        differences(painted(button, expected, floor), painted(button, actual, ours));
+    require(different.empty(), (name + ": the pictures differ\n" + different).c_str());
+    bool const full = effort == Effort::Full;
+    return rowOf("one paint, " + name, compare(full ? 1001 : 3, full ? 10 : 5, ours, floor), "≤ 1.05");
+}
+
+double movedTo(HWND window, POINT at)
+{
+    POINT screen = at;
+    ::ClientToScreen(window, &screen);
+    ::SetCursorPos(screen.x, screen.y);
+    double const taken =
+        microsecondsOf([&] { ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)); });
+    kit::pumpPending();
+    return taken;
+}
+
+Row measureHover(ShownImageButton& button, std::string const& name, Effort effort)
+{
+    BareImagePainter const bare = button.barePainter();
+    BareImageLook const normal = button.bareLook(ImageLook::Normal);
+    BareImageLook const hot = button.bareLook(ImageLook::Hot);
+    auto const enteredAndLeft = [&] {
+        double const entered = movedTo(button.window(), ShownImageButton::kMiddle);
+        require(::GetCapture() == button.window(), "the button does not see the mouse come");
+        return entered + movedTo(button.window(), kOutside);
+    };
+    auto const bothPainted = [&] {
+        return microsecondsOf([&] {
+            bare.paint(hot);
+            bare.paint(normal);
+        });
+    };
+    return rowOf("mouse enters and leaves, " + name,
+                 compareTimed(effort == Effort::Full ? 501 : 3, enteredAndLeft, bothPainted), "–");
+}
+
+/// Loaded from a property bag and shown in a window; then all closed.
+Row measureForm(kit::Library const& library, ImageKind const& kind, IPictureDisp* picture, Effort effort)
+{
+    bool const full = effort == Effort::Full;
+    int const count = full ? 500 : 10;
+    kit::HostWindow const window{40, 40, CrowdedForm::kForm.cx, CrowdedForm::kForm.cy};
+    Frame frame{window.handle()};
+    SavedImageButton saved(picture);
+    ComPtr<IClassFactory> const factory = library.factory(kind.classId);
+    OLE_HANDLE bitmap = 0;
+    check(query<IPicture>(picture)->get_Handle(&bitmap));
+    auto const ours = [&] {
+        std::vector<std::unique_ptr<Hosted>> buttons;
+        for (int i = 0; i < count; ++i)
+            buttons.push_back(std::make_unique<Hosted>(deref(factory.get()), saved, frame, window.handle(),
+                                                       CrowdedForm::placeOf(i)));
+    };
+    auto const systems = [&] {
+        std::vector<UniqueWindow> buttons;
+        for (int i = 0; i < count; ++i) {
+            RECT const place = CrowdedForm::placeOf(i);
+            buttons.emplace_back(
+                ::CreateWindowExW(0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_BITMAP,
+                                  place.left, place.top, CrowdedForm::kButton.cx, CrowdedForm::kButton.cy,
+                                  window.handle(), nullptr, nullptr, nullptr));
+            ::SendMessageW(buttons.back().get(), BM_SETIMAGE, IMAGE_BITMAP, static_cast<LPARAM>(bitmap));
+        }
+    };
+    Comparison comparison = compare(full ? 7 : 3, 1, ours, systems, &kit::pumpPending);
+    comparison.ours /= count;
+    comparison.floor /= count;
+    return rowOf("one of " + std::to_string(count) + " " + kind.name + "s with pictures in a window",
+                 comparison, "–");
+}
+
+} // namespace
+
+Rows measurePictures(kit::Library const& library, Effort effort)
+{
+    Rows rows;
+    auto const all = pictures();
+    for (ImageKind const& kind : kImageKinds) {
+        for (PictureRow const& row : all) {
+            ShownImageButton button(library, kind, row.picture.get());
+            std::string const name = std::string(kind.name) + " with " + row.name;
+            button.enter(ImageLook::Normal);
+            rows.push_back(measurePaint(button, name, effort));
+            rows.push_back(measureHover(button, name, effort));
+            button.enter(ImageLook::Normal);
+        }
+        rows.push_back(measureForm(library, kind, all[1].picture.get(), effort));
+    }
+    return rows;
+}
+
+} // namespace quillet::bench

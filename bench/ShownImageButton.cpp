@@ -1,0 +1,117 @@
+// An image command button or a tool button in a visible window, under the real mouse.
+#include "bench/ShownImageButton.h"
+
+#include "base/Bstr.h"
+#include "base/RunTimeError.h"
+#include "bench/Rounds.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+#include "typelib/Guids.h"
+
+#include <olectl.h>
+
+#include <cwchar>
+
+namespace quillet::bench {
+
+ImageKind const kImageKinds[2] = {{"image command", kQvImageCommandClass, kQvImageCommandInterface},
+                                  {"tool button", kFlatToolButtonClass, kFlatToolButtonInterface}};
+
+namespace {
+
+using B = _qvImageCommand;
+using GetColor = HRESULT (STDMETHODCALLTYPE B::*)(OLE_COLOR*);
+
+COLORREF colorOf(B& button, GetColor get)
+{
+    OLE_COLOR color = 0;
+    check((button.*get)(&color));
+    COLORREF translated = 0;
+    check(::OleTranslateColor(color, nullptr, &translated));
+    return translated;
+}
+
+BareImage bareImage(IPictureDisp* object)
+{
+    auto const picture = query<IPicture>(object);
+    SHORT type = PICTYPE_NONE;
+    OLE_HANDLE handle = 0;
+    if (!picture || FAILED(picture->get_Type(&type)) || FAILED(picture->get_Handle(&handle)))
+        return {};
+    HANDLE const held = LongToHandle(static_cast<LONG>(handle));
+    if (type == PICTYPE_ICON) // the icons measured are those of small pictures
+        return {nullptr, static_cast<HICON>(held), {16, 16}};
+    BITMAP format = {};
+    ::GetObjectW(held, sizeof format, &format);
+    return {static_cast<HBITMAP>(held), nullptr, {format.bmWidth, format.bmHeight}};
+}
+
+} // namespace
+
+HRESULT SavedImageButton::QueryInterface(REFIID iid, void** object)
+{
+    bool const known = iid == IID_IPropertyBag || iid == IID_IUnknown;
+    *object = known ? this : nullptr;
+    return known ? S_OK : E_NOINTERFACE;
+}
+
+HRESULT SavedImageButton::Read(LPCOLESTR name, VARIANT* value, IErrorLog*)
+{
+    if (std::wcscmp(name, L"Caption") == 0) {
+        value->bstrVal = Bstr(kCaption).detach();
+        value->vt = VT_BSTR;
+        return S_OK;
+    }
+    if (m_picture && std::wcscmp(name, L"Image") == 0) {
+        value->pdispVal = m_picture.copy();
+        value->vt = VT_DISPATCH;
+        return S_OK;
+    }
+    return E_INVALIDARG; // not saved: the default holds
+}
+
+ShownImageButton::ShownImageButton(kit::Library const& library, ImageKind const& kind, IPictureDisp* picture)
+    : m_image(bareImage(picture)), m_saved(picture), m_factory(library.factory(kind.classId)),
+      m_hosted(deref(m_factory.get()), m_saved, m_frame, m_window.handle(), kPlace),
+      m_button(query<_qvImageCommand>(m_hosted.as<IUnknown>().get(), kind.interfaceId))
+{
+    check(m_hosted.as<IOleWindow>()->GetWindow(&m_buttonWindow));
+    LONG dc = 0;
+    check(m_button->get_hdc(&dc));
+    m_dc = static_cast<HDC>(LongToHandle(dc));
+    kit::pumpPending();
+}
+
+void ShownImageButton::enter(ImageLook look)
+{
+    bool const moved = look == ImageLook::Normal ? kit::moveCursorAway()
+                                                 : kit::moveCursorTo(m_buttonWindow, kMiddle.x, kMiddle.y);
+    require(moved, "the cursor does not move");
+    kit::pumpPending();
+}
+
+HFONT ShownImageButton::font() const
+{
+    ComPtr<IFontDisp> dispatch;
+    check(m_button->get_Font(dispatch.put()));
+    HFONT handle = nullptr;
+    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
+    return handle;
+}
+
+BareImagePainter ShownImageButton::barePainter() const
+{
+    return {m_dc, kSize, font(), "Save changes", m_image};
+}
+
+BareImageLook ShownImageButton::bareLook(ImageLook look) const
+{
+    B& button = control();
+    if (look == ImageLook::Hot)
+        return {colorOf(button, &B::get_HotForeColor), colorOf(button, &B::get_HotBackColor),
+                colorOf(button, &B::get_HotLightBorderColor), colorOf(button, &B::get_HotDarkBorderColor)};
+    return {colorOf(button, &B::get_ForeColor), colorOf(button, &B::get_BackColor),
+            colorOf(button, &B::get_LightBorderColor), colorOf(button, &B::get_DarkBorderColor)};
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,44 @@
+// A button with a picture: how it begins, loads and saves.
+#include "controls/imagecommand/ImageButton.h"
+
+#include "surface/StandardPicture.h"
+#include "typelib/DispatchIds.h"
+
+namespace quillet {
+
+namespace {
+
+namespace id = dispid::imageButton;
+
+using Part = PropertyTable<ImageButton>::Part;
+
+} // namespace
+
+ImageButton::ImageButton(ImageButtonKind const& kind, IUnknown* outer)
+    : CommandButton(kind.controlClass, outer), m_kind(kind)
+{
+    // A container may leave out both loading and initialising. The container's font comes with its site.
+    properties().setPlainDefaults(*this);
+}
+
+void ImageButton::onInitProperties()
+{
+    setFont(container().ambientFont().get());
+    properties().setDefaults(*this, Part::Through, id::ShowFocusRectangle);
+    ignoringErrors([&] { repaint(); });
+    properties().setDefaults(*this, Part::After, id::ShowFocusRectangle);
+    for (auto const image :
+         {&ImageLooks::image, &ImageLooks::disabledImage, &ImageLooks::hotImage, &ImageLooks::pressedImage})
+        m_looks.*image = emptyPicture();
+}
+
+void ImageButton::onReadProperties(PropertyBag& bag)
+{
+    properties().read(*this, bag);
+    toolTip().CreateToolTip(window().existing());
+    ignoringErrors([&] { repaint(); }); // what cannot be painted is loaded all the same
+}
+
+void ImageButton::onWriteProperties(PropertyBag& bag) { properties().write(*this, bag); }
+
+} // namespace quillet

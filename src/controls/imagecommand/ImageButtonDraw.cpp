@@ -1,0 +1,221 @@
+// An image button's picture: which look, which image and where, face, border and caption composed off screen.
+#include "base/Checked.h"
+#include "controls/button/Caption.h"
+#include "controls/button/SystemColours.h"
+#include "controls/button/TaskPane.h"
+#include "controls/imagecommand/ImageButton.h"
+#include "drawing/Colour.h"
+#include "drawing/OffScreenDC.h"
+#include "drawing/xpstate.h"
+#include "surface/StandardPicture.h"
+#include "typelib/DispatchIds.h"
+#include "typelib/Interfaces.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet {
+
+namespace {
+
+constexpr long kFixedSingle = 1;
+constexpr long kPictureMargin = 4; // pixels inside the border, whatever the caption's indent
+constexpr long kPictureGap = 1;    // pixels between picture and caption
+
+/// The buttons whose focus takes the emphasis from the form's default button: no image button is one.
+constexpr IID kEmphasisTakers[] = {__uuidof(_qvFlatCommand), kIntrinsicButton};
+
+/// The first of the pictures that is one; the last where none is.
+template <class... More> IPictureDisp* firstSet(IPictureDisp* picture, More*... more) noexcept
+{
+    if constexpr (sizeof...(more) == 0)
+        return picture;
+    else
+        return isEmptyPicture(picture) ? firstSet(more...) : picture;
+}
+
+} // namespace
+
+/// The colours and the border width of one paint.
+struct ImageButton::Palette {
+    COLORREF fore;
+    COLORREF back;
+    COLORREF light;
+    COLORREF dark;
+    long borderWidth; ///< pixels
+};
+
+/// A paint in progress.
+struct ImageButton::Painting {
+    bool userMode;
+    SIZE size;
+    Palette palette;
+    OffScreenDC canvas{};
+};
+
+void ImageButton::onPaint()
+{
+    bool const running = userMode();
+    bool const reacting = m_looks.active && running;
+    decideState(reacting);
+    m_image1.setPicture(shownPicture(reacting));
+    placePicture();
+    draw();
+    if (running)
+        raiseEvent(eventid::command::Paint);
+}
+
+IPictureDisp* ImageButton::shownPicture(bool reacting) const noexcept
+{
+    ImageLooks const& looks = m_looks;
+    IPictureDisp* const image = looks.image.get();
+    if (!reacting)
+        return image;
+    switch (state()) {
+    case VisualState::Hot:
+        return firstSet(looks.hotImage.get(), image);
+    case VisualState::Pressed:
+        return firstSet(looks.pressedImage.get(), looks.hotImage.get(), image);
+    case VisualState::Disabled:
+        return firstSet(looks.disabledImage.get(), image);
+    case VisualState::Normal:
+        break;
+    }
+    return isChecked() ? firstSet(looks.pressedImage.get(), image) : image;
+}
+
+/// How far picture and caption are shifted, in pixels.
+long ImageButton::pressedOffset() const noexcept
+{
+    bool const pressed = state() == VisualState::Pressed;
+    if (!m_looks.offsetPressed || !(pressed || isChecked()))
+        return 0;
+    return m_looks.checkButton && pressed ? 2 : 1;
+}
+
+/// Where the picture stands beside a caption, unshifted: by the normal border whatever the look.
+long ImageButton::pictureLeft() const
+{
+    return checkedAdd(checkedMultiply(m_looks.borderWidth, m_looks.borderStyle), kPictureMargin);
+}
+
+void ImageButton::placePicture()
+{
+    if (m_image1.isEmpty() || isEmpty(clientSize()))
+        return;
+    TwipsPerPixel const twips = twipsPerPixel(hDC());
+    SIZE const size = clientSize();
+    SIZE const picture = m_image1.size();
+    long const offset = pressedOffset();
+    // The surface counts in twips: half a pixel stays there, unless it is rounded down to whole twips.
+    double const top = (size.cy - picture.cy) * twips.y / 2;
+    if (!m_looks.caption.view().empty()) {
+        m_image1.moveTo(
+            {checkedAdd(pictureLeft(), offset), checkedAdd(roundedToEven(top / twips.y), offset)});
+        return;
+    }
+    double const left = (size.cx - picture.cx) * twips.x / 2;
+    m_image1.moveTo({checkedAdd(roundedToEven(std::floor(left) / twips.x), offset),
+                     checkedAdd(roundedToEven(std::floor(top) / twips.y), offset)});
+}
+
+ImageButton::Palette ImageButton::palette(bool userMode) const
+{
+    ImageLooks const& looks = m_looks;
+    struct Unresolved {
+        OLE_COLOR fore, back, light, dark;
+        short borderWidth;
+    };
+    Unresolved row = {};
+    switch (state()) {
+    case VisualState::Normal:
+        row = {foreColor(), backColor(), looks.lightBorderColor, looks.darkBorderColor, looks.borderWidth};
+        break;
+    case VisualState::Hot:
+        row = {looks.hotForeColor, looks.hotBackColor, looks.hotLightBorderColor, looks.hotDarkBorderColor,
+               looks.hotBorderWidth};
+        break;
+    case VisualState::Pressed:
+        row = {looks.pressedForeColor, looks.pressedBackColor, looks.pressedLightBorderColor,
+               looks.pressedDarkBorderColor, looks.pressedBorderWidth};
+        break;
+    case VisualState::Disabled:
+        row = {looks.disabledForeColor, backColor(), looks.lightBorderColor, looks.darkBorderColor,
+               looks.borderWidth};
+        break;
+    }
+    bool const resting = state() == VisualState::Normal;
+    if (looks.officeXPColors) {
+        ButtonColours const pane = taskPaneColours(state());
+        OLE_COLOR border = pane.border;
+        if (resting && m_kind.restingBorder == RestingBorder::WhileLaidOut)
+            border = userMode ? backColor() : colour::kSelectionHighlight;
+        row = {pane.fore, pane.back, border, border, row.borderWidth};
+    }
+    if (isChecked()) {
+        bool const pane = looks.officeXPColors;
+        row.light = pane ? colour::kSelectionHighlight : looks.checkedLightBorderColor;
+        row.dark = pane ? colour::kSelectionHighlight : looks.checkedDarkBorderColor;
+        if (resting)
+            row.back = pane ? XPStateColor(VARIANT_FALSE) : looks.checkedBackColor;
+    }
+    return {resolvedColour(row.fore), resolvedColour(row.back), resolvedColour(row.light),
+            resolvedColour(row.dark), row.borderWidth};
+}
+
+void ImageButton::draw()
+{
+    SIZE const size = clientSize();
+    if (isEmpty(size)) { // while a form loads
+        setAccessKeys(SplitCaption(m_looks.caption.view()).accessKey);
+        return;
+    }
+    bool const running = userMode();
+    Painting painting = {running, size, palette(running)};
+    OffScreenDC& canvas = painting.canvas;
+    open(canvas, painting.size);
+    canvas.TextColor(painting.palette.fore);
+    canvas.FillRect(0, 0, painting.size.cx, painting.size.cy, painting.palette.back);
+    drawCaption(painting, drawBorder(painting));
+    m_image1.draw(canvas.dc());
+    canvas.BlastToScreen(0, 0, -1, -1);
+}
+
+/// Answers how many pixels it drew round the face.
+long ImageButton::drawBorder(Painting& painting)
+{
+    if (m_looks.borderStyle != kFixedSingle)
+        return 0;
+    Palette const& palette = painting.palette;
+    bool const emphasised = window().hasFocus() || isEmphasisedDefault(painting.userMode, kEmphasisTakers);
+    long const width = checkedAdd(palette.borderWidth, emphasised ? 1 : 0);
+    // Rings beyond the whole surface show nothing, but a saved form may ask for thousands.
+    long const visible = std::min(width, std::max(painting.size.cx, painting.size.cy));
+    painting.canvas.Draw3DBorder(palette.light, palette.dark, visible);
+    return width;
+}
+
+long ImageButton::captionLeft(Painting const& painting, long captionWidth) const
+{
+    if (m_looks.centreCaption)
+        return centred(painting.size.cx, captionWidth);
+    if (!m_image1.isEmpty())
+        return checkedAdd(pictureLeft(), checkedAdd(m_image1.size().cx, kPictureGap));
+    return checkedAdd(painting.palette.borderWidth, m_looks.captionIndent);
+}
+
+void ImageButton::drawCaption(Painting& painting, long inset)
+{
+    SplitCaption const caption(m_looks.caption.view());
+    setAccessKeys(caption.accessKey);
+
+    // One character is as high as all of them; the width counts only where it is halved.
+    std::wstring_view const shown = caption.shown;
+    SIZE const extent = painting.canvas.textExtent(m_looks.centreCaption ? shown : shown.substr(0, 1));
+    long const offset = pressedOffset();
+    POINT const at = {checkedAdd(captionLeft(painting, extent.cx), offset),
+                      checkedAdd(centred(painting.size.cy, extent.cy), offset)};
+    writeCaption(painting.canvas, surfaceFont(), caption, {painting.size, inset, painting.palette.back}, at);
+}
+
+} // namespace quillet

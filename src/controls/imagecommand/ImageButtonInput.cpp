@@ -1,0 +1,39 @@
+// An image button's mouse. Everything here happens while the button reacts to the user.
+#include "controls/imagecommand/ImageButton.h"
+#include "typelib/DispatchIds.h"
+
+namespace quillet {
+
+namespace {
+
+constexpr short kLeftButton = 1;
+
+/// Whether a point in twips lies in the surface: its right and bottom edges count as inside.
+bool isInside(MouseArguments const& mouse, SIZE size, TwipsPerPixel const& twips)
+{
+    auto const right = static_cast<float>(size.cx * twips.x);
+    auto const bottom = static_cast<float>(size.cy * twips.y);
+    return mouse.x >= 0 && mouse.x <= right && mouse.y >= 0 && mouse.y <= bottom;
+}
+
+} // namespace
+
+void ImageButton::onMouseMove(MouseArguments const& mouse)
+{
+    if (!reacts())
+        return;
+    bool const changed = enterOrExit(isOver());
+    bool const pressLost = mouse.button != kLeftButton && isPressed(); // let go outside the button
+    if (changed || pressLost)
+        repaint();
+    raiseMouseEvent(eventid::command::MouseMove, mouse);
+}
+
+/// The field itself: a click by the user is no change of the property that a designer would save.
+void ImageButton::onReleased(MouseArguments const& mouse)
+{
+    if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel(hDC())))
+        m_looks.checked = !m_looks.checked;
+}
+
+} // namespace quillet

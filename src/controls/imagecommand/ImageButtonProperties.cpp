@@ -1,0 +1,200 @@
+// The image buttons' properties, with the defaults of the image command button and of the tool button.
+#include "controls/button/SystemColours.h"
+#include "controls/imagecommand/Create.h"
+#include "controls/imagecommand/ImageButton.h"
+#include "surface/MessageBoxes.h"
+#include "surface/StandardPicture.h"
+#include "typelib/DispatchIds.h"
+#include "typelib/Guids.h"
+
+#include <olectl.h>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+constexpr DWORD kMiscStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
+                              OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON;
+
+constexpr ControlClass kImageCommandClass = {kQvImageCommandClass,      kQvImageCommandInterface,
+                                             kQvImageCommandEvents,     L"qvImageCommand",
+                                             L"Quillet.qvImageCommand", kMiscStatus};
+constexpr ControlClass kToolButtonClass = {kFlatToolButtonClass,      kFlatToolButtonInterface,
+                                           kFlatToolButtonEvents,     L"FlatToolButton",
+                                           L"Quillet.FlatToolButton", kMiscStatus};
+
+using Row = PropertyRow<ImageButton>;
+using Kind = PropertyKind;
+using Held = SurfaceAccess<ImageButton>;
+using Looks = ImageLooks;
+
+/// A property that the button keeps in a field of its own.
+template <auto Field>
+constexpr PropertyAccess<ImageButton> kField = {
+    [](ImageButton const& control) { return fieldValue(control.looks().*Field); },
+    [](ImageButton& control, Variant const& value) { storeField(control.looks().*Field, value); }};
+
+/// The task-pane look brings the face colour along; ending it leaves the colour.
+bool assignOfficeXPColors(ImageButton& control, Variant const& value)
+{
+    control.looks().officeXPColors = value.toBool();
+    if (control.looks().officeXPColors)
+        control.setBackColor(colour::kButtonFace);
+    return true;
+}
+
+/// A button that ignores the mouse must not keep it from everybody else.
+bool assignActive(ImageButton& control, Variant const& value)
+{
+    control.looks().active = value.toBool();
+    HWND const window = control.window().existing();
+    if (!control.looks().active && window && ::GetCapture() == window)
+        ::ReleaseCapture();
+    return true;
+}
+
+/// A refused picture is the program's error at run time, and the designer's in design mode.
+bool acceptsPicture(ImageButton& control, IUnknown* picture, wchar_t const* refusal)
+{
+    SHORT const type = pictureType(picture);
+    if (type == PICTYPE_BITMAP || type == PICTYPE_ICON)
+        return true;
+    if (control.inUserMode())
+        throw RunTimeError(ErrorNumber::InvalidPicture);
+    showExclamation(control.hWnd(), refusal);
+    return false;
+}
+
+// All four take bitmaps as well as icons, whatever their messages say.
+constexpr wchar_t kImageRefusal[] = L"Only icons and bitmaps may be assigned to the Image property.";
+constexpr wchar_t kDisabledImageRefusal[] = L"Only icons may be assigned to the DisabledImage property.";
+constexpr wchar_t kHotImageRefusal[] = L"Only icons may be assigned to the HotImage property.";
+constexpr wchar_t kPressedImageRefusal[] = L"Only icons may be assigned to the PressedImage property.";
+
+template <auto Field, wchar_t const* Refusal> bool assignPicture(ImageButton& control, Variant const& value)
+{
+    auto const picture = value.toObject();
+    if (!acceptsPicture(control, picture.get(), Refusal))
+        return false;
+    storeField(control.looks().*Field, value);
+    return true;
+}
+
+constexpr long asLong(OLE_COLOR colour) { return static_cast<long>(colour); }
+constexpr long kHighlight = asLong(colour::kSelectionHighlight);
+constexpr long kFace = asLong(colour::kButtonFace);
+constexpr long kShadow = asLong(colour::kButtonShadow);
+constexpr long kGreyText = asLong(colour::kGreyText);
+constexpr long kText = asLong(colour::kButtonText);
+constexpr long k3dHighlight = asLong(colour::k3dHighlight);
+constexpr long kDark = asLong(colour::k3dDarkShadow);
+constexpr long k3dLight = asLong(colour::k3dLight);
+
+constexpr auto kNew = AtStart::Default;
+constexpr auto kAsSurface = AtStart::Surface;
+constexpr auto kSaved = Saved::Yes;
+constexpr auto kPaint = Repaint::Yes;
+constexpr auto kMeasure = Repaint::AfterMeasuring;
+constexpr auto kQuiet = Repaint::No;
+
+namespace id = dispid::imageButton;
+
+// clang-format off
+// In the order of saving, with the defaults of the image command button.
+constexpr auto kRows = std::to_array<Row>({
+    {L"BackColor",                id::BackColor,                Kind::Colour,  kFace,        Held::kBackColor,                         kSaved, kAsSurface, kPaint},
+    {L"ForeColor",                id::ForeColor,                Kind::Colour,  kText,        Held::kForeColor,                         kSaved, kAsSurface, kPaint},
+    {L"Enabled",                  id::Enabled,                  Kind::Flag,    true,         Held::kEnabled,                           kSaved, kAsSurface, kPaint},
+    {L"Font",                     id::Font,                     Kind::Font,    0,            Held::kFont,                              kSaved, kAsSurface, kMeasure},
+    {L"BorderStyle",              id::BorderStyle,              Kind::Style,   1,            kField<&Looks::borderStyle>,              kSaved, kNew, kMeasure},
+    {L"LightBorderColor",         id::LightBorderColor,         Kind::Colour,  kDark,        kField<&Looks::lightBorderColor>,         kSaved, kNew, kPaint},
+    {L"HotForeColor",             id::HotForeColor,             Kind::Colour,  k3dHighlight, kField<&Looks::hotForeColor>,             kSaved, kNew, kQuiet},
+    {L"PressedForeColor",         id::PressedForeColor,         Kind::Colour,  k3dHighlight, kField<&Looks::pressedForeColor>,         kSaved, kNew, kQuiet},
+    {L"HotBackColor",             id::HotBackColor,             Kind::Colour,  kShadow,      kField<&Looks::hotBackColor>,             kSaved, kNew, kQuiet},
+    {L"PressedBackColor",         id::PressedBackColor,         Kind::Colour,  kDark,        kField<&Looks::pressedBackColor>,         kSaved, kNew, kQuiet},
+    {L"HotLightBorderColor",      id::HotLightBorderColor,      Kind::Colour,  kDark,        kField<&Looks::hotLightBorderColor>,      kSaved, kNew, kQuiet},
+    {L"PressedLightBorderColor",  id::PressedLightBorderColor,  Kind::Colour,  kDark,        kField<&Looks::pressedLightBorderColor>,  kSaved, kNew, kQuiet},
+    {L"BorderWidth",              id::BorderWidth,              Kind::Integer, 1,            kField<&Looks::borderWidth>,              kSaved, kNew, kMeasure},
+    {L"HotBorderWidth",           id::HotBorderWidth,           Kind::Integer, 1,            kField<&Looks::hotBorderWidth>,           kSaved, kNew, kQuiet},
+    {L"PressedBorderWidth",       id::PressedBorderWidth,       Kind::Integer, 1,            kField<&Looks::pressedBorderWidth>,       kSaved, kNew, kMeasure},
+    {L"DisabledForeColor",        id::DisabledForeColor,        Kind::Colour,  kGreyText,    kField<&Looks::disabledForeColor>,        kSaved, kNew, kPaint},
+    {L"Caption",                  id::Caption,                  Kind::Text,    0,            kField<&Looks::caption>,                  kSaved, kNew, kMeasure},
+    {L"CentreCaption",            id::CentreCaption,            Kind::Flag,    false,        kField<&Looks::centreCaption>,            kSaved, kNew, kPaint},
+    {L"CaptionIndent",            id::CaptionIndent,            Kind::Integer, 4,            kField<&Looks::captionIndent>,            kSaved, kNew, kPaint},
+    {L"MousePointer",             id::MousePointer,             Kind::Integer, 0,            Held::kMousePointer,                      kSaved, kAsSurface, kQuiet},
+    {L"MouseIcon",                id::MouseIcon,                Kind::Picture, 0,            Held::kMouseIcon,                         kSaved, kAsSurface, kQuiet},
+    {L"ShowFocusRectangle",       id::ShowFocusRectangle,       Kind::Flag,    true,         kField<&Looks::showFocusRectangle>,       kSaved, kNew, kPaint},
+    {L"Image",                    id::Image,                    Kind::Picture, 0,            kField<&Looks::image>,                    kSaved, kNew, kMeasure, &assignPicture<&Looks::image, kImageRefusal>},
+    {L"DisabledImage",            id::DisabledImage,            Kind::Picture, 0,            kField<&Looks::disabledImage>,            kSaved, kNew, kPaint,   &assignPicture<&Looks::disabledImage, kDisabledImageRefusal>},
+    {L"HotImage",                 id::HotImage,                 Kind::Picture, 0,            kField<&Looks::hotImage>,                 kSaved, kNew, kMeasure, &assignPicture<&Looks::hotImage, kHotImageRefusal>},
+    {L"PressedImage",             id::PressedImage,             Kind::Picture, 0,            kField<&Looks::pressedImage>,             kSaved, kNew, kMeasure, &assignPicture<&Looks::pressedImage, kPressedImageRefusal>},
+    {L"DarkBorderColor",          id::DarkBorderColor,          Kind::Colour,  kDark,        kField<&Looks::darkBorderColor>,          kSaved, kNew, kPaint},
+    {L"HotDarkBorderColor",       id::HotDarkBorderColor,       Kind::Colour,  kDark,        kField<&Looks::hotDarkBorderColor>,       kSaved, kNew, kPaint},
+    {L"DisabledDarkBorderColor",  id::DisabledDarkBorderColor,  Kind::Colour,  kFace,        kField<&Looks::disabledDarkBorderColor>,  kSaved, kNew, kPaint},
+    {L"PressedDarkBorderColor",   id::PressedDarkBorderColor,   Kind::Colour,  kDark,        kField<&Looks::pressedDarkBorderColor>,   kSaved, kNew, kPaint},
+    {L"DisabledLightBorderColor", id::DisabledLightBorderColor, Kind::Colour,  kFace,        kField<&Looks::disabledLightBorderColor>, kSaved, kNew, kPaint},
+    {L"CheckButton",              id::CheckButton,              Kind::Flag,    false,        kField<&Looks::checkButton>,              kSaved, kNew, kPaint},
+    {L"Checked",                  id::Checked,                  Kind::Flag,    false,        kField<&Looks::checked>,                  kSaved, kNew, kPaint},
+    {L"CheckedForeColor",         id::CheckedForeColor,         Kind::Colour,  k3dHighlight, kField<&Looks::checkedForeColor>,         kSaved, kNew, kQuiet},
+    {L"CheckedBackColor",         id::CheckedBackColor,         Kind::Colour,  k3dLight,     kField<&Looks::checkedBackColor>,         kSaved, kNew, kQuiet},
+    {L"CheckedDarkBorderColor",   id::CheckedDarkBorderColor,   Kind::Colour,  kDark,        kField<&Looks::checkedDarkBorderColor>,   kSaved, kNew, kQuiet},
+    {L"CheckedLightBorderColor",  id::CheckedLightBorderColor,  Kind::Colour,  kDark,        kField<&Looks::checkedLightBorderColor>,  kSaved, kNew, kQuiet},
+    {L"AutoSizeWidth",            id::AutoSizeWidth,            Kind::Flag,    false,        kField<&Looks::autoSizeWidth>,            kSaved, kNew, kMeasure},
+    {L"CheckedFont",              id::CheckedFont,              Kind::Font,    0,            kField<&Looks::checkedFont>,              kSaved, kNew, kQuiet},
+    {L"Active",                   id::Active,                   Kind::Flag,    true,         kField<&Looks::active>,                   kSaved, kNew, kQuiet,   &assignActive},
+    {L"OffsetPressed",            id::OffsetPressed,            Kind::Flag,    false,        kField<&Looks::offsetPressed>,            kSaved, kNew, kQuiet},
+    {L"OfficeXPColors",           id::OfficeXPColors,           Kind::FlagAsInteger, false,  kField<&Looks::officeXPColors>,           kSaved, kNew, kPaint,   &assignOfficeXPColors},
+    // The container's extender keeps this one.
+    {L"ToolTipText",              id::ToolTipText,              Kind::Text,    0,            kField<&Looks::toolTipText>,              Saved::No, kAsSurface, kQuiet},
+});
+
+struct Default {
+    DISPID id;
+    long value;
+};
+
+// Where the tool button's defaults are others.
+constexpr Default kToolDefaults[] = {
+    {id::LightBorderColor,        k3dLight},
+    {id::HotForeColor,            kHighlight},
+    {id::HotBackColor,            kFace},
+    {id::PressedBackColor,        k3dLight},
+    {id::HotLightBorderColor,     k3dHighlight},
+    {id::PressedLightBorderColor, k3dHighlight},
+    {id::ShowFocusRectangle,      false},
+    {id::DarkBorderColor,         k3dLight},
+    {id::HotDarkBorderColor,      kShadow},
+    {id::PressedDarkBorderColor,  kShadow},
+    {id::CheckedForeColor,        kText},
+    {id::CheckedDarkBorderColor,  kShadow},
+    {id::CheckedLightBorderColor, k3dHighlight},
+    {id::OffsetPressed,           true},
+};
+// clang-format on
+
+constexpr auto toolRows()
+{
+    auto rows = kRows;
+    for (Row& row : rows)
+        for (Default const& own : kToolDefaults)
+            if (row.id == own.id)
+                row.fallback = own.value;
+    return rows;
+}
+constexpr auto kToolRows = toolRows();
+
+constexpr PropertyTable<ImageButton> kImageProperties(kRows, LoadedObjects::IntoFields);
+constexpr PropertyTable<ImageButton> kToolProperties(kToolRows, LoadedObjects::IntoFields);
+
+} // namespace
+
+constinit ImageButtonKind const kImageCommand = {kImageCommandClass, kImageProperties, RestingBorder::Shadow};
+constinit ImageButtonKind const kFlatToolButton = {kToolButtonClass, kToolProperties,
+                                                   RestingBorder::WhileLaidOut};
+
+ControlClass const& imageCommandClass() noexcept { return kImageCommandClass; }
+ControlClass const& flatToolButtonClass() noexcept { return kToolButtonClass; }
+
+} // namespace quillet

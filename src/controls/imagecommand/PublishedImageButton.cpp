@@ -1,0 +1,77 @@
+// The two published classes: an image button behind the interface of each.
+#include "controls/imagecommand/Create.h"
+#include "controls/imagecommand/ImageButton.h"
+#include "typelib/DispatchIds.h"
+#include "typelib/Interfaces.h"
+
+namespace quillet {
+
+namespace {
+
+/// The interfaces are alike but for the type of one member.
+template <class Interface, class BorderStyleConstants, ImageButtonKind const& Kind>
+class Published final : public ImageButton, public Dual<Interface> {
+public:
+    explicit Published(IUnknown* outer)
+        : ImageButton(Kind, outer), Dual<Interface>(static_cast<Surface&>(*this))
+    {}
+
+    // Every property reads and writes through its row.
+#define QV_BORDER_STYLE BorderStyleConstants
+#define QV_VALUE(name, id, type, help)                                                                       \
+    STDMETHODIMP get_##name(type* value) override                                                            \
+    {                                                                                                        \
+        return getMember<ImageButton>(*this, properties(), id, value);                                       \
+    }                                                                                                        \
+    STDMETHODIMP put_##name(type value) override                                                             \
+    {                                                                                                        \
+        return putMember<ImageButton>(*this, properties(), id, value);                                       \
+    }
+#define QV_OBJECT(name, id, type, help)                                                                      \
+    STDMETHODIMP get_##name(type** value) override                                                           \
+    {                                                                                                        \
+        return getObjectMember<ImageButton>(*this, properties(), id, value);                                 \
+    }                                                                                                        \
+    STDMETHODIMP putref_##name(type* value) override                                                         \
+    {                                                                                                        \
+        return putObjectMember<ImageButton>(*this, properties(), id, value);                                 \
+    }
+#include "typelib/members/imageButton.inc"
+#undef QV_BORDER_STYLE
+
+    STDMETHODIMP get_hwnd(LONG* value) override { return answerHwnd(value); }
+    STDMETHODIMP get_hdc(LONG* value) override { return answerHdc(value); }
+    STDMETHODIMP Refresh() override { return DrawButton(); }
+    STDMETHODIMP DrawButton() override
+    {
+        return call([&] { draw(); });
+    }
+    STDMETHODIMP WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) override
+    {
+        return answerWindowProc(hwnd, uMsg, wParam, lParam, result);
+    }
+    STDMETHODIMP InUserMode(VARIANT_BOOL* result) override
+    {
+        return call([&] { deref(result) = inUserMode() ? VARIANT_TRUE : VARIANT_FALSE; });
+    }
+
+protected:
+    IDispatch* dual() noexcept override { return this; }
+};
+
+using qvImageCommand = Published<_qvImageCommand, imgCmdBorderStyleConstants, kImageCommand>;
+using FlatToolButton = Published<_FlatToolButton, ButtonBorderStyleConstants, kFlatToolButton>;
+
+} // namespace
+
+HRESULT createImageCommand(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createControl<qvImageCommand>(outer, iid, object);
+}
+
+HRESULT createFlatToolButton(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createControl<FlatToolButton>(outer, iid, object);
+}
+
+} // namespace quillet

@@ -1,0 +1,26 @@
+// Standard picture objects.
+#pragma once
+
+#include "base/ComPtr.h"
+
+#include <ocidl.h>
+#include <windows.h>
+
+namespace quillet {
+
+/// A picture object that holds no picture, of type PICTYPE_NONE.
+ComPtr<IPictureDisp> emptyPicture();
+
+/// A picture object that waits for its data.
+ComPtr<IPictureDisp> unloadedPicture();
+
+/// PICTYPE_…; PICTYPE_NONE for no object and for one that cannot say.
+SHORT pictureType(IUnknown* picture) noexcept;
+
+/// Whether there is nothing to show: no object, or one without a picture.
+bool isEmptyPicture(IUnknown* picture) noexcept;
+
+/// What the picture object holds and keeps: an HBITMAP or an HICON, by its type. Null when there is none.
+HANDLE pictureHandle(IPicture& picture) noexcept;
+
+} // namespace quillet

@@ -1,0 +1,157 @@
+// Which image button is emphasised: the one with the focus, or else the form's default button.
+#include "Face.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+
+namespace quillet::image {
+namespace {
+
+constexpr IID kHostButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
+
+constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
+constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
+
+/// A control of the form's own that is known by one interface.
+class HostControl final : public kit::Counterpart<IUnknown> {
+private:
+    void* faceOf(REFIID iid) noexcept override
+    {
+        return iid == kHostButton ? this : Counterpart::faceOf(iid);
+    }
+};
+
+class ImageEmphasis : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+    UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        button.load();
+        button->put_ForeColor(kFore);
+        button->put_BackColor(kBack);
+        button->put_LightBorderColor(kLight);
+        button->put_DarkBorderColor(kDark);
+        button.setCaption(L"&Default");
+        ASSERT_TRUE(kit::focus(edit.get()));
+        button.site().extender().offer(L"Default", Variant::ofBool(true));
+    }
+    void setActive(IUnknown* control) { form.object().offer(L"ActiveControl", Variant::ofUnknown(control)); }
+    std::string shows(bool emphasis)
+    {
+        EXPECT_EQ(button->DrawButton(), S_OK);
+        Face face{kFore, kBack, kLight, kDark, emphasis ? 2 : 1};
+        face.caption = L"&Default";
+        face.captionLeft = 1 + 4; // whatever the emphasis
+        return differencesFrom(button, face);
+    }
+    void checkSibling(CLSID const& classId, bool emphasis)
+    {
+        kit::Hosted sibling(library(), classId, form, {20, 80, 140, 120}, L"Sibling");
+        sibling.start();
+        setActive(sibling.object());
+        EXPECT_EQ(shows(emphasis), "") << "as the control itself";
+        setActive(sibling.site().extender().unknown());
+        EXPECT_EQ(shows(emphasis), "") << "as its extender";
+        setActive(nullptr);
+    }
+};
+QV_BOTH_CLASSES(ImageEmphasis);
+
+TEST_P(ImageEmphasis, theDefaultButtonHasItWhileATextBoxHasTheFocus) { EXPECT_EQ(shows(true), ""); }
+
+TEST_P(ImageEmphasis, aButtonThatIsNotDefaultHasNone)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    EXPECT_EQ(shows(false), "");
+    button.site().extender().remove(L"Default");
+    EXPECT_EQ(shows(false), "");
+}
+
+TEST_P(ImageEmphasis, theFocusedButtonHasItAndItShowsWhenTheFocusComesAndGoes)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ASSERT_TRUE(kit::focus(button.window()));
+    kit::pumpPending();
+    Face face{kFore, kBack, kLight, kDark, 2};
+    face.caption = L"&Default";
+    EXPECT_EQ(differencesFrom(button, face), "") << "the focus repaints";
+    ASSERT_TRUE(kit::focus(edit.get()));
+    kit::pumpPending();
+    face.border = 1;
+    EXPECT_EQ(differencesFrom(button, face), "") << "and its loss, too";
+}
+
+TEST_P(ImageEmphasis, theDefaultButtonLosesItToAFlatCommand) { checkSibling(kQvFlatCommandClass, false); }
+
+TEST_P(ImageEmphasis, theDefaultButtonKeepsItWhileAnotherImageCommandHasTheFocus)
+{
+    checkSibling(kQvImageCommandClass, true);
+}
+
+TEST_P(ImageEmphasis, theDefaultButtonKeepsItWhileAToolButtonHasTheFocus)
+{
+    checkSibling(kFlatToolButtonClass, true);
+}
+
+TEST_P(ImageEmphasis, theDefaultButtonLosesItToAHostsOwnButton)
+{
+    auto const hostButton = kit::make<HostControl>();
+    setActive(hostButton->unknown());
+    EXPECT_EQ(shows(false), "");
+    auto const extender = kit::make<kit::NamedObject>("Active", form.sharedRecord());
+    extender->offer(L"Object", Variant::ofUnknown(hostButton->unknown()));
+    setActive(extender->unknown());
+    EXPECT_EQ(shows(false), "") << "inside the extender";
+    setActive(nullptr);
+    extender->removeAll();
+}
+
+TEST_P(ImageEmphasis, theDefaultButtonHasItWhereTheActiveControlCannotBeTold)
+{
+    form.object().refuse(L"ActiveControl", E_FAIL);
+    EXPECT_EQ(shows(true), "");
+    form.object().remove(L"ActiveControl");
+    EXPECT_EQ(shows(true), "");
+    button.site().extender().remove(L"Parent");
+    EXPECT_EQ(shows(true), "");
+}
+
+TEST_P(ImageEmphasis, theDefaultButtonHasNoneAtDesignTime)
+{
+    button.setUserMode(false);
+    EXPECT_EQ(shows(false), "");
+}
+
+TEST_P(ImageEmphasis, goesByTheFormsModeAndNotByActive)
+{
+    ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(shows(true), "");
+}
+
+TEST_P(ImageEmphasis, isTheSameInTheTaskPaneLookAndChangesNoColour)
+{
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    COLORREF const edge = ::GetSysColor(kind().isTool ? COLOR_BTNFACE : COLOR_BTNSHADOW);
+    Face face{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 2};
+    face.caption = L"&Default";
+    EXPECT_EQ(differencesFrom(button, face), "");
+    button.makeHot();
+    COLORREF const selection = ::GetSysColor(COLOR_HIGHLIGHT);
+    face = {::GetSysColor(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 2};
+    face.caption = L"&Default";
+    EXPECT_EQ(differencesFrom(button, face), "");
+}
+
+TEST_P(ImageEmphasis, needsABorder)
+{
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
+    ASSERT_TRUE(kit::focus(button.window()));
+    Face face{kFore, kBack, kLight, kDark, 0};
+    face.caption = L"&Default";
+    EXPECT_EQ(differencesFrom(button, face), "");
+}
+
+} // namespace
+} // namespace quillet::image

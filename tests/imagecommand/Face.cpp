@@ -1,0 +1,106 @@
+// The expected picture of an image button, worked out by hand and painted with plain calls.
+#include "Face.h"
+
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillet::image {
+
+namespace {
+
+int tintOf(int face, int selection, bool deep)
+{
+    double const lift = deep ? (255 - face) * 100 / 255.0 : (255 - selection) * 100 / 255.0 / 2.0;
+    return static_cast<int>(std::nearbyint(lift + (selection + face) / 2.0));
+}
+
+void paintRing(kit::Canvas& canvas, Face const& face, int inset)
+{
+    int const right = canvas.width() - inset;
+    int const bottom = canvas.height() - inset;
+    canvas.fill(inset, inset, right, inset + 1, face.light);
+    canvas.fill(inset, inset, inset + 1, bottom, face.light);
+    // The corners at the top right and the bottom left are dark.
+    canvas.fill(right - 1, inset, right, bottom, face.dark);
+    canvas.fill(inset, bottom - 1, right, bottom, face.dark);
+}
+
+/// Writes one piece of the caption and answers where the next begins.
+int paintPiece(kit::Canvas& canvas, Face const& face, POINT at, std::wstring const& text, IFont& font)
+{
+    RECT const box{at.x, face.border + 1, canvas.width() - face.border - 1,
+                   canvas.height() - face.border - 1};
+    kit::paintText(canvas, box, at, text, kit::handleOf(font), face.fore, face.back);
+    return static_cast<int>(at.x + kit::textSize(kit::handleOf(font), text).cx);
+}
+
+void paintCaption(kit::Canvas& canvas, Face const& face, IFont& font)
+{
+    std::wstring shown = face.caption;
+    size_t const marker = shown.find(L'&');
+    if (marker != std::wstring::npos)
+        shown.erase(marker, 1);
+    SIZE const text = kit::textSize(kit::handleOf(font), shown);
+    POINT at{face.centred ? middle(canvas.width(), text.cx) : face.captionLeft,
+             middle(canvas.height(), text.cy)};
+    at.x += face.offset;
+    at.y += face.offset;
+    auto const plain = kit::copyOf(font, false);
+    if (marker == std::wstring::npos) {
+        paintPiece(canvas, face, at, shown, *plain.get());
+        return;
+    }
+    auto const underlined = kit::copyOf(font, true);
+    at.x = paintPiece(canvas, face, at, shown.substr(0, marker), *plain.get());
+    at.x = paintPiece(canvas, face, at, shown.substr(marker, 1), *underlined.get());
+    paintPiece(canvas, face, at, shown.substr(std::min(marker + 1, shown.size())), *plain.get());
+}
+
+} // namespace
+
+int middle(int space, int length) { return static_cast<int>(std::nearbyint(space / 2.0 - length / 2.0)); }
+
+COLORREF taskPaneTint(bool deep)
+{
+    COLORREF const face = ::GetSysColor(COLOR_BTNFACE);
+    COLORREF const selection = ::GetSysColor(COLOR_HIGHLIGHT);
+    return RGB(tintOf(GetRValue(face), GetRValue(selection), deep),
+               tintOf(GetGValue(face), GetGValue(selection), deep),
+               tintOf(GetBValue(face), GetBValue(selection), deep));
+}
+
+void paint(kit::Canvas& canvas, Face const& face, IFont& font)
+{
+    canvas.fill(face.back);
+    for (int inset = 0; inset < face.border; ++inset)
+        paintRing(canvas, face, inset);
+    paintCaption(canvas, face, font);
+    if (!face.shown)
+        return;
+    Plain const& picture = face.shown->picture;
+    canvas.fill(face.shown->left, face.shown->top, face.shown->left + picture.width,
+                face.shown->top + picture.height, picture.color);
+}
+
+std::string differencesFrom(ImageButton& button, Face const& face)
+{
+    SIZE const size = button.size();
+    kit::Canvas expected(size.cx, size.cy);
+    kit::Canvas shown(size.cx, size.cy);
+    paint(expected, face, *button.font().get());
+    kit::readWindow(button.window(), shown);
+    return kit::differences(expected, shown);
+}
+
+COLORREF pixelAt(ImageButton& button, int x, int y)
+{
+    SIZE const size = button.size();
+    kit::Canvas shown(size.cx, size.cy);
+    kit::readWindow(button.window(), shown);
+    return shown.at(x, y);
+}
+
+} // namespace quillet::image

@@ -1,0 +1,48 @@
+// The expected picture of an image button, worked out by hand and painted with plain calls.
+#pragma once
+
+#include "ImageButton.h"
+#include "Pictures.h"
+#include "kit/Canvas.h"
+
+#include <optional>
+#include <string>
+
+namespace quillet::image {
+
+/// A plain picture and where its top left corner stands.
+struct Shown {
+    Plain picture;
+    int left;
+    int top;
+};
+
+/// What one paint must show.
+struct Face {
+    COLORREF fore;
+    COLORREF back;
+    COLORREF light;
+    COLORREF dark;
+    int border = 1;            ///< pixels, emphasis included; 0 for none
+    std::wstring caption = {}; ///< with its markers
+    int captionLeft = 5;       ///< nothing but a number: the tests say where it comes from
+    bool centred = false;
+    int offset = 0; ///< of the caption, both ways
+    std::optional<Shown> shown = {};
+};
+
+void paint(kit::Canvas& canvas, Face const& face, IFont& font);
+
+/// Empty when the button shows the face; else the pixels that differ.
+std::string differencesFrom(ImageButton& button, Face const& face);
+
+/// The colour of one pixel that the button shows.
+COLORREF pixelAt(ImageButton& button, int x, int y);
+
+/// The tint of the task-pane scheme on the present desktop.
+COLORREF taskPaneTint(bool deep);
+
+/// The middle of the space, halves to the even pixel.
+int middle(int space, int length);
+
+} // namespace quillet::image

@@ -1,0 +1,155 @@
+// The mouse over an image button: entering, leaving, pressing, and which of it repaints.
+#include "Mouse.h"
+#include "kit/Painter.h"
+
+namespace quillet::image {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ImageHover : public ImageInputTest {};
+QV_BOTH_HOSTS(ImageHover);
+
+TEST_P(ImageHover, entersOnceWithTheCaptureAndARepaint)
+{
+    EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_EQ(::GetCapture(), button().window());
+    EXPECT_THAT(button().moveTo(kInsideToo), ElementsAre("MouseMove")) << "inside nothing is repainted";
+}
+
+TEST_P(ImageHover, leavesOnceWithoutTheCaptureAndWithARepaint)
+{
+    button().moveTo(kInside);
+    EXPECT_THAT(button().moveTo(kBeside), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_P(ImageHover, leftButtonPressesAndItsReleaseClicks)
+{
+    button().moveTo(kInside);
+    EXPECT_THAT(button().press(), ElementsAre("Paint", "MouseDown"));
+    EXPECT_THAT(button().moveTo(kInsideToo), ElementsAre("MouseMove"));
+    EXPECT_THAT(button().release(), ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_EQ(::GetCapture(), button().window()) << "hover keeps the capture through a click";
+}
+
+TEST_P(ImageHover, otherButtonsTellAndNeitherPressNorRepaint)
+{
+    button().moveTo(kInside);
+    EXPECT_THAT(button().press(kit::MouseButton::Right), ElementsAre("MouseDown"));
+    EXPECT_THAT(button().release(kit::MouseButton::Right), ElementsAre("MouseUp"));
+    EXPECT_THAT(button().press(kit::MouseButton::Middle), ElementsAre("MouseDown"));
+    EXPECT_THAT(button().release(kit::MouseButton::Middle), ElementsAre("MouseUp"));
+}
+
+TEST_P(ImageHover, aDoubleClickIsDownUpClickDoubleUp)
+{
+    button().moveTo(kInside);
+    Names all = button().press();
+    for (Names const& more :
+         {button().release(), button().during([] { kit::press(kit::MouseButton::Left); }, kDblClick),
+          button().release()})
+        all.insert(all.end(), more.begin(), more.end());
+    std::erase(all, "Paint");
+    EXPECT_THAT(all, ElementsAre("MouseDown", "MouseUp", "Click", "DblClick", "MouseUp"));
+}
+
+// Unlike the flat button, this one leaves even while a mouse button is held.
+TEST_P(ImageHover, draggedOffWhilePressedLeavesAndForgetsThePress)
+{
+    button().moveTo(kInside);
+    button().press();
+    EXPECT_THAT(button().moveTo(kBeside), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    kit::pumpPending();
+}
+
+TEST_P(ImageHover, repaintsEachMoveOfAPressThatLostItsButton)
+{
+    button().moveTo(kInside);
+    button().press();
+    button().events().forget();
+    // A move that says that no button is down, though nobody told of a release.
+    ::SendMessageW(button().window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseMove"));
+    ::SendMessageW(button().window(), WM_MOUSEMOVE, MK_LBUTTON | MK_RBUTTON,
+                   MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseMove")) << "exactly the left one counts";
+    ::SendMessageW(button().window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_THAT(button().happened(), ElementsAre("MouseMove"));
+    button().release();
+}
+
+TEST_P(ImageHover, countsAWindowOnTopEvenAChildAsOutside)
+{
+    auto const child = kit::newEditBox(button().window(), {0, 0, 30, 40});
+    kit::pumpPending();
+    button().moveTo(kInside);
+    EXPECT_THAT(button().moveTo({10, 20}), ElementsAre("MouseExit", "Paint", "MouseMove"));
+}
+
+TEST_P(ImageHover, tellsButtonShiftAndTheTwipsOfThePlace)
+{
+    ::SendMessageW(button().window(), WM_RBUTTONDOWN, MK_RBUTTON | MK_SHIFT | MK_CONTROL, MAKELPARAM(7, 11));
+    auto const& event = button().events().events.back();
+    ASSERT_EQ(event.id, kMouseDown);
+    ASSERT_EQ(event.values.size(), 4U);
+    EXPECT_EQ(event.values[0].toShort(), 2);
+    EXPECT_EQ(event.values[1].toShort(), 3);
+    EXPECT_EQ(event.values[2].get().fltVal, 7 * 15);
+    EXPECT_EQ(event.values[3].get().fltVal, 11 * 15);
+}
+
+TEST_P(ImageHover, ofADisabledButtonIsNothing)
+{
+    ASSERT_EQ(button()->put_Enabled(VARIANT_FALSE), S_OK);
+    kit::pumpPending();
+    button().events().forget();
+    kit::moveCursorTo(button().window(), kInside.x, kInside.y);
+    kit::pumpPending();
+    kit::press(kit::MouseButton::Left);
+    kit::release(kit::MouseButton::Left);
+    kit::pumpPending();
+    for (DISPID const id : button().events().ids())
+        EXPECT_EQ(id, kPaint);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_P(ImageHover, whileNotActiveRaisesNothingAndDoesNotRepaint)
+{
+    ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
+    button().events().forget();
+    for (UINT const message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN})
+        ::SendMessageW(button().window(), message, 0, MAKELPARAM(kInside.x, kInside.y));
+    kit::moveCursorTo(button().window(), kInside.x, kInside.y);
+    kit::pumpPending();
+    EXPECT_THAT(button().happened(), IsEmpty());
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_P(ImageHover, madeInactiveUnderTheCursorGivesTheMouseBackWithoutAWord)
+{
+    button().moveTo(kInside);
+    ASSERT_EQ(::GetCapture(), button().window());
+    button().events().forget();
+    ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_THAT(button().happened(), IsEmpty());
+}
+
+TEST_P(ImageHover, survivesASinkThatClosesTheButtonInEveryEvent)
+{
+    button().events().action = [&](auto const&) {
+        button().events().action = nullptr;
+        query<IOleObject>(button().object())->Close(OLECLOSE_NOSAVE);
+    };
+    kit::moveCursorTo(button().window(), kInside.x, kInside.y);
+    EXPECT_TRUE(kit::pumpUntil([&] { return !button().events().events.empty(); }));
+    kit::pumpPending();
+    EXPECT_EQ(button()->DrawButton(), S_OK);
+}
+
+} // namespace
+} // namespace quillet::image

@@ -1,0 +1,328 @@
+// The looks of both classes, pixel by pixel, in the user's colours and in the task-pane scheme.
+#include "Face.h"
+#include "kit/ByName.h"
+#include "kit/Input.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+
+namespace quillet::image {
+namespace {
+
+// A colour of its own for every property.
+constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
+constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
+constexpr COLORREF kHotFore = RGB(3, 103, 203), kHotBack = RGB(230, 235, 180);
+constexpr COLORREF kHotLight = RGB(4, 104, 204), kHotDark = RGB(5, 105, 205);
+constexpr COLORREF kPressedFore = RGB(6, 106, 206), kPressedBack = RGB(180, 235, 230);
+constexpr COLORREF kPressedLight = RGB(7, 107, 207), kPressedDark = RGB(8, 108, 208);
+constexpr COLORREF kDisabledFore = RGB(9, 109, 209);
+constexpr COLORREF kCheckedBack = RGB(235, 180, 230), kCheckedLight = RGB(11, 111, 211);
+constexpr COLORREF kCheckedDark = RGB(12, 112, 212);
+constexpr COLORREF kUnused = RGB(255, 0, 0);
+
+COLORREF sys(int index) { return ::GetSysColor(index); }
+
+class ImageLooks : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+    UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        button.load();
+        ASSERT_EQ(button->put_OffsetPressed(VARIANT_FALSE), S_OK);
+        button.setCaption(L"&Look");
+    }
+    void setColors()
+    {
+        button->put_ForeColor(kFore);
+        button->put_BackColor(kBack);
+        button->put_LightBorderColor(kLight);
+        button->put_DarkBorderColor(kDark);
+        button->put_HotForeColor(kHotFore);
+        button->put_HotBackColor(kHotBack);
+        button->put_HotLightBorderColor(kHotLight);
+        button->put_HotDarkBorderColor(kHotDark);
+        button->put_PressedForeColor(kPressedFore);
+        button->put_PressedBackColor(kPressedBack);
+        button->put_PressedLightBorderColor(kPressedLight);
+        button->put_PressedDarkBorderColor(kPressedDark);
+        button->put_DisabledForeColor(kDisabledFore);
+        button->put_CheckedBackColor(kCheckedBack);
+        button->put_CheckedLightBorderColor(kCheckedLight);
+        button->put_CheckedDarkBorderColor(kCheckedDark);
+        // None of these is ever drawn.
+        button->put_CheckedForeColor(kUnused);
+        button->put_DisabledLightBorderColor(kUnused);
+        button->put_DisabledDarkBorderColor(kUnused);
+    }
+    void setWidths(short normal, short hot, short pressed)
+    {
+        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(normal).get()), S_OK);
+        EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(hot).get()), S_OK);
+        EXPECT_EQ(button->put_PressedBorderWidth(Variant::ofShort(pressed).get()), S_OK);
+        button.repaint();
+    }
+    void check()
+    {
+        button.makeCheckButton();
+        EXPECT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    }
+    static Face face(COLORREF fore, COLORREF back, COLORREF light, COLORREF dark, int border = 1)
+    {
+        Face result{fore, back, light, dark, border};
+        result.caption = L"&Look";
+        result.captionLeft = border + 4;
+        return result;
+    }
+    void expect(Face const& expected) { EXPECT_EQ(differencesFrom(button, expected), ""); }
+    /// Pressed, the button has the focus: its border is one pixel wider and its caption stays.
+    static Face focused(Face face)
+    {
+        ++face.border;
+        return face;
+    }
+};
+QV_BOTH_CLASSES(ImageLooks);
+
+TEST_P(ImageLooks, ofANewButtonAreThoseOfItsClass)
+{
+    bool const tool = kind().isTool;
+    int const edge = tool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW;
+    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), sys(edge), sys(edge)));
+    button.makeHot();
+    expect(tool
+               ? face(sys(COLOR_HIGHLIGHT), sys(COLOR_BTNFACE), sys(COLOR_BTNHIGHLIGHT), sys(COLOR_BTNSHADOW))
+               : face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_BTNSHADOW), sys(COLOR_3DDKSHADOW),
+                      sys(COLOR_3DDKSHADOW)));
+    button.makePressed();
+    expect(focused(tool ? face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_3DLIGHT), sys(COLOR_BTNHIGHLIGHT),
+                               sys(COLOR_BTNSHADOW))
+                        : face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_3DDKSHADOW), sys(COLOR_3DDKSHADOW),
+                               sys(COLOR_3DDKSHADOW))));
+    button.leave();
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(sys(COLOR_GRAYTEXT), sys(COLOR_BTNFACE), sys(edge), sys(edge)));
+}
+
+TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
+{
+    setColors();
+    setWidths(2, 3, 4);
+    expect(face(kFore, kBack, kLight, kDark, 2));
+    button.makeHot();
+    expect(face(kHotFore, kHotBack, kHotLight, kHotDark, 3));
+    button.makePressed();
+    expect(focused(face(kPressedFore, kPressedBack, kPressedLight, kPressedDark, 4)));
+    button.leave();
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(kDisabledFore, kBack, kLight, kDark, 2));
+    button.makeHot();
+    expect(face(kDisabledFore, kBack, kLight, kDark, 2));
+}
+
+TEST_P(ImageLooks, checkedTakeTheCheckedBordersAndAtRestTheCheckedFace)
+{
+    setColors();
+    check();
+    expect(face(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
+    button.makeHot();
+    expect(face(kHotFore, kHotBack, kCheckedLight, kCheckedDark));
+    button.makePressed();
+    expect(focused(face(kPressedFore, kPressedBack, kCheckedLight, kCheckedDark)));
+    button.leave(); // released over it: not checked any more
+    ASSERT_FALSE(button.isChecked());
+    expect(focused(face(kFore, kBack, kLight, kDark)));
+    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(kDisabledFore, kBack, kCheckedLight, kCheckedDark));
+}
+
+TEST_P(ImageLooks, needBothFlagsToBeChecked)
+{
+    setColors();
+    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    expect(face(kFore, kBack, kLight, kDark));
+    ASSERT_EQ(button->put_Checked(VARIANT_FALSE), S_OK);
+    button.makeCheckButton();
+    expect(face(kFore, kBack, kLight, kDark));
+}
+
+TEST_P(ImageLooks, ofATaskPaneButtonAreTheDesktopsWhateverItsColours)
+{
+    setColors();
+    setWidths(2, 3, 1);
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    COLORREF const selection = sys(COLOR_HIGHLIGHT);
+    // A resting tool button shows no border at all at run time.
+    COLORREF const resting = kind().isTool ? sys(COLOR_BTNFACE) : sys(COLOR_BTNSHADOW);
+    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), resting, resting, 2));
+    button.makeHot();
+    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 3));
+    button.makePressed();
+    expect(focused(face(sys(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    button.leave();
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), sys(COLOR_BTNSHADOW), sys(COLOR_BTNSHADOW), 2));
+}
+
+TEST_P(ImageLooks, ofARestingTaskPaneToolButtonHaveABorderInItsBackColour)
+{
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    ASSERT_EQ(button->put_BackColor(kBack), S_OK);
+    COLORREF const edge = kind().isTool ? kBack : sys(COLOR_BTNSHADOW);
+    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), edge, edge));
+}
+
+TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
+{
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    button.setUserMode(false);
+    button.repaint();
+    COLORREF const edge = kind().isTool ? sys(COLOR_HIGHLIGHT) : sys(COLOR_BTNSHADOW);
+    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), edge, edge));
+}
+
+TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
+{
+    check();
+    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
+    COLORREF const selection = sys(COLOR_HIGHLIGHT);
+    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    button.makeHot();
+    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    button.leave();
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), selection, selection));
+}
+
+TEST_P(ImageLooks, withoutABorderKeepItsWidthForTheCaption)
+{
+    setColors();
+    setWidths(5, 7, 1);
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
+    Face bare = face(kFore, kBack, kLight, kDark, 0);
+    bare.captionLeft = 5 + 4;
+    expect(bare);
+    button.makeHot();
+    bare = face(kHotFore, kHotBack, kHotLight, kHotDark, 0);
+    bare.captionLeft = 7 + 4;
+    expect(bare);
+}
+
+TEST_P(ImageLooks, ofASunkenStyleHaveNoBorder)
+{
+    setColors();
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
+    Face bare = face(kFore, kBack, kLight, kDark, 0);
+    bare.captionLeft = 1 + 4;
+    expect(bare);
+}
+
+TEST_P(ImageLooks, startTheCaptionAtItsIndentOrCentreIt)
+{
+    setColors();
+    for (short const indent : std::initializer_list<short>{0, 30, -3}) {
+        ASSERT_EQ(button->put_CaptionIndent(indent), S_OK);
+        Face expected = face(kFore, kBack, kLight, kDark);
+        expected.captionLeft = 1 + indent;
+        expect(expected);
+    }
+    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    for (wchar_t const* const text : {L"Ce&ntre", L"i", L"&mm", L"And && and", L""}) {
+        button.setCaption(text);
+        Face expected = face(kFore, kBack, kLight, kDark);
+        expected.caption = text;
+        expected.centred = true;
+        expect(expected);
+    }
+}
+
+TEST_P(ImageLooks, cutACaptionThatIsTooLongAtTheBorder)
+{
+    setColors();
+    setWidths(3, 1, 1);
+    button.setCaption(L"A rather &long caption that goes on and on");
+    Face expected = face(kFore, kBack, kLight, kDark, 3);
+    expected.caption = button.caption();
+    expect(expected);
+}
+
+TEST_P(ImageLooks, ofABorderBeyondTheButtonAreThoseOfItsRingsThatCanBeSeen)
+{
+    setColors();
+    SIZE const size = button.size();
+    kit::Canvas all(size.cx, size.cy);
+    kit::Canvas more(size.cx, size.cy);
+    setWidths(static_cast<short>(size.cx + 1), 1, 1);
+    kit::readWindow(button.window(), all);
+    setWidths(32767, 1, 1);
+    kit::readWindow(button.window(), more);
+    EXPECT_EQ(kit::differences(all, more), "");
+    EXPECT_EQ(all.count(kBack), 0);
+}
+
+TEST_P(ImageLooks, doNotChangeWithPropertiesThatAreOnlyStored)
+{
+    setColors();
+    check();
+    Face const before = face(kFore, kCheckedBack, kCheckedLight, kCheckedDark);
+    expect(before);
+    for (wchar_t const* const name :
+         {L"CheckedForeColor", L"DisabledDarkBorderColor", L"DisabledLightBorderColor"}) {
+        ASSERT_EQ(kit::putByName(*button.dual(), name, Variant::ofLong(RGB(0, 255, 0))).result, S_OK);
+        button.repaint();
+        expect(before);
+    }
+    for (VARIANT_BOOL const value : {VARIANT_FALSE, VARIANT_TRUE}) {
+        ASSERT_EQ(button->put_ShowFocusRectangle(value), S_OK);
+        ASSERT_TRUE(kit::focus(button.window()));
+        button.repaint();
+        expect(focused(before));
+        ASSERT_TRUE(kit::focus(edit.get()));
+    }
+}
+
+TEST_P(ImageLooks, ofHotAndPressedPropertiesWaitForTheirState)
+{
+    setColors();
+    Face const resting = face(kFore, kBack, kLight, kDark);
+    button->put_HotBackColor(RGB(9, 99, 199));
+    button.repaint();
+    expect(resting);
+    button.makeHot();
+    expect(face(kHotFore, RGB(9, 99, 199), kHotLight, kHotDark));
+}
+
+TEST_P(ImageLooks, areTheSameInAViewOfTheControl)
+{
+    setColors();
+    SIZE const size = button.size();
+    kit::Canvas shown(size.cx, size.cy);
+    kit::Canvas expected(size.cx, size.cy);
+    RECTL const bounds{0, 0, size.cx, size.cy};
+    ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+    ASSERT_EQ(button.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, shown.dc(),
+                                             &bounds, nullptr, nullptr, 0),
+              S_OK);
+    Face face = this->face(kFore, kBack, kLight, kDark);
+    face.shown = Shown{kImage, 5, middle(size.cy, kImage.height)};
+    face.captionLeft = 5 + kImage.width + 1;
+    paint(expected, face, *button.font().get());
+    EXPECT_EQ(kit::differences(expected, shown), "");
+}
+
+// The worked examples of the blend, so that the expectation above is itself checked.
+TEST(ImageTint, mixesTheDesktopsOwnColours)
+{
+    EXPECT_NE(taskPaneTint(true), taskPaneTint(false));
+    EXPECT_NE(taskPaneTint(false), ::GetSysColor(COLOR_BTNFACE));
+}
+
+} // namespace
+} // namespace quillet::image

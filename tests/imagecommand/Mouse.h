@@ -1,0 +1,158 @@
+// A button in either host, and what the mouse does to it as names of events.
+#pragma once
+
+#include "ImageButton.h"
+#include "kit/AtlHost.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace quillet::image {
+
+using Names = std::vector<std::string>;
+
+constexpr POINT kInside{100, 30};
+constexpr POINT kInsideToo{90, 25};
+constexpr POINT kBeside{160, 20};
+
+inline std::string nameOf(DISPID event)
+{
+    // In their published order, counted from 1.
+    constexpr char const* kNames[] = {"?",        "MouseEnter", "MouseExit", "Paint",  "Click",
+                                      "DblClick", "MouseDown",  "MouseMove", "MouseUp"};
+    return kNames[event > 0 && event < 9 ? event : 0];
+}
+
+enum class HostKind { Form, AtlAxWin };
+
+/// A running button with the focus in one of the hosts, its events recorded.
+class HostedButton {
+public:
+    HostedButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind, HostKind host)
+        : m_events(kit::make<kit::EventRecorder>(kind.eventsId))
+    {
+        auto const bag = kit::make<kit::FakeBag>();
+        if (host == HostKind::Form) {
+            m_hosted = std::make_unique<kit::Hosted>(library, kind.classId, form, kPlace);
+            m_object = m_hosted->object();
+            m_hosted->start(*bag.get());
+        } else {
+            m_object = library.create(kind.classId);
+            EXPECT_EQ(query<IPersistPropertyBag>(m_object.get())->Load(bag.get(), nullptr), S_OK);
+            m_atl = std::make_unique<kit::AtlHost>(form.window(), kPlace);
+            EXPECT_EQ(m_atl->attach(m_object.get()), S_OK);
+        }
+        m_dual = query<_qvImageCommand>(m_object.get(), kind.interfaceId);
+        m_connection = std::make_unique<kit::Connection>(m_object.get(), kind.eventsId, m_events->unknown());
+        query<IOleWindow>(m_object.get())->GetWindow(&m_window);
+        kit::pumpPending();
+        EXPECT_TRUE(kit::focus(m_window));
+        kit::pumpPending();
+        m_events->forget();
+    }
+    ~HostedButton()
+    {
+        m_connection.reset();
+        m_dual.reset();
+        if (m_hosted)
+            m_hosted->remove();
+        if (m_atl)
+            m_atl->destroy();
+    }
+    HostedButton(HostedButton const&) = delete;
+    HostedButton& operator=(HostedButton const&) = delete;
+
+    _qvImageCommand* operator->() const noexcept { return m_dual.get(); }
+    HWND window() const noexcept { return m_window; }
+    IUnknown* object() const noexcept { return m_object.get(); }
+    kit::EventRecorder& events() noexcept { return *m_events.get(); }
+
+    bool isChecked() const
+    {
+        VARIANT_BOOL checked = 0x55;
+        EXPECT_EQ(m_dual->get_Checked(&checked), S_OK);
+        return checked != VARIANT_FALSE;
+    }
+    int count(DISPID event) const { return m_events->count(event); }
+    /// The names of the events since the last time; moves that follow each other stand as one.
+    Names happened()
+    {
+        Names names;
+        for (DISPID const id : m_events->ids())
+            names.push_back(nameOf(id));
+        m_events->forget();
+        auto const both = [](auto const& a, auto const& b) { return a == "MouseMove" && b == "MouseMove"; };
+        names.erase(std::ranges::unique(names, both).begin(), names.end());
+        return names;
+    }
+    /// What happened from the act until the last event came and nothing more was to come.
+    Names during(std::function<void()> const& act, DISPID last)
+    {
+        kit::pumpPending();
+        m_events->forget();
+        act();
+        EXPECT_TRUE(kit::pumpUntil([&] { return count(last) > 0; })) << nameOf(last) << " did not come";
+        kit::pumpPending();
+        return happened();
+    }
+    Names moveTo(POINT at)
+    {
+        return during([&] { kit::moveCursorTo(m_window, at.x, at.y); }, kMouseMove);
+    }
+    Names press(kit::MouseButton which = kit::MouseButton::Left)
+    {
+        return during([&] { kit::press(which); }, kMouseDown);
+    }
+    Names release(kit::MouseButton which = kit::MouseButton::Left)
+    {
+        return during([&] { kit::release(which); }, kMouseUp);
+    }
+
+private:
+    ComPtr<IUnknown> m_object;
+    std::unique_ptr<kit::Hosted> m_hosted;
+    std::unique_ptr<kit::AtlHost> m_atl;
+    ComPtr<_qvImageCommand> m_dual;
+    ComPtr<kit::EventRecorder> m_events;
+    std::unique_ptr<kit::Connection> m_connection;
+    HWND m_window = nullptr;
+};
+
+/// Runs for both classes in both hosts.
+class ImageInputTest : public kit::ControlTest,
+                       public testing::WithParamInterface<std::tuple<Kind const*, HostKind>> {
+protected:
+    kit::FakeForm form;
+    std::unique_ptr<HostedButton> m_button;
+    HostedButton& button() { return *m_button; }
+
+    void SetUp() override
+    {
+        ControlTest::SetUp();
+        m_button = std::make_unique<HostedButton>(library(), form, *std::get<0>(GetParam()),
+                                                  std::get<1>(GetParam()));
+    }
+    void TearDown() override
+    {
+        kit::release(kit::MouseButton::Left);
+        kit::release(kit::MouseButton::Right);
+        EXPECT_TRUE(kit::moveCursorAway());
+        kit::pumpPending();
+        m_button.reset();
+        ::ReleaseCapture();
+    }
+};
+
+#define QV_BOTH_HOSTS(Suite)                                                                                 \
+    INSTANTIATE_TEST_SUITE_P(In, Suite,                                                                      \
+                             testing::Combine(testing::Values(&imageCommand(), &toolButton()),               \
+                                              testing::Values(HostKind::Form, HostKind::AtlAxWin)),          \
+                             [](auto const& tested) {                                                        \
+                                 bool const atl = std::get<1>(tested.param) == HostKind::AtlAxWin;           \
+                                 return std::string(std::get<0>(tested.param)->name) +                       \
+                                        (atl ? "AtlAxWin" : "Form");                                         \
+                             })
+
+} // namespace quillet::image

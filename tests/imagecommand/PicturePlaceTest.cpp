@@ -1,0 +1,172 @@
+// Where the picture stands, and the caption beside it, to the pixel.
+#include "Face.h"
+#include "kit/ByName.h"
+#include "kit/Fonts.h"
+#include "kit/Pump.h"
+
+namespace quillet::image {
+namespace {
+
+constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
+constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
+constexpr int kMargin = 4;
+constexpr int kGap = 1;
+
+class ImagePicturePlace : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        button.load();
+        button->put_ForeColor(kFore);
+        button->put_BackColor(kBack);
+        button->put_LightBorderColor(kLight);
+        button->put_DarkBorderColor(kDark);
+        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+    }
+    void setCaption(wchar_t const* text) { button.setCaption(text); }
+    void resize(int width, int height)
+    {
+        button.site().position = {20, 30, 20 + width, 30 + height};
+        ASSERT_EQ(
+            button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+            S_OK);
+        kit::pumpPending();
+    }
+    Face face(int border = 1) const { return {kFore, kBack, kLight, kDark, border}; }
+    /// The picture stands there, and the caption, if there is one, beside it.
+    void expectAt(int left, int top, Plain const& picture = kImage, int border = 1)
+    {
+        Face expected = face(border);
+        expected.caption = button.caption();
+        expected.captionLeft = left + picture.width + kGap;
+        expected.shown = Shown{picture, left, top};
+        EXPECT_EQ(differencesFrom(button, expected), "");
+    }
+};
+QV_BOTH_CLASSES(ImagePicturePlace);
+
+TEST_P(ImagePicturePlace, withoutCaptionIsTheMiddle) { expectAt((120 - 16) / 2, (40 - 12) / 2); }
+
+// At 96 dots an inch half a pixel is 7.5 twips; rounded down to 7 it is less than half a pixel.
+TEST_P(ImagePicturePlace, withoutCaptionRoundsHalvesDown)
+{
+    resize(121, 41);
+    expectAt(52, 14);
+    resize(123, 43);
+    expectAt(53, 15);
+    resize(119, 39);
+    expectAt(51, 13);
+}
+
+TEST_P(ImagePicturePlace, besideACaptionIsFourPixelsInsideTheBorderAndInTheMiddle)
+{
+    setCaption(L"&Open");
+    expectAt(1 + kMargin, (40 - 12) / 2);
+}
+
+TEST_P(ImagePicturePlace, besideACaptionRoundsHalvesToTheEvenPixel)
+{
+    setCaption(L"&Open");
+    for (int height = 38; height < 46; ++height) {
+        resize(120, height);
+        expectAt(1 + kMargin, middle(height, 12));
+    }
+}
+
+TEST_P(ImagePicturePlace, besideACaptionGoesByTheNormalBorderWhateverTheLook)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
+    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(9).get()), S_OK);
+    expectAt(3 + kMargin, 14, kImage, 3);
+    button->put_HotForeColor(kFore);
+    button->put_HotBackColor(kBack);
+    button->put_HotLightBorderColor(kLight);
+    button->put_HotDarkBorderColor(kDark);
+    button.makeHot();
+    expectAt(3 + kMargin, 14, kImage, 9);
+    button.leave();
+}
+
+TEST_P(ImagePicturePlace, besideACaptionIgnoresTheIndent)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->put_CaptionIndent(30), S_OK);
+    expectAt(1 + kMargin, 14);
+}
+
+TEST_P(ImagePicturePlace, withoutABorderIsFourPixelsFromTheEdge)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
+    expectAt(kMargin, 14, kImage, 0);
+}
+
+TEST_P(ImagePicturePlace, countsTheStyleAsAFactor)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
+    expectAt(2 * 5 + kMargin, 14, kImage, 0);
+}
+
+TEST_P(ImagePicturePlace, leavesACentredCaptionWhereItIs)
+{
+    setCaption(L"&Go");
+    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    Face expected = face();
+    expected.caption = L"&Go";
+    expected.centred = true;
+    expected.shown = Shown{kImage, 1 + kMargin, 14};
+    EXPECT_EQ(differencesFrom(button, expected), "");
+}
+
+TEST_P(ImagePicturePlace, liesOverTheCaption)
+{
+    setCaption(L"MMMMMMMMMMMMMMMMMMMMMMMM");
+    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    Face expected = face();
+    expected.caption = button.caption();
+    expected.centred = true;
+    expected.shown = Shown{kImage, 1 + kMargin, 14};
+    EXPECT_EQ(differencesFrom(button, expected), "");
+}
+
+TEST_P(ImagePicturePlace, withoutCaptionButAutoSizedIsTheMiddle)
+{
+    ASSERT_EQ(button->put_AutoSizeWidth(VARIANT_TRUE), S_OK);
+    expectAt((120 - 16) / 2, (40 - 12) / 2);
+}
+
+TEST_P(ImagePicturePlace, followsTheShownPicturesOwnSize)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->putref_DisabledImage(pictureOf({30, 20, RGB(1, 250, 250)}).get()), S_OK);
+    button->put_DisabledForeColor(kFore);
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expectAt(1 + kMargin, 10, {30, 20, RGB(1, 250, 250)});
+}
+
+TEST_P(ImagePicturePlace, isCutAtTheEdgeWhereThePictureIsTooLarge)
+{
+    Plain const large{200, 90, RGB(1, 250, 1)};
+    ASSERT_EQ(button->putref_Image(pictureOf(large).get()), S_OK);
+    expectAt((120 - 200) / 2, (40 - 90) / 2, large);
+}
+
+TEST_P(ImagePicturePlace, overflowsWhereTheBorderDoes)
+{
+    setCaption(L"&Open");
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(2).get()), S_OK);
+    kit::Called const put = kit::putByName(*button.dual(), L"BorderStyle", Variant::ofLong(0x7FFFFFFF));
+    EXPECT_EQ(put.result == DISP_E_EXCEPTION ? put.code : put.result, static_cast<HRESULT>(0x800A0006));
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Fixed), S_OK);
+    expectAt(2 + kMargin, 14, kImage, 2);
+}
+
+} // namespace
+} // namespace quillet::image

@@ -1,0 +1,201 @@
+// Which pictures the four picture properties take, and how they refuse the others.
+#include "Pictures.h"
+#include "SavedRows.h"
+#include "kit/ByName.h"
+#include "kit/Fonts.h"
+#include "kit/Pump.h"
+
+#include <optional>
+#include <thread>
+
+namespace quillet::image {
+namespace {
+
+using testing::IsEmpty;
+
+constexpr HRESULT kInvalidPicture = static_cast<HRESULT>(0x800A01E1); // 481
+constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
+
+using Get = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp**);
+using Put = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp*);
+
+struct PictureRow {
+    wchar_t const* name;
+    Get get;
+    Put put;
+    wchar_t const* refusal;
+};
+
+using B = _qvImageCommand;
+PictureRow const kRows[] = {
+    {L"Image", &B::get_Image, &B::putref_Image,
+     L"Only icons and bitmaps may be assigned to the Image property."},
+    {L"DisabledImage", &B::get_DisabledImage, &B::putref_DisabledImage,
+     L"Only icons may be assigned to the DisabledImage property."},
+    {L"HotImage", &B::get_HotImage, &B::putref_HotImage,
+     L"Only icons may be assigned to the HotImage property."},
+    {L"PressedImage", &B::get_PressedImage, &B::putref_PressedImage,
+     L"Only icons may be assigned to the PressedImage property."},
+};
+
+/// What a message box said.
+struct Said {
+    std::wstring text;
+    bool exclamation = false;
+    bool onlyOk = false;
+};
+
+constexpr WORD kBoxIcon = 20; // the dialog's item with the icon, and the text beside it
+constexpr WORD kBoxText = 0xFFFF;
+
+BOOL CALLBACK findBox(HWND window, LPARAM found)
+{
+    wchar_t name[16];
+    ::GetClassNameW(window, name, 16);
+    if (std::wstring(name) != L"#32770")
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+/// Reads the message box that opens while body runs, and closes it.
+class BoxReader {
+public:
+    BoxReader() : m_timer(::SetTimer(nullptr, 0, 20, &BoxReader::look)) { s_said.reset(); }
+    ~BoxReader() { ::KillTimer(nullptr, m_timer); }
+    BoxReader(BoxReader const&) = delete;
+    BoxReader& operator=(BoxReader const&) = delete;
+
+    std::optional<Said> const& said() const { return s_said; }
+
+private:
+    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
+    {
+        HWND box = nullptr;
+        ::EnumThreadWindows(::GetCurrentThreadId(), findBox, reinterpret_cast<LPARAM>(&box));
+        if (!box || s_said)
+            return;
+        Said said;
+        wchar_t text[200]{};
+        ::GetDlgItemTextW(box, kBoxText, text, 200);
+        said.text = text;
+        auto const icon = reinterpret_cast<HICON>(::SendDlgItemMessageW(box, kBoxIcon, STM_GETICON, 0, 0));
+        if (!icon) { // some systems number it like the text
+            for (HWND item = ::GetWindow(box, GW_CHILD); item; item = ::GetWindow(item, GW_HWNDNEXT))
+                if (auto const own = reinterpret_cast<HICON>(::SendMessageW(item, STM_GETICON, 0, 0)))
+                    said.exclamation =
+                        own == ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_EXCLAMATION));
+        } else {
+            said.exclamation = icon == ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_EXCLAMATION));
+        }
+        said.onlyOk = ::GetDlgItem(box, IDOK) && !::GetDlgItem(box, IDCANCEL) && !::GetDlgItem(box, IDNO);
+        s_said = said;
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+        ::EndDialog(box, IDOK);
+    }
+
+    static std::optional<Said> s_said;
+    UINT_PTR m_timer;
+};
+std::optional<Said> BoxReader::s_said;
+
+class ImagePictureSetters : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        button.load();
+        button.forget();
+    }
+    ComPtr<IPictureDisp> stored(PictureRow const& row)
+    {
+        ComPtr<IPictureDisp> picture;
+        EXPECT_EQ((button.dual()->*row.get)(picture.put()), S_OK);
+        return picture;
+    }
+    HRESULT assign(PictureRow const& row, IPictureDisp* picture)
+    {
+        return (button.dual()->*row.put)(picture);
+    }
+    void expectNothingHappened()
+    {
+        EXPECT_THAT(button.changes().take(), IsEmpty());
+        EXPECT_EQ(button.paints(), 0);
+    }
+};
+QV_BOTH_CLASSES(ImagePictureSetters);
+
+TEST_P(ImagePictureSetters, takeBitmapsAndIconsAndKeepTheVeryObject)
+{
+    for (PictureRow const& row : kRows)
+        for (auto const& picture : {pictureOf(kImage), kit::newIconPicture()}) {
+            EXPECT_EQ(assign(row, picture.get()), S_OK) << kit::narrow(row.name);
+            EXPECT_EQ(stored(row).get(), picture.get()) << kit::narrow(row.name);
+        }
+}
+
+TEST_P(ImagePictureSetters, refuseOthersWithError481InUserModeAndKeepWhatTheyHad)
+{
+    for (PictureRow const& row : kRows) {
+        auto const before = pictureOf(kImage);
+        ASSERT_EQ(assign(row, before.get()), S_OK);
+        button.forget();
+        for (auto const& refused :
+             {emptyPicture(), unloadedPicture(), metafilePicture(), ComPtr<IPictureDisp>()}) {
+            EXPECT_EQ(assign(row, refused.get()), kInvalidPicture) << kit::narrow(row.name);
+            EXPECT_EQ(stored(row).get(), before.get()) << kit::narrow(row.name);
+        }
+        expectNothingHappened();
+    }
+}
+
+TEST_P(ImagePictureSetters, sayInvalidPictureToScripts)
+{
+    kit::Called const put = kit::setByName(*button.dual(), L"Image", emptyPicture().get());
+    EXPECT_EQ(put.result, DISP_E_EXCEPTION);
+    EXPECT_EQ(put.code, kInvalidPicture);
+    EXPECT_EQ(put.description, L"Invalid picture");
+}
+
+TEST_P(ImagePictureSetters, refuseWhatIsNoPictureAtAll)
+{
+    EXPECT_TRUE(FAILED(kit::setByName(*button.dual(), L"Image", kit::newFont(L"Tahoma", 9).get()).result));
+    auto const bag = kit::make<kit::FakeBag>();
+    bag->put(L"Image", Variant::ofUnknown(kit::newFont(L"Tahoma", 9).get()));
+    EXPECT_EQ(button.Hosted::load(*bag.get()), kTypeMismatch);
+}
+
+TEST_P(ImagePictureSetters, atDesignTimeTellTheDesignerAndKeepWhatTheyHad)
+{
+    for (PictureRow const& row : kRows) {
+        auto const before = pictureOf(kImage);
+        ASSERT_EQ(assign(row, before.get()), S_OK);
+        button.setUserMode(false);
+        button.forget();
+        // A box takes seconds where there is no window manager: each property gets one of both.
+        auto const refused = &row == kRows ? metafilePicture() : emptyPicture();
+        BoxReader const box;
+        EXPECT_EQ(assign(row, refused.get()), S_OK) << kit::narrow(row.name);
+        ASSERT_TRUE(box.said()) << kit::narrow(row.name);
+        EXPECT_EQ(box.said()->text, row.refusal);
+        EXPECT_TRUE(box.said()->exclamation);
+        EXPECT_TRUE(box.said()->onlyOk);
+        EXPECT_EQ(stored(row).get(), before.get()) << kit::narrow(row.name);
+        expectNothingHappened();
+        button.setUserMode(true);
+    }
+}
+
+TEST_P(ImagePictureSetters, tellTheUserInsteadOfTheProgramWhileActiveIsFalse)
+{
+    ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
+    BoxReader const box;
+    EXPECT_EQ(assign(kRows[2], emptyPicture().get()), S_OK);
+    ASSERT_TRUE(box.said());
+    EXPECT_EQ(box.said()->text, kRows[2].refusal);
+}
+
+} // namespace
+} // namespace quillet::image

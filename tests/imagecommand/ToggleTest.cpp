@@ -1,0 +1,131 @@
+// Check buttons: what turns them on and off, to the exact edge.
+#include "Mouse.h"
+
+namespace quillet::image {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ImageToggle : public ImageInputTest {
+protected:
+    void SetUp() override
+    {
+        ImageInputTest::SetUp();
+        ASSERT_EQ(button()->put_CheckButton(VARIANT_TRUE), S_OK);
+        button().events().forget();
+    }
+    /// Whether a release of the left button there turns the button over.
+    bool togglesAt(int x, int y)
+    {
+        bool const before = button().isChecked();
+        ::SendMessageW(button().window(), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+        return button().isChecked() != before;
+    }
+};
+QV_BOTH_HOSTS(ImageToggle);
+
+TEST_P(ImageToggle, aClickTurnsItOnAndTheNextOff)
+{
+    button().moveTo(kInside);
+    button().press();
+    EXPECT_FALSE(button().isChecked());
+    EXPECT_THAT(button().release(), ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_TRUE(button().isChecked());
+    button().moveTo({40, 10}); // too far from the first press for a double click
+    button().press();
+    button().release();
+    EXPECT_FALSE(button().isChecked());
+}
+
+TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
+{
+    button().moveTo(kInside);
+    button().press();
+    bool checked = false;
+    button().events().action = [&](auto const& event) {
+        if (event.id == kMouseUp)
+            checked = button().isChecked();
+    };
+    button().release();
+    button().events().action = nullptr;
+    EXPECT_TRUE(checked);
+}
+
+TEST_P(ImageToggle, countsTheRightAndTheBottomEdgeAsInside)
+{
+    int const right = kPlace.right - kPlace.left;
+    int const bottom = kPlace.bottom - kPlace.top;
+    EXPECT_TRUE(togglesAt(right, bottom / 2));
+    EXPECT_TRUE(togglesAt(right / 2, bottom));
+    EXPECT_TRUE(togglesAt(right, bottom));
+    EXPECT_FALSE(togglesAt(right + 1, bottom / 2));
+    EXPECT_FALSE(togglesAt(right / 2, bottom + 1));
+}
+
+TEST_P(ImageToggle, countsTheLeftAndTheTopEdgeAsInside)
+{
+    EXPECT_TRUE(togglesAt(0, 0));
+    EXPECT_TRUE(togglesAt(0, 20));
+    EXPECT_TRUE(togglesAt(60, 0));
+    EXPECT_FALSE(togglesAt(-1, 20));
+    EXPECT_FALSE(togglesAt(60, -1));
+}
+
+TEST_P(ImageToggle, aReleaseOutsideClearsThePressAndRepaints)
+{
+    button().moveTo(kInside);
+    button().press();
+    button().events().forget();
+    ::SendMessageW(button().window(), WM_LBUTTONUP, 0, MAKELPARAM(-5, 20));
+    EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseUp")) << "and no Click";
+    EXPECT_FALSE(button().isChecked());
+    ::SendMessageW(button().window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_THAT(button().happened(), ElementsAre("MouseMove")) << "it is still pressed";
+}
+
+TEST_P(ImageToggle, happensWithoutAChangeOfProperties)
+{
+    auto const changes = kit::make<kit::ChangeRecorder>();
+    kit::Connection const connection(button().object(), __uuidof(IPropertyNotifySink), changes->unknown());
+    EXPECT_TRUE(togglesAt(60, 20));
+    EXPECT_THAT(changes->take(), IsEmpty());
+}
+
+TEST_P(ImageToggle, otherButtonsNever)
+{
+    for (UINT const message : {WM_RBUTTONUP, WM_MBUTTONUP})
+        ::SendMessageW(button().window(), message, 0, MAKELPARAM(60, 20));
+    EXPECT_FALSE(button().isChecked());
+}
+
+TEST_P(ImageToggle, notWithoutCheckButton)
+{
+    ASSERT_EQ(button()->put_CheckButton(VARIANT_FALSE), S_OK);
+    EXPECT_FALSE(togglesAt(60, 20));
+}
+
+TEST_P(ImageToggle, notWhileNotActive)
+{
+    ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
+    EXPECT_FALSE(togglesAt(60, 20));
+}
+
+TEST_P(ImageToggle, byCodeRaisesNoEventButPaint)
+{
+    ASSERT_EQ(button()->put_Checked(VARIANT_TRUE), S_OK);
+    EXPECT_THAT(button().happened(), ElementsAre("Paint"));
+}
+
+TEST_P(ImageToggle, aSecondPressInQuickSuccessionTurnsItBack)
+{
+    button().moveTo(kInside);
+    button().press();
+    button().release();
+    button().during([] { kit::press(kit::MouseButton::Left); }, kDblClick);
+    button().release();
+    EXPECT_FALSE(button().isChecked());
+}
+
+} // namespace
+} // namespace quillet::image

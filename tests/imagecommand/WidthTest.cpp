@@ -1,0 +1,181 @@
+// The width that follows picture and caption, to the twip, and the ways it reaches the container.
+#include "Face.h"
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+
+namespace quillet::image {
+namespace {
+
+constexpr int kTwips = 15; // of one pixel, at 96 dots an inch
+
+class ImageWidth : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        WindowDc const screen(nullptr);
+        ASSERT_EQ(::GetDeviceCaps(screen.get(), LOGPIXELSX), 96);
+        button.load();
+        ASSERT_EQ(button->put_AutoSizeWidth(VARIANT_TRUE), S_OK);
+    }
+    double width()
+    {
+        Variant const value = button.site().extender().value(L"Width");
+        return value.convertedTo(VT_R8).get().dblVal;
+    }
+    int textWidth(wchar_t const* text, IFont& font)
+    {
+        return static_cast<int>(kit::textSize(kit::handleOf(font), text).cx);
+    }
+    int textWidth(wchar_t const* text) { return textWidth(text, *button.font().get()); }
+    void setImage() { ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK); }
+};
+QV_BOTH_CLASSES(ImageWidth);
+
+TEST_P(ImageWidth, ofACaptionIsIndentTextThreePixelsAndBothBorders)
+{
+    button.setCaption(L"&Save as");
+    EXPECT_EQ(width(), (4 + textWidth(L"Save as") + 3 + 2) * kTwips);
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
+    EXPECT_EQ(width(), (4 + textWidth(L"Save as") + 3 + 10) * kTwips);
+}
+
+TEST_P(ImageWidth, losesOnlyTheFirstMarker)
+{
+    button.setCaption(L"A&B&C");
+    EXPECT_EQ(width(), (4 + textWidth(L"AB&C") + 3 + 2) * kTwips);
+}
+
+TEST_P(ImageWidth, ofPictureAndCaptionTakesThePictureForTheIndentAndTwoPixelsMore)
+{
+    button.setCaption(L"&Save as");
+    setImage();
+    EXPECT_EQ(width(), (16 + textWidth(L"Save as") + 3 + 2 + 2) * kTwips);
+    ASSERT_EQ(button->put_CaptionIndent(40), S_OK);
+    button.setCaption(L"&Save as");
+    EXPECT_EQ(width(), (16 + textWidth(L"Save as") + 3 + 2 + 2) * kTwips) << "the indent is not looked at";
+}
+
+TEST_P(ImageWidth, isFilledExactlyByPictureGapAndCaption)
+{
+    button.site().extender().onWrite(L"Width", [&](Variant const& value) {
+        button.site().position.right = button.site().position.left + value.toLong() / kTwips;
+        button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip);
+    });
+    setImage();
+    button.setCaption(L"WWW");
+    kit::pumpPending();
+    Face face{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), 0, 0};
+    OLE_COLOR light = 0;
+    button->get_LightBorderColor(&light);
+    face.light = face.dark = ::GetSysColor(static_cast<int>(light & 0xFF));
+    face.caption = L"WWW";
+    face.captionLeft = 1 + 4 + 16 + 1;
+    face.shown = Shown{kImage, 5, 14};
+    EXPECT_EQ(button.size().cx, face.captionLeft + textWidth(L"WWW") + 1);
+    EXPECT_EQ(differencesFrom(button, face), "");
+    button.site().extender().onWrite(L"Width", {});
+}
+
+TEST_P(ImageWidth, ofAPictureAloneHasNoThreePixels)
+{
+    setImage();
+    EXPECT_EQ(width(), (16 + 0 + 2 + 2) * kTwips);
+}
+
+TEST_P(ImageWidth, ofNothingIsTheIndentAndTheBorders)
+{
+    button.setCaption(L"");
+    EXPECT_EQ(width(), (4 + 2) * kTwips);
+}
+
+TEST_P(ImageWidth, leavesTheBordersOutWhereThereIsNoStyleAndCountsThemForAnyStyle)
+{
+    button.setCaption(L"Wide");
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
+    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3) * kTwips);
+    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
+    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3 + 2) * kTwips);
+}
+
+TEST_P(ImageWidth, takesTheWiderOfBothFonts)
+{
+    auto const large = kit::newFont(L"Tahoma", 20, true);
+    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
+    button.setCaption(L"Wide");
+    ASSERT_GT(textWidth(L"Wide", *large.get()), textWidth(L"Wide"));
+    EXPECT_EQ(width(), (4 + textWidth(L"Wide", *large.get()) + 3 + 2) * kTwips);
+    auto const small = kit::newFont(L"Tahoma", 5);
+    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(small.get()).get()), S_OK);
+    button.setCaption(L"Wide");
+    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3 + 2) * kTwips);
+}
+
+TEST_P(ImageWidth, goesByTheNormalPictureAndBorderInEveryLook)
+{
+    setImage();
+    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(20).get()), S_OK);
+    ASSERT_EQ(button->putref_HotImage(pictureOf({40, 10, RGB(1, 1, 1)}).get()), S_OK);
+    button.makeHot();
+    ASSERT_EQ(button->put_PressedBorderWidth(Variant::ofShort(9).get()), S_OK);
+    EXPECT_EQ(width(), (16 + 2 + 2) * kTwips);
+    EXPECT_EQ(pixelAt(button, 60, 20), RGB(1, 1, 1)) << "measuring must not leave the other picture shown";
+    button.leave();
+}
+
+TEST_P(ImageWidth, staysStaleAfterTheIndentUntilSomethingMeasures)
+{
+    button.setCaption(L"Wide");
+    double const before = width();
+    ASSERT_EQ(button->put_CaptionIndent(20), S_OK);
+    EXPECT_EQ(width(), before);
+    button.setCaption(L"Wide");
+    EXPECT_EQ(width(), before + 16 * kTwips);
+}
+
+TEST_P(ImageWidth, asksTheSiteWhereThereIsNoExtender)
+{
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    form.record().forget();
+    button.setCaption(L"Wide");
+    int const right = 20 + 4 + textWidth(L"Wide") + 3 + 2;
+    EXPECT_EQ(form.record().count("Site.OnPosRectChange(20,30," + std::to_string(right) + ",70)"), 1);
+    EXPECT_EQ(button.size().cx, right - 20);
+}
+
+TEST_P(ImageWidth, asksTheSiteWhereTheExtenderHasNoWidthOrRefusesIt)
+{
+    button.site().extender().remove(L"Width");
+    form.record().forget();
+    button.setCaption(L"Wide");
+    EXPECT_EQ(form.record().countFrom("Site.OnPosRectChange"), 1);
+    button.site().extender().refuse(L"Width", E_ACCESSDENIED);
+    button.setCaption(L"Wider still");
+    EXPECT_EQ(form.record().countFrom("Site.OnPosRectChange"), 2);
+    EXPECT_EQ(button.size().cx, 4 + textWidth(L"Wider still") + 3 + 2);
+}
+
+TEST_P(ImageWidth, livesWithASiteThatRefuses)
+{
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    form.record().answer("Site.OnPosRectChange", E_NOTIMPL);
+    button.setCaption(L"Wide");
+    EXPECT_EQ(button.size().cx, 120);
+}
+
+TEST_P(ImageWidth, changesTheOwnExtentBeforeActivation)
+{
+    ImageButton lonely(library(), form, kind(), {20, 80, 140, 120}, L"Lonely");
+    lonely->put_AutoSizeWidth(VARIANT_TRUE);
+    lonely.setCaption(L"Wide");
+    SIZEL extent{};
+    ASSERT_EQ(lonely.as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    int const twips = (4 + textWidth(L"Wide", *lonely.font().get()) + 3 + 2) * kTwips;
+    EXPECT_EQ(extent.cx, ::MulDiv(twips, 2540, 1440));
+}
+
+} // namespace
+} // namespace quillet::image
