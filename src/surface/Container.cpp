@@ -28,6 +28,19 @@ ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept
     });
 }
 
+ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept
+{
+    auto const object = query<IOleObject>(controlInterface(control, IID_IOleObject).get());
+    ComPtr<IOleClientSite> site;
+    if (object)
+        object->GetClientSite(site.put());
+    auto const controlSite = site.as<IOleControlSite>();
+    ComPtr<IDispatch> found;
+    if (controlSite && SUCCEEDED(controlSite->GetExtendedControl(found.put())) && found)
+        return found;
+    return query<IDispatch>(control);
+}
+
 void Container::setSite(IOleClientSite* site) noexcept
 {
     m_site = site;
@@ -86,6 +99,11 @@ Variant Container::extenderProperty(wchar_t const* name) const noexcept
 Variant Container::requiredExtenderProperty(wchar_t const* name) const
 {
     return propertyByName(extender().get(), name);
+}
+
+void Container::setExtenderProperty(wchar_t const* name, Variant const& value) const noexcept
+{
+    ignoringErrors([&] { putPropertyByName(extender().get(), name, value); });
 }
 
 ComPtr<IUnknown> Container::activeControl() const noexcept

@@ -16,6 +16,10 @@ namespace quillet {
 /// an extender that does not answer for it but hands it out. Empty when neither has it.
 ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept;
 
+/// The object that a container put round a control that it handed out, as the control's own site tells it;
+/// where it tells none, what was handed out.
+ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept;
+
 /// Answers of a container that may offer anything or nothing; a missing feature has a plain answer.
 class Container {
 public:
@@ -39,6 +43,8 @@ public:
     Variant extenderProperty(wchar_t const* name) const noexcept;
     /// The same, but a failure is the extender's own; ObjectNotSet where there is no extender.
     Variant requiredExtenderProperty(wchar_t const* name) const;
+    /// Writes a property of the extender. Nothing happens where there is no extender or no such property.
+    void setExtenderProperty(wchar_t const* name, Variant const& value) const noexcept;
     /// The control of the same form that has the focus; empty where the container does not say.
     ComPtr<IUnknown> activeControl() const noexcept;
 

@@ -38,6 +38,16 @@ Variant propertyByName(IDispatch* object, wchar_t const* name)
     return propertyById(object, identifierOf(object, name));
 }
 
+void putPropertyByName(IDispatch* object, wchar_t const* name, Variant const& value)
+{
+    DISPID const id = identifierOf(object, name);
+    Variant argument = value;
+    DISPID named = DISPID_PROPERTYPUT;
+    DISPPARAMS arguments = {argument.address(), &named, 1, 1};
+    check(object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr,
+                         nullptr, nullptr));
+}
+
 Variant itemByIndex(IDispatch* collection, long index)
 {
     DISPID const id = identifierOf(collection, L"Item");

@@ -12,6 +12,9 @@ namespace quillet {
 /// Reads a property by name. Throws the object's error; ObjectNotSet for no object.
 Variant propertyByName(IDispatch* object, wchar_t const* name);
 
+/// Writes a property by name. Throws as above.
+void putPropertyByName(IDispatch* object, wchar_t const* name, Variant const& value);
+
 /// Reads a property by identifier. Throws as above.
 Variant propertyById(IDispatch* object, DISPID id);
 

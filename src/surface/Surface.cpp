@@ -125,6 +125,15 @@ void Surface::setFont(IUnknown* font)
     m_font.set(std::move(own));
 }
 
+void Surface::onFocusMessage(bool gained)
+{
+    m_window.tellFocus(gained);
+    if (HWND const window = m_window.existing()) {
+        ::InvalidateRect(window, nullptr, FALSE);
+        ::UpdateWindow(window);
+    }
+}
+
 void Surface::propertyChanged(DISPID property, ViewChange view)
 {
     m_persistence.setDirty();
