@@ -2,6 +2,7 @@
 #include "shell/ClassTable.h"
 
 #include "controls/flatcommand/Create.h"
+#include "controls/optioncheck/Create.h"
 #include "shell/ResourceIds.h"
 #include "typelib/Texts.h"
 
@@ -11,6 +12,8 @@ namespace {
 
 constexpr ClassRow kClasses[] = {
     {&flatCommandClass, &createFlatCommand, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
+    {&flatOptionClass, &createFlatOption, kQvFlatOptionText, QV_TOOLBOX_FLAT_OPTION},
+    {&flatCheckClass, &createFlatCheck, kQvFlatCheckText, QV_TOOLBOX_FLAT_CHECK},
 };
 
 } // namespace

@@ -2,3 +2,5 @@
 #pragma once
 
 #define QV_TOOLBOX_FLAT_COMMAND 101
+#define QV_TOOLBOX_FLAT_OPTION 102
+#define QV_TOOLBOX_FLAT_CHECK 103
