@@ -68,7 +68,8 @@ void InnerButton::registerClass(WNDCLASSEXW description)
         return;
     // A DC of its own: whoever asks for the window's DC time and again without giving it back gets the same
     // one.
-    description.style = CS_OWNDC | CS_DBLCLKS;
+    // No double clicks: there is no event for them, and each press is to be one.
+    description.style = CS_OWNDC;
     description.lpfnWndProc = &InnerButton::procedure;
     // Found through extra bytes behind the system's: the user-data slot belongs to subclassing.
     description.cbWndExtra += static_cast<int>(sizeof(void*));
