@@ -18,13 +18,14 @@ void letMessagesRun()
         explicit Running(bool& running) noexcept : flag(running) { flag = true; }
         ~Running() { flag = false; }
     } const running(state.lettingMessagesRun);
+    // Keys and mouse wait for the host's own loop, which has to see them first: a Tab would be lost here.
+    constexpr UINT kWhat = PM_REMOVE | PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE;
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    while (::PeekMessageW(&message, nullptr, 0, 0, kWhat)) {
         if (message.message == WM_QUIT) { // meant for the loop that runs the thread
             ::PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
-        ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
     }
 }

@@ -11,7 +11,6 @@ namespace quillet::gallery::test {
 
 namespace {
 
-constexpr wchar_t kFormFile[] = GALLERY_FORMS L"/buttons.frm";
 constexpr DWORD kPatience = 5000; // milliseconds
 
 } // namespace
@@ -25,7 +24,9 @@ std::wstring programFolder()
 
 std::string narrow(std::wstring_view text) { return utf8(text); }
 
-Demo::Demo(UserMode mode) : m_tree(readFormFile(kFormFile)), m_libraries(m_tree.objects, {programFolder()})
+Demo::Demo(UserMode mode, wchar_t const* file)
+    : m_tree(readFormFile(std::wstring(GALLERY_FORMS L"/") + file)),
+      m_libraries(m_tree.objects, {programFolder()})
 {
     FormOptions options;
     options.mode = mode;

@@ -18,7 +18,7 @@ std::string narrow(std::wstring_view text);
 /// The form with everything that it raises written down.
 class Demo {
 public:
-    explicit Demo(UserMode mode = UserMode::Run);
+    explicit Demo(UserMode mode = UserMode::Run, wchar_t const* file = L"buttons.frm");
 
     Form& form() { return *m_form; }
     FormTree const& tree() const { return m_tree; }

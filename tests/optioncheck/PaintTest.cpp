@@ -66,6 +66,23 @@ TEST_P(Paint, ofADisabledOneLetsWaitingMessagesRun)
     EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 42);
 }
 
+TEST_P(Paint, ofADisabledOneLeavesKeysToTheHostsLoop)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(edit.get()));
+    kit::pumpPending();
+    kit::typeKey(VK_F2);
+    box.put(L"Enabled", Variant::ofBool(false));
+    bool seen = false;
+    for (ULONGLONG const end = ::GetTickCount64() + kit::kPumpLimit; !seen && ::GetTickCount64() < end;) {
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            seen = seen || (message.message == WM_KEYDOWN && message.wParam == VK_F2);
+    }
+    EXPECT_TRUE(seen);
+}
+
 TEST_P(Paint, ofADisabledOneLeavesTheEndOfTheLoopToItsOwner)
 {
     ::PostQuitMessage(7);
