@@ -1,5 +1,5 @@
 // Measures the built component from outside, as a host uses it, and writes one line for each figure:
-// bench [--smoke] [paint|mouse|focus|creation|members|size|soak]
+// bench [--smoke] [paint|mouse|focus|creation|members|options|size|soak]
 #include "base/RunTimeError.h"
 #include "bench/Bench.h"
 #include "bench/Rounds.h"
@@ -32,8 +32,8 @@ struct Part {
 
 constexpr Part kParts[] = {
     {"paint", &measurePaint},       {"mouse", &measureMouse},     {"focus", &measureFocus},
-    {"creation", &measureCreation}, {"members", &measureMembers}, {"size", &measureSize},
-    {"soak", &measureSoak},
+    {"creation", &measureCreation}, {"members", &measureMembers}, {"options", &measureOptions},
+    {"size", &measureSize},         {"soak", &measureSoak},
 };
 
 struct Wish {

@@ -84,8 +84,9 @@ void OptionCheckButton::drawElsewhere()
 
 void OptionCheckButton::refresh()
 {
-    m_inner.refresh();
-    repaint();
+    m_inner.refresh(); // which ends in showing its state
+    if (!enabled())
+        repaint();
 }
 
 } // namespace quillet
