@@ -98,6 +98,7 @@ void InnerButton::create()
     ::SetWindowLongPtrW(m_window, system.cbWndExtra, reinterpret_cast<LONG_PTR>(this));
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(m_value), 0);
     fontChanged();
+    m_surface.onInnerMade();
 }
 
 HWND InnerButton::handle()
@@ -113,6 +114,7 @@ void InnerButton::destroy() noexcept
         return;
     // From here on messages find no button: they must not reach a control that is going.
     HWND const window = std::exchange(m_window, nullptr);
+    m_dc = nullptr;
     m_focused = false;
     ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
                         0);
@@ -184,11 +186,12 @@ void InnerButton::notified(WORD code)
         click();
 }
 
-void InnerButton::cover()
+void InnerButton::cover() noexcept
 {
-    HWND const window = handle();
+    if (!m_window) // it is made as large
+        return;
     SIZE const size = m_surface.window().clientSize();
-    ::SetWindowPos(window, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(m_window, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void InnerButton::refresh() noexcept

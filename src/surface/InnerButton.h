@@ -45,8 +45,8 @@ public:
     /// A user's click: an option becomes the chosen one, a check box changes between clear and set.
     void click();
 
-    /// As large as the surface.
-    void cover();
+    /// Makes the window as large as the surface.
+    void cover() noexcept;
     /// Paints at once what is shown.
     void refresh() noexcept;
     void takeFocus();

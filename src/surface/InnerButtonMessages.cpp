@@ -140,6 +140,7 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_NCDESTROY: {
         LRESULT const result = passOn(message, wParam, lParam);
         m_window = nullptr;
+        m_dc = nullptr;
         m_focused = false;
         return result;
     }
@@ -160,7 +161,7 @@ LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPar
         tell([&] { m_surface.onMouseUp(mouse); });
         LRESULT const result = passOn(row.message, wParam, lParam);
         if (left)
-            tell([&] { m_surface.onReleased(); });
+            tell([&] { m_surface.onInnerReleased(); });
         return result;
     }
     case ButtonMessage::What::Double:

@@ -125,6 +125,13 @@ void Surface::setFont(IUnknown* font)
     m_font.set(std::move(own));
 }
 
+void Surface::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
+{
+    MouseArguments own = mouse; // a sink may write to the arguments
+    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
+                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
+}
+
 void Surface::onFocusMessage(bool gained)
 {
     m_window.tellFocus(gained);

@@ -112,6 +112,8 @@ public:
     {
         m_events.raise(event, arguments);
     }
+    /// The same for the mouse events, whose arguments a sink may write to.
+    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
     /// Marks the control as changed since it was saved and tells the container which property it was.
     void propertyChanged(DISPID property, ViewChange view);
 
@@ -159,8 +161,10 @@ public:
     virtual void onKeyUp(short& /*keyCode*/, short /*shift*/) {}
     virtual void onCharacter(short& /*keyAscii*/) {}
     /// The left button came up and the inner button has made of it what it had to.
-    virtual void onReleased() {}
+    virtual void onInnerReleased() {}
     virtual void onInnerPainted() {}
+    /// Its window was made, or made anew.
+    virtual void onInnerMade() {}
 
     /// What the window tells a dialog's keyboard handling (DLGC flags).
     virtual LRESULT dialogCode() const { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }

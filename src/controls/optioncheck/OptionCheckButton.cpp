@@ -27,7 +27,7 @@ void OptionCheckButton::readProperties(PropertyBag& bag)
 {
     m_properties.read(*this, bag);
     onResize();
-    m_toolTip.CreateToolTip(m_inner.handle());
+    m_toolTip.CreateToolTip(m_inner.existing());
 }
 
 void OptionCheckButton::onWriteProperties(PropertyBag& bag) { m_properties.write(*this, bag); }
@@ -75,20 +75,6 @@ void OptionCheckButton::onCharacter(short& keyAscii)
     raiseEvent(event::KeyPress, {Variant::ofShortRef(&keyAscii)});
 }
 
-void OptionCheckButton::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
-{
-    MouseArguments own = mouse; // a sink may write to the arguments
-    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
-                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
-}
-
-bool OptionCheckButton::isMouseOver(HWND window) noexcept
-{
-    POINT cursor = {};
-    ::GetCursorPos(&cursor);
-    return ::WindowFromPoint(cursor) == window;
-}
-
 bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
 {
     bool const captured = ::GetCapture() == window;
@@ -105,15 +91,15 @@ bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
 void OptionCheckButton::followHover()
 {
     HWND const window = m_inner.existing();
-    if (window && userMode() && setMouseCapture(window, isMouseOver(window)))
+    if (window && userMode() && setMouseCapture(window, isMouseOver()))
         repaint();
 }
 
 void OptionCheckButton::followMouse(MouseArguments const& mouse)
 {
     ignoringErrors([&] { m_toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
-    HWND const window = m_inner.handle();
-    if (mouse.button == MouseButtons::kLeft && ::GetCapture() == window && m_lastHover != isMouseOver(window))
+    if (mouse.button == MouseButtons::kLeft && ::GetCapture() == m_inner.existing() &&
+        m_lastHover != isMouseOver())
         repaint();
     else if (mouse.button == 0)
         followHover();

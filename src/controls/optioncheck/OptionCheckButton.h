@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Bstr.h"
+#include "surface/Cursor.h"
 #include "surface/InnerButton.h"
 #include "surface/PropertyTable.h"
 #include "surface/Surface.h"
@@ -29,7 +30,9 @@ public:
     void onInnerPainted() override;
     void onMouseDown(MouseArguments const& mouse) override;
     void onMouseUp(MouseArguments const& mouse) override;
-    void onReleased() override { followHover(); }
+    void onInnerReleased() override { followHover(); }
+    void onInnerMade() override { m_toolTip.windowMade(m_inner.existing()); }
+    void onWindowMade() override { m_inner.handle(); }
     void onKeyDown(short& keyCode, short shift) override;
     void onKeyUp(short& keyCode, short shift) override;
     void onCharacter(short& keyAscii) override;
@@ -50,10 +53,8 @@ protected:
     /// Takes the saved values over and sets up what a running control needs.
     void readProperties(PropertyBag& bag);
     void refresh();
-    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
 
-    /// Whether the window directly under the cursor is that one.
-    static bool isMouseOver(HWND window) noexcept;
+    bool isMouseOver() const noexcept { return isUnderCursor(m_inner.existing()); }
     /// Takes or gives up the mouse; whether that changed anything.
     static bool setMouseCapture(HWND window, bool capture) noexcept;
     /// What a move does to the look while the form runs, the event apart.

@@ -1,4 +1,5 @@
 // The looks of the flat option button and the flat check box: a coloured caption or a shaded glyph.
+#include "controls/button/SystemColours.h"
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "surface/PendingMessages.h"
 
@@ -8,7 +9,6 @@ namespace quillet {
 
 namespace {
 
-constexpr OLE_COLOR kButtonShadow = 0x80000010;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 
 constexpr COLORREF kLightGrey = RGB(192, 192, 192); // of the stock brush
@@ -21,14 +21,13 @@ void OptionCheckButton::onPaint()
     if (paintsElsewhere())
         return drawElsewhere();
     if (!enabled()) {
-        showCaption(kButtonShadow);
+        showCaption(colour::kButtonShadow);
         letMessagesRun();
         if (!enabled())
             FillOptionGlyph(true);
         return;
     }
-    HWND const window = m_inner.handle();
-    showState(userMode() && isMouseOver(window));
+    showState(userMode() && isMouseOver());
 }
 
 /// The inner button has painted itself, so its glyph is white again and its mark where it belongs.
@@ -39,7 +38,7 @@ void OptionCheckButton::onInnerPainted()
     if (!enabled())
         FillOptionGlyph(true);
     else
-        showState(userMode() && isMouseOver(m_inner.existing()));
+        showState(userMode() && isMouseOver());
 }
 
 /// Distinct colours make the caption hot; equal ones would show nothing, so the glyph is shaded instead.
@@ -78,7 +77,7 @@ void OptionCheckButton::FillOptionGlyph(bool hot)
 void OptionCheckButton::drawElsewhere()
 {
     bool const isShaded = userMode() && !enabled();
-    m_inner.draw(hDC(), clientSize(), enabled() ? foreColor() : kButtonShadow,
+    m_inner.draw(hDC(), clientSize(), enabled() ? foreColor() : colour::kButtonShadow,
                  isShaded ? kLightGrey : kWhite);
 }
 

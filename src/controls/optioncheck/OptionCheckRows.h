@@ -1,6 +1,7 @@
 // The properties of the flat option button and the flat check box: their order, types and defaults.
 #pragma once
 
+#include "controls/button/SystemColours.h"
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "typelib/DispatchIds.h"
 
@@ -60,8 +61,8 @@ constexpr OptionCheckRows optionCheckRows(OptionCheckDifferences const& own)
     using Kind = PropertyKind;
     using Held = SurfaceAccess<OptionCheckButton>;
     using Inner = InnerAccess;
-    constexpr long kButtonFace = static_cast<long>(0x8000000F);
-    constexpr long kButtonText = static_cast<long>(0x80000012);
+    constexpr auto kButtonFace = static_cast<long>(colour::kButtonFace);
+    constexpr auto kButtonText = static_cast<long>(colour::kButtonText);
     constexpr auto kNew = AtStart::Default;
     constexpr auto kAsLaidOut = AtStart::Surface;
     // clang-format off

@@ -53,7 +53,7 @@ void qvFlatCheck::onMouseMove(MouseArguments const& mouse)
     if (!userMode())
         return;
     followMouse(mouse);
-    setLastHover(isMouseOver(innerButton().existing()));
+    setLastHover(isMouseOver());
     raiseMouseEvent(event::MouseMove, mouse);
 }
 

@@ -66,7 +66,7 @@ void qvFlatOption::onMouseMove(MouseArguments const& mouse)
         followMouse(mouse);
         raiseMouseEvent(event::MouseMove, mouse);
     }
-    setLastHover(isMouseOver(running ? innerButton().existing() : nullptr));
+    setLastHover(running && isMouseOver());
     raiseMouseEvent(event::MouseMove, mouse);
 }
 
