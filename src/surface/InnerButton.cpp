@@ -66,9 +66,8 @@ void InnerButton::registerClass(WNDCLASSEXW description)
     existing.cbSize = sizeof(existing);
     if (::GetClassInfoExW(moduleInstance(), name.text, &existing))
         return;
-    // A DC of its own: whoever asks for the window's DC time and again without giving it back gets the same
-    // one.
-    // No double clicks: there is no event for them, and each press is to be one.
+    // It owns its DC, so whoever asks for it time and again without giving it back gets the same one. It
+    // knows no double clicks: there is no event for them, and each press is to be one.
     description.style = CS_OWNDC;
     description.lpfnWndProc = &InnerButton::procedure;
     // Found through extra bytes behind the system's: the user-data slot belongs to subclassing.
@@ -81,11 +80,10 @@ void InnerButton::registerClass(WNDCLASSEXW description)
 
 void InnerButton::unregisterClass() noexcept { ::UnregisterClassW(ClassName().text, moduleInstance()); }
 
-void InnerButton::create()
+void InnerButton::create(HWND parent)
 {
     WNDCLASSEXW const system = systemClass();
     registerClass(system);
-    HWND const parent = m_surface.hWnd();
     SIZE const size = m_surface.window().clientSize();
     DWORD const style = m_kind == InnerKind::Option ? BS_RADIOBUTTON : BS_3STATE;
     m_window = ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, ClassName().text, textOf(m_caption),
@@ -103,8 +101,9 @@ void InnerButton::create()
 
 HWND InnerButton::handle()
 {
+    HWND const parent = m_surface.hWnd(); // which, newly made, may have asked for this one
     if (!m_window)
-        create();
+        create(parent);
     return m_window;
 }
 

@@ -67,7 +67,7 @@ private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     static void registerClass(WNDCLASSEXW description);
 
-    void create();
+    void create(HWND parent);
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOnUnseen(UINT message, WPARAM wParam, LPARAM lParam);

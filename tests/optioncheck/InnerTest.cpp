@@ -8,6 +8,12 @@
 namespace quillet::box {
 namespace {
 
+BOOL CALLBACK countOne(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
 class Inner : public EachBoxTest {
 protected:
     Inner() : box(kind(), library(), form) { box.start(); }
@@ -21,9 +27,12 @@ TEST_P(Inner, isASystemButtonOfItsKind)
     EXPECT_EQ(style & BS_TYPEMASK, isOption() ? BS_RADIOBUTTON : BS_3STATE);
     EXPECT_TRUE(style & WS_CHILD);
     EXPECT_TRUE(style & WS_VISIBLE);
-    auto const code = ::SendMessageW(box.inner(), WM_GETDLGCODE, 0, 0);
-    EXPECT_EQ(code & DLGC_BUTTON, DLGC_BUTTON);
-    EXPECT_EQ(code & DLGC_RADIOBUTTON, isOption() ? DLGC_RADIOBUTTON : 0);
+    for (HWND const window : {box.inner(), box.outer()}) { // a dialog may look at either
+        auto const code = ::SendMessageW(window, WM_GETDLGCODE, 0, 0);
+        EXPECT_EQ(code & DLGC_BUTTON, DLGC_BUTTON);
+        EXPECT_EQ(code & DLGC_RADIOBUTTON, isOption() ? DLGC_RADIOBUTTON : 0);
+        EXPECT_EQ(code & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON), 0);
+    }
 }
 
 TEST_P(Inner, saysItsStateAndItsTextByTheSystemsMessages)
@@ -41,6 +50,34 @@ TEST_P(Inner, takesTextFromOutside)
 {
     ::SetWindowTextW(box.inner(), L"&Told");
     EXPECT_EQ(box.get(L"Caption").toString().view(), L"&Told");
+}
+
+TEST_P(Inner, isMadeOnceWhoeverAsksFirst)
+{
+    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    other.hosted().setSite();
+    other.hosted().load(*newBag().get());
+    HWND const early = other.hwnd(); // before any container shows it
+    other.hosted().activate();
+    EXPECT_EQ(other.hwnd(), early);
+    HWND const first = ::GetWindow(other.outer(), GW_CHILD);
+    EXPECT_EQ(first, early);
+    EXPECT_EQ(::GetWindow(first, GW_HWNDNEXT), nullptr);
+    EXPECT_NE(::GetWindowLongPtrA(early, GWLP_USERDATA), 0); // and has its tooltip
+}
+
+TEST_P(Inner, isNotMadeByLoading)
+{
+    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    other.hosted().setSite();
+    auto const bag = newBag();
+    bag->put(L"Enabled", Variant::ofBool(false));
+    int before = 0;
+    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&before));
+    other.hosted().load(*bag.get());
+    int after = 0;
+    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&after));
+    EXPECT_EQ(after, before);
 }
 
 TEST_P(Inner, ownsItsDeviceContext)

@@ -13,6 +13,7 @@ public:
     void onReadProperties(PropertyBag& bag) override { readProperties(bag); }
     void onMouseMove(MouseArguments const& mouse) override;
     void onClick() override;
+    LRESULT dialogCode() const override { return DLGC_BUTTON; }
 
 private:
     void putValue(OLE_TRISTATE value) override;

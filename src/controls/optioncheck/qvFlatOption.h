@@ -16,6 +16,7 @@ public:
     void onMouseMove(MouseArguments const& mouse) override;
     void onClick() override;
     void onAccessKeyPress(short) override;
+    LRESULT dialogCode() const override { return DLGC_BUTTON | DLGC_RADIOBUTTON; }
 
 private:
     void putValue(OLE_TRISTATE value) override;
