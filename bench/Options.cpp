@@ -111,11 +111,16 @@ Rows measureOne(kit::Library const& library, Effort effort)
     return rows;
 }
 
-/// The place in its table that a new handle gets: it climbs as long as handles are lost.
+/// The lowest place in its table that one of a few new handles gets: it climbs as long as handles are lost.
 int placeOfNewHandle()
 {
-    UniqueBrush const brush(::CreateSolidBrush(0));
-    return LOWORD(HandleToULong(brush.get()));
+    std::vector<UniqueBrush> brushes(64);
+    int lowest = 0xFFFF;
+    for (UniqueBrush& brush : brushes) {
+        brush.reset(::CreateSolidBrush(0));
+        lowest = std::min<int>(lowest, LOWORD(HandleToULong(brush.get())));
+    }
+    return lowest;
 }
 
 /// Each shading asks for the window's device context and never gives it back.
