@@ -28,6 +28,7 @@ Rows measureMouse(kit::Library const& library, Effort effort);
 Rows measureFocus(kit::Library const& library, Effort effort);
 Rows measureCreation(kit::Library const& library, Effort effort);
 Rows measureMembers(kit::Library const& library, Effort effort);
+Rows measureOptions(kit::Library const& library, Effort effort);
 Rows measureSize(kit::Library const& library, Effort effort);
 Rows measureSoak(kit::Library const& library, Effort effort);
 

@@ -34,9 +34,35 @@ HRESULT answer(VARIANT* result, wchar_t const* text)
 /// Hundredths of a millimetre at 96 pixels an inch.
 constexpr LONG himetricOf(LONG pixels) { return pixels * 2540 / 96; }
 
-constexpr wchar_t const* kExtenderNames[] = {L"Name", L"Default", L"Cancel", L"ToolTipText", L"TabStop"};
+constexpr wchar_t const* kExtenderNames[] = {L"Name",        L"Default", L"Cancel",
+                                             L"ToolTipText", L"TabStop", L"Container"};
 
 } // namespace
+
+HRESULT FormFace::QueryInterface(REFIID iid, void** object)
+{
+    return handOut(iid == IID_IDispatch || iid == IID_IUnknown ? this : nullptr, object);
+}
+
+HRESULT FormFace::GetTypeInfoCount(UINT* count)
+{
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT FormFace::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids)
+{
+    bool const known = ::lstrcmpiW(names[0], L"hWnd") == 0;
+    ids[0] = known ? 1 : DISPID_UNKNOWN;
+    return known ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT FormFace::Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
+{
+    result->vt = VT_I4;
+    result->lVal = HandleToLong(m_window);
+    return S_OK;
+}
 
 HRESULT Extender::QueryInterface(REFIID iid, void** object)
 {
@@ -60,13 +86,19 @@ HRESULT Extender::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids
     return DISP_E_UNKNOWNNAME;
 }
 
-HRESULT Extender::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
+HRESULT Extender::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
+    if (kind & DISPATCH_PROPERTYPUT)
+        return S_OK;
     switch (id) {
     case 0:
         return answer(result, L"Command1");
     case 3:
         return answer(result, L"");
+    case 5:
+        result->vt = VT_DISPATCH;
+        result->pdispVal = &m_form;
+        return S_OK;
     default:
         return answer(result, id == 4); // in the tab order, and neither default nor cancel button
     }

@@ -22,15 +22,37 @@ public:
     STDMETHODIMP_(ULONG) Release() override { return 1; }
 };
 
-/// What a control reads of its extender by name: no default button, no tooltip.
-class Extender final : public Owned<IDispatch> {
+/// The form as its controls' extenders name it: it tells its window.
+class FormFace final : public Owned<IDispatch> {
 public:
+    explicit FormFace(HWND window) : m_window(window) {}
+
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override;
+
+private:
+    HWND m_window;
+};
+
+/// What a control reads of its extender by name: no default button, no tooltip, the form as its container.
+/// What it writes is taken and forgotten.
+class Extender final : public Owned<IDispatch> {
+public:
+    explicit Extender(HWND form) : m_form(form) {}
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                        UINT*) override;
+
+private:
+    FormFace m_form;
 };
 
 /// The controls of one form, as they find each other.
@@ -85,7 +107,7 @@ private:
 class Site final : public Owned<IOleClientSite, IOleControlSite, IOleInPlaceSite, IDispatch> {
 public:
     Site(Frame& frame, HWND window, RECT const& position)
-        : m_frame(frame), m_window(window), m_position(position)
+        : m_frame(frame), m_window(window), m_position(position), m_extender(window)
     {}
 
     RECT const& position() const noexcept { return m_position; }

@@ -1,5 +1,5 @@
 // Measures the built component from outside, as a host uses it, and writes one line for each figure:
-// bench [--smoke] [paint|pictures|mouse|focus|creation|members|size|soak]
+// bench [--smoke] [paint|pictures|mouse|focus|creation|members|options|size|soak]
 #include "base/RunTimeError.h"
 #include "bench/Bench.h"
 #include "bench/Rounds.h"
@@ -31,9 +31,9 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"paint", &measurePaint}, {"pictures", &measurePictures}, {"mouse", &measureMouse},
-    {"focus", &measureFocus}, {"creation", &measureCreation}, {"members", &measureMembers},
-    {"size", &measureSize},   {"soak", &measureSoak},
+    {"paint", &measurePaint},     {"pictures", &measurePictures}, {"mouse", &measureMouse},
+    {"focus", &measureFocus},     {"creation", &measureCreation}, {"members", &measureMembers},
+    {"options", &measureOptions}, {"size", &measureSize},         {"soak", &measureSoak},
 };
 
 struct Wish {

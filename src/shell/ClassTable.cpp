@@ -3,6 +3,7 @@
 
 #include "controls/flatcommand/Create.h"
 #include "controls/imagecommand/Create.h"
+#include "controls/optioncheck/Create.h"
 #include "shell/ResourceIds.h"
 #include "typelib/Texts.h"
 
@@ -14,6 +15,8 @@ constexpr ClassRow kClasses[] = {
     {&flatCommandClass, &createFlatCommand, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
     {&flatToolButtonClass, &createFlatToolButton, kFlatToolButtonText, QV_TOOLBOX_TOOL_BUTTON},
     {&imageCommandClass, &createImageCommand, kQvImageCommandText, QV_TOOLBOX_IMAGE_COMMAND},
+    {&flatOptionClass, &createFlatOption, kQvFlatOptionText, QV_TOOLBOX_FLAT_OPTION},
+    {&flatCheckClass, &createFlatCheck, kQvFlatCheckText, QV_TOOLBOX_FLAT_CHECK},
 };
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "shell/ClassFactory.h"
 #include "shell/PageTable.h"
 #include "shell/Registration.h"
+#include "surface/InnerButton.h"
 #include "surface/SurfaceWindow.h"
 #include "surface/ThreadState.h"
 
@@ -41,6 +42,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
         if (processEnds) // Windows takes everything back, and other threads are gone in the middle of things
             return TRUE;
         SurfaceWindow::unregisterClass();
+        InnerButton::unregisterClass();
         detachThreadStates();
         return TRUE;
     default:

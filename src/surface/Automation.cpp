@@ -85,7 +85,7 @@ HRESULT Automation::invoke(Surface& surface, IDispatch* dual, DISPID id, WORD ki
         deref(arguments);
         // A container presses a default or cancel button by this identifier, which no library publishes.
         if (id == DISPID_DOCLICK && (kind & DISPATCH_METHOD)) {
-            surface.onClick();
+            surface.doClick();
             return S_OK;
         }
         ITypeInfo& info = m_infos.vtableInfo(surface.controlClass().interfaceId);

@@ -28,6 +28,19 @@ ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept
     });
 }
 
+ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept
+{
+    auto const object = query<IOleObject>(controlInterface(control, IID_IOleObject).get());
+    ComPtr<IOleClientSite> site;
+    if (object)
+        object->GetClientSite(site.put());
+    auto const controlSite = site.as<IOleControlSite>();
+    ComPtr<IDispatch> found;
+    if (controlSite && SUCCEEDED(controlSite->GetExtendedControl(found.put())) && found)
+        return found;
+    return query<IDispatch>(control);
+}
+
 void Container::setSite(IOleClientSite* site) noexcept
 {
     m_site = site;

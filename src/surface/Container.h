@@ -16,6 +16,10 @@ namespace quillet {
 /// an extender that does not answer for it but hands it out. Empty when neither has it.
 ComPtr<IUnknown> controlInterface(IUnknown* object, REFIID iid) noexcept;
 
+/// The object that a container put round a control that it handed out, as the control's own site tells it;
+/// where it tells none, what was handed out.
+ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept;
+
 /// Answers of a container that may offer anything or nothing; a missing feature has a plain answer.
 class Container {
 public:

@@ -54,10 +54,12 @@ Variant PropertyBag::readProperty(wchar_t const* name, Variant const& fallback)
     return saved;
 }
 
-void PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
+bool PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
 {
-    if (value.type() != fallback.type() || !sameValue(value, fallback))
-        write(name, value);
+    if (value.type() == fallback.type() && sameValue(value, fallback))
+        return false;
+    write(name, value);
+    return true;
 }
 
 Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)

@@ -14,7 +14,8 @@ struct KindRow {
 constexpr KindRow kKinds[] = {
     {PropertyKind::Colour, VT_I4, VT_I4},          {PropertyKind::Flag, VT_BOOL, VT_BOOL},
     {PropertyKind::FlagAsInteger, VT_BOOL, VT_I2}, {PropertyKind::Integer, VT_I2, VT_I2},
-    {PropertyKind::Style, VT_I4, VT_I2},           {PropertyKind::Text, VT_BSTR, VT_BSTR},
+    {PropertyKind::Number, VT_I4, VT_I4},          {PropertyKind::Style, VT_I4, VT_I2},
+    {PropertyKind::State, VT_I2, VT_I2},           {PropertyKind::Text, VT_BSTR, VT_BSTR},
     {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},  {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
 };
 
@@ -46,6 +47,14 @@ Variant convertedColour(Variant const& value)
     }
 }
 
+Variant convertedState(Variant const& value)
+{
+    short const state = value.toShort();
+    if (state < 0 || state > 2)
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    return Variant::ofShort(state);
+}
+
 } // namespace
 
 VARTYPE keptType(PropertyKind kind) noexcept { return rowOf(kind).kept; }
@@ -55,6 +64,8 @@ Variant convertedProperty(PropertyKind kind, Variant const& value)
 {
     if (kind == PropertyKind::Colour)
         return convertedColour(value);
+    if (kind == PropertyKind::State)
+        return convertedState(value);
     if (keptType(kind) != VT_UNKNOWN)
         return value.type() == keptType(kind) ? value : value.convertedTo(keptType(kind));
     auto const object = value.toObject();

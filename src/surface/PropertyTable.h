@@ -10,7 +10,9 @@
 #include <olectl.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <span>
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -22,7 +24,9 @@ enum class PropertyKind {
     Flag,          ///< 16-bit boolean
     FlagAsInteger, ///< a flag that is saved as a 16-bit integer
     Integer,       ///< 16 bits
+    Number,        ///< 32 bits
     Style,         ///< kept in 32 bits, saved in 16 where it fits
+    State,         ///< of a check box: 16 bits, and only 0, 1 and 2
     Text,
     Font,
     Picture,
@@ -39,10 +43,12 @@ Variant savedProperty(PropertyKind kind, Variant const& kept);
 /// The default of a kind that has one value for all controls.
 Variant plainFallback(PropertyKind kind, long fallback);
 
-enum class Saved { No, Yes };
+/// A name may stand twice, and be only written the second time.
+enum class Saved { No, Yes, OnlyWritten };
 /// What gives a new control its value: the default of its row, or whatever the surface starts with.
 enum class AtStart { Default, Surface };
-enum class Repaint { No, Yes, AfterMeasuring };
+/// Whether the setter ends by painting; what paints itself at once still changes the look.
+enum class Repaint { No, Yes, AfterMeasuring, ByItself };
 /// How loading stores fonts and pictures: as their setters do, or like every other value.
 enum class LoadedObjects { ThroughSetters, IntoFields };
 
@@ -60,10 +66,11 @@ template <class Control> struct PropertyRow {
     PropertyAccess<Control> access;
     Saved saved;
     AtStart atStart;
-    Repaint repaint; ///< whether the setter ends by painting
+    Repaint repaint;
     /// The setter's own way of storing, where it does more than that. False for a value that it refused with
     /// a word to the user: the property has not changed then.
     bool (*assign)(Control&, Variant const&) = nullptr;
+    wchar_t const* fallbackText = L""; ///< the default of texts
 };
 
 /// A field's value as a variant of its property's kind, and back.
@@ -142,7 +149,7 @@ public:
         control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
         if (row.repaint == Repaint::AfterMeasuring)
             control.onMeasure();
-        if (row.repaint != Repaint::No)
+        if (row.repaint == Repaint::Yes || row.repaint == Repaint::AfterMeasuring)
             control.repaint();
     }
 
@@ -182,7 +189,7 @@ public:
                     convertedProperty(row.kind, bag.readProperty(row.name, savedFallback(control, row))));
         auto value = values.cbegin();
         for (Row const& row : m_rows) {
-            if (row.saved == Saved::No)
+            if (row.saved != Saved::Yes)
                 continue;
             if (keptType(row.kind) == VT_UNKNOWN)
                 storeObject(control, row, *value++);
@@ -193,10 +200,17 @@ public:
 
     void write(Control const& control, PropertyBag& bag) const
     {
-        for (Row const& row : m_rows)
-            if (row.saved == Saved::Yes)
-                bag.writeProperty(row.name, savedProperty(row.kind, row.access.get(control)),
-                                  savedFallback(control, row));
+        std::vector<std::wstring_view> written;
+        for (Row const& row : m_rows) {
+            if (row.saved == Saved::No)
+                continue;
+            // Of a name that stands twice the last value counts, even where it is the default.
+            bool const again = std::ranges::find(written, row.name) != written.end();
+            bool const stored = bag.writeProperty(row.name, savedProperty(row.kind, row.access.get(control)),
+                                                  again ? Variant() : savedFallback(control, row));
+            if (stored)
+                written.push_back(row.name);
+        }
     }
 
 private:
@@ -217,6 +231,8 @@ private:
     {
         if (row.kind == PropertyKind::Font)
             return Variant::ofUnknown(control.container().ambientFont().get());
+        if (row.kind == PropertyKind::Text)
+            return Variant::ofString(row.fallbackText);
         return plainFallback(row.kind, row.fallback);
     }
     static Variant savedFallback(Control const& control, Row const& row)
@@ -250,7 +266,7 @@ inline void answerValue(Variant const& value, OLE_COLOR& out)
 inline void answerValue(Variant const& value, short& out) { out = value.get().iVal; } // VT_BOOL shares it
 template <class Enumeration>
 requires std::is_enum_v<Enumeration>
-void answerValue(Variant const& value, Enumeration& out) { out = static_cast<Enumeration>(value.get().lVal); }
+void answerValue(Variant const& value, Enumeration& out) { out = static_cast<Enumeration>(value.toLong()); }
 
 /// A property's members as a vtable has them.
 template <class Control, class Value>

@@ -230,6 +230,14 @@ Variant SavedValues::read(wchar_t const* name, VARTYPE)
     return {};
 }
 
-void SavedValues::write(wchar_t const* name, Variant value) { m_values.push_back({name, std::move(value)}); }
+void SavedValues::write(wchar_t const* name, Variant value)
+{
+    for (Named& row : m_values)
+        if (row.name == name) {
+            row.value = std::move(value);
+            return;
+        }
+    m_values.push_back({name, std::move(value)});
+}
 
 } // namespace quillet

@@ -18,8 +18,8 @@ namespace quillet {
 ///   the object itself wrote.
 class SavedValues final : public PropertyBag {
 public:
-    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read. A picture whose
-    /// own bytes are damaged is left out: it has nothing to do with the values round it.
+    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read. A picture
+    /// whose own bytes are damaged is left out: it has nothing to do with the values round it.
     static SavedValues fromStream(IStream& stream);
     void toStream(IStream& stream) const;
 

@@ -146,6 +146,22 @@ void Surface::setWidth(long twips)
         m_oleObject.setWidth(std::max(0, ::MulDiv(twips, kHimetricPerInch, kTwipsPerInch)));
 }
 
+void Surface::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
+{
+    MouseArguments own = mouse; // a sink may write to the arguments
+    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
+                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
+}
+
+void Surface::onFocusMessage(bool gained)
+{
+    m_window.tellFocus(gained);
+    if (HWND const window = m_window.existing()) {
+        ::InvalidateRect(window, nullptr, FALSE);
+        ::UpdateWindow(window);
+    }
+}
+
 void Surface::propertyChanged(DISPID property, ViewChange view)
 {
     m_persistence.setDirty();

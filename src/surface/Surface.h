@@ -12,6 +12,7 @@
 #include "surface/DataObject.h"
 #include "surface/Events.h"
 #include "surface/InPlace.h"
+#include "surface/MouseMessage.h"
 #include "surface/OleControl.h"
 #include "surface/OleObject.h"
 #include "surface/Persistence.h"
@@ -29,15 +30,6 @@
 namespace quillet {
 
 class PropertyBag;
-
-/// Mouse buttons of the mouse handlers: left 1, right 2, middle 4. Shift states: shift 1, control 2, alt 4.
-/// Coordinates are twips from the surface's top left corner.
-struct MouseArguments {
-    short button;
-    short shift;
-    float x;
-    float y;
-};
 
 /// Twips in one pixel of a device.
 struct TwipsPerPixel {
@@ -124,11 +116,15 @@ public:
     {
         m_events.raise(event, arguments);
     }
+    /// The same for the mouse events, whose arguments a sink may write to.
+    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
     /// Marks the control as changed since it was saved and tells the container which property it was.
     void propertyChanged(DISPID property, ViewChange view);
 
     /// Runs the Paint handler on the window's own DC at once.
     void repaint() { onPaint(); }
+    /// Whether the Paint handler is to paint for a container instead of on the window.
+    bool paintsElsewhere() const noexcept { return m_paintDc != nullptr; }
     /// Runs the Paint handler for a picture of the given size in pixels in another DC.
     void paintInto(HDC dc, SIZE size);
 
@@ -157,6 +153,25 @@ public:
     virtual void onWindowMade() {}
     /// The font that the surface shows changed inside: somebody made it bold, say.
     virtual void onFontChanged() {}
+    /// A container presses the control.
+    virtual void doClick() { onClick(); }
+    /// The control's window (its own, or an inner one that was subclassed) got or lost the keyboard: what it
+    /// shows is to change at once.
+    virtual void onFocusMessage(bool gained);
+    /// A window inside the control's tells something about itself.
+    virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
+
+    // What an inner button tells; its mouse goes to the handlers above. A key set to 0 is used up.
+
+    virtual void onKeyDown(short& /*keyCode*/, short /*shift*/) {}
+    virtual void onKeyUp(short& /*keyCode*/, short /*shift*/) {}
+    virtual void onCharacter(short& /*keyAscii*/) {}
+    /// The left button came up and the inner button has made of it what it had to.
+    virtual void onInnerReleased() {}
+    virtual void onInnerPainted() {}
+    /// Its window was made, or made anew.
+    virtual void onInnerMade() {}
+
     /// What the window tells a dialog's keyboard handling (DLGC flags).
     virtual LRESULT dialogCode() const { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }
 

@@ -1,52 +1,17 @@
 // The surface's window: its procedure, and what mouse and keyboard messages become.
 #include "base/ComCall.h"
+#include "surface/MouseMessage.h"
 #include "surface/StandardPicture.h"
 #include "surface/Surface.h"
 #include "surface/SurfaceWindow.h"
 
 #include <windowsx.h>
 
+#include <iterator>
+
 namespace quillet {
 
 namespace {
-
-constexpr short kLeft = 1;
-constexpr short kRight = 2;
-constexpr short kMiddle = 4;
-
-/// The mouse message families: which button, and what happened to it.
-struct ButtonRow {
-    UINT message;
-    short button;
-    enum class What { Down, Up, Double } what;
-};
-
-constexpr ButtonRow kButtons[] = {
-    {WM_LBUTTONDOWN, kLeft, ButtonRow::What::Down},       {WM_LBUTTONUP, kLeft, ButtonRow::What::Up},
-    {WM_LBUTTONDBLCLK, kLeft, ButtonRow::What::Double},   {WM_RBUTTONDOWN, kRight, ButtonRow::What::Down},
-    {WM_RBUTTONUP, kRight, ButtonRow::What::Up},          {WM_RBUTTONDBLCLK, kRight, ButtonRow::What::Double},
-    {WM_MBUTTONDOWN, kMiddle, ButtonRow::What::Down},     {WM_MBUTTONUP, kMiddle, ButtonRow::What::Up},
-    {WM_MBUTTONDBLCLK, kMiddle, ButtonRow::What::Double},
-};
-
-short heldButtons(WPARAM keys) noexcept
-{
-    return static_cast<short>(((keys & MK_LBUTTON) ? kLeft : 0) | ((keys & MK_RBUTTON) ? kRight : 0) |
-                              ((keys & MK_MBUTTON) ? kMiddle : 0));
-}
-
-short shiftState(WPARAM keys) noexcept
-{
-    return static_cast<short>(((keys & MK_SHIFT) ? 1 : 0) | ((keys & MK_CONTROL) ? 2 : 0) |
-                              (::GetKeyState(VK_MENU) < 0 ? 4 : 0));
-}
-
-MouseArguments argumentsOf(HDC dc, short button, WPARAM keys, LPARAM at)
-{
-    TwipsPerPixel const twips = twipsPerPixel(dc);
-    return {button, shiftState(keys), static_cast<float>(GET_X_LPARAM(at) * twips.x),
-            static_cast<float>(GET_Y_LPARAM(at) * twips.y)};
-}
 
 /// System cursors by mouse-pointer value: 0 default, then arrow, cross, I-beam, … ; 99 is the control's icon.
 constexpr WORD kCursors[] = {32512, 32512, 32515, 32513, 32512, 32646, 32643, 32645,
@@ -94,7 +59,7 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
         return 0;
     case WM_MOUSEMOVE:
-        m_surface.onMouseMove(argumentsOf(dc(), heldButtons(wParam), wParam, lParam));
+        m_surface.onMouseMove(mouseArguments(dc(), heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -106,6 +71,9 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
         button(message, wParam, lParam);
+        return 0;
+    case WM_COMMAND:
+        m_surface.onCommand(HIWORD(wParam), reinterpret_cast<HWND>(lParam));
         return 0;
     case WM_CHAR:
         m_surface.onKeyPress(static_cast<short>(wParam));
@@ -124,6 +92,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_KILLFOCUS:
         tellFocus(false);
+        if (::IsChild(m_window, reinterpret_cast<HWND>(wParam)))
+            return 0; // to the control's own inner button: the control keeps the keyboard
         m_surface.onLostFocus();
         m_surface.inPlace().focusLost();
         return 0;
@@ -157,34 +127,31 @@ void SurfaceWindow::paint()
 
 void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    for (ButtonRow const& row : kButtons) {
-        if (row.message != message)
-            continue;
-        switch (row.what) {
-        case ButtonRow::What::Down:
-            if (row.button == kLeft) {
-                m_clickBegun = true;
-                takeFocus();
-            }
-            m_surface.onMouseDown(argumentsOf(dc(), row.button, wParam, lParam));
-            return;
-        case ButtonRow::What::Double:
-            if (row.button == kLeft)
-                m_surface.onDblClick();
-            return;
-        case ButtonRow::What::Up:
-            release(row.button, wParam, lParam);
-            return;
+    ButtonMessage const& row = buttonMessage(message);
+    switch (row.what) {
+    case ButtonMessage::What::Down:
+        if (row.button == MouseButtons::kLeft) {
+            m_clickBegun = true;
+            takeFocus();
         }
+        m_surface.onMouseDown(mouseArguments(dc(), row.button, wParam, lParam));
+        return;
+    case ButtonMessage::What::Double:
+        if (row.button == MouseButtons::kLeft)
+            m_surface.onDblClick();
+        return;
+    case ButtonMessage::What::Up:
+        release(row.button, wParam, lParam);
+        return;
     }
 }
 
 void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
 {
-    bool const begun = button == kLeft && m_clickBegun;
-    if (button == kLeft)
+    bool const begun = button == MouseButtons::kLeft && m_clickBegun;
+    if (button == MouseButtons::kLeft)
         m_clickBegun = false;
-    m_surface.onMouseUp(argumentsOf(dc(), button, wParam, lParam));
+    m_surface.onMouseUp(mouseArguments(dc(), button, wParam, lParam));
     RECT client = {};
     if (begun && m_window && ::GetClientRect(m_window, &client) &&
         ::PtInRect(&client, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))

@@ -157,8 +157,16 @@ void SurfaceWindow::takeFocus()
 
 void SurfaceWindow::enable(bool enabled) noexcept
 {
-    if (m_window)
-        ::EnableWindow(m_window, enabled);
+    if (!m_window)
+        return;
+    ::EnableWindow(m_window, enabled);
+    if (enabled)
+        return;
+    // Windows takes keyboard and mouse from a disabled window, but not from the windows inside it.
+    if (::IsChild(m_window, ::GetFocus()))
+        ::SetFocus(nullptr);
+    if (HWND const captured = ::GetCapture(); captured && ::IsChild(m_window, captured))
+        ::ReleaseCapture();
 }
 
 void SurfaceWindow::destroy() noexcept

@@ -155,10 +155,9 @@ LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
 {
     WNDPROC const previous = m_previous; // handling a message may end the subclassing
     ignoringErrors([&] {
-        if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
-            m_surface.window().tellFocus(message == WM_SETFOCUS);
-            repaintNow();
-        } else if (isRelayed(message))
+        if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
+            m_surface.onFocusMessage(message == WM_SETFOCUS);
+        else if (isRelayed(message))
             relay(threadState().toolTip, window, message, wParam, lParam);
         else if (message == WM_NOTIFY)
             answerText(lParam);
@@ -168,14 +167,6 @@ LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
     // Somebody who subclassed the window later still hands us its messages.
     auto const own = reinterpret_cast<WNDPROC>(::GetClassLongPtrA(window, GCLP_WNDPROC));
     return own ? ::CallWindowProcA(own, window, message, wParam, lParam) : 0;
-}
-
-void ToolTipUser::repaintNow() noexcept
-{
-    if (HWND const window = m_surface.window().existing()) {
-        ::InvalidateRect(window, nullptr, FALSE);
-        ::UpdateWindow(window);
-    }
 }
 
 void ToolTipUser::answerText(LPARAM request) noexcept

@@ -44,7 +44,6 @@ public:
 private:
     static void AddTool(HWND toolTip, HWND window) noexcept;
     void answerText(LPARAM request) noexcept;
-    void repaintNow() noexcept;
 
     Surface& m_surface;
     bool m_counted = false;

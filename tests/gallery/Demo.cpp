@@ -12,7 +12,6 @@ namespace quillet::gallery::test {
 
 namespace {
 
-constexpr wchar_t kFormFile[] = GALLERY_FORMS L"/buttons.frm";
 constexpr DWORD kPatience = 5000; // milliseconds
 
 } // namespace
@@ -26,7 +25,7 @@ std::wstring programFolder()
 
 std::string narrow(std::wstring_view text) { return utf8(text); }
 
-Demo::Demo(UserMode mode) : Demo(kFormFile, mode) {}
+Demo::Demo(UserMode mode) : Demo(std::wstring(GALLERY_FORMS L"/buttons.frm"), mode) {}
 
 Demo::Demo(std::wstring const& file, UserMode mode)
     : m_tree(readFormFile(file)), m_libraries(m_tree.objects, {programFolder()}), m_companions(folderOf(file))

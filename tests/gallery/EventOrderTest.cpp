@@ -95,8 +95,7 @@ protected:
 
 TEST_F(EventOrder, enteringIsSaidThenPaintedThenTheMoveIsRaised)
 {
-    EXPECT_THAT(enter(), ElementsAre("cmdPlain.MouseEnter", "cmdPlain.Paint",
-                                     line("MouseMove", kInside, 0)));
+    EXPECT_THAT(enter(), ElementsAre("cmdPlain.MouseEnter", "cmdPlain.Paint", line("MouseMove", kInside, 0)));
 }
 
 TEST_F(EventOrder, aPressOfTheFocusedButtonPaintsItBeforeMouseDown)
@@ -109,8 +108,7 @@ TEST_F(EventOrder, aReleasePaintsThenRaisesMouseUpThenClick)
 {
     enter();
     press();
-    EXPECT_THAT(letGo(),
-                ElementsAre("cmdPlain.Paint", line("MouseUp", kInside, 1), "cmdPlain.Click"));
+    EXPECT_THAT(letGo(), ElementsAre("cmdPlain.Paint", line("MouseUp", kInside, 1), "cmdPlain.Click"));
 }
 
 TEST_F(EventOrder, leavingIsSaidThenPaintedThenTheMoveIsRaised)
@@ -119,8 +117,7 @@ TEST_F(EventOrder, leavingIsSaidThenPaintedThenTheMoveIsRaised)
     POINT outside{2, 2};
     Lines const lines = during([&] { ::SetCursorPos(outside.x, outside.y); }, "cmdPlain.MouseMove");
     ::ScreenToClient(demo.control(L"cmdPlain").window(), &outside);
-    EXPECT_THAT(lines, ElementsAre("cmdPlain.MouseExit", "cmdPlain.Paint",
-                                   line("MouseMove", outside, 0)));
+    EXPECT_THAT(lines, ElementsAre("cmdPlain.MouseExit", "cmdPlain.Paint", line("MouseMove", outside, 0)));
 }
 
 TEST_F(EventOrder, aPressThatBringsTheFocusPaintsEveryButtonOfTheFormBeforeMouseDown)

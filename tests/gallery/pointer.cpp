@@ -1,7 +1,7 @@
 // Moves and presses the real mouse over the gallery's form, from outside: pointer DEED…, where a DEED is
-// "move X Y" (pixels of the form's client area), "away" (to the screen's corner), "down", "up", "origin" (says
-// where the client area begins on the screen) or "tooltip" (waits until one shows, and says where). For scripts
-// that want to see what a user sees.
+// "move X Y" (pixels of the form's client area), "away" (to the screen's corner), "down", "up", "origin"
+// (says where the client area begins on the screen) or "tooltip" (waits until one shows, and says where). For
+// scripts that want to see what a user sees.
 #include <windows.h>
 
 #include <cstdio>

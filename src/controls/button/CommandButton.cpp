@@ -97,13 +97,6 @@ void CommandButton::setPressed(bool pressed)
     repaint();
 }
 
-void CommandButton::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
-{
-    MouseArguments own = mouse; // a sink may write to the arguments
-    raiseEvent(id, {Variant::ofShortRef(&own.button), Variant::ofShortRef(&own.shift),
-                    Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
-}
-
 void CommandButton::decideState(bool reacting)
 {
     if (!reacting) {

@@ -52,7 +52,6 @@ protected:
     /// Takes the capture and raises MouseEnter, or gives it up and raises MouseExit. Whether either came.
     bool enterOrExit(bool over);
     void setPressed(bool pressed);
-    void raiseMouseEvent(DISPID event, MouseArguments const& mouse);
 
     VisualState state() const noexcept { return m_state; }
     /// Decides the look. A disabled button, and one that the cursor has left, forget that they were pressed.

@@ -70,6 +70,44 @@ PICTURES = {
         .--------------.
         ................
     """,
+    # A chosen option button, the pointer over it.
+    'qvFlatOption': """
+        ................
+        ................
+        ......bbbb......
+        ....bbwwwwbb....
+        ...bwwwwwwwwb...
+        ...bwwwwwwwwb...
+        ..bwwwwkkwwwwb..
+        ..bwwwkkkkwwwb..
+        ..bwwwkkkkkwwb..
+        ..bwwwwkkwkkwb..
+        ...bwwwwwwkwkb..
+        ...bwwwwwwkwwk..
+        ....bbwwwwkwwwk.
+        ......bbbbkwkk..
+        ..........kk....
+        ................
+    """,
+    # A check box that is set, the pointer over it.
+    'qvFlatCheck': """
+        ................
+        ................
+        ..bbbbbbbbbbbb..
+        ..bwwwwwwwwwwb..
+        ..bwwwwwwwwwkb..
+        ..bwwwwwwwwkkb..
+        ..bwkwwwwwkkkb..
+        ..bwkkwwwkkkwb..
+        ..bwkkkwkkkwwb..
+        ..bwwkkkkkkwwb..
+        ..bwwwkkkwkkwb..
+        ..bwwwwkwwkwkb..
+        ..bwwwwwwwkwwk..
+        ..bbbbbbbbkwwwk.
+        ..........kwkk..
+        ..........kk....
+    """,
 }
 
 

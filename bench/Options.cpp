@@ -1,0 +1,208 @@
+// Option buttons against the system's own: a paint of the same picture, the hot look, one choice of many.
+#include "base/RunTimeError.h"
+#include "bench/BareOption.h"
+#include "bench/Container.h"
+#include "bench/Rounds.h"
+#include "kit/HostWindow.h"
+#include "kit/Input.h"
+#include "kit/Painter.h"
+#include "kit/Pump.h"
+#include "typelib/Guids.h"
+#include "typelib/Interfaces.h"
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace quillet::bench {
+
+namespace {
+
+constexpr SIZE kSize{120, 20};
+constexpr RECT kOurs{20, 20, 20 + kSize.cx, 20 + kSize.cy};
+constexpr RECT kTheirs{20, 60, 20 + kSize.cx, 60 + kSize.cy};
+constexpr COLORREF kHot = RGB(200, 0, 0);
+
+HWND windowOf(_qvFlatOption& option)
+{
+    LONG window = 0;
+    check(option.get_hwnd(&window));
+    return static_cast<HWND>(LongToHandle(window));
+}
+
+HFONT fontOf(_qvFlatOption& option)
+{
+    ComPtr<IFontDisp> dispatch;
+    check(option.get_Font(dispatch.put()));
+    HFONT handle = nullptr;
+    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
+    return handle;
+}
+
+/// A flat option button and a bare one of the same look in one window.
+struct Pair {
+    explicit Pair(kit::Library const& library) : factory(library.factory(kQvFlatOptionClass))
+    {
+        kit::pumpPending();
+        kit::readWindow(window, picture);
+        bare = std::make_unique<BareOption>(host.handle(), kTheirs, fontOf(*option.get()), picture);
+        bare->setColours(::GetSysColor(COLOR_BTNTEXT), kHot);
+        kit::pumpPending();
+    }
+
+    void requireSamePicture(char const* look) const
+    {
+        kit::Canvas expected(kSize.cx, kSize.cy);
+        kit::Canvas actual(kSize.cx, kSize.cy);
+        kit::readWindow(bare->window(), expected);
+        kit::readWindow(window, actual);
+        std::string const different = kit::differences(expected, actual);
+        require(different.empty(), (std::string(look) + ": the pictures differ\n" + different).c_str());
+    }
+
+    kit::HostWindow host{40, 40, 200, 120};
+    Frame frame{host.handle()};
+    SavedButton saved;
+    ComPtr<IClassFactory> factory;
+    Hosted hosted{deref(factory.get()), saved, frame, host.handle(), kOurs};
+    ComPtr<_qvFlatOption> option{hosted.as<_qvFlatOption>()};
+    HWND window = windowOf(*option.get());
+    kit::Canvas picture{kSize.cx, kSize.cy};
+    std::unique_ptr<BareOption> bare;
+};
+
+void repaint(HWND window) { ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
+/// The cursor goes over the window and off it again; the window is told as the system tells it.
+void hover(HWND window)
+{
+    POINT at{kSize.cx / 2, kSize.cy / 2};
+    ::ClientToScreen(window, &at);
+    ::SetCursorPos(at.x, at.y);
+    ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(kSize.cx / 2, kSize.cy / 2));
+    ::SetCursorPos(at.x, at.y + 400);
+    ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(kSize.cx / 2, 400));
+}
+
+Rows measureOne(kit::Library const& library, Effort effort)
+{
+    bool const full = effort == Effort::Full;
+    Pair pair(library);
+    require(kit::moveCursorAway(), "the cursor does not move");
+    Rows rows;
+    auto const paint = [&] {
+        rows.push_back(
+            rowOf(rows.empty() ? "one paint, option button, equal colours" : "the same, its own hot colour",
+                  compare(
+                      full ? 501 : 3, full ? 10 : 5, [&] { repaint(pair.window); },
+                      [&] { repaint(pair.bare->window()); }),
+                  "–"));
+        pair.requireSamePicture("option button");
+    };
+    paint(); // equal colours: each paint ends with a flood fill
+    check(pair.option->put_HotForeColor(kHot));
+    paint();
+    Comparison const hovers = compare(
+        full ? 301 : 3, full ? 4 : 2, [&] { hover(pair.window); }, [&] { hover(pair.bare->window()); },
+        &kit::pumpPending);
+    rows.push_back(rowOf("hover over an option button and off it", hovers, "–"));
+    pair.requireSamePicture("option button after the hover");
+    require(kit::moveCursorAway(), "the cursor does not move");
+    return rows;
+}
+
+/// The lowest place in its table that one of a few new handles gets: it climbs as long as handles are lost.
+int placeOfNewHandle()
+{
+    std::vector<UniqueBrush> brushes(64);
+    int lowest = 0xFFFF;
+    for (UniqueBrush& brush : brushes) {
+        brush.reset(::CreateSolidBrush(0));
+        lowest = std::min<int>(lowest, LOWORD(HandleToULong(brush.get())));
+    }
+    return lowest;
+}
+
+/// Each shading asks for the window's device context and never gives it back.
+Row measureFills(kit::Library const& library, Effort effort)
+{
+    int const fills = effort == Effort::Full ? 100'000 : 1'000;
+    Pair pair(library);
+    check(pair.option->put_Enabled(VARIANT_FALSE));
+    auto const shade = [&] { ::RedrawWindow(pair.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
+    for (int i = 0; i < 100; ++i) // until the system's caches have what they keep
+        shade();
+    int const before = placeOfNewHandle();
+    for (int i = 0; i < fills; ++i)
+        shade();
+    return {"GDI handles kept by " + std::to_string(fills) + " shaded glyphs",
+            std::to_string(placeOfNewHandle() - before), "0", "–", "0"};
+}
+
+/// So many options in one container, against as many of the system's in one group.
+class Groups {
+public:
+    Groups(kit::Library const& library, int count)
+        : m_factory(library.factory(kQvFlatOptionClass)), m_count(count)
+    {
+        for (int i = 0; i < count; ++i) {
+            RECT const place = {0, i % 20 * 20, 100, i % 20 * 20 + 20};
+            m_ours.push_back(
+                std::make_unique<Hosted>(deref(m_factory.get()), m_saved, m_frame, m_window.handle(), place));
+            m_siblings.add(m_ours.back()->as<IUnknown>());
+            m_theirs.emplace_back(::CreateWindowExW(
+                0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON, 120, place.top, 100, 20,
+                m_window.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(1 + i)), nullptr, nullptr));
+        }
+        kit::pumpPending();
+    }
+
+    /// The first and the last in turns.
+    void chooseOurs()
+    {
+        check(m_ours[static_cast<size_t>(next())]->as<_qvFlatOption>()->put_Value(triChecked));
+    }
+    void chooseTheirs() { ::CheckRadioButton(m_window.handle(), 1, m_count, 1 + next()); }
+
+private:
+    int next()
+    {
+        m_last = !m_last;
+        return m_last ? m_count - 1 : 0;
+    }
+
+    kit::HostWindow m_window{40, 40, 240, 420};
+    Siblings m_siblings;
+    Frame m_frame{m_window.handle(), &m_siblings};
+    SavedButton m_saved;
+    ComPtr<IClassFactory> m_factory;
+    int m_count;
+    bool m_last = false;
+    std::vector<std::unique_ptr<Hosted>> m_ours;
+    std::vector<UniqueWindow> m_theirs;
+};
+
+} // namespace
+
+Rows measureOptions(kit::Library const& library, Effort effort)
+{
+    Rows rows = measureOne(library, effort);
+    rows.push_back(measureFills(library, effort));
+    struct Size {
+        int options;
+        int rounds;
+    };
+    std::vector<Size> const full = {{10, 101}, {100, 31}, {1000, 7}};
+    std::vector<Size> const smoke = {{10, 3}};
+    for (Size const& size : effort == Effort::Full ? full : smoke) {
+        Groups groups(library, size.options);
+        rows.push_back(rowOf("choosing one of " + std::to_string(size.options) + " options",
+                             compare(
+                                 size.rounds, 2, [&] { groups.chooseOurs(); }, [&] { groups.chooseTheirs(); },
+                                 &kit::pumpPending),
+                             "–"));
+    }
+    return rows;
+}
+
+} // namespace quillet::bench

@@ -1,0 +1,129 @@
+// What the flat option button and the flat check box share: properties, events and window services.
+#include "controls/optioncheck/OptionCheckButton.h"
+
+#include "typelib/DispatchIds.h"
+
+namespace quillet {
+
+namespace {
+
+namespace event = eventid::optionCheck;
+
+} // namespace
+
+OptionCheckButton::OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
+                                     std::wstring_view caption, Table const& properties)
+    : Surface(controlClass, outer), m_properties(properties), m_inner(*this, kind, caption)
+{}
+
+void OptionCheckButton::onInitProperties()
+{
+    m_properties.init(*this);
+    ignoringErrors(
+        [&] { m_inner.setCaption(container().requiredExtenderProperty(L"Name").toString().view()); });
+}
+
+void OptionCheckButton::readProperties(PropertyBag& bag)
+{
+    m_properties.read(*this, bag);
+    onResize();
+    m_toolTip.CreateToolTip(m_inner.existing());
+}
+
+void OptionCheckButton::onWriteProperties(PropertyBag& bag) { m_properties.write(*this, bag); }
+
+void OptionCheckButton::onTerminate()
+{
+    m_toolTip.Terminate();
+    m_inner.destroy();
+}
+
+void OptionCheckButton::onResize()
+{
+    m_inner.cover();
+    raiseEvent(event::Resize);
+}
+
+void OptionCheckButton::onCommand(WORD code, HWND from)
+{
+    if (from && from == m_inner.existing())
+        m_inner.notified(code);
+}
+
+void OptionCheckButton::onFocusMessage(bool gained)
+{
+    m_inner.tellFocus(gained);
+    refresh();
+}
+
+void OptionCheckButton::onMouseDown(MouseArguments const& mouse) { raiseMouseEvent(event::MouseDown, mouse); }
+
+void OptionCheckButton::onMouseUp(MouseArguments const& mouse) { raiseMouseEvent(event::MouseUp, mouse); }
+
+void OptionCheckButton::onKeyDown(short& keyCode, short shift)
+{
+    raiseEvent(event::KeyDown, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
+}
+
+void OptionCheckButton::onKeyUp(short& keyCode, short shift)
+{
+    raiseEvent(event::KeyUp, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
+}
+
+void OptionCheckButton::onCharacter(short& keyAscii)
+{
+    raiseEvent(event::KeyPress, {Variant::ofShortRef(&keyAscii)});
+}
+
+bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
+{
+    bool const captured = ::GetCapture() == window;
+    if (capture == captured)
+        return false;
+    if (capture)
+        ::SetCapture(window);
+    else
+        ::ReleaseCapture();
+    return true;
+}
+
+/// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
+void OptionCheckButton::followHover()
+{
+    HWND const window = m_inner.existing();
+    if (window && userMode() && setMouseCapture(window, isMouseOver()))
+        repaint();
+}
+
+void OptionCheckButton::followMouse(MouseArguments const& mouse)
+{
+    ignoringErrors([&] { m_toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
+    if (mouse.button == MouseButtons::kLeft && ::GetCapture() == m_inner.existing() &&
+        m_lastHover != isMouseOver())
+        repaint();
+    else if (mouse.button == 0)
+        followHover();
+}
+
+HRESULT OptionCheckButton::getValue(OLE_TRISTATE* value) noexcept
+{
+    return call([&] { deref(value) = static_cast<OLE_TRISTATE>(m_inner.value()); });
+}
+
+HRESULT OptionCheckButton::getWindow(LONG* value) noexcept
+{
+    // 32 bits of a handle are significant on every Windows.
+    return call([&] { deref(value) = HandleToLong(m_inner.handle()); });
+}
+
+HRESULT OptionCheckButton::runWindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam,
+                                         LONG* result) noexcept
+{
+    return call([&] {
+        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)),
+                                                               static_cast<UINT>(uMsg),
+                                                               static_cast<WPARAM>(wParam), lParam));
+    });
+}
+
+} // namespace quillet

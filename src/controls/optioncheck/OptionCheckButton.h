@@ -1,0 +1,89 @@
+// What the flat option button and the flat check box share: a control filled by one inner button.
+#pragma once
+
+#include "base/Bstr.h"
+#include "surface/Cursor.h"
+#include "surface/InnerButton.h"
+#include "surface/PropertyTable.h"
+#include "surface/Surface.h"
+#include "winsvc/modToolTip.h"
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace quillet {
+
+class OptionCheckButton : public Surface {
+public:
+    using Table = PropertyTable<OptionCheckButton>;
+
+    InnerButton& innerButton() noexcept { return m_inner; }
+    InnerButton const& innerButton() const noexcept { return m_inner; }
+    OLE_COLOR hotForeColor() const noexcept { return m_hotForeColor; }
+    void setHotForeColor(OLE_COLOR colour) noexcept { m_hotForeColor = colour; }
+
+    // Handlers of the surface.
+    void onInitProperties() override;
+    void onWriteProperties(PropertyBag& bag) override;
+    void onPaint() override;
+    void onInnerPainted() override;
+    void onMouseDown(MouseArguments const& mouse) override;
+    void onMouseUp(MouseArguments const& mouse) override;
+    void onInnerReleased() override { followHover(); }
+    void onInnerMade() override { m_toolTip.windowMade(m_inner.existing()); }
+    void onWindowMade() override { m_inner.handle(); }
+    void onKeyDown(short& keyCode, short shift) override;
+    void onKeyUp(short& keyCode, short shift) override;
+    void onCharacter(short& keyAscii) override;
+    void onCommand(WORD code, HWND from) override;
+    void onGotFocus() override { m_inner.takeFocus(); }
+    void onFocusMessage(bool gained) override;
+    void onResize() override;
+    void onAmbientChanged(DISPID) override { onResize(); }
+    void onFontChanged() override { m_inner.fontChanged(); }
+    void onAccessKeyPress(short) override { doClick(); }
+    void doClick() override { m_inner.click(); }
+    void onTerminate() override;
+
+protected:
+    OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
+                      std::wstring_view caption, Table const& properties);
+
+    /// Takes the saved values over and sets up what a running control needs.
+    void readProperties(PropertyBag& bag);
+    void refresh();
+
+    bool isMouseOver() const noexcept { return isUnderCursor(m_inner.existing()); }
+    /// Takes or gives up the mouse; whether that changed anything.
+    static bool setMouseCapture(HWND window, bool capture) noexcept;
+    /// What a move does to the look while the form runs, the event apart.
+    void followMouse(MouseArguments const& mouse);
+    bool lastHover() const noexcept { return m_lastHover; }
+    void setLastHover(bool over) noexcept { m_lastHover = over; }
+
+    // The members that both interfaces have; the properties go through their rows.
+    virtual void putValue(OLE_TRISTATE value) = 0;
+    HRESULT getValue(OLE_TRISTATE* value) noexcept;
+    HRESULT getWindow(LONG* value) noexcept;
+    HRESULT runWindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) noexcept;
+
+    Table const& properties() const noexcept { return m_properties; }
+
+private:
+    void followHover();
+    void showCaption(OLE_COLOR colour);
+    void showState(bool hot);
+    void drawElsewhere();
+    void FillOptionGlyph(bool hot);
+
+    Table const& m_properties;
+    InnerButton m_inner;
+    Bstr m_toolTipText; ///< the extender's, as it was at the last mouse move
+    OLE_COLOR m_hotForeColor = 0x80000012;
+    bool m_lastHover = false;   ///< whether the cursor was over the button at the last mouse move
+    bool m_recolouring = false; ///< the caption takes its colour within a paint
+    ToolTipUser m_toolTip{*this};
+};
+
+} // namespace quillet

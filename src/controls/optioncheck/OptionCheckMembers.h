@@ -1,0 +1,63 @@
+// The published members of the flat option button and the flat check box, which are the same.
+#pragma once
+
+#include "controls/optioncheck/OptionCheckButton.h"
+#include "surface/MessageBoxes.h"
+#include "typelib/Interfaces.h"
+
+namespace quillet {
+
+/// Implements _qvFlatOption or _qvFlatCheck, whose members are equal in order and type.
+template <class Interface> class OptionCheckMembers : public OptionCheckButton, public Dual<Interface> {
+public:
+    STDMETHODIMP WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) override
+    {
+        return runWindowProc(hwnd, uMsg, wParam, lParam, result);
+    }
+    STDMETHODIMP Refresh() override
+    {
+        return call([&] { refresh(); });
+    }
+    STDMETHODIMP ShowAbout() override
+    {
+        return call([&] { showAboutBox(hWnd()); });
+    }
+    STDMETHODIMP get_hwnd(LONG* value) override { return getWindow(value); }
+    STDMETHODIMP get_Value(OLE_TRISTATE* value) override { return getValue(value); }
+    STDMETHODIMP put_Value(OLE_TRISTATE value) override
+    {
+        return call([&] { putValue(value); });
+    }
+
+    // Every other property reads and writes through its row.
+#define QV_DEFAULT_VALUE(...)
+#define QV_VALUE(name, id, type, help)                                                                       \
+    STDMETHODIMP get_##name(type* value) override                                                            \
+    {                                                                                                        \
+        return getMember<OptionCheckButton>(*this, properties(), id, value);                                 \
+    }                                                                                                        \
+    STDMETHODIMP put_##name(type value) override                                                             \
+    {                                                                                                        \
+        return putMember<OptionCheckButton>(*this, properties(), id, value);                                 \
+    }
+#define QV_OBJECT(name, id, type, help)                                                                      \
+    STDMETHODIMP get_##name(type** value) override                                                           \
+    {                                                                                                        \
+        return getObjectMember<OptionCheckButton>(*this, properties(), id, value);                           \
+    }                                                                                                        \
+    STDMETHODIMP putref_##name(type* value) override                                                         \
+    {                                                                                                        \
+        return putObjectMember<OptionCheckButton>(*this, properties(), id, value);                           \
+    }
+#include "typelib/members/qvFlatOption.inc"
+
+protected:
+    OptionCheckMembers(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
+                       std::wstring_view caption, Table const& rows)
+        : OptionCheckButton(controlClass, outer, kind, caption, rows), Dual<Interface>(
+                                                                           static_cast<Surface&>(*this))
+    {}
+    IDispatch* dual() noexcept override { return this; }
+};
+
+} // namespace quillet

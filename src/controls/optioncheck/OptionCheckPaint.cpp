@@ -1,0 +1,91 @@
+// The looks of the flat option button and the flat check box: a coloured caption or a shaded glyph.
+#include "controls/button/SystemColours.h"
+#include "controls/optioncheck/OptionCheckButton.h"
+#include "surface/PendingMessages.h"
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+
+constexpr COLORREF kLightGrey = RGB(192, 192, 192); // of the stock brush
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+} // namespace
+
+void OptionCheckButton::onPaint()
+{
+    if (paintsElsewhere())
+        return drawElsewhere();
+    if (!enabled()) {
+        showCaption(colour::kButtonShadow);
+        letMessagesRun();
+        if (!enabled())
+            FillOptionGlyph(true);
+        return;
+    }
+    showState(userMode() && isMouseOver());
+}
+
+/// The inner button has painted itself, so its glyph is white again and its mark where it belongs.
+void OptionCheckButton::onInnerPainted()
+{
+    if (m_recolouring)
+        return; // the paint that wanted the colour goes on from here
+    if (!enabled())
+        FillOptionGlyph(true);
+    else
+        showState(userMode() && isMouseOver());
+}
+
+/// Distinct colours make the caption hot; equal ones would show nothing, so the glyph is shaded instead.
+void OptionCheckButton::showState(bool hot)
+{
+    bool const byColour = foreColor() != m_hotForeColor;
+    showCaption(hot && byColour ? m_hotForeColor : foreColor());
+    if (!byColour)
+        FillOptionGlyph(hot);
+}
+
+void OptionCheckButton::showCaption(OLE_COLOR colour)
+{
+    bool const outer = std::exchange(m_recolouring, true);
+    m_inner.setForeColor(colour);
+    m_recolouring = outer;
+}
+
+void OptionCheckButton::FillOptionGlyph(bool hot)
+{
+    HWND const window = m_inner.existing();
+    if (!window || !userMode())
+        return;
+    // Never given back: the window's class owns its DC, so this is the same one each time.
+    HDC const dc = ::GetDC(window);
+    RECT client = {};
+    ::GetClientRect(window, &client);
+    HGDIOBJ const previous = ::SelectObject(dc, ::GetStockObject(hot ? LTGRAY_BRUSH : WHITE_BRUSH));
+    POINT const at = pointInsideGlyph(client.bottom);
+    ::ExtFloodFill(dc, at.x, at.y, kBlack, FLOODFILLBORDER);
+    ::SelectObject(dc, previous);
+    if (m_inner.value() == triGray)
+        drawThirdStateMark(dc, client.bottom);
+}
+
+void OptionCheckButton::drawElsewhere()
+{
+    bool const isShaded = userMode() && !enabled();
+    m_inner.draw(hDC(), clientSize(), enabled() ? foreColor() : colour::kButtonShadow,
+                 isShaded ? kLightGrey : kWhite);
+}
+
+void OptionCheckButton::refresh()
+{
+    m_inner.refresh(); // which ends in showing its state
+    if (!enabled())
+        repaint();
+}
+
+} // namespace quillet

@@ -1,0 +1,71 @@
+// The flat check box: its properties and their order, and what differs from the option button.
+#include "controls/optioncheck/qvFlatCheck.h"
+
+#include "controls/optioncheck/Create.h"
+#include "controls/optioncheck/OptionCheckRows.h"
+#include "typelib/Guids.h"
+
+namespace quillet {
+
+namespace {
+
+constexpr ControlClass kClass = {
+    kQvFlatCheckClass, kQvFlatCheckInterface,  kQvFlatCheckEvents,
+    L"qvFlatCheck",    L"Quillet.qvFlatCheck", kOptionCheckStatus,
+};
+
+namespace id = dispid::qvFlatCheck;
+namespace event = eventid::optionCheck;
+
+/// The user's colour starts as the one that the box shows.
+constexpr InnerAccess::Access kBothForeColors = {
+    [](OptionCheckButton const& c) { return fieldValue(c.innerButton().foreColor()); },
+    [](OptionCheckButton& c, Variant const& v) {
+        c.innerButton().setForeColor(static_cast<OLE_COLOR>(v.toLong()));
+        c.setForeColor(c.innerButton().foreColor());
+    }};
+
+/// A changed value raises Click.
+constexpr InnerAccess::Access kValue = {
+    [](OptionCheckButton const& c) { return fieldValue(static_cast<short>(c.innerButton().value())); },
+    [](OptionCheckButton& c, Variant const& v) { c.innerButton().setValue(v.toShort()); }};
+
+constexpr OptionCheckRows kRows =
+    optionCheckRows({L"Check1", kBothForeColors, PropertyKind::State, kValue, Saved::OnlyWritten});
+
+} // namespace
+
+PropertyTable<OptionCheckButton> const qvFlatCheck::kProperties(kRows);
+
+ControlClass const& flatCheckClass() noexcept { return kClass; }
+
+HRESULT createFlatCheck(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createControl<qvFlatCheck>(outer, iid, object);
+}
+
+qvFlatCheck::qvFlatCheck(IUnknown* outer)
+    : OptionCheckMembers(kClass, outer, InnerKind::Check, L"Check1", kProperties)
+{}
+
+void qvFlatCheck::onMouseMove(MouseArguments const& mouse)
+{
+    if (!userMode())
+        return;
+    followMouse(mouse);
+    setLastHover(isMouseOver());
+    raiseMouseEvent(event::MouseMove, mouse);
+}
+
+void qvFlatCheck::putValue(OLE_TRISTATE value)
+{
+    properties().put(*this, properties().rowOf(id::Value), Variant::ofLong(value));
+}
+
+void qvFlatCheck::onClick()
+{
+    repaint();
+    raiseEvent(event::Click);
+}
+
+} // namespace quillet

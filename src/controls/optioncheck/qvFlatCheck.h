@@ -1,0 +1,24 @@
+// The flat check box: clear, set or in its third state.
+#pragma once
+
+#include "controls/optioncheck/OptionCheckMembers.h"
+
+namespace quillet {
+
+class qvFlatCheck final : public OptionCheckMembers<_qvFlatCheck> {
+public:
+    explicit qvFlatCheck(IUnknown* outer);
+
+    // Handlers of the surface.
+    void onReadProperties(PropertyBag& bag) override { readProperties(bag); }
+    void onMouseMove(MouseArguments const& mouse) override;
+    void onClick() override;
+    LRESULT dialogCode() const override { return DLGC_BUTTON; }
+
+private:
+    void putValue(OLE_TRISTATE value) override;
+
+    static Table const kProperties;
+};
+
+} // namespace quillet

@@ -1,0 +1,133 @@
+// The flat option button: its properties and their order, and its choice among its siblings.
+#include "controls/optioncheck/qvFlatOption.h"
+
+#include "controls/optioncheck/Create.h"
+#include "controls/optioncheck/OptionCheckRows.h"
+#include "surface/LateBound.h"
+#include "typelib/Guids.h"
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+constexpr ControlClass kClass = {
+    kQvFlatOptionClass, kQvFlatOptionInterface,  kQvFlatOptionEvents,
+    L"qvFlatOption",    L"Quillet.qvFlatOption", kOptionCheckStatus,
+};
+
+namespace id = dispid::qvFlatOption;
+namespace event = eventid::optionCheck;
+
+/// Selecting the inner button clears the siblings and raises Click.
+constexpr InnerAccess::Access kValue = {
+    [](OptionCheckButton const& c) { return fieldValue(c.innerButton().value()); },
+    [](OptionCheckButton& c, Variant const& v) {
+        c.innerButton().setValue(v.toLong() == triChecked ? 1 : 0);
+    }};
+
+constexpr OptionCheckRows kRows =
+    optionCheckRows({L"Option1", InnerAccess::kForeColor, PropertyKind::Number, kValue, Saved::Yes});
+
+Variant containerWindow(IDispatch* extender)
+{
+    auto const container = query<IDispatch>(propertyByName(extender, L"Container").toObject().get());
+    return propertyByName(container.get(), L"hwnd").convertedTo(VT_I8);
+}
+
+} // namespace
+
+PropertyTable<OptionCheckButton> const qvFlatOption::kProperties(kRows);
+
+ControlClass const& flatOptionClass() noexcept { return kClass; }
+
+HRESULT createFlatOption(IUnknown* outer, REFIID iid, void** object) noexcept
+{
+    return createControl<qvFlatOption>(outer, iid, object);
+}
+
+qvFlatOption::qvFlatOption(IUnknown* outer)
+    : OptionCheckMembers(kClass, outer, InnerKind::Option, L"Option1", kProperties)
+{}
+
+void qvFlatOption::onReadProperties(PropertyBag& bag)
+{
+    refresh();
+    readProperties(bag);
+    m_savedTabStop = orFallback(false, [&] { return container().extenderProperty(L"TabStop").toBool(); });
+}
+
+void qvFlatOption::onMouseMove(MouseArguments const& mouse)
+{
+    // Raised twice while the form runs: that is how hosts know this control.
+    bool const running = userMode();
+    if (running) {
+        followMouse(mouse);
+        raiseMouseEvent(event::MouseMove, mouse);
+    }
+    setLastHover(running && isMouseOver());
+    raiseMouseEvent(event::MouseMove, mouse);
+}
+
+void qvFlatOption::putValue(OLE_TRISTATE value)
+{
+    innerButton().setValue(value == triChecked ? 1 : 0);
+    propertyChanged(id::Value, ViewChange::Yes);
+    // Only the chosen option of a group is a tab stop.
+    if (innerButton().value() == 1)
+        giveTabStopBack();
+    else
+        container().putExtenderProperty(L"TabStop", Variant::ofBool(false));
+    repaint();
+}
+
+void qvFlatOption::onClick()
+{
+    giveTabStopBack();
+    if (!std::exchange(m_clearing, true)) {
+        clearSiblings();
+        m_clearing = false;
+    }
+    raiseEvent(event::Click);
+}
+
+/// The focus that an access key brings may have chosen the option already.
+void qvFlatOption::onAccessKeyPress(short)
+{
+    if (innerButton().value() == 0)
+        doClick();
+}
+
+/// Chosen while it was being loaded, an option has not read the host's setting yet and leaves it alone.
+void qvFlatOption::giveTabStopBack() const noexcept
+{
+    if (m_savedTabStop)
+        container().putExtenderProperty(L"TabStop", Variant::ofBool(*m_savedTabStop));
+}
+
+void qvFlatOption::clearSiblings() noexcept
+{
+    ignoringErrors([&] {
+        LONG const own = HandleToLong(innerButton().handle());
+        for (auto const& control : container().parentControls()) {
+            auto const sibling = controlInterface(control.get(), __uuidof(_qvFlatOption));
+            auto* const option = static_cast<_qvFlatOption*>(sibling.get());
+            LONG window = 0;
+            if (option && IsSameContainer(control.get()) && SUCCEEDED(option->get_hwnd(&window)) &&
+                window != own)
+                option->put_Value(triUnchecked);
+        }
+    });
+}
+
+/// Containers that do not tell their windows count as one.
+bool qvFlatOption::IsSameContainer(IUnknown* sibling) const noexcept
+{
+    return orFallback(true, [&] {
+        return containerWindow(extenderOf(sibling).get()).get().llVal ==
+               containerWindow(container().extender().get()).get().llVal;
+    });
+}
+
+} // namespace quillet

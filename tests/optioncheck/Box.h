@@ -1,0 +1,147 @@
+// A flat option button or check box in a form of ours, with its events kept by name.
+#pragma once
+
+#include "kit/ByName.h"
+#include "kit/Canvas.h"
+#include "kit/ControlTest.h"
+#include "kit/FakeBag.h"
+#include "kit/Hosted.h"
+#include "kit/Input.h"
+#include "kit/Pump.h"
+#include "kit/Sinks.h"
+#include "typelib/Guids.h"
+#include "typelib/Interfaces.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillet::box {
+
+using Names = std::vector<std::string>;
+
+/// What tells the two controls apart from outside.
+struct Kind {
+    char const* name;
+    CLSID classId;
+    IID eventsId;
+    wchar_t const* laidOutCaption;
+};
+extern Kind const kOption;
+extern Kind const kCheck;
+
+constexpr RECT kPlace{20, 30, 140, 50};
+/// In pixels from the box's top left corner: on its caption, and beside it over the same form.
+constexpr POINT kInside{60, 10};
+constexpr POINT kInsideToo{70, 12};
+constexpr POINT kBeside{160, 10};
+/// In the circle or square, off the mark.
+constexpr POINT kInGlyph{4, 8};
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kLightGrey = RGB(192, 192, 192);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+
+enum class Mode { Run, Design };
+
+/// An empty bag; what a test wants saved it puts in.
+ComPtr<kit::FakeBag> newBag();
+
+/// One control with its site and its listener.
+class Box {
+public:
+    Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
+        std::wstring const& name = L"Box1", Mode mode = Mode::Run);
+    ~Box() { remove(); }
+    Box(Box const&) = delete;
+    Box& operator=(Box const&) = delete;
+
+    kit::Hosted& hosted() noexcept { return m_hosted; }
+    kit::NamedObject& extender() noexcept { return m_hosted.site().extender(); }
+    kit::EventRecorder& events() noexcept { return *m_events.get(); }
+    template <class T> ComPtr<T> as() const { return m_hosted.as<T>(); }
+    IDispatch& dispatch() const;
+
+    /// Site, load, activation and the first painting.
+    void start(IPropertyBag& bag);
+    void start() { start(*newBag().get()); }
+    /// The same as a new control, without anything loaded.
+    void startNew();
+    void remove();
+    void release();
+
+    HWND outer() const { return m_hosted.window(); }
+    HWND inner() const { return m_inner; }
+    /// Asks the control for its window once more.
+    HWND hwnd() const;
+
+    long value() const;
+    HRESULT setValue(long value);
+    Variant get(wchar_t const* name) const;
+    HRESULT put(wchar_t const* name, Variant const& value);
+    void setColours(COLORREF fore, COLORREF hot);
+
+    /// The events' names since the last time.
+    Names happened();
+    int count(char const* event) const;
+    /// What happened from the beginning of the act until the last event came and nothing more was to come.
+    /// Moves that follow each other stand as one.
+    Names during(std::function<void()> const& act, char const* last);
+
+    /// The colour of a pixel on the screen.
+    COLORREF pixel(POINT at) const;
+    /// Whether a pixel of the caption has the colour.
+    bool captionHas(COLORREF color) const;
+
+    // A user's deeds, each awaited.
+    void moveTo(POINT at);
+    Names enter()
+    {
+        return during([&] { moveTo(kInside); }, "MouseMove");
+    }
+    Names leave()
+    {
+        return during([&] { moveTo(kBeside); }, "MouseMove");
+    }
+    Names press(kit::MouseButton which = kit::MouseButton::Left);
+    Names letGo(kit::MouseButton which = kit::MouseButton::Left);
+    void click();
+
+private:
+    void listen();
+
+    Kind const& m_kind;
+    kit::Hosted m_hosted;
+    ComPtr<kit::EventRecorder> m_events;
+    std::optional<kit::Connection> m_connection;
+    HWND m_inner = nullptr;
+};
+
+std::string nameOfEvent(DISPID event);
+
+/// A test with a form; the cursor is out of the way at first.
+class BoxTest : public kit::ControlTest {
+protected:
+    BoxTest() { kit::moveCursorAway(); }
+    ~BoxTest() override { kit::moveCursorAway(); }
+
+    kit::FakeForm form;
+};
+
+/// The same for each of the two controls.
+class EachBoxTest : public BoxTest, public testing::WithParamInterface<Kind const*> {
+protected:
+    Kind const& kind() const { return *GetParam(); }
+    bool isOption() const { return GetParam() == &kOption; }
+};
+
+#define QV_EACH_BOX(suite)                                                                                   \
+    INSTANTIATE_TEST_SUITE_P(each, suite, testing::Values(&kOption, &kCheck),                                \
+                             [](auto const& each) { return std::string(each.param->name); })
+
+} // namespace quillet::box

@@ -1,0 +1,316 @@
+// One choice among the option buttons of a container.
+#include "Box.h"
+
+namespace quillet::box {
+namespace {
+
+using testing::ElementsAre;
+
+/// A container of a form that tells its window as containers do.
+ComPtr<kit::NamedObject> newContainer(kit::FakeForm& form, long window)
+{
+    auto container = kit::make<kit::NamedObject>("Container" + std::to_string(window), form.sharedRecord());
+    container->offer(L"hwnd", Variant::ofLong(window));
+    return container;
+}
+
+class Group : public BoxTest {
+protected:
+    ~Group() override
+    {
+        boxes.clear();
+        for (auto const& container : containers)
+            container->removeAll();
+    }
+
+    kit::NamedObject& container(long window)
+    {
+        containers.push_back(newContainer(form, window));
+        return *containers.back().get();
+    }
+
+    Box& add(Kind const& kind, kit::NamedObject* in, Mode mode = Mode::Run)
+    {
+        int const number = static_cast<int>(boxes.size());
+        RECT const place = {20, 20 + 25 * number, 140, 40 + 25 * number};
+        boxes.push_back(
+            std::make_unique<Box>(kind, library(), form, place, L"Box" + std::to_wstring(number), mode));
+        if (in)
+            boxes.back()->extender().offer(L"Container", Variant::ofDispatch(in));
+        boxes.back()->start();
+        return *boxes.back();
+    }
+
+    std::vector<long> values() const
+    {
+        std::vector<long> all;
+        for (auto const& box : boxes)
+            all.push_back(box->value());
+        return all;
+    }
+
+    std::vector<ComPtr<kit::NamedObject>> containers;
+    std::vector<std::unique_ptr<Box>> boxes;
+};
+
+TEST_F(Group, keepsOneChoiceInAContainer)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 4; ++i)
+        add(kOption, &frame);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1, 0, 0));
+    boxes[3]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 0, 0, 1));
+    boxes[0]->click();
+    EXPECT_THAT(values(), ElementsAre(1, 0, 0, 0));
+}
+
+TEST_F(Group, keepsOneChoiceForEachContainer)
+{
+    auto& left = container(1);
+    auto& right = container(2);
+    add(kOption, &left);
+    add(kOption, &right);
+    add(kOption, &left);
+    add(kOption, &right);
+    boxes[0]->setValue(1);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 1, 0, 0));
+    boxes[2]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1, 1, 0));
+    boxes[3]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 0, 1, 1));
+}
+
+TEST_F(Group, isToldByTheWindowAndNotByTheObjectOfTheContainer)
+{
+    add(kOption, &container(7));
+    add(kOption, &container(7));
+    boxes[0]->setValue(1);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1));
+}
+
+TEST_F(Group, isTheWholeFormWhereContainersHaveNoWindow)
+{
+    auto& left = container(1);
+    left.remove(L"hwnd");
+    add(kOption, &left);
+    add(kOption, &container(2));
+    add(kOption, nullptr); // on the form, which tells no window here
+    boxes[0]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 0, 0));
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1, 0));
+    boxes[2]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 0, 1));
+}
+
+TEST_F(Group, isTheWholeFormWhereAContainerFails)
+{
+    auto& left = container(1);
+    add(kOption, &left);
+    add(kOption, &container(2));
+    boxes[0]->setValue(1);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 1));
+    left.refuse(L"hwnd");
+    boxes[1]->setValue(0);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1));
+}
+
+TEST_F(Group, leavesCheckBoxesAlone)
+{
+    auto& frame = container(1);
+    add(kCheck, &frame);
+    add(kOption, &frame);
+    add(kCheck, &frame);
+    boxes[0]->setValue(1);
+    boxes[2]->setValue(2);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 1, 2));
+    boxes[0]->click();
+    boxes[0]->leave();
+    boxes[2]->click();
+    EXPECT_THAT(values(), ElementsAre(0, 1, 0));
+}
+
+TEST_F(Group, clearsEveryOtherOneWhateverItsValue)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 3; ++i)
+        add(kOption, &frame);
+    form.record().forget();
+    boxes[2]->setValue(1);
+    // Two siblings lose their tab stop; the chosen one has it by its click and by its setter.
+    EXPECT_EQ(form.record().count("Extender.TabStop = 0"), 2);
+    EXPECT_EQ(form.record().count("Extender.TabStop = -1"), 2);
+}
+
+TEST_F(Group, leavesOneTabStop)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 3; ++i)
+        add(kOption, &frame);
+    auto const tabStops = [&] {
+        std::vector<bool> all;
+        for (auto const& box : boxes)
+            all.push_back(box->extender().value(L"TabStop").toBool());
+        return all;
+    };
+    boxes[0]->setValue(1);
+    EXPECT_THAT(tabStops(), ElementsAre(true, false, false));
+    boxes[2]->click();
+    EXPECT_THAT(tabStops(), ElementsAre(false, false, true));
+}
+
+TEST_F(Group, keepsItsChoiceWhileItIsLoaded)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    boxes[0]->setValue(1);
+    auto const bag = newBag();
+    bag->put(L"Value", Variant::ofLong(1));
+    boxes.push_back(std::make_unique<Box>(kOption, library(), form, kPlace));
+    boxes[1]->extender().offer(L"Container", Variant::ofDispatch(&frame));
+    boxes[1]->start(*bag.get());
+    EXPECT_THAT(values(), ElementsAre(0, 1));
+}
+
+TEST_F(Group, isFoundThroughTheParentWhereTheSiteHasNoContainer)
+{
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    auto& left = container(1);
+    add(kOption, &left);
+    add(kOption, &left);
+    add(kOption, &container(2));
+    boxes[2]->setValue(1);
+    boxes[0]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 0, 1));
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1, 1));
+}
+
+TEST_F(Group, needsNoContainerAtAll)
+{
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
+    add(kOption, nullptr);
+    EXPECT_EQ(boxes[0]->setValue(1), S_OK);
+    EXPECT_THAT(values(), ElementsAre(1));
+}
+
+TEST_F(Group, holdsAtDesignTime)
+{
+    auto& frame = container(1);
+    add(kOption, &frame, Mode::Design);
+    add(kOption, &frame, Mode::Design);
+    boxes[0]->setValue(1);
+    boxes[1]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 1));
+}
+
+TEST_F(Group, raisesClickWhenTheOthersAreClear)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    add(kOption, &frame);
+    boxes[0]->setValue(1);
+    std::vector<long> seen;
+    boxes[1]->events().action = [&](auto const&) { seen = values(); };
+    boxes[1]->setValue(1);
+    EXPECT_THAT(seen, ElementsAre(0, 1));
+}
+
+TEST_F(Group, followsASinkThatChoosesAnotherInsideClick)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 3; ++i)
+        add(kOption, &frame);
+    Names order;
+    for (size_t i = 0; i < 3; ++i)
+        boxes[i]->events().action = [&, i](auto const&) {
+            order.push_back(std::to_string(i));
+            if (i == 0)
+                boxes[2]->setValue(1);
+        };
+    boxes[0]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 0, 1));
+    EXPECT_THAT(order, ElementsAre("0", "2"));
+}
+
+TEST_F(Group, letsASinkTakeTheChoiceBackInsideClick)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    add(kOption, &frame);
+    boxes[1]->setValue(1);
+    boxes[1]->happened();
+    boxes[0]->events().action = [&](auto const&) { boxes[0]->setValue(0); };
+    boxes[0]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(0, 0));
+    EXPECT_FALSE(boxes[0]->extender().value(L"TabStop").toBool());
+    EXPECT_THAT(boxes[1]->happened(), testing::IsEmpty());
+}
+
+TEST_F(Group, endsWhereASinkChoosesItselfAgainInsideClick)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    boxes[0]->events().action = [&](auto const&) { boxes[0]->setValue(1); };
+    boxes[0]->setValue(1);
+    EXPECT_EQ(boxes[0]->count("Click"), 1);
+}
+
+TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    add(kOption, &frame);
+    auto const sink = kit::make<kit::ChangeRecorder>();
+    kit::Connection const connection(boxes[1]->hosted().object(), IID_IPropertyNotifySink, sink->unknown());
+    sink->action = [&](DISPID) {
+        sink->action = nullptr;
+        boxes[0]->setValue(0);
+        boxes[0]->setValue(1); // a click in the middle of clearing: it does not clear a second time
+    };
+    form.record().forget();
+    boxes[0]->setValue(1);
+    EXPECT_THAT(values(), ElementsAre(1, 0));
+    EXPECT_EQ(boxes[0]->count("Click"), 2);
+    EXPECT_EQ(form.record().countFrom("Container.EnumObjects"), 1);
+}
+
+TEST_F(Group, outlivesASiblingThatGoesInsideTheChange)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 3; ++i)
+        add(kOption, &frame);
+    auto const sink = kit::make<kit::ChangeRecorder>();
+    kit::Connection const connection(boxes[1]->hosted().object(), IID_IPropertyNotifySink, sink->unknown());
+    sink->action = [&](DISPID) {
+        sink->action = nullptr;
+        boxes[2]->remove();
+    };
+    boxes[0]->setValue(1);
+    EXPECT_EQ(boxes[0]->value(), 1);
+}
+
+TEST_F(Group, runsOverASiblingThatFails)
+{
+    auto& frame = container(1);
+    add(kOption, &frame);
+    add(kOption, &frame);
+    boxes[1]->setValue(1);
+    auto const stranger = kit::make<kit::NamedObject>("Stranger", form.sharedRecord());
+    auto& objects = form.container().objects;
+    objects.insert(objects.begin(), stranger.get());
+    boxes[0]->setValue(1);
+    std::erase(objects, stranger->unknown());
+    EXPECT_THAT(values(), ElementsAre(1, 0));
+}
+
+} // namespace
+} // namespace quillet::box

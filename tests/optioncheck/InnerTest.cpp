@@ -1,0 +1,186 @@
+// The window inside: one of the system's button class, owned and covered by the control.
+#include "Box.h"
+#include "kit/Fonts.h"
+#include "kit/Painter.h"
+
+#include <algorithm>
+
+namespace quillet::box {
+namespace {
+
+BOOL CALLBACK countOne(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+class Inner : public EachBoxTest {
+protected:
+    Inner() : box(kind(), library(), form) { box.start(); }
+
+    Box box;
+};
+
+TEST_P(Inner, isASystemButtonOfItsKind)
+{
+    LONG const style = ::GetWindowLongW(box.inner(), GWL_STYLE);
+    EXPECT_EQ(style & BS_TYPEMASK, isOption() ? BS_RADIOBUTTON : BS_3STATE);
+    EXPECT_TRUE(style & WS_CHILD);
+    EXPECT_TRUE(style & WS_VISIBLE);
+    for (HWND const window : {box.inner(), box.outer()}) { // a dialog may look at either
+        auto const code = ::SendMessageW(window, WM_GETDLGCODE, 0, 0);
+        EXPECT_EQ(code & DLGC_BUTTON, DLGC_BUTTON);
+        EXPECT_EQ(code & DLGC_RADIOBUTTON, isOption() ? DLGC_RADIOBUTTON : 0);
+        EXPECT_EQ(code & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON), 0);
+    }
+}
+
+TEST_P(Inner, saysItsStateAndItsTextByTheSystemsMessages)
+{
+    box.put(L"Caption", Variant::ofString(L"Said"));
+    wchar_t text[20] = {};
+    ::GetWindowTextW(box.inner(), text, 20);
+    EXPECT_STREQ(text, L"Said");
+    EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+    box.setValue(1);
+    EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+TEST_P(Inner, takesTextFromOutside)
+{
+    ::SetWindowTextW(box.inner(), L"&Told");
+    EXPECT_EQ(box.get(L"Caption").toString().view(), L"&Told");
+}
+
+TEST_P(Inner, isMadeOnceWhoeverAsksFirst)
+{
+    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    other.hosted().setSite();
+    other.hosted().load(*newBag().get());
+    HWND const early = other.hwnd(); // before any container shows it
+    other.hosted().activate();
+    EXPECT_EQ(other.hwnd(), early);
+    HWND const first = ::GetWindow(other.outer(), GW_CHILD);
+    EXPECT_EQ(first, early);
+    EXPECT_EQ(::GetWindow(first, GW_HWNDNEXT), nullptr);
+    EXPECT_NE(::GetWindowLongPtrA(early, GWLP_USERDATA), 0); // and has its tooltip
+}
+
+TEST_P(Inner, isNotMadeByLoading)
+{
+    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    other.hosted().setSite();
+    auto const bag = newBag();
+    bag->put(L"Enabled", Variant::ofBool(false));
+    int before = 0;
+    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&before));
+    other.hosted().load(*bag.get());
+    int after = 0;
+    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&after));
+    EXPECT_EQ(after, before);
+}
+
+TEST_P(Inner, ownsItsDeviceContext)
+{
+    HDC const first = ::GetDC(box.inner());
+    HDC const second = ::GetDC(box.inner()); // as the fill does: without giving it back
+    EXPECT_EQ(first, second);
+}
+
+TEST_P(Inner, coversTheControl)
+{
+    RECT inner;
+    RECT outer;
+    ::GetWindowRect(box.inner(), &inner);
+    ::GetWindowRect(box.outer(), &outer);
+    EXPECT_TRUE(::EqualRect(&inner, &outer));
+}
+
+TEST_P(Inner, keepsTheSystemFromDrawing)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    kit::focus(edit.get());
+    kit::pumpPending();
+    RECT client;
+    ::GetClientRect(box.inner(), &client);
+    kit::Canvas before(client.right, client.bottom);
+    kit::readWindow(box.inner(), before);
+    // Nobody paints between these messages and the look: what they draw by themselves would show.
+    ::SendMessageW(box.inner(), BM_SETSTATE, TRUE, 0);
+    ::SendMessageW(box.inner(), BM_SETSTATE, FALSE, 0);
+    ::SendMessageW(box.inner(), WM_ENABLE, FALSE, 0);
+    ::SendMessageW(box.inner(), WM_ENABLE, TRUE, 0);
+    ::SendMessageW(box.inner(), BM_SETCHECK, BST_UNCHECKED, 0);
+    kit::Canvas after(client.right, client.bottom);
+    kit::readWindow(box.inner(), after);
+    EXPECT_EQ(kit::differences(before, after), "");
+    EXPECT_TRUE(::IsWindowVisible(box.inner()));
+}
+
+TEST_P(Inner, writesItsCaptionBesideTheGlyphInTheMiddle)
+{
+    COLORREF const face = RGB(250, 250, 200);
+    COLORREF const fore = RGB(0, 0, 160);
+    auto const font = kit::newFont(L"Tahoma", 9);
+    kit::setByName(box.dispatch(), L"Font", font.get());
+    box.put(L"Caption", Variant::ofString(L"Word"));
+    box.put(L"BackColor", Variant::ofLong(static_cast<long>(face)));
+    box.put(L"ForeColor", Variant::ofLong(static_cast<long>(fore)));
+    box.put(L"HotForeColor", Variant::ofLong(static_cast<long>(fore)));
+    kit::Canvas shown(120, 20);
+    kit::readWindow(box.inner(), shown);
+    shown.fill(0, 0, 13, 20, face); // the glyph has tests of its own
+    kit::Canvas expected(120, 20, face);
+    HFONT const handle = kit::handleOf(*font.get());
+    SIZE const size = kit::textSize(handle, L"Word");
+    kit::paintText(expected, {17, 0, 120, 20}, {17, (20 - size.cy) / 2}, L"Word", handle, fore, face);
+    EXPECT_EQ(kit::differences(expected, shown), "");
+}
+
+TEST_P(Inner, paintsIntoAnotherContextOnRequest)
+{
+    box.put(L"BackColor", Variant::ofLong(RGB(250, 250, 200)));
+    kit::Canvas window(120, 20);
+    kit::readWindow(box.inner(), window);
+    kit::Canvas printed(120, 20);
+    ::SendMessageW(box.inner(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()), PRF_CLIENT);
+    EXPECT_EQ(kit::differences(window, printed), "");
+    kit::Canvas drawn(120, 20);
+    RECTL const bounds = {0, 0, 120, 20};
+    EXPECT_EQ(box.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.dc(),
+                                          &bounds, nullptr, nullptr, 0),
+              S_OK);
+    EXPECT_EQ(kit::differences(window, drawn), "");
+}
+
+TEST_P(Inner, survivesTheLossOfItsWindow)
+{
+    box.put(L"Caption", Variant::ofString(L"Kept"));
+    box.setValue(1);
+    ::DestroyWindow(box.inner());
+    EXPECT_EQ(box.value(), 1);
+    EXPECT_EQ(box.get(L"Caption").toString().view(), L"Kept");
+    HWND const made = box.hwnd(); // a new one
+    EXPECT_TRUE(::IsWindow(made));
+    EXPECT_EQ(::SendMessageW(made, BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+TEST_P(Inner, goesWithTheControl)
+{
+    HWND const inner = box.inner();
+    box.remove();
+    EXPECT_FALSE(::IsWindow(inner));
+}
+
+TEST_P(Inner, goesWithTheFormBeforeTheControl)
+{
+    ::DestroyWindow(form.window());
+    EXPECT_FALSE(::IsWindow(box.inner()));
+    EXPECT_EQ(box.setValue(1), S_OK);
+    EXPECT_EQ(box.value(), 1);
+}
+
+QV_EACH_BOX(Inner);
+
+} // namespace
+} // namespace quillet::box

@@ -1,0 +1,259 @@
+// Keyboard and focus: keys, their events, access keys, and who has the focus.
+#include "Box.h"
+
+#include <olectl.h>
+
+namespace quillet::box {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr COLORREF kFace = RGB(240, 230, 140);
+
+class Keys : public EachBoxTest {
+protected:
+    Keys() : box(kind(), library(), form)
+    {
+        auto const bag = newBag();
+        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kFace)));
+        box.start(*bag.get());
+    }
+
+    void focus()
+    {
+        EXPECT_TRUE(kit::focus(box.inner()));
+        kit::pumpPending();
+        box.events().forget();
+    }
+    Names typed(BYTE key)
+    {
+        return box.during([&] { kit::typeKey(key); }, "KeyUp");
+    }
+
+    Box box;
+};
+
+TEST_P(Keys, spaceClicks)
+{
+    focus();
+    box.setValue(0);
+    EXPECT_THAT(typed(VK_SPACE), ElementsAre("KeyDown", "KeyPress", "KeyUp", "Click"));
+    EXPECT_EQ(box.value(), 1);
+}
+
+TEST_P(Keys, spaceTurnsACheckBoxRoundAndLeavesAChosenOption)
+{
+    focus();
+    box.setValue(1);
+    typed(VK_SPACE);
+    EXPECT_EQ(box.value(), isOption() ? 1 : 0);
+}
+
+TEST_P(Keys, otherKeysRaiseTheirEventsAlone)
+{
+    focus();
+    box.setValue(0);
+    EXPECT_THAT(typed('A'), ElementsAre("KeyDown", "KeyPress", "KeyUp"));
+    EXPECT_THAT(typed(VK_F2), ElementsAre("KeyDown", "KeyUp"));
+    EXPECT_EQ(box.value(), 0);
+}
+
+TEST_P(Keys, tellTheirCodeAndTheirCharacter)
+{
+    focus();
+    box.events().forget();
+    kit::typeKey('A');
+    EXPECT_TRUE(kit::pumpUntil([&] { return box.count("KeyUp") > 0; }));
+    auto const& events = box.events().events;
+    ASSERT_EQ(events.size(), 3U);
+    EXPECT_THAT(events[0].types, ElementsAre(VT_BYREF | VT_I2, VT_BYREF | VT_I2));
+    EXPECT_EQ(events[0].values[0].toLong(), 'A');
+    EXPECT_EQ(events[0].values[1].toLong(), 0);
+    EXPECT_THAT(events[1].types, ElementsAre(VT_BYREF | VT_I2));
+    EXPECT_EQ(events[1].values[0].toLong(), 'a');
+    EXPECT_EQ(events[2].values[0].toLong(), 'A');
+}
+
+TEST_P(Keys, tellTheShiftState)
+{
+    focus();
+    box.events().forget();
+    ::keybd_event(VK_CONTROL, 0, 0, 0);
+    ::keybd_event(VK_SHIFT, 0, 0, 0);
+    kit::typeKey(VK_F5);
+    kit::pumpUntil([&] { return box.count("KeyUp") > 0; });
+    ::keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+    ::keybd_event(VK_CONTROL, 0, KEYEVENTF_KEYUP, 0);
+    kit::pumpUntil([&] { return box.count("KeyUp") > 2; });
+    bool told = false;
+    for (auto const& event : box.events().events)
+        if (nameOfEvent(event.id) == "KeyDown" && event.values[0].toLong() == VK_F5) {
+            told = true;
+            EXPECT_EQ(event.values[1].toLong(), 3);
+        }
+    EXPECT_TRUE(told);
+}
+
+/// A sink sets the key to 0, as hosts do to keep it from the control.
+TEST_P(Keys, usedUpByASinkDoNothing)
+{
+    focus();
+    box.setValue(0);
+    kit::pumpPending();
+    box.events().forget();
+    auto const point = kit::make<kit::EventRecorder>(kind().eventsId);
+    class Eater final : public kit::Counterpart<IDispatch> {
+    public:
+        STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+        STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+        STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+        STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
+                            UINT*) override
+        {
+            if (nameOfEvent(id) == "KeyDown" || nameOfEvent(id) == "KeyUp")
+                *arguments->rgvarg[1].piVal = 0;
+            return S_OK;
+        }
+    };
+    auto const eater = kit::make<Eater>();
+    {
+        kit::Connection const connection(box.hosted().object(), kind().eventsId, eater->unknown());
+        typed(VK_SPACE);
+        EXPECT_EQ(box.value(), 0);
+    }
+    typed(VK_SPACE);
+    EXPECT_EQ(box.value(), 1);
+}
+
+TEST_P(Keys, reachNoDisabledBox)
+{
+    focus();
+    box.put(L"Enabled", Variant::ofBool(false));
+    EXPECT_NE(::GetFocus(), box.inner());
+    box.events().forget();
+    kit::typeKey(VK_SPACE);
+    kit::pumpPending();
+    EXPECT_THAT(box.happened(), IsEmpty());
+}
+
+TEST_P(Keys, focusOnTheControlIsPassedOnToTheInnerButton)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    EXPECT_TRUE(kit::focus(edit.get()));
+    ::SetFocus(box.outer());
+    EXPECT_EQ(::GetFocus(), box.inner());
+    EXPECT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(box.hosted().doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    EXPECT_EQ(::GetFocus(), box.inner());
+}
+
+TEST_P(Keys, focusIsToldToTheContainerOnceEachWay)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    EXPECT_TRUE(kit::focus(edit.get()));
+    form.record().forget();
+    ::SetFocus(box.outer());
+    EXPECT_EQ(form.record().count("Site.OnUIActivate"), 1);
+    EXPECT_EQ(form.record().count("Site.OnFocus(gained)"), 1);
+    EXPECT_EQ(form.record().count("Site.OnFocus(lost)"), 0);
+    EXPECT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(form.record().count("Site.OnFocus(lost)"), 1);
+}
+
+TEST_P(Keys, focusByAPressIsToldToTheContainer)
+{
+    form.record().forget();
+    box.enter();
+    box.press();
+    EXPECT_EQ(form.record().count("Site.OnUIActivate"), 1);
+    EXPECT_EQ(form.record().count("Site.OnFocus(gained)"), 1);
+    box.letGo();
+}
+
+TEST_P(Keys, focusShowsTheFocusRectangleAndItsLossTakesItAway)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    EXPECT_TRUE(kit::focus(edit.get()));
+    auto const framed = [&] { // dots on the frame's left edge
+        int dots = 0;
+        for (int y = 0; y < 20; ++y)
+            dots += box.pixel({16, y}) != kFace;
+        return dots;
+    };
+    EXPECT_EQ(framed(), 0);
+    EXPECT_TRUE(kit::focus(box.inner()));
+    EXPECT_GT(framed(), 3);
+    EXPECT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(framed(), 0);
+}
+
+TEST_P(Keys, focusFromTheKeyboardChoosesAnOptionAndNoCheckBox)
+{
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    EXPECT_TRUE(kit::focus(edit.get()));
+    box.events().forget();
+    ::SetFocus(box.outer());
+    EXPECT_EQ(box.value(), isOption() ? 1 : 0);
+    EXPECT_EQ(box.count("Click"), isOption() ? 1 : 0);
+    EXPECT_TRUE(kit::focus(edit.get()));
+    ::SetFocus(box.outer());
+    EXPECT_EQ(box.count("Click"), isOption() ? 1 : 0); // the chosen one just gets the focus
+}
+
+TEST_P(Keys, accessKeyOfTheCaptionIsTheControls)
+{
+    box.put(L"Caption", Variant::ofString(L"Fish && &Chips"));
+    CONTROLINFO info = {};
+    info.cb = sizeof info;
+    EXPECT_EQ(box.as<IOleControl>()->GetControlInfo(&info), S_OK);
+    ASSERT_EQ(info.cAccel, 2);
+    ACCEL rows[2] = {};
+    ::CopyAcceleratorTableW(info.hAccel, rows, 2);
+    EXPECT_EQ(rows[0].key, 'c');
+    EXPECT_EQ(rows[1].key, 'C');
+    box.put(L"Caption", Variant::ofString(L"None && nobody"));
+    EXPECT_EQ(box.as<IOleControl>()->GetControlInfo(&info), S_OK);
+    EXPECT_EQ(info.cAccel, 0);
+}
+
+TEST_P(Keys, accessKeyGivesTheFocusAndClicksOnce)
+{
+    box.put(L"Caption", Variant::ofString(L"&Yes"));
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    EXPECT_TRUE(kit::focus(edit.get()));
+    box.events().forget();
+    MSG message = {};
+    message.message = WM_SYSCHAR;
+    message.wParam = 'y';
+    EXPECT_EQ(box.as<IOleControl>()->OnMnemonic(&message), S_OK);
+    EXPECT_EQ(::GetFocus(), box.inner());
+    EXPECT_EQ(box.value(), 1);
+    EXPECT_EQ(box.count("Click"), 1);
+}
+
+TEST_P(Keys, containersClickIsAUsersClick)
+{
+    EXPECT_EQ(kit::invoke(box.dispatch(), DISPID_DOCLICK, DISPATCH_METHOD).result, S_OK);
+    EXPECT_EQ(box.value(), 1);
+    EXPECT_EQ(box.count("Click"), 1);
+}
+
+TEST_P(Keys, tabAndArrowsAreOfferedToTheContainer)
+{
+    focus();
+    for (WPARAM const key : {VK_TAB, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_RETURN, VK_ESCAPE}) {
+        form.record().forget();
+        MSG message = {};
+        message.hwnd = box.inner();
+        message.message = WM_KEYDOWN;
+        message.wParam = key;
+        EXPECT_EQ(box.as<IOleInPlaceActiveObject>()->TranslateAccelerator(&message), S_FALSE);
+        EXPECT_EQ(form.record().countFrom("Site.TranslateAccelerator"), 1) << key;
+    }
+}
+
+QV_EACH_BOX(Keys);
+
+} // namespace
+} // namespace quillet::box

@@ -1,0 +1,227 @@
+// The properties: what a new control has, what setters store, tell and paint.
+#include "Box.h"
+#include "kit/Fonts.h"
+
+#include <ole2.h>
+
+namespace quillet::box {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr long kButtonText = static_cast<long>(0x80000012);
+constexpr long kButtonFace = static_cast<long>(0x8000000F);
+
+/// The published identifiers, written by hand.
+constexpr DISPID kEnabled = 0x68030006;
+constexpr DISPID kCaption = 0x68030005;
+constexpr DISPID kHotForeColor = 0x68030003;
+constexpr DISPID kBackColor = 0x68030002;
+constexpr DISPID kForeColor = 0x68030001;
+
+class Properties : public EachBoxTest {
+protected:
+    Properties() : box(kind(), library(), form) { box.start(); }
+
+    long number(wchar_t const* name) const { return box.get(name).toLong(); }
+    std::wstring text(wchar_t const* name) const { return std::wstring(box.get(name).toString().view()); }
+
+    Box box;
+};
+
+class NewBox : public EachBoxTest {};
+
+TEST_P(NewBox, hasTheNameOfItsExtenderAndTheAmbientFont)
+{
+    auto const font = kit::newFont(L"Courier New", 14, true);
+    Box box(kind(), library(), form, kPlace, L"optOne");
+    box.hosted().site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(font.as<IFontDisp>().get()));
+    box.startNew();
+    EXPECT_EQ(box.get(L"Caption").toString().view(), L"optOne");
+    auto const own = query<IFont>(box.get(L"Font").toObject().get());
+    ASSERT_TRUE(own);
+    EXPECT_TRUE(kit::equalFonts(*own.get(), *font.get()));
+    EXPECT_EQ(box.get(L"HotForeColor").toLong(), kButtonText);
+    EXPECT_EQ(box.get(L"ForeColor").toLong(), kButtonText);
+    EXPECT_EQ(box.get(L"BackColor").toLong(), kButtonFace);
+    EXPECT_TRUE(box.get(L"Enabled").toBool());
+    EXPECT_EQ(box.value(), 0);
+}
+
+TEST_P(NewBox, keepsItsLaidOutCaptionWhereThereIsNoName)
+{
+    Box box(kind(), library(), form);
+    box.extender().remove(L"Name");
+    box.startNew();
+    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+}
+
+TEST_P(NewBox, worksWithoutLoadingOrInitialising)
+{
+    Box box(kind(), library(), form);
+    box.hosted().setSite();
+    box.hosted().activate();
+    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+    EXPECT_EQ(box.setValue(1), S_OK);
+    EXPECT_EQ(box.value(), 1);
+}
+
+TEST_P(Properties, storeWhatTheyAreGivenAndTellOfIt)
+{
+    auto const sink = kit::make<kit::ChangeRecorder>();
+    kit::Connection const connection(box.hosted().object(), IID_IPropertyNotifySink, sink->unknown());
+    EXPECT_EQ(box.put(L"Caption", Variant::ofString(L"&Yes")), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(kCaption));
+    EXPECT_EQ(text(L"Caption"), L"&Yes");
+    EXPECT_EQ(box.put(L"BackColor", Variant::ofLong(0x123456)), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(kBackColor));
+    EXPECT_EQ(number(L"BackColor"), 0x123456);
+    EXPECT_EQ(box.put(L"ForeColor", Variant::ofLong(0x654321)), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(kForeColor));
+    EXPECT_EQ(number(L"ForeColor"), 0x654321);
+    EXPECT_EQ(box.put(L"HotForeColor", Variant::ofLong(0x010203)), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(kHotForeColor));
+    EXPECT_EQ(number(L"HotForeColor"), 0x010203);
+    EXPECT_EQ(box.put(L"Enabled", Variant::ofBool(false)), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(kEnabled));
+    EXPECT_FALSE(box.get(L"Enabled").toBool());
+    EXPECT_EQ(kit::setByName(box.dispatch(), L"Font", kit::newFont(L"Arial", 10).get()).result, S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(DISPID_FONT));
+}
+
+TEST_P(Properties, makeTheControlDirtyAndItsViewChange)
+{
+    auto const view = kit::make<kit::ViewRecorder>();
+    EXPECT_EQ(box.as<IViewObject>()->SetAdvise(DVASPECT_CONTENT, 0, view.get()), S_OK);
+    for (wchar_t const* name : {L"ForeColor", L"BackColor", L"HotForeColor"}) {
+        box.hosted().save(*newBag().get());
+        view->calls.clear();
+        EXPECT_EQ(box.put(name, Variant::ofLong(0x334455)), S_OK);
+        EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_OK) << kit::narrow(name);
+        EXPECT_EQ(view->count("OnViewChange(1,-1)"), 1) << kit::narrow(name);
+    }
+    box.as<IViewObject>()->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
+}
+
+TEST_P(Properties, thatDoNotConvertChangeNothing)
+{
+    EXPECT_NE(box.put(L"ForeColor", Variant::ofString(L"green")), S_OK);
+    EXPECT_NE(box.put(L"Enabled", Variant::ofString(L"maybe")), S_OK);
+    EXPECT_NE(box.put(L"Value", Variant::ofString(L"x")), S_OK);
+    EXPECT_EQ(number(L"ForeColor"), kButtonText);
+    EXPECT_TRUE(box.get(L"Enabled").toBool());
+    EXPECT_EQ(kit::setByName(box.dispatch(), L"Font", nullptr).code, static_cast<HRESULT>(0x800A005B));
+}
+
+TEST_P(Properties, giveTheWindowOfTheInnerButton)
+{
+    EXPECT_EQ(::GetParent(box.hwnd()), box.outer());
+    EXPECT_EQ(box.hwnd(), ::GetWindow(box.outer(), GW_CHILD));
+    EXPECT_NE(kit::putByName(box.dispatch(), L"hwnd", Variant::ofLong(1)).result, S_OK);
+}
+
+TEST_P(Properties, showTheirColoursAtOnce)
+{
+    box.put(L"BackColor", Variant::ofLong(RGB(1, 200, 100)));
+    EXPECT_EQ(box.pixel({118, 1}), RGB(1, 200, 100));
+    box.put(L"ForeColor", Variant::ofLong(RGB(200, 0, 0)));
+    EXPECT_TRUE(box.captionHas(RGB(200, 0, 0)));
+}
+
+TEST_P(Properties, ofTheFontAreTheControlsOwn)
+{
+    auto const font = kit::newFont(L"Arial", 10);
+    kit::setByName(box.dispatch(), L"Font", font.get());
+    font->put_Bold(TRUE);
+    auto const own = query<IFont>(box.get(L"Font").toObject().get());
+    BOOL bold = TRUE;
+    own->get_Bold(&bold);
+    EXPECT_FALSE(bold);
+}
+
+TEST_P(Properties, followAChangeInsideTheFont)
+{
+    auto const own = query<IFont>(box.get(L"Font").toObject().get());
+    auto const before = reinterpret_cast<HFONT>(::SendMessageW(box.inner(), WM_GETFONT, 0, 0));
+    own->put_Bold(TRUE);
+    HFONT handle = nullptr;
+    own->get_hFont(&handle);
+    EXPECT_EQ(reinterpret_cast<HFONT>(::SendMessageW(box.inner(), WM_GETFONT, 0, 0)), handle);
+    EXPECT_NE(handle, before);
+}
+
+TEST_P(Properties, takeAnyUnicodeCaption)
+{
+    std::wstring const caption = L"\x043F\x0440\x0438\x0432\x0435\x0442 \x4F60\x597D";
+    EXPECT_EQ(box.put(L"Caption", Variant::ofString(caption)), S_OK);
+    EXPECT_EQ(text(L"Caption"), caption);
+    wchar_t seen[40] = {};
+    ::InternalGetWindowText(box.inner(), seen, 40); // what another program is told
+    EXPECT_EQ(std::wstring(seen), caption);
+}
+
+TEST_P(Properties, refreshPaintsTheInnerButton)
+{
+    {
+        WindowDc const dc(box.inner());
+        ::SetPixelV(dc.get(), 110, 3, RGB(255, 0, 255));
+    }
+    EXPECT_EQ(box.pixel({110, 3}), RGB(255, 0, 255));
+    EXPECT_EQ(kit::callByName(box.dispatch(), L"Refresh").result, S_OK);
+    EXPECT_NE(box.pixel({110, 3}), RGB(255, 0, 255));
+}
+
+TEST_P(Properties, resizeCoversTheControlAndRaisesResize)
+{
+    RECT const larger = {20, 30, 200, 70};
+    EXPECT_EQ(box.as<IOleInPlaceObject>()->SetObjectRects(&larger, &larger), S_OK);
+    EXPECT_THAT(box.happened(), ElementsAre("Resize"));
+    RECT inner;
+    ::GetClientRect(box.inner(), &inner);
+    EXPECT_EQ(inner.right, 180);
+    EXPECT_EQ(inner.bottom, 40);
+}
+
+TEST_P(Properties, ambientChangeOfAnyKindRaisesResize)
+{
+    for (DISPID const ambient : {DISPID_AMBIENT_BACKCOLOR, DISPID_AMBIENT_FONT, DISPID_UNKNOWN}) {
+        EXPECT_EQ(box.as<IOleControl>()->OnAmbientPropertyChange(ambient), S_OK);
+        EXPECT_THAT(box.happened(), ElementsAre("Resize"));
+    }
+}
+
+TEST_P(Properties, ambientChangeMovesAStrayInnerButtonBack)
+{
+    ::MoveWindow(box.inner(), 5, 5, 10, 10, FALSE);
+    box.as<IOleControl>()->OnAmbientPropertyChange(DISPID_UNKNOWN);
+    RECT inner;
+    ::GetWindowRect(box.inner(), &inner);
+    RECT outer;
+    ::GetWindowRect(box.outer(), &outer);
+    EXPECT_TRUE(::EqualRect(&inner, &outer));
+}
+
+TEST_P(Properties, saysNotToBeAPushButton)
+{
+    DWORD status = 0;
+    EXPECT_EQ(box.as<IOleObject>()->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
+    EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
+                                         OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
+                                         OLEMISC_CANTLINKINSIDE));
+}
+
+TEST_P(Properties, windowProcAnswersWhatTheButtonAnswers)
+{
+    std::vector<Variant> const question = {Variant::ofLong(HandleToLong(box.inner())),
+                                           Variant::ofLong(BM_GETCHECK), Variant::ofLong(0),
+                                           Variant::ofLong(0)};
+    box.setValue(1);
+    EXPECT_EQ(kit::callByName(box.dispatch(), L"WindowProc", question).value.toLong(), 1);
+}
+
+QV_EACH_BOX(NewBox);
+QV_EACH_BOX(Properties);
+
+} // namespace
+} // namespace quillet::box

@@ -1,0 +1,244 @@
+// Saved properties: names, types, defaults, order, three carriers.
+#include "Box.h"
+#include "kit/Fonts.h"
+#include "kit/Memory.h"
+
+namespace quillet::box {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Wide = std::vector<std::wstring>;
+
+constexpr long kButtonShadow = static_cast<long>(0x80000010);
+
+ComPtr<kit::FakeBag> fullBag(long value)
+{
+    auto bag = newBag();
+    bag->put(L"ForeColor", Variant::ofLong(0x010203));
+    bag->put(L"Enabled", Variant::ofBool(false));
+    bag->put(L"Font", Variant::ofUnknown(kit::newFont(L"Courier New", 12).get()));
+    bag->put(L"Caption", Variant::ofString(L"Saved"));
+    bag->put(L"Value", Variant::ofLong(value));
+    bag->put(L"HotForeColor", Variant::ofLong(0x020304));
+    bag->put(L"BackColor", Variant::ofLong(0x030405));
+    return bag;
+}
+
+class Saving : public EachBoxTest {
+protected:
+    Saving() : box(kind(), library(), form) {}
+
+    ComPtr<kit::FakeBag> saved()
+    {
+        auto bag = newBag();
+        EXPECT_EQ(box.hosted().save(*bag.get()), S_OK);
+        return bag;
+    }
+
+    Box box;
+};
+
+TEST_P(Saving, readsInOrder)
+{
+    auto const bag = newBag();
+    box.start(*bag.get());
+    Wide expected = {L"ForeColor", L"Enabled", L"Font", L"Caption", L"Value", L"HotForeColor", L"BackColor"};
+    if (isOption())
+        expected.push_back(L"ForeColor"); // once for what is shown, once for what the user chose
+    EXPECT_EQ(bag->namesRead(), expected);
+}
+
+TEST_P(Saving, writesInOrderAndTheColourTwice)
+{
+    box.start(*fullBag(1).get());
+    auto const bag = saved();
+    EXPECT_THAT(bag->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"Font", L"Caption", L"Value",
+                                                 L"HotForeColor", L"BackColor", L"ForeColor"));
+    EXPECT_EQ(bag->value(L"ForeColor").toLong(), 0x010203);
+    ASSERT_EQ(bag->writes.size(), 8U);
+    EXPECT_EQ(bag->writes[0].value.toLong(), kButtonShadow); // as the disabled caption shows
+    EXPECT_EQ(bag->writes[7].value.toLong(), 0x010203);
+}
+
+TEST_P(Saving, writesNoDefaults)
+{
+    box.start();
+    EXPECT_THAT(saved()->namesWritten(), IsEmpty());
+}
+
+TEST_P(Saving, writesItsTypes)
+{
+    box.start(*fullBag(1).get());
+    auto const bag = saved();
+    EXPECT_EQ(bag->value(L"ForeColor").type(), VT_I4);
+    EXPECT_EQ(bag->value(L"Enabled").type(), VT_BOOL);
+    EXPECT_EQ(bag->value(L"Font").type(), VT_UNKNOWN);
+    EXPECT_EQ(bag->value(L"Caption").type(), VT_BSTR);
+    EXPECT_EQ(bag->value(L"Value").type(), isOption() ? VT_I4 : VT_I2);
+    EXPECT_EQ(bag->value(L"HotForeColor").type(), VT_I4);
+    EXPECT_EQ(bag->value(L"BackColor").type(), VT_I4);
+}
+
+TEST_P(Saving, restoresWhatItSaved)
+{
+    box.start(*fullBag(1).get());
+    auto const bag = saved();
+    Box other(kind(), library(), form, kPlace, L"Other");
+    other.start(*bag.get());
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), 0x010203);
+    EXPECT_FALSE(other.get(L"Enabled").toBool());
+    EXPECT_EQ(other.get(L"Caption").toString().view(), L"Saved");
+    EXPECT_EQ(other.value(), 1);
+    EXPECT_EQ(other.get(L"HotForeColor").toLong(), 0x020304);
+    EXPECT_EQ(other.get(L"BackColor").toLong(), 0x030405);
+    auto const font = query<IFont>(other.get(L"Font").toObject().get());
+    EXPECT_TRUE(kit::equalFonts(*font.get(), *kit::newFont(L"Courier New", 12).get()));
+}
+
+TEST_P(Saving, keepsAnEmptyCaption)
+{
+    auto const bag = newBag();
+    bag->put(L"Caption", Variant::ofString(L""));
+    box.start(*bag.get());
+    EXPECT_EQ(box.get(L"Caption").toString().view(), L"");
+    EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"Caption"));
+}
+
+TEST_P(Saving, hasTheLaidOutCaptionForDefault)
+{
+    box.start();
+    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+}
+
+TEST_P(Saving, keepsTheUsersColourOfADisabledOneThatIsTheDefault)
+{
+    auto const bag = newBag();
+    bag->put(L"Enabled", Variant::ofBool(false));
+    box.start(*bag.get());
+    // What is shown is no default, so it is written; the user's colour has to take its place.
+    auto const again = saved();
+    EXPECT_THAT(again->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"ForeColor"));
+    Box other(kind(), library(), form, kPlace, L"Other");
+    other.start(*again.get());
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(0x80000012));
+}
+
+TEST_P(Saving, goesThroughAStream)
+{
+    box.start(*fullBag(1).get());
+    auto const stream = kit::streamOf();
+    ASSERT_EQ(box.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    Box other(kind(), library(), form, kPlace, L"Other");
+    other.hosted().setSite();
+    auto const copy = kit::streamOf(kit::bytesOf(*stream.get()));
+    ASSERT_EQ(other.as<IPersistStreamInit>()->Load(copy.get()), S_OK);
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), 0x010203);
+    EXPECT_EQ(other.get(L"Caption").toString().view(), L"Saved");
+    EXPECT_EQ(other.value(), 1);
+}
+
+TEST_P(Saving, aDisabledOneKeepsItsColourThroughAStream)
+{
+    auto const bag = newBag();
+    bag->put(L"Enabled", Variant::ofBool(false));
+    box.start(*bag.get());
+    auto const stream = kit::streamOf();
+    ASSERT_EQ(box.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    Box other(kind(), library(), form, kPlace, L"Other");
+    other.hosted().setSite();
+    ASSERT_EQ(other.as<IPersistStreamInit>()->Load(kit::streamOf(kit::bytesOf(*stream.get())).get()), S_OK);
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(0x80000012));
+}
+
+TEST_P(Saving, goesThroughAStorage)
+{
+    box.start(*fullBag(1).get());
+    auto const storage = kit::newStorage();
+    ASSERT_EQ(box.as<IPersistStorage>()->Save(storage.get(), TRUE), S_OK);
+    Box other(kind(), library(), form, kPlace, L"Other");
+    other.hosted().setSite();
+    ASSERT_EQ(other.as<IPersistStorage>()->Load(storage.get()), S_OK);
+    EXPECT_EQ(other.get(L"BackColor").toLong(), 0x030405);
+    EXPECT_EQ(other.value(), 1);
+}
+
+TEST_P(Saving, takesNumbersAsText)
+{
+    auto const bag = newBag();
+    bag->put(L"Value", Variant::ofString(L"1"));
+    bag->put(L"ForeColor", Variant::ofString(L"197121"));
+    box.start(*bag.get());
+    EXPECT_EQ(box.value(), 1);
+    EXPECT_EQ(box.get(L"ForeColor").toLong(), 197121);
+}
+
+TEST_P(Saving, leavesTheControlAsItWasWhereAValueIsBroken)
+{
+    box.start();
+    for (wchar_t const* name : {L"ForeColor", L"Enabled", L"Font", L"Value", L"HotForeColor", L"BackColor"}) {
+        auto const bag = fullBag(1);
+        bag->put(name, Variant::ofString(L"broken"));
+        EXPECT_NE(box.hosted().load(*bag.get()), S_OK) << kit::narrow(name);
+        EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption) << kit::narrow(name);
+        EXPECT_EQ(box.value(), 0);
+        EXPECT_TRUE(box.get(L"Enabled").toBool());
+    }
+}
+
+QV_EACH_BOX(Saving);
+
+using CheckSaving = BoxTest;
+
+TEST_F(CheckSaving, keepsAllThreeStates)
+{
+    for (long const state : {0L, 1L, 2L}) {
+        Box box(kCheck, library(), form);
+        box.start();
+        box.setValue(state);
+        auto const bag = newBag();
+        EXPECT_EQ(box.hosted().save(*bag.get()), S_OK);
+        EXPECT_EQ(bag->has(L"Value"), state != 0);
+        Box other(kCheck, library(), form, kPlace, L"Other");
+        other.start(*bag.get());
+        EXPECT_EQ(other.value(), state);
+    }
+}
+
+TEST_F(CheckSaving, refusesAValueOutOfRange)
+{
+    Box box(kCheck, library(), form);
+    box.start();
+    for (long const value : {70000L, 3L, -1L}) {
+        auto const bag = fullBag(value);
+        EXPECT_NE(box.hosted().load(*bag.get()), S_OK) << value;
+        EXPECT_EQ(box.value(), 0);
+        EXPECT_EQ(box.get(L"Caption").toString().view(), L"Check1");
+    }
+}
+
+using OptionSaving = BoxTest;
+
+TEST_F(OptionSaving, takesAnyValueButOneForCleared)
+{
+    for (long const value : {0L, 2L, -1L, 70000L}) {
+        auto const bag = newBag();
+        bag->put(L"Value", Variant::ofLong(value));
+        Box box(kOption, library(), form);
+        box.start(*bag.get());
+        EXPECT_EQ(box.value(), 0) << value;
+    }
+}
+
+TEST_F(OptionSaving, raisesResizeAtLoadingAndClickWhereItIsChosen)
+{
+    auto const bag = newBag();
+    bag->put(L"Value", Variant::ofLong(1));
+    Box box(kOption, library(), form);
+    box.hosted().setSite();
+    box.hosted().load(*bag.get());
+    EXPECT_THAT(box.happened(), ElementsAre("Click", "Resize"));
+}
+
+} // namespace
+} // namespace quillet::box

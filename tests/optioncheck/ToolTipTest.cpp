@@ -1,0 +1,121 @@
+// Tooltips and subclassing, which are the inner window's business.
+#include "Box.h"
+#include "kit/UiThread.h"
+#include "winsvc/ToolTips.h"
+
+#include <commctrl.h>
+
+namespace quillet::box {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using winsvc::theToolTipWindow;
+using winsvc::ToolTipWatch;
+using winsvc::toolTipWindows;
+
+class ToolTip : public EachBoxTest {};
+
+TEST_P(ToolTip, isOfTheInnerWindow)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        ToolTipWatch watch;
+        Box box(kind(), library(), own);
+        box.start();
+        ASSERT_GE(watch.messages.size(), 3U);
+        EXPECT_EQ(watch.messages[0].message, static_cast<UINT>(TTM_ACTIVATE));
+        EXPECT_EQ(watch.messages[1].message, static_cast<UINT>(TTM_ADDTOOLA));
+        EXPECT_EQ(watch.messages[1].tool.hwnd, box.inner());
+        EXPECT_EQ(watch.messages[1].tool.uId, reinterpret_cast<UINT_PTR>(box.inner()));
+        EXPECT_EQ(watch.messages[2].lParam, reinterpret_cast<LPARAM>(box.inner()));
+    });
+}
+
+TEST_P(ToolTip, seesTheMouseOfTheInnerWindow)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        Box box(kind(), library(), own);
+        box.start();
+        ToolTipWatch watch;
+        for (UINT const message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP,
+                                   WM_MBUTTONDOWN, WM_MBUTTONUP, WM_LBUTTONDBLCLK})
+            ::SendMessageA(box.inner(), message, 0, MAKELPARAM(60, 10));
+        auto const relayed = watch.relayed();
+        EXPECT_THAT(relayed,
+                    testing::IsSupersetOf({WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN,
+                                           WM_RBUTTONUP, WM_MBUTTONDOWN, WM_MBUTTONUP}));
+        EXPECT_THAT(relayed, testing::Not(testing::Contains(static_cast<UINT>(WM_LBUTTONDBLCLK))));
+    });
+}
+
+TEST_P(ToolTip, textIsTheExtendersOfNow)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        Box box(kind(), library(), own);
+        box.start();
+        box.extender().offer(L"ToolTipText", Variant::ofString(L"Choose me"));
+        NMTTDISPINFOA request = {};
+        request.hdr.hwndFrom = theToolTipWindow();
+        request.hdr.code = static_cast<UINT>(-520);
+        ::SendMessageA(box.inner(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&request));
+        EXPECT_STREQ(request.lpszText, "Choose me");
+    });
+}
+
+TEST_P(ToolTip, isMissingWhereNothingWasLoaded)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        Box box(kind(), library(), own);
+        box.startNew();
+        EXPECT_THAT(toolTipWindows(), IsEmpty());
+        EXPECT_EQ(::GetWindowLongPtrA(box.inner(), GWLP_USERDATA), 0);
+    });
+}
+
+TEST_P(ToolTip, windowIsSharedAndGoesWithTheLastOne)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        auto first = std::make_unique<Box>(kind(), library(), own);
+        auto second =
+            std::make_unique<Box>(&kind() == &kOption ? kCheck : kOption, library(), own, kPlace, L"Other");
+        first->start();
+        second->start();
+        EXPECT_NE(theToolTipWindow(), nullptr);
+        first.reset();
+        EXPECT_NE(theToolTipWindow(), nullptr);
+        second.reset();
+        EXPECT_THAT(toolTipWindows(), IsEmpty());
+    });
+}
+
+TEST_P(ToolTip, focusMessagesPaintBeforeTheButtonSeesThem)
+{
+    Box box(kind(), library(), form);
+    box.start();
+    {
+        WindowDc const dc(box.inner());
+        ::SetPixelV(dc.get(), 110, 3, RGB(255, 0, 255));
+    }
+    std::vector<Variant> const lost = {Variant::ofLong(HandleToLong(box.inner())),
+                                       Variant::ofLong(WM_KILLFOCUS), Variant::ofLong(0), Variant::ofLong(0)};
+    EXPECT_EQ(kit::callByName(box.dispatch(), L"WindowProc", lost).result, S_OK);
+    EXPECT_NE(box.pixel({110, 3}), RGB(255, 0, 255));
+}
+
+TEST_P(ToolTip, endsWithTheControl)
+{
+    Box box(kind(), library(), form);
+    box.start();
+    EXPECT_NE(::GetWindowLongPtrA(box.inner(), GWLP_USERDATA), 0);
+    box.remove();
+}
+
+QV_EACH_BOX(ToolTip);
+
+} // namespace
+} // namespace quillet::box
