@@ -98,8 +98,8 @@ TEST_P(ImageHover, tellsButtonShiftAndTheTwipsOfThePlace)
     ASSERT_EQ(event.values.size(), 4U);
     EXPECT_EQ(event.values[0].toShort(), 2);
     EXPECT_EQ(event.values[1].toShort(), 3);
-    EXPECT_EQ(event.values[2].get().fltVal, 7 * 15);
-    EXPECT_EQ(event.values[3].get().fltVal, 11 * 15);
+    EXPECT_EQ(event.values[2].get().fltVal, static_cast<float>(7 * twipsPerPixel()));
+    EXPECT_EQ(event.values[3].get().fltVal, static_cast<float>(11 * twipsPerPixel()));
 }
 
 TEST_P(ImageHover, ofADisabledButtonIsNothing)

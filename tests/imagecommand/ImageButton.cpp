@@ -25,6 +25,12 @@ Kind const& toolButton()
 
 ComPtr<IFont> formFont() { return kit::newFont(L"Tahoma", 10); }
 
+double twipsPerPixel()
+{
+    WindowDc const screen(nullptr);
+    return 1440.0 / ::GetDeviceCaps(screen.get(), LOGPIXELSX);
+}
+
 ImageButton::ImageButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind,
                          RECT const& place, std::wstring const& name)
     : Hosted(library, kind.classId, form, place, name),

@@ -42,6 +42,9 @@ Kind const& toolButton();
 /// The font that the form offers.
 ComPtr<IFont> formFont();
 
+/// Twips of one pixel of the screen, across; it has as many down.
+double twipsPerPixel();
+
 /// A button whose events and changed properties are recorded from the beginning. Nothing has happened to it
 /// yet. The interfaces of the two classes have the same vtable: one pointer reaches both.
 class ImageButton : public kit::Hosted {

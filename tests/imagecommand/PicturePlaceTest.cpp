@@ -4,6 +4,8 @@
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
+#include <cmath>
+
 namespace quillet::image {
 namespace {
 
@@ -50,15 +52,24 @@ QV_BOTH_CLASSES(ImagePicturePlace);
 
 TEST_P(ImagePicturePlace, withoutCaptionIsTheMiddle) { expectAt((120 - 16) / 2, (40 - 12) / 2); }
 
-// At 96 dots an inch half a pixel is 7.5 twips; rounded down to 7 it is less than half a pixel.
-TEST_P(ImagePicturePlace, withoutCaptionRoundsHalvesDown)
+/// The middle in whole twips, rounded down, and from there to the nearest pixel.
+int middleInTwips(int space, int length)
 {
-    resize(121, 41);
-    expectAt(52, 14);
-    resize(123, 43);
-    expectAt(53, 15);
-    resize(119, 39);
-    expectAt(51, 13);
+    double const start = std::floor((space - length) * twipsPerPixel() / 2);
+    return static_cast<int>(std::nearbyint(start / twipsPerPixel()));
+}
+
+// At 96 dots an inch half a pixel is 7.5 twips; rounded down to 7 it is less than half a pixel.
+TEST_P(ImagePicturePlace, withoutCaptionIsRoundedDownToWholeTwips)
+{
+    if (twipsPerPixel() == 15) {
+        EXPECT_EQ(middleInTwips(121, 16), 52);
+        EXPECT_EQ(middleInTwips(123, 16), 53);
+    }
+    for (int width = 117; width < 125; ++width) {
+        resize(width, width - 80);
+        expectAt(middleInTwips(width, 16), middleInTwips(width - 80, 12));
+    }
 }
 
 TEST_P(ImagePicturePlace, besideACaptionIsFourPixelsInsideTheBorderAndInTheMiddle)

@@ -4,10 +4,13 @@
 #include "kit/Painter.h"
 #include "kit/Pump.h"
 
+#include <cmath>
+
 namespace quillet::image {
 namespace {
 
-constexpr int kTwips = 15; // of one pixel, at 96 dots an inch
+/// So many pixels in whole twips.
+double twips(int pixels) { return std::nearbyint(pixels * twipsPerPixel()); }
 
 class ImageWidth : public ImageTest {
 protected:
@@ -16,8 +19,6 @@ protected:
     void SetUp() override
     {
         ImageTest::SetUp();
-        WindowDc const screen(nullptr);
-        ASSERT_EQ(::GetDeviceCaps(screen.get(), LOGPIXELSX), 96);
         button.load();
         ASSERT_EQ(button->put_AutoSizeWidth(VARIANT_TRUE), S_OK);
     }
@@ -38,31 +39,32 @@ QV_BOTH_CLASSES(ImageWidth);
 TEST_P(ImageWidth, ofACaptionIsIndentTextThreePixelsAndBothBorders)
 {
     button.setCaption(L"&Save as");
-    EXPECT_EQ(width(), (4 + textWidth(L"Save as") + 3 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Save as") + 3 + 2));
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
-    EXPECT_EQ(width(), (4 + textWidth(L"Save as") + 3 + 10) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Save as") + 3 + 10));
 }
 
 TEST_P(ImageWidth, losesOnlyTheFirstMarker)
 {
     button.setCaption(L"A&B&C");
-    EXPECT_EQ(width(), (4 + textWidth(L"AB&C") + 3 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"AB&C") + 3 + 2));
 }
 
 TEST_P(ImageWidth, ofPictureAndCaptionTakesThePictureForTheIndentAndTwoPixelsMore)
 {
     button.setCaption(L"&Save as");
     setImage();
-    EXPECT_EQ(width(), (16 + textWidth(L"Save as") + 3 + 2 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(16 + textWidth(L"Save as") + 3 + 2 + 2));
     ASSERT_EQ(button->put_CaptionIndent(40), S_OK);
     button.setCaption(L"&Save as");
-    EXPECT_EQ(width(), (16 + textWidth(L"Save as") + 3 + 2 + 2) * kTwips) << "the indent is not looked at";
+    EXPECT_EQ(width(), twips(16 + textWidth(L"Save as") + 3 + 2 + 2)) << "the indent is not looked at";
 }
 
 TEST_P(ImageWidth, isFilledExactlyByPictureGapAndCaption)
 {
     button.site().extender().onWrite(L"Width", [&](Variant const& value) {
-        button.site().position.right = button.site().position.left + value.toLong() / kTwips;
+        button.site().position.right =
+            button.site().position.left + static_cast<LONG>(std::lround(value.toLong() / twipsPerPixel()));
         button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip);
     });
     setImage();
@@ -83,22 +85,22 @@ TEST_P(ImageWidth, isFilledExactlyByPictureGapAndCaption)
 TEST_P(ImageWidth, ofAPictureAloneHasNoThreePixels)
 {
     setImage();
-    EXPECT_EQ(width(), (16 + 0 + 2 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(16 + 0 + 2 + 2));
 }
 
 TEST_P(ImageWidth, ofNothingIsTheIndentAndTheBorders)
 {
     button.setCaption(L"");
-    EXPECT_EQ(width(), (4 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + 2));
 }
 
 TEST_P(ImageWidth, leavesTheBordersOutWhereThereIsNoStyleAndCountsThemForAnyStyle)
 {
     button.setCaption(L"Wide");
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
-    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3));
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
-    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3 + 2));
 }
 
 TEST_P(ImageWidth, takesTheWiderOfBothFonts)
@@ -107,11 +109,11 @@ TEST_P(ImageWidth, takesTheWiderOfBothFonts)
     ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
     button.setCaption(L"Wide");
     ASSERT_GT(textWidth(L"Wide", *large.get()), textWidth(L"Wide"));
-    EXPECT_EQ(width(), (4 + textWidth(L"Wide", *large.get()) + 3 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide", *large.get()) + 3 + 2));
     auto const small = kit::newFont(L"Tahoma", 5);
     ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(small.get()).get()), S_OK);
     button.setCaption(L"Wide");
-    EXPECT_EQ(width(), (4 + textWidth(L"Wide") + 3 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3 + 2));
 }
 
 TEST_P(ImageWidth, goesByTheNormalPictureAndBorderInEveryLook)
@@ -121,7 +123,7 @@ TEST_P(ImageWidth, goesByTheNormalPictureAndBorderInEveryLook)
     ASSERT_EQ(button->putref_HotImage(pictureOf({40, 10, RGB(1, 1, 1)}).get()), S_OK);
     button.makeHot();
     ASSERT_EQ(button->put_PressedBorderWidth(Variant::ofShort(9).get()), S_OK);
-    EXPECT_EQ(width(), (16 + 2 + 2) * kTwips);
+    EXPECT_EQ(width(), twips(16 + 2 + 2));
     EXPECT_EQ(pixelAt(button, 60, 20), RGB(1, 1, 1)) << "measuring must not leave the other picture shown";
     button.leave();
 }
@@ -133,7 +135,7 @@ TEST_P(ImageWidth, staysStaleAfterTheIndentUntilSomethingMeasures)
     ASSERT_EQ(button->put_CaptionIndent(20), S_OK);
     EXPECT_EQ(width(), before);
     button.setCaption(L"Wide");
-    EXPECT_EQ(width(), before + 16 * kTwips);
+    EXPECT_EQ(width(), before + twips(16));
 }
 
 TEST_P(ImageWidth, asksTheSiteWhereThereIsNoExtender)
@@ -173,8 +175,8 @@ TEST_P(ImageWidth, changesTheOwnExtentBeforeActivation)
     lonely.setCaption(L"Wide");
     SIZEL extent{};
     ASSERT_EQ(lonely.as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
-    int const twips = (4 + textWidth(L"Wide", *lonely.font().get()) + 3 + 2) * kTwips;
-    EXPECT_EQ(extent.cx, ::MulDiv(twips, 2540, 1440));
+    int const pixels = 4 + textWidth(L"Wide", *lonely.font().get()) + 3 + 2;
+    EXPECT_EQ(extent.cx, ::MulDiv(static_cast<int>(twips(pixels)), 2540, 1440));
 }
 
 } // namespace

@@ -119,6 +119,28 @@ TEST_F(Script, inJScriptSetsAndReadsPropertiesAndSeesTheOverflow)
         42U);
 }
 
+TEST_F(Script, makesTheImageButtonsAndSeesARefusedPicture)
+{
+    for (char const* const progId : {"Quillet.qvImageCommand", "Quillet.FlatToolButton"}) {
+        std::string const text = std::string("var b = new ActiveXObject('") + progId +
+                                 "');\n"
+                                 "b.Caption = '&Scripted';\n"
+                                 "b.CheckButton = true;\n"
+                                 "b.Checked = true;\n"
+                                 "if (b.Caption != '&Scripted' || b.Checked !== true) WScript.Quit(12);\n"
+                                 "if (b.InUserMode() !== true) WScript.Quit(13);\n"
+                                 "b.Active = false;\n"
+                                 "if (b.InUserMode() !== false) WScript.Quit(14);\n"
+                                 "b.Active = true;\n"
+                                 "var number = 0;\n"
+                                 "try { b.Image = null; } catch (e) { number = e.number & 0xFFFF; }\n"
+                                 "if (number == 0) WScript.Quit(15);\n"
+                                 "b.DrawButton();\n"
+                                 "WScript.Quit(42);\n";
+        EXPECT_EQ(quits(text.c_str(), "image.js"), 42U) << progId;
+    }
+}
+
 TEST_F(Script, byTheVersionedNameToo)
 {
     EXPECT_EQ(

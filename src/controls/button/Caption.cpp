@@ -36,25 +36,32 @@ long between(long a, long b) { return checkedSubtract(a, checkedMultiply(2, b));
 long centred(long space, long length) { return roundedToEven(space / 2.0 - length / 2.0); }
 
 void writeCaption(OffScreenDC& canvas, SurfaceFont& font, SplitCaption const& caption,
-                  CaptionSpace const& space, POINT at)
+                  CaptionSpace const& space, long left)
 {
+    auto const topOf = [&](SIZE const& extent) {
+        return checkedAdd(centred(space.size.cy, extent.cy), space.shift);
+    };
     std::wstring_view const shown = caption.shown;
     if (!caption.marked) {
-        writePiece(canvas, space, shown, at.x, at.y);
+        writePiece(canvas, space, shown, left, topOf(canvas.textExtent(shown)));
         return;
     }
-    // Each piece starts further right and so never paints over an earlier one.
+    // Each piece starts further right and so never paints over an earlier one. Measuring costs as much as a
+    // fill: any piece tells the height of all.
     auto const before = shown.substr(0, caption.keyAt);
     auto const key = shown.substr(caption.keyAt, 1);
     auto const after = shown.substr(caption.keyAt + key.size());
-    long const keyX = before.empty() ? at.x : checkedAdd(at.x, canvas.textExtent(before).cx);
-    long const afterX = checkedAdd(keyX, canvas.textExtent(key).cx);
+    SIZE const keyExtent = canvas.textExtent(key);
+    SIZE const first = before.empty() ? keyExtent : canvas.textExtent(before);
+    long const top = topOf(first);
+    long const keyLeft = before.empty() ? left : checkedAdd(left, first.cx);
+    long const afterLeft = checkedAdd(keyLeft, keyExtent.cx);
     if (!before.empty())
-        writePiece(canvas, space, before, at.x, at.y);
+        writePiece(canvas, space, before, left, top);
     canvas.Font(font.underlined());
-    writePiece(canvas, space, key, keyX, at.y);
+    writePiece(canvas, space, key, keyLeft, top);
     canvas.Font(font.get());
-    writePiece(canvas, space, after, afterX, at.y);
+    writePiece(canvas, space, after, afterLeft, top);
 }
 
 } // namespace quillet

@@ -34,11 +34,12 @@ struct CaptionSpace {
     SIZE size;  ///< of the button
     long inset; ///< what is drawn round the face
     COLORREF back;
+    long shift = 0; ///< how far down the caption of a pressed button is
 };
 
-/// Writes the caption with its top left corner at a point, the access key underlined. Every piece paints the
-/// face from its own beginning to the right end.
+/// Writes the caption from a column on, halfway down, the access key underlined. Every piece paints the face
+/// from its own beginning to the right end.
 void writeCaption(OffScreenDC& canvas, SurfaceFont& font, SplitCaption const& caption,
-                  CaptionSpace const& space, POINT at);
+                  CaptionSpace const& space, long left);
 
 } // namespace quillet

@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include <string_view>
+
 namespace quillet {
 
 /// Everything about a flat command button that its properties keep and the surface does not.
@@ -82,7 +84,7 @@ private:
     void drawFace(Painting& painting) const;
     void drawFocusFrame(Painting& painting) const;
     void drawCaption(Painting& painting);
-    long captionLeft(Painting const& painting, long captionWidth) const;
+    long captionLeft(Painting const& painting, std::wstring_view caption) const;
 
     static PropertyTable<qvFlatCommand> const kProperties;
 

@@ -148,10 +148,10 @@ void qvFlatCommand::drawFocusFrame(Painting& painting) const
                              painting.palette.back);
 }
 
-long qvFlatCommand::captionLeft(Painting const& painting, long captionWidth) const
+long qvFlatCommand::captionLeft(Painting const& painting, std::wstring_view caption) const
 {
     if (m_looks.centreCaption)
-        return centred(painting.size.cx, captionWidth);
+        return centred(painting.size.cx, painting.canvas.textExtent(caption).cx);
     return checkedAdd(checkedSubtract(painting.inset, painting.marker), m_looks.captionIndent);
 }
 
@@ -160,10 +160,8 @@ void qvFlatCommand::drawCaption(Painting& painting)
     SplitCaption const caption(m_looks.caption.view());
     setAccessKeys(caption.accessKey);
 
-    SIZE const extent = painting.canvas.textExtent(caption.shown);
-    POINT const at = {captionLeft(painting, extent.cx), centred(painting.size.cy, extent.cy)};
-    writeCaption(painting.canvas, surfaceFont(), caption,
-                 {painting.size, painting.inset, painting.palette.back}, at);
+    CaptionSpace const space = {painting.size, painting.inset, painting.palette.back};
+    writeCaption(painting.canvas, surfaceFont(), caption, space, captionLeft(painting, caption.shown));
 }
 
 } // namespace quillet

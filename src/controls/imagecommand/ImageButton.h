@@ -9,6 +9,8 @@
 #include <ocidl.h>
 #include <windows.h>
 
+#include <string_view>
+
 namespace quillet {
 
 /// Everything about an image button that its properties keep and the surface does not. The table of the
@@ -110,7 +112,7 @@ private:
     Palette palette(bool userMode) const;
     long drawBorder(Painting& painting);
     void drawCaption(Painting& painting, long inset);
-    long captionLeft(Painting const& painting, long captionWidth) const;
+    long captionLeft(Painting const& painting, std::wstring_view caption) const;
 
     ImageButtonKind const& m_kind;
     ImageLooks m_looks{};

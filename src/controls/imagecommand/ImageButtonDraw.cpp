@@ -195,10 +195,10 @@ long ImageButton::drawBorder(Painting& painting)
     return width;
 }
 
-long ImageButton::captionLeft(Painting const& painting, long captionWidth) const
+long ImageButton::captionLeft(Painting const& painting, std::wstring_view caption) const
 {
     if (m_looks.centreCaption)
-        return centred(painting.size.cx, captionWidth);
+        return centred(painting.size.cx, painting.canvas.textExtent(caption).cx);
     if (!m_image1.isEmpty())
         return checkedAdd(pictureLeft(), checkedAdd(m_image1.size().cx, kPictureGap));
     return checkedAdd(painting.palette.borderWidth, m_looks.captionIndent);
@@ -209,13 +209,10 @@ void ImageButton::drawCaption(Painting& painting, long inset)
     SplitCaption const caption(m_looks.caption.view());
     setAccessKeys(caption.accessKey);
 
-    // One character is as high as all of them; the width counts only where it is halved.
-    std::wstring_view const shown = caption.shown;
-    SIZE const extent = painting.canvas.textExtent(m_looks.centreCaption ? shown : shown.substr(0, 1));
     long const offset = pressedOffset();
-    POINT const at = {checkedAdd(captionLeft(painting, extent.cx), offset),
-                      checkedAdd(centred(painting.size.cy, extent.cy), offset)};
-    writeCaption(painting.canvas, surfaceFont(), caption, {painting.size, inset, painting.palette.back}, at);
+    CaptionSpace const space = {painting.size, inset, painting.palette.back, offset};
+    writeCaption(painting.canvas, surfaceFont(), caption, space,
+                 checkedAdd(captionLeft(painting, caption.shown), offset));
 }
 
 } // namespace quillet
