@@ -123,6 +123,7 @@ void InnerButton::destroy() noexcept
 void InnerButton::setCaption(std::wstring_view caption)
 {
     m_caption = Bstr(caption);
+    m_place = {};
     m_surface.setAccessKeys(accessKeyOf(caption));
     if (!m_window)
         return;
@@ -146,6 +147,7 @@ void InnerButton::setBackColor(OLE_COLOR colour)
 
 void InnerButton::fontChanged()
 {
+    m_place = {};
     if (!m_window)
         return;
     passOnUnseen(WM_SETFONT, reinterpret_cast<WPARAM>(handleOf(m_surface.font())), FALSE);
@@ -205,7 +207,7 @@ void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) 
 {
     drawInnerButton(dc, size,
                     {m_kind, m_value, resolvedColour(foreColor), resolvedColour(m_backColor), inside,
-                     m_focused, m_caption.view(), handleOf(m_surface.font())});
+                     m_focused, m_caption.view(), handleOf(m_surface.font()), m_place});
 }
 
 void InnerButton::paint()

@@ -85,6 +85,7 @@ private:
     Bstr m_caption;
     OLE_COLOR m_foreColor = 0x80000012; ///< button text
     OLE_COLOR m_backColor = 0x8000000F; ///< button face
+    mutable CaptionPlace m_place{};
     long m_value = 0;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;         ///< the window's own, which lives as long as the window

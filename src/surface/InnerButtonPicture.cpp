@@ -111,19 +111,31 @@ void drawGlyph(HDC dc, long height, InnerLook const& look)
                         reinterpret_cast<BITMAPINFO const*>(&info), DIB_RGB_COLORS);
 }
 
+constexpr UINT kCaptionFormat = DT_LEFT | DT_TOP | DT_WORDBREAK;
+
 /// The caption wraps where it is too long, and stands in the middle of the height.
+RECT placeOfCaption(HDC dc, SIZE size, InnerLook const& look)
+{
+    CaptionPlace& place = look.place;
+    if (place.size.cx == size.cx && place.size.cy == size.cy)
+        return place.text;
+    RECT text = {kCaptionLeft, 0, std::max(size.cx, kCaptionLeft + 1), size.cy};
+    ::DrawTextW(dc, look.caption.data(), static_cast<int>(look.caption.size()), &text,
+                kCaptionFormat | DT_CALCRECT);
+    ::OffsetRect(&text, 0, (size.cy - (text.bottom - text.top)) / 2);
+    place = {size, text};
+    return text;
+}
+
 void drawCaption(HDC dc, SIZE size, InnerLook const& look)
 {
     if (look.caption.empty())
         return;
-    constexpr UINT kFormat = DT_LEFT | DT_TOP | DT_WORDBREAK;
-    int const length = static_cast<int>(look.caption.size());
-    RECT text = {kCaptionLeft, 0, std::max(size.cx, kCaptionLeft + 1), size.cy};
-    ::DrawTextW(dc, look.caption.data(), length, &text, kFormat | DT_CALCRECT);
-    ::OffsetRect(&text, 0, (size.cy - (text.bottom - text.top)) / 2);
+    RECT text = placeOfCaption(dc, size, look);
     ::SetTextColor(dc, look.fore);
     ::SetBkMode(dc, TRANSPARENT);
-    ::DrawTextW(dc, look.caption.data(), length, &text, kFormat | DT_NOCLIP);
+    ::DrawTextW(dc, look.caption.data(), static_cast<int>(look.caption.size()), &text,
+                kCaptionFormat | DT_NOCLIP);
     if (!look.focused)
         return;
     RECT const all = {kCaptionLeft - 1, 0, size.cx, size.cy};

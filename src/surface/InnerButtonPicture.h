@@ -9,6 +9,13 @@
 
 namespace quillet {
 
+/// Where a caption stands, kept from paint to paint: measuring costs as much as writing. Whoever changes the
+/// caption or its font empties it.
+struct CaptionPlace {
+    SIZE size;
+    RECT text;
+};
+
 /// Everything that the picture shows. Colours are as GDI draws them.
 struct InnerLook {
     InnerKind kind;
@@ -19,6 +26,7 @@ struct InnerLook {
     bool focused;
     std::wstring_view caption; ///< with its access-key mark
     HFONT font;
+    CaptionPlace& place;
 };
 
 /// A point inside the circle or square of a button of that height in pixels, clear of its mark. The picture

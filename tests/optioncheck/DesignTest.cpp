@@ -34,6 +34,24 @@ TEST_P(Design, realMovesTakeNoCaptureAndChangeNoLook)
     EXPECT_EQ(box.pixel(kInGlyph), kWhite);
 }
 
+/// A designer that lets the mouse through gets what a user gets; most keep it for themselves, or freeze
+/// events.
+TEST_P(Design, pressesAndKeysDoWhatTheyDoAtRunTime)
+{
+    box.moveTo(kInside);
+    kit::pumpPending();
+    Names order = box.press();
+    for (std::string const& name : box.letGo())
+        order.push_back(name);
+    std::erase(order, "MouseMove");
+    EXPECT_THAT(order, testing::ElementsAre("MouseDown", "MouseUp", "Click"));
+    EXPECT_EQ(box.value(), 1);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    order = box.during([] { kit::typeKey(VK_SPACE); }, "KeyUp");
+    std::erase(order, "MouseMove"); // the system tells of the place when a press of space ends
+    EXPECT_THAT(order, testing::ElementsAre("KeyDown", "KeyPress", "KeyUp", "Click"));
+}
+
 TEST_P(Design, theToolTipTextIsNotAskedFor)
 {
     form.record().forget();

@@ -137,6 +137,26 @@ TEST_F(Group, leavesCheckBoxesAlone)
     EXPECT_THAT(values(), ElementsAre(0, 1, 0));
 }
 
+TEST_F(Group, leavesPlainOptionButtonsAlone)
+{
+    UniqueWindow const radio(::CreateWindowExW(0, L"BUTTON", L"Plain",
+                                               WS_CHILD | WS_VISIBLE | BS_AUTORADIOBUTTON, 200, 20, 100, 20,
+                                               form.window(), nullptr, nullptr, nullptr));
+    ::SendMessageW(radio.get(), BM_SETCHECK, BST_CHECKED, 0);
+    auto const plain = kit::make<kit::NamedObject>("Plain", form.sharedRecord());
+    plain->offer(L"Value", Variant::ofBool(true));
+    form.container().objects.push_back(plain->unknown()); // as its form lists it among the others
+    auto& frame = container(1);
+    add(kOption, &frame);
+    add(kOption, &frame);
+    boxes[0]->setValue(1);
+    boxes[1]->click();
+    std::erase(form.container().objects, plain->unknown());
+    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_EQ(::SendMessageW(radio.get(), BM_GETCHECK, 0, 0), BST_CHECKED);
+    EXPECT_EQ(form.record().countFrom("Plain.Value ="), 0);
+}
+
 TEST_F(Group, clearsEveryOtherOneWhateverItsValue)
 {
     auto& frame = container(1);

@@ -137,6 +137,57 @@ TEST_P(Inner, writesItsCaptionBesideTheGlyphInTheMiddle)
     EXPECT_EQ(kit::differences(expected, shown), "");
 }
 
+TEST_P(Inner, movesItsCaptionWithItsTextItsFontAndItsSize)
+{
+    auto const rows = [&] { // of the caption, from its first dark row to its last
+        RECT client;
+        ::GetClientRect(box.inner(), &client);
+        kit::Canvas shown(client.right, client.bottom);
+        kit::readWindow(box.inner(), shown);
+        int first = -1;
+        int last = -1;
+        for (int y = 0; y < client.bottom; ++y)
+            for (int x = 17; x < client.right; ++x)
+                if (shown.at(x, y) == RGB(1, 2, 3)) {
+                    first = first < 0 ? y : first;
+                    last = y;
+                }
+        return std::pair(first, last);
+    };
+    box.setColours(RGB(1, 2, 3), RGB(1, 2, 3));
+    box.put(L"Caption", Variant::ofString(L"H"));
+    auto const small = rows();
+    box.put(L"Caption", Variant::ofString(L"Hj"));
+    EXPECT_GT(rows().second, small.second); // the j goes down
+    box.put(L"Caption", Variant::ofString(L"H"));
+    EXPECT_EQ(rows(), small);
+    kit::setByName(box.dispatch(), L"Font", kit::newFont(L"Tahoma", 12).get());
+    EXPECT_GT(rows().second - rows().first, small.second - small.first);
+    auto const large = rows();
+    RECT const higher = {20, 30, 140, 90};
+    box.as<IOleInPlaceObject>()->SetObjectRects(&higher, &higher);
+    kit::pumpPending();
+    EXPECT_EQ(rows().first, large.first + 20); // 40 pixels higher: in the middle again
+}
+
+TEST_P(Inner, wrapsALongCaption)
+{
+    RECT const higher = {20, 30, 140, 90};
+    box.as<IOleInPlaceObject>()->SetObjectRects(&higher, &higher);
+    box.setColours(RGB(1, 2, 3), RGB(1, 2, 3));
+    box.put(L"Caption", Variant::ofString(L"A caption that takes more than a line of so narrow a button"));
+    kit::Canvas shown(120, 60);
+    kit::readWindow(box.inner(), shown);
+    int dark = 0; // rows with text: more than one line has
+    for (int y = 0; y < 60; ++y) {
+        bool found = false;
+        for (int x = 17; x < 120; ++x)
+            found = found || shown.at(x, y) == RGB(1, 2, 3);
+        dark += found;
+    }
+    EXPECT_GT(dark, 18);
+}
+
 TEST_P(Inner, paintsIntoAnotherContextOnRequest)
 {
     box.put(L"BackColor", Variant::ofLong(RGB(250, 250, 200)));

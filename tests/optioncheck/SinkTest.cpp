@@ -34,7 +34,7 @@ struct Occasion {
 void settle(Box& box, char const* event)
 {
     // Shortly: after some deeds the event cannot come any more.
-    constexpr DWORD kLimit = 150;
+    constexpr DWORD kLimit = 80;
     kit::pumpUntil([&] { return box.count(event) > 0; }, kLimit);
     kit::pumpPending();
 }
@@ -93,7 +93,7 @@ TEST_P(Sink, mayDoItInsideTheEvent)
         deed.act(box);
     };
     occasion.provoke(box);
-    EXPECT_TRUE(done) << occasion.event << " did not come";
+    EXPECT_TRUE(kit::pumpUntil([&] { return done; })) << occasion.event << " did not come";
     kit::release(kit::MouseButton::Left);
     kit::pumpPending();
     box.events().action = nullptr;
