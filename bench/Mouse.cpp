@@ -1,28 +1,15 @@
 // What the mouse does to a flat command button, from the message that says so until the new looks are
 // painted.
+#include "bench/MouseMessage.h"
 #include "bench/Rounds.h"
 #include "bench/ShownButton.h"
 #include "kit/Input.h"
-#include "kit/Pump.h"
 
 namespace quillet::bench {
 
 namespace {
 
 constexpr POINT kOutside{ShownButton::kSize.cx + 30, ShownButton::kMiddle.y};
-
-/// Puts the cursor there without letting its own message through, and tells the window by one of ours: what
-/// is timed begins with the message, not with the system's way of finding out who gets it.
-double movedTo(HWND window, POINT at)
-{
-    POINT screen = at;
-    ::ClientToScreen(window, &screen);
-    ::SetCursorPos(screen.x, screen.y);
-    double const taken =
-        microsecondsOf([&] { ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)); });
-    kit::pumpPending();
-    return taken;
-}
 
 double sent(HWND window, UINT message, WPARAM keys)
 {

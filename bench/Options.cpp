@@ -7,10 +7,10 @@
 #include "kit/Input.h"
 #include "kit/Painter.h"
 #include "kit/Pump.h"
+#include "kit/Usage.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
-#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -111,18 +111,6 @@ Rows measureOne(kit::Library const& library, Effort effort)
     return rows;
 }
 
-/// The lowest place in its table that one of a few new handles gets: it climbs as long as handles are lost.
-int placeOfNewHandle()
-{
-    std::vector<UniqueBrush> brushes(64);
-    int lowest = 0xFFFF;
-    for (UniqueBrush& brush : brushes) {
-        brush.reset(::CreateSolidBrush(0));
-        lowest = std::min<int>(lowest, LOWORD(HandleToULong(brush.get())));
-    }
-    return lowest;
-}
-
 /// Each shading asks for the window's device context and never gives it back.
 Row measureFills(kit::Library const& library, Effort effort)
 {
@@ -132,11 +120,11 @@ Row measureFills(kit::Library const& library, Effort effort)
     auto const shade = [&] { ::RedrawWindow(pair.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
     for (int i = 0; i < 100; ++i) // until the system's caches have what they keep
         shade();
-    int const before = placeOfNewHandle();
+    int const before = kit::Usage::now().gdi;
     for (int i = 0; i < fills; ++i)
         shade();
     return {"GDI handles kept by " + std::to_string(fills) + " shaded glyphs",
-            std::to_string(placeOfNewHandle() - before), "0", "–", "0"};
+            std::to_string(kit::Usage::now().gdi - before), "0", "–", "0"};
 }
 
 /// So many options in one container, against as many of the system's in one group.

@@ -1,6 +1,7 @@
 // Buttons with pictures: their paint, what the mouse does to them, and a form of five hundred.
 #include "base/RunTimeError.h"
 #include "bench/CrowdedForm.h"
+#include "bench/MouseMessage.h"
 #include "bench/Rounds.h"
 #include "bench/ShownImageButton.h"
 #include "kit/Fonts.h"
@@ -58,17 +59,6 @@ Row measurePaint(ShownImageButton& button, std::string const& name, Effort effor
     require(different.empty(), (name + ": the pictures differ\n" + different).c_str());
     bool const full = effort == Effort::Full;
     return rowOf("one paint, " + name, compare(full ? 1001 : 3, full ? 10 : 5, ours, floor), "≤ 1.05");
-}
-
-double movedTo(HWND window, POINT at)
-{
-    POINT screen = at;
-    ::ClientToScreen(window, &screen);
-    ::SetCursorPos(screen.x, screen.y);
-    double const taken =
-        microsecondsOf([&] { ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)); });
-    kit::pumpPending();
-    return taken;
 }
 
 Row measureHover(ShownImageButton& button, std::string const& name, Effort effort)

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 
 namespace quillet::kit {
 
@@ -48,11 +49,16 @@ std::size_t bytesInUse()
     return bytes;
 }
 
-/// The place in its table that a new handle gets: it climbs as long as handles are lost.
+/// The lowest place in its table that one of a few new handles gets: it climbs as long as handles are lost.
 int placeOfNewGdiHandle()
 {
-    UniqueBrush const brush(::CreateSolidBrush(0));
-    return LOWORD(HandleToULong(brush.get()));
+    std::array<UniqueBrush, 64> brushes;
+    int lowest = 0xFFFF;
+    for (UniqueBrush& brush : brushes) {
+        brush.reset(::CreateSolidBrush(0));
+        lowest = std::min<int>(lowest, LOWORD(HandleToULong(brush.get())));
+    }
+    return lowest;
 }
 
 int placeOfNewWindow()
