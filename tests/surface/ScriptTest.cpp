@@ -141,6 +141,66 @@ TEST_F(Script, makesTheImageButtonsAndSeesARefusedPicture)
     }
 }
 
+TEST_F(Script, makesTheOptionAndTheCheckBoxAndSeesARefusedState)
+{
+    EXPECT_EQ(quits("var b = new ActiveXObject('Quillet.qvFlatOption');\n"
+                    "b.Caption = '&Scripted';\n"
+                    "if (b.Caption != '&Scripted') WScript.Quit(12);\n"
+                    "b.Value = 1;\n"
+                    "if (b.Value !== 1) WScript.Quit(13);\n"
+                    "b.Value = 2;\n"
+                    "if (b.Value !== 0) WScript.Quit(14);\n"
+                    "b.HotForeColor = 255;\n"
+                    "if (b.HotForeColor !== 255) WScript.Quit(15);\n"
+                    "b.Refresh();\n"
+                    "WScript.Quit(42);\n",
+                    "option.js"),
+              42U);
+    EXPECT_EQ(quits("var b = new ActiveXObject('Quillet.qvFlatCheck');\n"
+                    "b.Value = 2;\n"
+                    "if (b.Value !== 2) WScript.Quit(13);\n"
+                    "function failing(value) {\n"
+                    "    try { b.Value = value; } catch (e) { return e.number & 0xFFFF; }\n"
+                    "    return 0;\n"
+                    "}\n"
+                    "if (failing(70000) != 6) WScript.Quit(14);\n"
+                    "if (failing(3) != 380) WScript.Quit(15);\n"
+                    "if (b.Value !== 2) WScript.Quit(16);\n"
+                    "b.Refresh();\n"
+                    "WScript.Quit(42);\n",
+                    "check.js"),
+              42U);
+}
+
+TEST_F(Script, inVbScriptMakesEveryControl)
+{
+    for (char const* const name :
+         {"qvFlatCommand", "qvImageCommand", "FlatToolButton", "qvFlatOption", "qvFlatCheck"}) {
+        std::string const text = std::string("On Error Resume Next\n"
+                                             "Dim b\n"
+                                             "Set b = WScript.CreateObject(\"Quillet.") +
+                                 name +
+                                 "\")\n"
+                                 "If Err.Number <> 0 Then WScript.Quit 10\n"
+                                 "b.Caption = \"&Scripted\"\n"
+                                 "If b.Caption <> \"&Scripted\" Then WScript.Quit 11\n"
+                                 "b.Enabled = False\n"
+                                 "If b.Enabled Then WScript.Quit 12\n"
+                                 "b.Refresh\n"
+                                 "If Err.Number <> 0 Then WScript.Quit 13\n"
+                                 "If b.hwnd = 0 Then WScript.Quit 14\n"
+                                 "b.hwnd = 1\n"
+                                 "If Err.Number = 0 Then WScript.Quit 15\n"
+                                 "Err.Clear\n"
+                                 "b.Nothing_of_the_kind\n"
+                                 "If Err.Number <> 438 Then WScript.Quit 16\n"
+                                 "WScript.Quit 42\n";
+        EXPECT_EQ(quits(text.c_str(), "each.vbs"), 42U) << name;
+    }
+}
+
+TEST_F(Script, ofTheSampleRuns) { EXPECT_EQ(run(L"cscript.exe //nologo \"" QUILLET_SAMPLE L"\""), 0U); }
+
 TEST_F(Script, byTheVersionedNameToo)
 {
     EXPECT_EQ(
