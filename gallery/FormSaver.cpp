@@ -91,18 +91,21 @@ std::wstring scalarText(Variant const& value)
     }
 }
 
-/// Whether the form's value is what the control says, in the control's type.
-bool sameScalar(FormValue const& inForm, Variant const& saved)
+/// Whether a value is what the control says, in the control's type.
+bool sameScalar(Variant const& value, Variant const& saved)
 {
     return orFallback(false, [&] {
-        auto const value = variantOf(inForm);
-        if (!value)
-            return false;
-        Variant const converted = value->convertedTo(saved.type());
+        Variant const converted = value.convertedTo(saved.type());
         if (saved.type() == VT_BSTR)
             return converted.toString().view() == saved.toString().view();
         return converted.toLong() == saved.toLong();
     });
+}
+
+bool sameScalar(FormValue const& inForm, Variant const& saved)
+{
+    auto const value = variantOf(inForm);
+    return value && sameScalar(*value, saved);
 }
 
 bool sameFont(PropertyBlock const& block, IFont& saved)
@@ -167,9 +170,9 @@ public:
     void save(HostedControl& control, FormNode const& node)
     {
         ComPtr<PropertyBag> const bag = control.save(false);
-        for (PropertyBag::Entry const& entry : bag->entries())
-            save(entry, node);
         PropertyBag* const before = control.asLoaded();
+        for (PropertyBag::Entry const& entry : bag->entries())
+            save(entry, node, before ? before->find(entry.name) : nullptr);
         auto const becameDefault = [&](std::wstring_view name) {
             return before && before->find(name) && !bag->find(name);
         };
@@ -239,7 +242,8 @@ private:
                 {assignment(indentOf(node), written, value)});
     }
 
-    void save(PropertyBag::Entry const& entry, FormNode const& node)
+    /// before is what the control would have saved when it was loaded; null for nothing.
+    void save(PropertyBag::Entry const& entry, FormNode const& node, Variant const* before)
     {
         bool const isObject = entry.value.type() == VT_UNKNOWN || entry.value.type() == VT_DISPATCH;
         ComPtr<IUnknown> const object = isObject ? entry.value.toObject() : ComPtr<IUnknown>();
@@ -254,7 +258,10 @@ private:
         if (text.find_first_of(L"\r\n") != std::wstring_view::npos) // no place in a line
             return saveRecord(entry.name, encodedFormText(text, m_isUtf8), node, L"$");
         FormProperty const* const property = findProperty(node, entry.name);
-        if (property && sameScalar(property->value, entry.value))
+        // A value that the form left out and nobody changed stays out, though the control writes it.
+        bool const unchanged =
+            property ? sameScalar(property->value, entry.value) : before && sameScalar(*before, entry.value);
+        if (unchanged)
             return;
         write(node, property, entry.name, scalarText(entry.value));
     }

@@ -46,8 +46,7 @@ void HostedControl::load(FormNode const& node, ITypeInfo* classInfo)
     loadProperties(node);
     if (!siteFirst)
         setSite();
-    if (form().isDesign())
-        m_asLoaded = save(false);
+    rememberAsLoaded();
     advise(classInfo);
     setExtent();
     m_ole->SetHostNames(form().name().c_str(), form().name().c_str());
@@ -114,8 +113,17 @@ void HostedControl::activate()
     bool const isHidden = (m_status & OLEMISC_INVISIBLEATRUNTIME) != 0 && !form().isDesign();
     if (!m_inPlace || isHidden || !state().visible)
         return;
+    bool const isFirst = !std::exchange(m_wasActive, true);
     if (FAILED(doVerb(OLEIVERB_INPLACEACTIVATE, nullptr)) || FAILED(m_inPlace->GetWindow(&m_window)))
         m_window = nullptr;
+    if (isFirst)
+        rememberAsLoaded(); // some controls save other values once they have painted
+}
+
+void HostedControl::rememberAsLoaded()
+{
+    if (form().isDesign())
+        m_asLoaded = save(false);
 }
 
 void HostedControl::placeChanged()

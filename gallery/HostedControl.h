@@ -49,7 +49,7 @@ public:
 
     /// What the control would save, as a bag; for a control that keeps no property bag, an empty one.
     ComPtr<PropertyBag> save(bool allProperties);
-    /// What it would have saved as soon as it was loaded; empty at run time.
+    /// What it would have saved as soon as it was loaded and shown; empty at run time.
     PropertyBag* asLoaded() const noexcept { return m_asLoaded.get(); }
 
 protected:
@@ -58,6 +58,7 @@ protected:
 
 private:
     void setSite();
+    void rememberAsLoaded();
     void loadProperties(FormNode const& node);
     void advise(ITypeInfo* classInfo);
     void setExtent();
@@ -74,6 +75,7 @@ private:
     ComPtr<EventSink> m_events;
     ComPtr<ChangeSink> m_changes;
     ComPtr<PropertyBag> m_asLoaded;
+    bool m_wasActive = false;
     Connection m_eventConnection;
     Connection m_changeConnection;
     DWORD m_status = 0;

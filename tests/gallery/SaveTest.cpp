@@ -115,7 +115,8 @@ TEST_P(SavedForms, areTheSameByteForByteWhereNothingChanged)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, SavedForms, testing::Values(L"buttons.frm", L"looks.frm", L"toolbar.frm"),
+INSTANTIATE_TEST_SUITE_P(Of, SavedForms,
+                         testing::Values(L"buttons.frm", L"looks.frm", L"options.frm", L"toolbar.frm"),
                          [](auto const& tested) {
                              std::wstring const name(tested.param);
                              return std::string(name.begin(), name.end() - 4);
