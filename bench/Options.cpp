@@ -123,7 +123,7 @@ Row measureFills(kit::Library const& library, Effort effort)
     int const before = kit::Usage::now().gdi;
     for (int i = 0; i < fills; ++i)
         shade();
-    return {"GDI handles kept by " + std::to_string(fills) + " shaded glyphs",
+    return {"growth of GDI places over " + std::to_string(fills) + " shaded glyphs",
             std::to_string(kit::Usage::now().gdi - before), "0", "–", "0"};
 }
 

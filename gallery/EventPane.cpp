@@ -52,8 +52,8 @@ RECT placeBeside(HWND form) noexcept
 
 EventPane::EventPane(HWND form)
 {
-    constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_VSCROLL |
-                             LBS_NOINTEGRALHEIGHT | LBS_NOSEL;
+    constexpr DWORD kStyle =
+        WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_VSCROLL | LBS_NOINTEGRALHEIGHT | LBS_NOSEL;
     RECT const place = placeBeside(form);
     m_window = ::CreateWindowExW(WS_EX_TOOLWINDOW, L"LISTBOX", L"Events", kStyle, place.left, place.top,
                                  place.right - place.left, place.bottom - place.top, form, nullptr,
