@@ -127,11 +127,11 @@ void PropertyPage::apply()
     while (!m_changes.empty()) {
         auto const change = m_changes.begin();
         std::wstring const& name = m_properties[change->first].name;
-        std::wstring const reason = m_objects.put(name, change->second);
+        std::wstring reason = m_objects.put(name, change->second);
         if (!reason.empty()) {
             goTo(change->first);
-            ::MessageBoxW(m_window ? m_window->handle() : nullptr, (name + L": " + reason).c_str(), m_title,
-                          MB_OK | MB_ICONEXCLAMATION);
+            ::MessageBoxW(m_window ? m_window->handle() : nullptr, reason.insert(0, name + L": ").c_str(),
+                          m_title, MB_OK | MB_ICONEXCLAMATION);
             throw RunTimeError(E_FAIL);
         }
         m_changes.erase(change);
