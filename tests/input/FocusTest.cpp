@@ -25,10 +25,10 @@ protected:
             each->events().action = nullptr;
         buttons.clear();
     }
-    FormButton& add()
+    FormButton& add(int height = 25)
     {
         int const number = static_cast<int>(buttons.size()) + 1;
-        RECT const place{20, 30 * number, 140, 30 * number + 25};
+        RECT const place{20, 30 * number, 140, 30 * number + height};
         buttons.push_back(
             std::make_unique<FormButton>(library(), form, place, L"Button" + std::to_wstring(number)));
         buttons.back()->start();
@@ -216,6 +216,27 @@ TEST_F(FocusMoves, surviveSiblingsThatGoDuringTheWalk)
     EXPECT_FALSE(::IsWindow(window(2)));
     EXPECT_FALSE(::IsWindow(window(3)));
     EXPECT_EQ(::GetFocus(), window(5));
+}
+
+TEST_F(FocusMoves, seeAMouseThatMovesDuringTheWalk)
+{
+    add();
+    add();
+    add(40);
+    ASSERT_TRUE(kit::focus(window(1)));
+    kit::pumpPending();
+    bool moved = false;
+    button(2).events().action = [&](kit::EventRecorder::Event const&) {
+        if (std::exchange(moved, true))
+            return;
+        EXPECT_TRUE(kit::moveCursorTo(window(3), kInside.x, kInside.y));
+        EXPECT_TRUE(kit::pumpUntil([&] { return ::GetCapture() == window(3); }));
+    };
+    focusOn(window(2));
+    EXPECT_TRUE(moved);
+    EXPECT_EQ(button(3).look(), "hot");
+    leave(button(3));
+    EXPECT_EQ(button(3).look(), "normal");
 }
 
 TEST_F(FocusMoves, callOnlySiblingsThatAreFlatCommandButtons)

@@ -1,5 +1,6 @@
 // The flat command button's mouse, keys and focus. Everything here happens at run time only.
 #include "controls/flatcommand/qvFlatCommand.h"
+#include "surface/Cursor.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 
@@ -48,6 +49,7 @@ void qvFlatCommand::onLostFocus()
 void qvFlatCommand::refreshSiblings() noexcept
 {
     ignoringErrors([&] {
+        CursorMoment const moment;
         for (auto const& sibling : container().parentControls())
             if (auto const button = controlInterface(sibling.get(), __uuidof(_qvFlatCommand)))
                 check(static_cast<_qvFlatCommand*>(button.get())->Refresh());

@@ -54,7 +54,7 @@ protected:
     void readProperties(PropertyBag& bag);
     void refresh();
 
-    bool isMouseOver() const noexcept { return isUnderCursor(m_inner.existing()); }
+    bool isMouseOver() const { return isUnderCursor(m_inner.existing()); }
     /// Takes or gives up the mouse; whether that changed anything.
     static bool setMouseCapture(HWND window, bool capture) noexcept;
     /// What a move does to the look while the form runs, the event apart.

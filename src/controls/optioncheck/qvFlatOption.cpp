@@ -3,6 +3,7 @@
 
 #include "controls/optioncheck/Create.h"
 #include "controls/optioncheck/OptionCheckRows.h"
+#include "surface/Cursor.h"
 #include "surface/LateBound.h"
 #include "typelib/Guids.h"
 
@@ -109,6 +110,7 @@ void qvFlatOption::giveTabStopBack() const noexcept
 void qvFlatOption::clearSiblings() noexcept
 {
     ignoringErrors([&] {
+        CursorMoment const moment;
         LONG const own = HandleToLong(innerButton().handle());
         for (auto const& control : container().parentControls()) {
             auto const sibling = controlInterface(control.get(), __uuidof(_qvFlatOption));
