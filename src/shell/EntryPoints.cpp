@@ -12,6 +12,12 @@
 
 #include <windows.h>
 
+// The language's run time holds memory for exceptions that would find no other, and leaves it behind when a
+// library is unloaded unless it is told.
+namespace __gnu_cxx {
+void __freeres();
+}
+
 using namespace quillet;
 
 namespace {
@@ -44,6 +50,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
         SurfaceWindow::unregisterClass();
         InnerButton::unregisterClass();
         detachThreadStates();
+        __gnu_cxx::__freeres();
         return TRUE;
     default:
         return TRUE;
