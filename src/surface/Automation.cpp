@@ -7,6 +7,8 @@
 
 #include <olectl.h>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
@@ -27,6 +29,23 @@ bool assignsObject(DISPPARAMS const& arguments) noexcept
 {
     return arguments.cArgs == 1 &&
            (arguments.rgvarg->vt == VT_DISPATCH || arguments.rgvarg->vt == VT_UNKNOWN);
+}
+
+wchar_t lowered(wchar_t c) noexcept { return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c; }
+
+/// Published names are plain letters.
+bool sameName(std::wstring_view a, std::wstring_view b) noexcept
+{
+    return std::ranges::equal(a, b, {}, lowered, lowered);
+}
+
+/// Null for a name that no member has.
+MemberName const* memberNamed(ControlClass const& controlClass, std::wstring_view name) noexcept
+{
+    for (MemberName const& member : controlClass.members)
+        if (sameName(member.name, name))
+            return &member;
+    return nullptr;
 }
 
 } // namespace
@@ -73,6 +92,12 @@ HRESULT Automation::getIdsOfNames(Surface& surface, LPOLESTR* names, UINT count,
     return comCall([&] {
         deref(names);
         deref(ids);
+        // Most callers ask for one member: that is found here several times faster than in the type library.
+        if (count == 1 && names[0])
+            if (MemberName const* const member = memberNamed(surface.controlClass(), names[0])) {
+                *ids = member->id;
+                return S_OK;
+            }
         return m_infos.dispatchInfo(surface.controlClass().interfaceId).GetIDsOfNames(names, count, ids);
     });
 }

@@ -19,6 +19,7 @@ constexpr ControlClass kClass = {
     L"Quillet.qvFlatCommand",
     OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
         OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON,
+    kQvFlatCommandMembers,
 };
 
 using Row = PropertyRow<qvFlatCommand>;

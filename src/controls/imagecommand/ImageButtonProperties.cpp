@@ -20,10 +20,12 @@ constexpr DWORD kMiscStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | O
 
 constexpr ControlClass kImageCommandClass = {kQvImageCommandClass,      kQvImageCommandInterface,
                                              kQvImageCommandEvents,     L"qvImageCommand",
-                                             L"Quillet.qvImageCommand", kMiscStatus};
+                                             L"Quillet.qvImageCommand", kMiscStatus,
+                                             kImageButtonMembers};
 constexpr ControlClass kToolButtonClass = {kFlatToolButtonClass,      kFlatToolButtonInterface,
                                            kFlatToolButtonEvents,     L"FlatToolButton",
-                                           L"Quillet.FlatToolButton", kMiscStatus};
+                                           L"Quillet.FlatToolButton", kMiscStatus,
+                                           kImageButtonMembers};
 
 using Row = PropertyRow<ImageButton>;
 using Kind = PropertyKind;

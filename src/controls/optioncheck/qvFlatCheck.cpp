@@ -10,8 +10,8 @@ namespace quillet {
 namespace {
 
 constexpr ControlClass kClass = {
-    kQvFlatCheckClass, kQvFlatCheckInterface,  kQvFlatCheckEvents,
-    L"qvFlatCheck",    L"Quillet.qvFlatCheck", kOptionCheckStatus,
+    kQvFlatCheckClass,      kQvFlatCheckInterface, kQvFlatCheckEvents,  L"qvFlatCheck",
+    L"Quillet.qvFlatCheck", kOptionCheckStatus,    kQvFlatCheckMembers,
 };
 
 namespace id = dispid::qvFlatCheck;

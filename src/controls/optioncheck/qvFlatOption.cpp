@@ -14,8 +14,8 @@ namespace quillet {
 namespace {
 
 constexpr ControlClass kClass = {
-    kQvFlatOptionClass, kQvFlatOptionInterface,  kQvFlatOptionEvents,
-    L"qvFlatOption",    L"Quillet.qvFlatOption", kOptionCheckStatus,
+    kQvFlatOptionClass,      kQvFlatOptionInterface, kQvFlatOptionEvents,  L"qvFlatOption",
+    L"Quillet.qvFlatOption", kOptionCheckStatus,     kQvFlatOptionMembers,
 };
 
 namespace id = dispid::qvFlatOption;
