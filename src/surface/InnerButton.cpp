@@ -92,7 +92,6 @@ void InnerButton::create(HWND parent)
     if (!m_window)
         throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
     m_system = system.lpfnWndProc;
-    m_dc = ::GetDC(m_window);
     ::SetWindowLongPtrW(m_window, system.cbWndExtra, reinterpret_cast<LONG_PTR>(this));
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(m_value), 0);
     fontChanged();
@@ -113,7 +112,6 @@ void InnerButton::destroy() noexcept
         return;
     // From here on messages find no button: they must not reach a control that is going.
     HWND const window = std::exchange(m_window, nullptr);
-    m_dc = nullptr;
     m_focused = false;
     ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
                         0);

@@ -88,7 +88,6 @@ private:
     mutable CaptionPlace m_place{};
     long m_value = 0;
     HWND m_window = nullptr;
-    HDC m_dc = nullptr;         ///< the window's own, which lives as long as the window
     WNDPROC m_system = nullptr; ///< the procedure of the system's button class
     bool m_focused = false;
     bool m_pressing = false; ///< the system handles a press of the left button

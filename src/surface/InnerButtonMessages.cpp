@@ -103,7 +103,7 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     }
     case WM_MOUSEMOVE:
-        tell([&] { m_surface.onMouseMove(mouseArguments(m_dc, heldButtons(wParam), wParam, lParam)); });
+        tell([&] { m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam)); });
         return passOn(message, wParam, lParam);
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -140,7 +140,6 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_NCDESTROY: {
         LRESULT const result = passOn(message, wParam, lParam);
         m_window = nullptr;
-        m_dc = nullptr;
         m_focused = false;
         return result;
     }
@@ -152,7 +151,7 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam)
 {
     bool const left = row.button == MouseButtons::kLeft;
-    MouseArguments const mouse = mouseArguments(m_dc, row.button, wParam, lParam);
+    MouseArguments const mouse = mouseArguments(row.button, wParam, lParam);
     switch (row.what) {
     case ButtonMessage::What::Down:
         tell([&] { m_surface.onMouseDown(mouse); });

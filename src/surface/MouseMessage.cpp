@@ -52,9 +52,9 @@ short heldButtons(WPARAM keys) noexcept
                               ((keys & MK_MBUTTON) ? MouseButtons::kMiddle : 0));
 }
 
-MouseArguments mouseArguments(HDC dc, short button, WPARAM keys, LPARAM at) noexcept
+MouseArguments mouseArguments(short button, WPARAM keys, LPARAM at) noexcept
 {
-    TwipsPerPixel const twips = twipsPerPixel(dc);
+    TwipsPerPixel const twips = twipsPerPixel();
     return {button, shiftOfMouse(keys), static_cast<float>(GET_X_LPARAM(at) * twips.x),
             static_cast<float>(GET_Y_LPARAM(at) * twips.y)};
 }

@@ -33,8 +33,7 @@ ButtonMessage const& buttonMessage(UINT message) noexcept;
 /// The buttons held, as mouse messages tell them.
 short heldButtons(WPARAM keys) noexcept;
 
-/// Of a message to a window with that DC.
-MouseArguments mouseArguments(HDC dc, short button, WPARAM keys, LPARAM at) noexcept;
+MouseArguments mouseArguments(short button, WPARAM keys, LPARAM at) noexcept;
 
 /// The shift state that belongs to the key message being handled.
 short shiftOfKeys() noexcept;

@@ -19,10 +19,11 @@ constexpr int kHimetricPerInch = 2540;
 
 IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
 
-TwipsPerPixel twipsPerPixel(HDC dc) noexcept
+TwipsPerPixel twipsPerPixel() noexcept
 {
-    return {static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(dc, LOGPIXELSX),
-            static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(dc, LOGPIXELSY)};
+    WindowDc const screen(nullptr);
+    return {static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(screen.get(), LOGPIXELSX),
+            static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
 }
 
 Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
@@ -141,7 +142,7 @@ void Surface::setWidth(long twips)
     if (m_container.putExtenderProperty(L"Width", Variant::ofFloat(static_cast<float>(twips))))
         return;
     if (m_inPlace.isActive())
-        m_inPlace.requestWidth(roundedToEven(twips / twipsPerPixel(WindowDc(nullptr).get()).x));
+        m_inPlace.requestWidth(roundedToEven(twips / twipsPerPixel().x));
     else
         m_oleObject.setWidth(std::max(0, ::MulDiv(twips, kHimetricPerInch, kTwipsPerInch)));
 }

@@ -31,12 +31,12 @@ namespace quillet {
 
 class PropertyBag;
 
-/// Twips in one pixel of a device.
+/// Twips in one pixel of the screen.
 struct TwipsPerPixel {
     double x;
     double y;
 };
-TwipsPerPixel twipsPerPixel(HDC dc) noexcept;
+TwipsPerPixel twipsPerPixel() noexcept;
 
 inline bool isEmpty(SIZE size) noexcept { return size.cx <= 0 || size.cy <= 0; }
 
@@ -84,8 +84,8 @@ public:
 
     /// The window, made at first need. Throws when Windows refuses it.
     HWND hWnd() { return m_window.handle(); }
-    /// Where painting goes: the window's own DC, or what a container draws the control into.
-    HDC hDC() { return m_paintDc ? m_paintDc : m_window.dc(); }
+    /// What a container draws the control into at the moment; null while painting goes onto the window.
+    HDC paintDc() const noexcept { return m_paintDc; }
     /// The size to paint, in pixels.
     SIZE clientSize() { return m_paintDc ? m_paintSize : m_window.clientSize(); }
 
@@ -121,7 +121,7 @@ public:
     /// Marks the control as changed since it was saved and tells the container which property it was.
     void propertyChanged(DISPID property, ViewChange view);
 
-    /// Runs the Paint handler on the window's own DC at once.
+    /// Runs the Paint handler onto the window at once.
     void repaint() { onPaint(); }
     /// Whether the Paint handler is to paint for a container instead of on the window.
     bool paintsElsewhere() const noexcept { return m_paintDc != nullptr; }

@@ -59,7 +59,7 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
         return 0;
     case WM_MOUSEMOVE:
-        m_surface.onMouseMove(mouseArguments(dc(), heldButtons(wParam), wParam, lParam));
+        m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -118,11 +118,9 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 void SurfaceWindow::paint()
 {
-    PAINTSTRUCT region;
-    HWND const window = m_window;
-    ::BeginPaint(window, &region); // the window owns its DC: this is the one that the control paints on
-    ignoringErrors([&] { m_surface.onPaint(); });
-    ::EndPaint(window, &region);
+    // A paint is always of the whole surface, and never of the button inside.
+    ::RedrawWindow(m_window, nullptr, nullptr, RDW_VALIDATE | RDW_NOINTERNALPAINT | RDW_NOCHILDREN);
+    m_surface.onPaint();
 }
 
 void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
@@ -134,7 +132,7 @@ void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
             m_clickBegun = true;
             takeFocus();
         }
-        m_surface.onMouseDown(mouseArguments(dc(), row.button, wParam, lParam));
+        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
         return;
     case ButtonMessage::What::Double:
         if (row.button == MouseButtons::kLeft)
@@ -151,7 +149,7 @@ void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
     bool const begun = button == MouseButtons::kLeft && m_clickBegun;
     if (button == MouseButtons::kLeft)
         m_clickBegun = false;
-    m_surface.onMouseUp(mouseArguments(dc(), button, wParam, lParam));
+    m_surface.onMouseUp(mouseArguments(button, wParam, lParam));
     RECT client = {};
     if (begun && m_window && ::GetClientRect(m_window, &client) &&
         ::PtInRect(&client, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))

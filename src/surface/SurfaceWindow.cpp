@@ -33,7 +33,7 @@ void registerClass(WNDPROC procedure)
         return;
     description = {};
     description.cbSize = sizeof(description);
-    description.style = CS_OWNDC | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+    description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
     description.lpfnWndProc = procedure;
     // The surface is found through the window's extra bytes: the user-data slot belongs to subclassing.
     description.cbWndExtra = sizeof(void*);

@@ -18,7 +18,7 @@ public:
     HWND handle();
     /// The window or null; makes none.
     HWND existing() const noexcept { return m_window; }
-    /// The window's own DC, which lives as long as the window.
+    /// For others to draw on: the same DC for as long as the window lives.
     HDC dc();
     /// The client area in pixels; empty while there is no window.
     SIZE clientSize() const noexcept;

@@ -123,9 +123,9 @@ bool CommandButton::isEmphasisedDefault(bool userMode, std::span<IID const> take
         takers, [&](IID const& kind) { return static_cast<bool>(controlInterface(active.get(), kind)); });
 }
 
-void CommandButton::open(OffScreenDC& canvas, SIZE size)
+void CommandButton::open(OffScreenDC& canvas, HDC target, SIZE size)
 {
-    canvas.Initialize(hDC(), size.cx, size.cy);
+    canvas.Initialize(target, size.cx, size.cy);
     takeUnderlineOff();
     canvas.Font(font());
 }
@@ -149,7 +149,7 @@ HRESULT CommandButton::answerHwnd(LONG* value)
 
 HRESULT CommandButton::answerHdc(LONG* value)
 {
-    return call([&] { deref(value) = handleAsLong(hDC()); });
+    return call([&] { deref(value) = handleAsLong(window().dc()); });
 }
 
 HRESULT CommandButton::answerWindowProc(LONG window, LONG message, LONG wParam, LONG lParam, LONG* result)

@@ -62,7 +62,7 @@ protected:
     /// focus.
     bool isEmphasisedDefault(bool userMode, std::span<IID const> takers) const;
     /// Binds the canvas of one paint, with the button's font.
-    void open(OffScreenDC& canvas, SIZE size);
+    void open(OffScreenDC& canvas, HDC target, SIZE size);
 
     ToolTipUser& toolTip() noexcept { return m_toolTip; }
 

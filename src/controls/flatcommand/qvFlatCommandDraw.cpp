@@ -5,6 +5,7 @@
 #include "controls/flatcommand/qvFlatCommand.h"
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
+#include "surface/PaintTarget.h"
 #include "typelib/DispatchIds.h"
 
 namespace quillet {
@@ -100,7 +101,8 @@ void qvFlatCommand::draw(bool userMode)
         return;
     }
     Painting painting = {userMode, window().hasFocus(), shown, size, paletteOf(shown)};
-    open(painting.canvas, painting.size);
+    PaintTarget const target(*this);
+    open(painting.canvas, target.dc(), painting.size);
     drawBorder(painting);
     drawFace(painting);
     drawFocusFrame(painting);

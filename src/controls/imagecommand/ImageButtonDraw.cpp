@@ -7,6 +7,7 @@
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
 #include "drawing/xpstate.h"
+#include "surface/PaintTarget.h"
 #include "surface/StandardPicture.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Interfaces.h"
@@ -103,7 +104,7 @@ void ImageButton::placePicture()
 {
     if (m_image1.isEmpty() || isEmpty(clientSize()))
         return;
-    TwipsPerPixel const twips = twipsPerPixel(hDC());
+    TwipsPerPixel const twips = twipsPerPixel();
     SIZE const size = clientSize();
     SIZE const picture = m_image1.size();
     long const offset = pressedOffset();
@@ -172,8 +173,9 @@ void ImageButton::draw()
     }
     bool const running = userMode();
     Painting painting = {running, size, palette(running)};
+    PaintTarget const target(*this);
     OffScreenDC& canvas = painting.canvas;
-    open(canvas, painting.size);
+    open(canvas, target.dc(), painting.size);
     canvas.TextColor(painting.palette.fore);
     canvas.FillRect(0, 0, painting.size.cx, painting.size.cy, painting.palette.back);
     drawCaption(painting, drawBorder(painting));

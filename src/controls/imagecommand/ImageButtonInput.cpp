@@ -32,7 +32,7 @@ void ImageButton::onMouseMove(MouseArguments const& mouse)
 /// The field itself: a click by the user is no change of the property that a designer would save.
 void ImageButton::onReleased(MouseArguments const& mouse)
 {
-    if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel(hDC())))
+    if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel()))
         m_looks.checked = !m_looks.checked;
 }
 

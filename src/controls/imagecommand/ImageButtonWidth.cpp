@@ -39,7 +39,7 @@ void ImageButton::onMeasure()
         pixels = checkedAdd(pixels, 2 * m_looks.borderWidth);
     if (pictured)
         pixels = checkedAdd(pixels, kPictureSpace);
-    setWidth(roundedToEven(pixels * twipsPerPixel(WindowDc(nullptr).get()).x));
+    setWidth(roundedToEven(pixels * twipsPerPixel().x));
 }
 
 } // namespace quillet

@@ -77,7 +77,7 @@ void OptionCheckButton::FillOptionGlyph(bool hot)
 void OptionCheckButton::drawElsewhere()
 {
     bool const isShaded = userMode() && !enabled();
-    m_inner.draw(hDC(), clientSize(), enabled() ? foreColor() : colour::kButtonShadow,
+    m_inner.draw(paintDc(), clientSize(), enabled() ? foreColor() : colour::kButtonShadow,
                  isShaded ? kLightGrey : kWhite);
 }
 
