@@ -13,21 +13,23 @@ constexpr int kGap = 1;    // between image and caption
 
 } // namespace
 
-BareImagePainter::BareImagePainter(HDC target, SIZE size, HFONT font, std::string caption,
+BareImagePainter::BareImagePainter(HWND window, SIZE size, HFONT font, std::string caption,
                                    BareImage const& image)
-    : m_target(target), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
+    : m_window(window), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
       m_underlined(fontLike(font, true)), m_key(caption.substr(0, 1)), m_rest(caption.substr(1)),
       m_image(image)
 {
-    m_y = centred(m_height, sizeOf(target, m_plain.get(), caption).cy);
+    WindowDc const target(window);
+    m_y = centred(m_height, sizeOf(target.get(), m_plain.get(), caption).cy);
     m_keyAt = kBorder + kMargin + (image.size.cx ? image.size.cx + kGap : 0);
-    m_restAt = m_keyAt + sizeOf(target, m_plain.get(), m_key).cx;
+    m_restAt = m_keyAt + sizeOf(target.get(), m_plain.get(), m_key).cx;
 }
 
 void BareImagePainter::paint(BareImageLook const& look) const
 {
-    UniqueMemoryDc const dc(::CreateCompatibleDC(m_target));
-    UniqueBitmap const bitmap(::CreateCompatibleBitmap(m_target, m_width, m_height));
+    WindowDc const target(m_window);
+    UniqueMemoryDc const dc(::CreateCompatibleDC(target.get()));
+    UniqueBitmap const bitmap(::CreateCompatibleBitmap(target.get(), m_width, m_height));
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
     SelectScope const selectedFont(dc.get(), m_plain.get());
     ::SetTextColor(dc.get(), look.fore);
@@ -40,7 +42,7 @@ void BareImagePainter::paint(BareImageLook const& look) const
     piece.left = m_restAt;
     fill(dc.get(), piece, look.back, m_restAt, m_y, m_rest);
     image(dc.get());
-    ::BitBlt(m_target, 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
+    ::BitBlt(target.get(), 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
 }
 
 void BareImagePainter::edges(HDC dc, BareImageLook const& look) const

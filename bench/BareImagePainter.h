@@ -28,7 +28,7 @@ struct BareImage {
 class BareImagePainter {
 public:
     /// For a border of one pixel and a caption whose first letter is the access key, beside the image.
-    BareImagePainter(HDC target, SIZE size, HFONT font, std::string caption, BareImage const& image);
+    BareImagePainter(HWND window, SIZE size, HFONT font, std::string caption, BareImage const& image);
 
     void paint(BareImageLook const& look) const;
 
@@ -36,7 +36,7 @@ private:
     void edges(HDC dc, BareImageLook const& look) const;
     void image(HDC dc) const;
 
-    HDC m_target;
+    HWND m_window;
     int m_width;
     int m_height;
     UniqueFont m_plain;

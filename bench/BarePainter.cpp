@@ -37,20 +37,22 @@ void fill(HDC dc, RECT const& rectangle, COLORREF color, int x, int y, std::stri
                   static_cast<UINT>(text.size()), nullptr);
 }
 
-BarePainter::BarePainter(HDC target, SIZE size, HFONT font, std::string caption)
-    : m_target(target), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
+BarePainter::BarePainter(HWND window, SIZE size, HFONT font, std::string caption)
+    : m_window(window), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
       m_underlined(fontLike(font, true)), m_key(caption.substr(0, 1)), m_rest(caption.substr(1))
 {
-    SIZE const text = sizeOf(target, m_plain.get(), caption);
+    WindowDc const target(window);
+    SIZE const text = sizeOf(target.get(), m_plain.get(), caption);
     m_y = centred(m_height, text.cy);
     m_keyAt = centred(m_width, text.cx);
-    m_restAt = m_keyAt + sizeOf(target, m_plain.get(), m_key).cx;
+    m_restAt = m_keyAt + sizeOf(target.get(), m_plain.get(), m_key).cx;
 }
 
 void BarePainter::paint(BareLook const& look) const
 {
-    UniqueMemoryDc const dc(::CreateCompatibleDC(m_target));
-    UniqueBitmap const bitmap(::CreateCompatibleBitmap(m_target, m_width, m_height));
+    WindowDc const target(m_window);
+    UniqueMemoryDc const dc(::CreateCompatibleDC(target.get()));
+    UniqueBitmap const bitmap(::CreateCompatibleBitmap(target.get(), m_width, m_height));
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
     SelectScope const selectedFont(dc.get(), m_plain.get());
     ::SetTextColor(dc.get(), look.fore);
@@ -69,7 +71,7 @@ void BarePainter::paint(BareLook const& look) const
     ::SelectObject(dc.get(), m_plain.get());
     piece.left = m_restAt;
     fill(dc.get(), piece, look.back, m_restAt, m_y, m_rest);
-    ::BitBlt(m_target, 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
+    ::BitBlt(target.get(), 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
 }
 
 } // namespace quillet::bench

@@ -28,15 +28,15 @@ struct BareLook {
 /// piece of the caption begins. What is left is the least that makes the picture without flicker.
 class BarePainter {
 public:
-    /// For a window's DC and a caption whose first letter is the access key, centred.
-    BarePainter(HDC target, SIZE size, HFONT font, std::string caption);
+    /// For a window and a caption whose first letter is the access key, centred.
+    BarePainter(HWND window, SIZE size, HFONT font, std::string caption);
 
     void paint(BareLook const& look) const;
 
 private:
     RECT inside(int inset) const { return {inset, inset, m_width - inset, m_height - inset}; }
 
-    HDC m_target;
+    HWND m_window;
     int m_width;
     int m_height;
     UniqueFont m_plain;

@@ -29,7 +29,8 @@ Rows measureFocus(kit::Library const& library, Effort effort);
 Rows measureCreation(kit::Library const& library, Effort effort);
 Rows measureMembers(kit::Library const& library, Effort effort);
 Rows measureOptions(kit::Library const& library, Effort effort);
+Rows measureSaving(kit::Library const& library, Effort effort);
+Rows measureFootprint(kit::Library const& library, Effort effort);
 Rows measureSize(kit::Library const& library, Effort effort);
-Rows measureSoak(kit::Library const& library, Effort effort);
 
 } // namespace quillet::bench

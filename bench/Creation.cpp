@@ -1,7 +1,8 @@
-// Buttons created, loaded, activated and destroyed by the thousand, against as many of the system's.
-#include "base/Handles.h"
+// Buttons created, loaded and activated by the thousand, and closed and released, against as many of the
+// system's.
 #include "bench/CrowdedForm.h"
 #include "bench/Rounds.h"
+#include "bench/SystemButtons.h"
 #include "kit/Pump.h"
 
 #include <vector>
@@ -10,24 +11,36 @@ namespace quillet::bench {
 
 namespace {
 
-void ours(CrowdedForm& form, int count)
+/// The times of making a form's buttons and of taking them away again, for one button.
+struct Life {
+    double made;
+    double gone;
+};
+
+template <class Buttons> Life lifeOf(Buttons& buttons, int count)
 {
-    form.add(count);
-    form.clear();
+    double const made = microsecondsOf([&] { buttons.add(count); });
+    kit::pumpPending(); // they paint themselves
+    double const gone = microsecondsOf([&] { buttons.clear(); });
+    kit::pumpPending();
+    return {made / count, gone / count};
 }
 
-void systems(HWND form, int count)
+Rows measureForm(kit::Library const& library, int count, int rounds)
 {
-    std::vector<UniqueWindow> buttons;
-    buttons.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        RECT const place = CrowdedForm::placeOf(i);
-        buttons.emplace_back(::CreateWindowExW(0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP,
-                                               place.left, place.top, CrowdedForm::kButton.cx,
-                                               CrowdedForm::kButton.cy, form, nullptr, nullptr, nullptr));
-        ::SendMessageW(buttons.back().get(), WM_SETFONT,
-                       reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    CrowdedForm ours(library);
+    SystemButtons systems(ours.window());
+    Rounds made;
+    Rounds gone;
+    for (int round = 0; round < rounds; ++round) {
+        bool const oursFirst = round % 2 == 0;
+        Life const first = oursFirst ? lifeOf(ours, count) : lifeOf(systems, count);
+        Life const second = oursFirst ? lifeOf(systems, count) : lifeOf(ours, count);
+        made.add(oursFirst ? first.made : second.made, oursFirst ? second.made : first.made);
+        gone.add(oursFirst ? first.gone : second.gone, oursFirst ? second.gone : first.gone);
     }
+    std::string const one = "one of " + std::to_string(count) + " buttons ";
+    return {rowOf(one + "made and shown", made.result(), "–"), rowOf(one + "taken away", gone.result(), "–")};
 }
 
 } // namespace
@@ -40,17 +53,10 @@ Rows measureCreation(kit::Library const& library, Effort effort)
     };
     std::vector<Size> const full = {{10, 51}, {100, 11}, {1000, 5}, {5000, 1}};
     std::vector<Size> const smoke = {{10, 3}};
-    CrowdedForm form(library);
     Rows rows;
-    for (Size const& size : effort == Effort::Full ? full : smoke) {
-        Comparison comparison = compare(
-            size.rounds, 1, [&] { ours(form, size.buttons); }, [&] { systems(form.window(), size.buttons); },
-            &kit::pumpPending);
-        comparison.ours /= size.buttons;
-        comparison.floor /= size.buttons;
-        rows.push_back(
-            rowOf("one of " + std::to_string(size.buttons) + " buttons in a window", comparison, "–"));
-    }
+    for (Size const& size : effort == Effort::Full ? full : smoke)
+        for (Row& row : measureForm(library, size.buttons, size.rounds))
+            rows.push_back(std::move(row));
     return rows;
 }
 

@@ -2,6 +2,7 @@
 #include "bench/CrowdedForm.h"
 
 #include "base/RunTimeError.h"
+#include "bench/ShownButton.h"
 #include "typelib/Guids.h"
 
 namespace quillet::bench {
@@ -33,12 +34,17 @@ HWND CrowdedForm::windowOf(int index) const
     return window;
 }
 
+BarePainter CrowdedForm::barePainterOf(int index) const
+{
+    auto const button = m_buttons.at(static_cast<std::size_t>(index))->as<_qvFlatCommand>();
+    return {windowOf(index), kButton, fontOf(deref(button.get())), "Save changes"};
+}
+
 RECT CrowdedForm::placeOf(int index)
 {
     int const columns = kForm.cx / kButton.cx;
-    int const rows = kForm.cy / kButton.cy;
     LONG const left = index % columns * kButton.cx;
-    LONG const top = index / columns % rows * kButton.cy;
+    LONG const top = index / columns * kButton.cy;
     return {left, top, left + kButton.cx, top + kButton.cy};
 }
 

@@ -1,6 +1,7 @@
 // A visible window with as many flat command buttons as are asked for.
 #pragma once
 
+#include "bench/BarePainter.h"
 #include "bench/Container.h"
 #include "kit/HostWindow.h"
 #include "kit/Library.h"
@@ -27,8 +28,10 @@ public:
     /// Lets the buttons find each other, as they do on a form.
     void joinAsSiblings();
     HWND windowOf(int index) const;
+    /// Paints the same picture with bare GDI calls.
+    BarePainter barePainterOf(int index) const;
 
-    /// Places that fill the form row by row, again and again.
+    /// Places that fill the form row by row; those of a large number go on below what is seen of it.
     static RECT placeOf(int index);
 
 private:

@@ -17,9 +17,10 @@ Row measureForm(kit::Library const& library, int buttons, int rounds)
 {
     CrowdedForm form(library, buttons);
     form.joinAsSiblings();
-    ShownButton alone(library); // gives the floor its picture
-    BarePainter const bare = alone.barePainter();
-    BareLook const look = alone.bareLook(Look::Normal);
+    std::vector<BarePainter> painters;
+    for (int i = 0; i < buttons; ++i)
+        painters.push_back(form.barePainterOf(i));
+    BareLook const look = ShownButton(library).bareLook(Look::Normal);
     require(kit::moveCursorAway() && kit::focus(form.windowOf(0)), "the focus does not move");
     kit::pumpPending();
 
@@ -33,7 +34,7 @@ Row measureForm(kit::Library const& library, int buttons, int rounds)
     auto const floor = [&] {
         return microsecondsOf([&] {
             for (int i = 0; i < paintsOf(buttons); ++i)
-                bare.paint(look);
+                painters[static_cast<std::size_t>(i % buttons)].paint(look);
         });
     };
     return rowOf("focus change on a form of " + std::to_string(buttons), compareTimed(rounds, ours, floor),

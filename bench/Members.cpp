@@ -1,6 +1,8 @@
-// A property read and written by its name, as scripts do, against the same through the interface.
+// A property read and written by its name, as scripts do, and through the interface, against a control that
+// does nothing else.
 #include "base/RunTimeError.h"
 #include "bench/Container.h"
+#include "bench/MinimalControl.h"
 #include "bench/Rounds.h"
 #include "kit/HostWindow.h"
 #include "typelib/Guids.h"
@@ -53,19 +55,28 @@ Rows measureMembers(kit::Library const& library, Effort effort)
     Hosted const hosted(deref(factory.get()), saved, frame, window.handle(), kPlace);
     ComPtr<_qvFlatCommand> const button = hosted.as<_qvFlatCommand>();
     Member const color{*button.get(), L"HotBackColor"}; // one whose change repaints nothing
+    MinimalControl minimal;
+    Member const number{minimal, L"Number"};
+    Number& slot = minimal;
 
-    auto const row = [&](char const* what, auto byName, auto throughInterface) {
+    auto const row = [&](char const* what, auto ours, auto floor) {
         bool const full = effort == Effort::Full;
-        return rowOf(std::string(what) + " by name",
-                     compare(full ? 201 : 3, full ? 1000 : 5, byName, throughInterface), "–");
+        return rowOf(what, compare(full ? 201 : 3, full ? 1000 : 5, ours, floor), "–");
     };
     OLE_COLOR read = 0;
+    LONG readNumber = 0;
     return {
         row(
-            "a property read", [&] { color.read(); }, [&] { button->get_HotBackColor(&read); }),
+            "a property read by name", [&] { color.read(); }, [&] { number.read(); }),
         row(
-            "a property written", [&] { color.write(static_cast<LONG>(kColor)); },
-            [&] { button->put_HotBackColor(kColor); }),
+            "a property written by name", [&] { color.write(static_cast<LONG>(kColor)); },
+            [&] { number.write(static_cast<LONG>(kColor)); }),
+        row(
+            "a property read through the interface", [&] { button->get_HotBackColor(&read); },
+            [&] { slot.get(&readNumber); }),
+        row(
+            "a property written through the interface", [&] { button->put_HotBackColor(kColor); },
+            [&] { slot.put(static_cast<LONG>(kColor)); }),
     };
 }
 

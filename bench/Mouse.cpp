@@ -1,8 +1,10 @@
 // What the mouse does to a flat command button, from the message that says so until the new looks are
 // painted.
+#include "bench/BareFollower.h"
 #include "bench/MouseMessage.h"
 #include "bench/Rounds.h"
 #include "bench/ShownButton.h"
+#include "kit/HostWindow.h"
 #include "kit/Input.h"
 
 namespace quillet::bench {
@@ -40,23 +42,39 @@ Rows measureMouse(kit::Library const& library, Effort effort)
     button.enter(Look::Normal);
     BareLook const normal = button.bareLook(Look::Normal);
     BareLook const hot = button.bareLook(Look::Hot);
-    auto const enteredAndLeft = [&] {
-        double const entered = movedTo(button.window(), ShownButton::kMiddle);
-        require(::GetCapture() == button.window(), "the button does not see the mouse come");
-        return entered + movedTo(button.window(), kOutside);
+    BareLook const pressed = button.bareLook(Look::Pressed);
+    kit::HostWindow const other(300, 40, 200, 100);
+    BareFollower const follower(other.handle(), ShownButton::kPlace, fontOf(button.control()),
+                                {normal, hot, pressed});
+    auto const enteredAndLeft = [](HWND window) {
+        return [window] {
+            double const entered = movedTo(window, ShownButton::kMiddle);
+            require(::GetCapture() == window, "the window does not see the mouse come");
+            return entered + movedTo(window, kOutside);
+        };
     };
     rows.push_back(rowOf("mouse enters and leaves, both painted",
-                         compareTimed(rounds, enteredAndLeft, pair(bare, hot, normal)), "–"));
+                         compareTimed(rounds, enteredAndLeft(button.window()), pair(bare, hot, normal)),
+                         "–"));
+    rows.push_back(
+        rowOf("the same, the floor follows the mouse, too",
+              compareTimed(rounds, enteredAndLeft(button.window()), enteredAndLeft(follower.window())), "–"));
 
     button.enter(Look::Hot);
     require(kit::focus(button.window()), "the focus does not move");
-    BareLook const pressed = button.bareLook(Look::Pressed);
     BareLook const hotFocused = button.bareLook(Look::Hot);
-    auto const pressedAndReleased = [&] {
-        return sent(button.window(), WM_LBUTTONDOWN, MK_LBUTTON) + sent(button.window(), WM_LBUTTONUP, 0);
+    auto const pressedAndReleased = [](HWND window) {
+        return [window] { return sent(window, WM_LBUTTONDOWN, MK_LBUTTON) + sent(window, WM_LBUTTONUP, 0); };
     };
-    rows.push_back(rowOf("press and release, both painted",
-                         compareTimed(rounds, pressedAndReleased, pair(bare, pressed, hotFocused)), "–"));
+    BareLook const pressedFocused = button.bareLook(Look::Pressed);
+    rows.push_back(rowOf(
+        "press and release, both painted",
+        compareTimed(rounds, pressedAndReleased(button.window()), pair(bare, pressedFocused, hotFocused)),
+        "–"));
+    rows.push_back(rowOf(
+        "the same, the floor follows the mouse, too",
+        compareTimed(rounds, pressedAndReleased(button.window()), pressedAndReleased(follower.window())),
+        "–"));
     button.leave(Look::Hot);
     return rows;
 }

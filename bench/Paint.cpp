@@ -17,7 +17,7 @@ constexpr LookRow kLooks[] = {
 template <class Body> kit::Canvas& painted(ShownButton const& button, kit::Canvas& canvas, Body&& body)
 {
     RECT const all{0, 0, ShownButton::kSize.cx, ShownButton::kSize.cy};
-    ::FillRect(button.dc(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
+    ::FillRect(WindowDc(button.window()).get(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
     body();
     button.show(canvas);
     return canvas;

@@ -40,7 +40,7 @@ std::vector<PictureRow> pictures()
 template <class Body> kit::Canvas& painted(ShownImageButton const& button, kit::Canvas& canvas, Body&& body)
 {
     RECT const all{0, 0, ShownImageButton::kSize.cx, ShownImageButton::kSize.cy};
-    ::FillRect(button.dc(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
+    ::FillRect(WindowDc(button.window()).get(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
     body();
     kit::readWindow(button.window(), canvas);
     return canvas;

@@ -46,25 +46,28 @@ double microsecondsOf(std::function<void()> const& body)
     return microsecondsNow() - start;
 }
 
+void Rounds::add(double ours, double floor)
+{
+    m_ours.push_back(ours);
+    m_floor.push_back(floor);
+    m_ratios.push_back(ours / floor);
+}
+
+Comparison Rounds::result() const { return {medianOf(m_ours), medianOf(m_floor), medianOf(m_ratios)}; }
+
 Comparison compareTimed(int rounds, TimedBody const& ours, TimedBody const& floor,
                         std::function<void()> const& settle)
 {
-    std::vector<double> ourTimes;
-    std::vector<double> floorTimes;
-    std::vector<double> ratios;
+    Rounds times;
     for (int round = 0; round < rounds; ++round) {
         bool const oursFirst = round % 2 == 0;
-        double first = oursFirst ? ours() : floor();
-        double second = oursFirst ? floor() : ours();
-        if (!oursFirst)
-            std::swap(first, second);
-        ourTimes.push_back(first);
-        floorTimes.push_back(second);
-        ratios.push_back(first / second);
+        double const first = oursFirst ? ours() : floor();
+        double const second = oursFirst ? floor() : ours();
+        times.add(oursFirst ? first : second, oursFirst ? second : first);
         if (settle)
             settle();
     }
-    return {medianOf(std::move(ourTimes)), medianOf(std::move(floorTimes)), medianOf(std::move(ratios))};
+    return times.result();
 }
 
 Comparison compare(int rounds, int calls, std::function<void()> const& ours,

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace quillet::bench {
 
@@ -13,6 +14,18 @@ struct Comparison {
     double ours;  ///< microseconds of one call
     double floor; ///< microseconds of one call
     double ratio; ///< of the rounds' own ratios, not of the two medians
+};
+
+/// Collects a comparison's rounds: the microseconds of ours and of the floor in each.
+class Rounds {
+public:
+    void add(double ours, double floor);
+    Comparison result() const;
+
+private:
+    std::vector<double> m_ours;
+    std::vector<double> m_floor;
+    std::vector<double> m_ratios;
 };
 
 /// Microseconds that a body takes.

@@ -48,9 +48,6 @@ ShownButton::ShownButton(kit::Library const& library)
 {
     ComPtr<IOleWindow> const window = m_hosted.as<IOleWindow>();
     check(deref(window.get()).GetWindow(&m_buttonWindow));
-    LONG dc = 0;
-    check(m_button->get_hdc(&dc));
-    m_dc = reinterpret_cast<HDC>(static_cast<LONG_PTR>(dc));
     kit::pumpPending();
 }
 
@@ -86,16 +83,19 @@ void ShownButton::leave(Look look)
     enter(Look::Normal);
 }
 
-HFONT ShownButton::font() const
+HFONT fontOf(_qvFlatCommand& button)
 {
     ComPtr<IFontDisp> dispatch;
-    check(m_button->get_Font(dispatch.put()));
+    check(button.get_Font(dispatch.put()));
     HFONT handle = nullptr;
     check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
     return handle;
 }
 
-BarePainter ShownButton::barePainter() const { return {m_dc, kSize, font(), "Save changes"}; }
+BarePainter ShownButton::barePainter() const
+{
+    return {m_buttonWindow, kSize, fontOf(control()), "Save changes"};
+}
 
 BareLook ShownButton::bareLook(Look look) const
 {

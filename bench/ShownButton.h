@@ -14,6 +14,9 @@ namespace quillet::bench {
 
 enum class Look { Normal, Hot, Pressed, Disabled };
 
+/// The font that the button writes with; the button keeps it.
+HFONT fontOf(_qvFlatCommand& button);
+
 class ShownButton {
 public:
     static constexpr RECT kPlace{20, 20, 140, 52};
@@ -24,7 +27,6 @@ public:
 
     _qvFlatCommand& control() const noexcept { return *m_button.get(); }
     HWND window() const noexcept { return m_buttonWindow; }
-    HDC dc() const noexcept { return m_dc; }
 
     /// With the real mouse; press gives the button the focus, and leave takes it away again.
     void enter(Look look);
@@ -38,8 +40,6 @@ public:
     void show(kit::Canvas& canvas) const;
 
 private:
-    HFONT font() const;
-
     kit::HostWindow m_window{40, 40, 200, 100};
     Frame m_frame{m_window.handle()};
     SavedButton m_saved;
@@ -47,7 +47,6 @@ private:
     Hosted m_hosted;
     ComPtr<_qvFlatCommand> m_button;
     HWND m_buttonWindow = nullptr;
-    HDC m_dc = nullptr;
 };
 
 } // namespace quillet::bench

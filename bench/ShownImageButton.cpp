@@ -76,9 +76,6 @@ ShownImageButton::ShownImageButton(kit::Library const& library, ImageKind const&
       m_button(query<_qvImageCommand>(m_hosted.as<IUnknown>().get(), kind.interfaceId))
 {
     check(m_hosted.as<IOleWindow>()->GetWindow(&m_buttonWindow));
-    LONG dc = 0;
-    check(m_button->get_hdc(&dc));
-    m_dc = static_cast<HDC>(LongToHandle(dc));
     kit::pumpPending();
 }
 
@@ -101,7 +98,7 @@ HFONT ShownImageButton::font() const
 
 BareImagePainter ShownImageButton::barePainter() const
 {
-    return {m_dc, kSize, font(), "Save changes", m_image};
+    return {m_buttonWindow, kSize, font(), "Save changes", m_image};
 }
 
 BareImageLook ShownImageButton::bareLook(ImageLook look) const

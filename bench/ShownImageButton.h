@@ -46,7 +46,6 @@ public:
     /// The interfaces of both classes have the same vtable.
     _qvImageCommand& control() const noexcept { return *m_button.get(); }
     HWND window() const noexcept { return m_buttonWindow; }
-    HDC dc() const noexcept { return m_dc; }
 
     /// With the real mouse.
     void enter(ImageLook look);
@@ -64,7 +63,6 @@ private:
     Hosted m_hosted;
     ComPtr<_qvImageCommand> m_button;
     HWND m_buttonWindow = nullptr;
-    HDC m_dc = nullptr;
 };
 
 } // namespace quillet::bench

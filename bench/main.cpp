@@ -1,5 +1,5 @@
 // Measures the built component from outside, as a host uses it, and writes one line for each figure:
-// bench [--smoke] [paint|pictures|mouse|focus|creation|members|options|size|soak]
+// bench [--smoke] [paint|pictures|mouse|focus|creation|members|saving|options|footprint|size]
 #include "base/RunTimeError.h"
 #include "bench/Bench.h"
 #include "bench/Rounds.h"
@@ -31,9 +31,10 @@ struct Part {
 };
 
 constexpr Part kParts[] = {
-    {"paint", &measurePaint},     {"pictures", &measurePictures}, {"mouse", &measureMouse},
-    {"focus", &measureFocus},     {"creation", &measureCreation}, {"members", &measureMembers},
-    {"options", &measureOptions}, {"size", &measureSize},         {"soak", &measureSoak},
+    {"paint", &measurePaint},   {"pictures", &measurePictures}, {"mouse", &measureMouse},
+    {"focus", &measureFocus},   {"creation", &measureCreation}, {"members", &measureMembers},
+    {"saving", &measureSaving}, {"options", &measureOptions},   {"footprint", &measureFootprint},
+    {"size", &measureSize},
 };
 
 struct Wish {

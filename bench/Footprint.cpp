@@ -1,0 +1,51 @@
+// What one button holds while it is shown: memory, windows, handles.
+#include "bench/Bench.h"
+#include "bench/CrowdedForm.h"
+#include "bench/SystemButtons.h"
+#include "kit/Pump.h"
+#include "kit/Usage.h"
+
+#include <functional>
+
+namespace quillet::bench {
+
+namespace {
+
+struct Held {
+    double bytes;
+    double windows;
+    double gdi;
+};
+
+/// What so many objects hold, for one of them.
+Held heldBy(int count, std::function<void()> const& make)
+{
+    kit::pumpPending();
+    auto const before = kit::Usage::now();
+    make();
+    kit::pumpPending();
+    auto const after = kit::Usage::now();
+    auto const each = [count](auto more) { return static_cast<double>(more) / count; };
+    return {each(after.bytes - before.bytes), each(after.windows - before.windows),
+            each(after.gdi - before.gdi)};
+}
+
+std::string rounded(double value) { return std::to_string(static_cast<long>(value + 0.5)); }
+
+} // namespace
+
+Rows measureFootprint(kit::Library const& library, Effort effort)
+{
+    int const count = effort == Effort::Full ? 1000 : 20;
+    CrowdedForm form(library, 1); // the first one also pays for what all share
+    Held const ours = heldBy(count, [&] { form.add(count); });
+    SystemButtons systems(form.window(), 1);
+    Held const theirs = heldBy(count, [&] { systems.add(count); });
+    return {
+        {"heap bytes of one button", rounded(ours.bytes), rounded(theirs.bytes), "–", "–"},
+        {"windows of one button", rounded(ours.windows), rounded(theirs.windows), "–", "–"},
+        {"GDI places of one button", rounded(ours.gdi), rounded(theirs.gdi), "–", "–"},
+    };
+}
+
+} // namespace quillet::bench
