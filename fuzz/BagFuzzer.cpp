@@ -1,10 +1,11 @@
-// Fuzzes what a container's property bag answers: reading a value of each kind, and reading it into a property.
+// Fuzzes what a container's property bag answers: reading a value of each kind, and reading it into a
+// property.
 #include "ConvertedValues.h"
 #include "FuzzedBag.h"
 #include "Hold.h"
 #include "Input.h"
 #include "base/RunTimeError.h"
-#include "platform/PlainObject.h"
+#include "platform/Objects.h"
 
 namespace quillet::fuzz {
 
@@ -36,6 +37,6 @@ extern "C" int LLVMFuzzerTestOneInput(BYTE const* data, size_t size)
     Input input(data, size);
     while (!input.isEmpty())
         readOne(kAllKinds[input.take<BYTE>() % std::size(kAllKinds)], input);
-    hold(PlainObject::living() == 0, "no object is left over");
+    hold(livingObjects() == 0, "no object is left over");
     return 0;
 }

@@ -1,7 +1,7 @@
 // Fuzzes the form files: reading the text, its companion file, and the property bag of every control.
 //
-// An input is the form's text, then a zero byte, then the companion file; every file that the form names has those
-// bytes.
+// An input is the form's text, then a zero byte, then the companion file; every file that the form names has
+// those bytes.
 #include "Hold.h"
 #include "gallery/Companion.h"
 #include "gallery/ControlBag.h"
@@ -10,7 +10,7 @@
 #include "gallery/FormValue.h"
 #include "gallery/FormValues.h"
 #include "platform/Files.h"
-#include "platform/PlainObject.h"
+#include "platform/Objects.h"
 
 #include <cmath>
 
@@ -33,7 +33,8 @@ public:
     void node(FormNode const& node, int depth)
     {
         hold(depth <= kDeepest, "objects are not nested too deeply");
-        hold(!node.library.empty() && !node.className.empty() && !node.name.empty(), "an object has its names");
+        hold(!node.library.empty() && !node.className.empty() && !node.name.empty(),
+             "an object has its names");
         lines(node.line, node.endLine);
         properties(node.properties, node.line, node.endLine);
         for (PropertyBlock const& inside : node.blocks) {
@@ -144,7 +145,8 @@ void read(std::string_view text, std::string const& companion)
     try {
         tree = readForm(text, L"a.frm");
     } catch (FormError const& error) {
-        hold(error.line >= 1 && !error.reason.empty() && error.file == L"a.frm", "an error says where and why");
+        hold(error.line >= 1 && !error.reason.empty() && error.file == L"a.frm",
+             "an error says where and why");
         return;
     }
     Walk(text, companion).node(tree.form, 1);
@@ -167,6 +169,6 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, size_t size)
     std::vector<char> const text(input.begin(), input.begin() + std::min(end, size));
     read(std::string_view(text.data(), text.size()), companion);
     files().clear();
-    hold(PlainObject::living() == 0, "no object is left over");
+    hold(livingObjects() == 0, "no object is left over");
     return 0;
 }

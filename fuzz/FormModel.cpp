@@ -1,7 +1,8 @@
-// The binary form of saved values, taken apart a second time: offsets into one span, as its description counts.
+// The binary form of saved values, taken apart a second time: offsets into one span, as its description
+// counts.
 #include "FormModel.h"
 
-#include "platform/PlainObject.h"
+#include "platform/MemoryStream.h"
 
 #include <oaidl.h>
 
@@ -57,7 +58,7 @@ bool takeData(Bytes body, size_t& at, FormModel& model)
             return false;
         unsigned const kind = half(body, at);
         unsigned const size = whole(body, at + 2);
-        bool const isDamaged = size > 0 && body[at + 6] == PlainObject::kDamaged;
+        bool const isDamaged = size > 0 && body[at + 6] == kDamaged;
         if (kind == 1 && isDamaged)
             return false;
         model.hasDamagedPicture |= kind == 2 && isDamaged;
@@ -114,6 +115,9 @@ std::optional<FormModel> modelOf(Bytes bytes)
     return model;
 }
 
-std::uint64_t mayRead(Bytes bytes) { return bytes.size() < kHeader ? std::uint64_t{kHeader} : kHeader + std::uint64_t{whole(bytes, 8)}; }
+std::uint64_t mayRead(Bytes bytes)
+{
+    return bytes.size() < kHeader ? std::uint64_t{kHeader} : kHeader + std::uint64_t{whole(bytes, 8)};
+}
 
 } // namespace quillet::fuzz

@@ -1,6 +1,7 @@
 // A container's property bag that answers whatever the input says: results and values.
 #include "FuzzedBag.h"
 
+#include "platform/FontObject.h"
 #include "platform/PlainObject.h"
 
 #include <algorithm>
@@ -21,8 +22,9 @@ constexpr HRESULT kResults[] = {S_OK,
                                 DISP_E_OVERFLOW,
                                 DISP_E_BADVARTYPE};
 /// Types that are likely to convert, and some that never do. What is chosen beyond them is taken as it comes.
-constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_NULL, VT_I2,      VT_I4,       VT_R4,  VT_R8,  VT_CY,  VT_DATE, VT_BSTR, VT_BSTR,
-                              VT_BOOL,  VT_UI4,  VT_UNKNOWN, VT_DISPATCH, VT_UI1, VT_I8, VT_UI8, VT_ERROR, VT_RECORD};
+constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_NULL, VT_I2,   VT_I4,    VT_R4,    VT_R8,      VT_CY,
+                              VT_DATE,  VT_BSTR, VT_BSTR, VT_BOOL,  VT_UI4,   VT_UNKNOWN, VT_DISPATCH,
+                              VT_UI1,   VT_I8,   VT_UI8,  VT_ERROR, VT_RECORD};
 
 constexpr size_t kLongestText = 200;
 
@@ -32,7 +34,7 @@ IUnknown* newObject(BYTE choice)
     case 0:
         return nullptr;
     case 1:
-        return new PlainObject(PlainObject::Kind::Font);
+        return static_cast<IFont*>(new FontObject());
     case 2:
         return new PlainObject(PlainObject::Kind::Picture);
     default:

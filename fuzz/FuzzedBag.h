@@ -9,8 +9,8 @@
 
 namespace quillet::fuzz {
 
-/// Answers with any result, and with a value of any type. A failure leaves anything in the caller's variant; what a
-/// success leaves there is a value, as the caller frees it.
+/// Answers with any result, and with a value of any type. A failure leaves anything in the caller's variant;
+/// what a success leaves there is a value, as the caller frees it.
 class FuzzedBag final : public Counted<IPropertyBag> {
 public:
     explicit FuzzedBag(Input& input) noexcept : m_input(input) {}

@@ -11,9 +11,9 @@ namespace quillet::fuzz {
 
 /// How a stream answers, beside giving what it was asked for.
 struct Manner {
-    ULONG piece = 0;       ///< it gives no more at once; 0 for all
+    ULONG piece = 0;               ///< it gives no more at once; 0 for all
     std::uint64_t failsAt = ~0ull; ///< it fails as soon as it has given that much
-    bool exaggerates = false; ///< it says more than it was asked for
+    bool exaggerates = false;      ///< it says more than it was asked for
 };
 
 class HostileStream final : public MemoryStream {

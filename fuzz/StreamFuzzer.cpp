@@ -1,14 +1,14 @@
 // Fuzzes the saved stream: reading, reading the values into properties, and writing it again.
 //
-// The first byte of an input says how the stream answers, the second whether the form's length is put right; the
-// rest is the stream.
+// The first byte of an input says how the stream answers, the second whether the form's length is put right;
+// the rest is the stream.
 #include "ConvertedValues.h"
 #include "FormModel.h"
 #include "Hold.h"
 #include "HostileStream.h"
 #include "Input.h"
 #include "base/RunTimeError.h"
-#include "platform/PlainObject.h"
+#include "platform/Objects.h"
 #include "surface/SavedValues.h"
 
 namespace quillet::fuzz {
@@ -86,6 +86,6 @@ extern "C" int LLVMFuzzerTestOneInput(BYTE const* data, size_t size)
     if (choice & 32)
         putLengthRight(bytes);
     read(bytes, mannerOf(choice, amount));
-    hold(PlainObject::living() == 0, "no object is left over");
+    hold(livingObjects() == 0, "no object is left over");
     return 0;
 }

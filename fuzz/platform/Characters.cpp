@@ -1,5 +1,5 @@
-// What the system knows of characters: their case, and which are letters. Case beyond Latin-1 is left alone, and
-// everything beyond it counts as a letter.
+// What the system knows of characters: their case, and which are letters. Case beyond Latin-1 is left alone,
+// and everything beyond it counts as a letter.
 #include <windows.h>
 
 namespace {

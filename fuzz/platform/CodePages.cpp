@@ -131,8 +131,8 @@ INT WINAPI MultiByteToWideChar(UINT codePage, DWORD, LPCSTR bytes, INT size, LPW
     return answer(text, target, targetSize);
 }
 
-INT WINAPI WideCharToMultiByte(UINT codePage, DWORD, LPCWSTR text, INT count, LPSTR target, INT targetSize, LPCSTR,
-                               LPBOOL)
+INT WINAPI WideCharToMultiByte(UINT codePage, DWORD, LPCWSTR text, INT count, LPSTR target, INT targetSize,
+                               LPCSTR, LPBOOL)
 {
     if (count <= 0)
         return 0;

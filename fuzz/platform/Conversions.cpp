@@ -1,5 +1,6 @@
 // VariantChangeType for what the readers ask for: numbers, flags and texts. Everything else does not convert.
 #include <windows.h>
+
 #include <oleauto.h>
 
 #include <cmath>
@@ -19,7 +20,8 @@ constexpr Number kCurrencyUnits = 10000;
 std::string_view withoutBlanks(std::string_view text) noexcept
 {
     std::size_t const first = text.find_first_not_of(" \t");
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    return first == text.npos ? std::string_view()
+                              : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }

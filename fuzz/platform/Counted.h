@@ -7,8 +7,8 @@
 
 namespace quillet::fuzz {
 
-/// One interface with its count; the object ends with its last reference. A query answers by identifier alone:
-/// whoever asks for a font or a picture here only keeps it and lets go of it.
+/// One interface with its count; the object ends with its last reference. A query answers by identifier
+/// alone: whoever asks for a font or a picture here only keeps it and lets go of it.
 template <class Face> class Counted : public Face {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override

@@ -2,6 +2,7 @@
 #include "platform/MemoryStream.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quillet::fuzz {
 
@@ -43,6 +44,24 @@ HRESULT STDMETHODCALLTYPE MemoryStream::Stat(STATSTG* status, DWORD)
     *status = {};
     status->cbSize.QuadPart = m_bytes.size();
     return S_OK;
+}
+
+HRESULT loadBytes(IStream& stream, std::vector<BYTE>& bytes)
+{
+    bytes.clear();
+    std::array<BYTE, 61> piece; // no power of two, so that the last piece is mostly a part
+    for (ULONG got = 1; got > 0;) {
+        HRESULT const result = stream.Read(piece.data(), static_cast<ULONG>(piece.size()), &got);
+        if (FAILED(result))
+            return result;
+        bytes.insert(bytes.end(), piece.begin(), piece.begin() + got);
+    }
+    return !bytes.empty() && bytes.front() == kDamaged ? E_FAIL : S_OK;
+}
+
+HRESULT saveBytes(IStream& stream, std::vector<BYTE> const& bytes)
+{
+    return stream.Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
 }
 
 } // namespace quillet::fuzz

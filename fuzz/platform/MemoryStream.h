@@ -30,7 +30,10 @@ public:
     HRESULT STDMETHODCALLTYPE Commit(DWORD) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Revert() override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override
+    {
+        return E_NOTIMPL;
+    }
     HRESULT STDMETHODCALLTYPE Clone(IStream**) override { return E_NOTIMPL; }
 
 protected:
@@ -40,5 +43,12 @@ private:
     std::vector<BYTE> m_bytes;
     size_t m_position = 0;
 };
+
+/// What an object's bytes begin with when they are damaged.
+constexpr BYTE kDamaged = 0xFF;
+
+/// How the objects here load and save themselves. E_FAIL for damaged bytes.
+HRESULT loadBytes(IStream& stream, std::vector<BYTE>& bytes);
+HRESULT saveBytes(IStream& stream, std::vector<BYTE> const& bytes);
 
 } // namespace quillet::fuzz

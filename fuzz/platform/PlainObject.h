@@ -1,30 +1,24 @@
-// What stands in for the system's font and picture objects.
+// What stands in for the system's picture objects, and for objects that are of no use.
 #pragma once
 
-#include "platform/Counted.h"
-
-#include <objidl.h>
+#include "platform/MemoryStream.h"
 
 #include <vector>
 
 namespace quillet::fuzz {
 
-/// A font or a picture that keeps the bytes it was loaded from and writes them again.
+/// A picture that keeps the bytes it was loaded from and writes them again; or an object that is nothing.
 class PlainObject final : public Counted<IPersistStream> {
 public:
-    enum class Kind { Font, Picture, Other };
-    /// What an object's bytes begin with when they are damaged.
-    static constexpr BYTE kDamaged = 0xFF;
+    enum class Kind { Picture, Other };
 
     explicit PlainObject(Kind kind) noexcept : m_kind(kind) { ++s_living; }
 
-    Kind kind() const noexcept { return m_kind; }
     std::vector<BYTE> const& bytes() const noexcept { return m_bytes; }
-    /// How many there are. None may be left when a form is done with.
     static int living() noexcept { return s_living; }
 
-    HRESULT STDMETHODCALLTYPE Load(IStream* stream) override;
-    HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL clearDirty) override;
+    HRESULT STDMETHODCALLTYPE Load(IStream* stream) override { return loadBytes(*stream, m_bytes); }
+    HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL) override { return saveBytes(*stream, m_bytes); }
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE IsDirty() override { return S_FALSE; }
     HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER*) override { return E_NOTIMPL; }

@@ -1,5 +1,6 @@
 // What the sources call and nobody's answer depends on: error info, the system's texts, a stock font.
 #include <windows.h>
+
 #include <oleauto.h>
 
 HRESULT WINAPI CreateErrorInfo(ICreateErrorInfo**) { return E_NOTIMPL; }

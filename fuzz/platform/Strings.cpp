@@ -1,5 +1,6 @@
 // Automation strings, each in a block of exactly its size, so that reading past one is seen.
 #include <windows.h>
+
 #include <oleauto.h>
 
 #include <cstdlib>
@@ -11,7 +12,8 @@ namespace {
 /// What stands before an automation string: its length in bytes.
 using Prefix = UINT;
 
-constexpr UINT kLongest = (std::numeric_limits<UINT>::max() - sizeof(Prefix) - sizeof(OLECHAR)) / sizeof(OLECHAR);
+constexpr UINT kLongest =
+    (std::numeric_limits<UINT>::max() - sizeof(Prefix) - sizeof(OLECHAR)) / sizeof(OLECHAR);
 
 Prefix prefixOf(BSTR text) noexcept
 {

@@ -1,5 +1,6 @@
 // VARIANTs: making, clearing and copying. Arrays and records are refused, as nothing here can make one.
 #include <windows.h>
+
 #include <oleauto.h>
 
 namespace {

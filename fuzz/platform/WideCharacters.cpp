@@ -1,5 +1,5 @@
-// The C library's functions for wide characters, for characters of 16 bits. The system's own count in 32 bits, and
-// the standard library's templates call these by name.
+// The C library's functions for wide characters, for characters of 16 bits. The system's own count in 32
+// bits, and the standard library's templates call these by name.
 #include <cstddef>
 
 extern "C" {
