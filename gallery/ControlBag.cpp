@@ -85,7 +85,7 @@ Variant referredTo(ResourceReference const& reference, BagSources const& sources
 {
     std::string_view const record = sources.record(reference);
     if (reference.isText)
-        return Variant::ofString(decodedFormText(record));
+        return Variant::ofString(decoded(record, sources.coding));
     try {
         return Variant::ofDispatch(pictureOf(record).get());
     } catch (RunTimeError const&) {

@@ -27,6 +27,8 @@ struct BagSources {
     std::function<std::string_view(ResourceReference const&)> record;
     /// Told of each property that could not be read, with its line.
     std::function<void(int line, std::wstring reason)> onFailure;
+    /// Of the long texts among the records.
+    FormCoding coding = FormCoding::Windows1252;
 };
 
 /// The bag of one control: its own properties only, fonts and pictures as standard objects. What cannot be

@@ -152,7 +152,7 @@ PropertyBlock const* findBlock(FormNode const& node, std::wstring_view name)
 } // namespace
 
 FormEditor::FormEditor(std::string_view original, Companions& companions, std::wstring companionName)
-    : m_lines(linesOf(original)), m_isUtf8(original.starts_with("\xEF\xBB\xBF")), m_companions(companions),
+    : m_lines(linesOf(original)), m_coding(codingOf(original)), m_companions(companions),
       m_companionName(std::move(companionName)), m_companion(companions.file(m_companionName))
 {}
 
@@ -184,7 +184,7 @@ SavedForm FormEditor::finished() const
         for (auto each = first; each != last; ++each) {
             gone = std::max(gone, each->second.count);
             for (std::wstring const& added : each->second.lines)
-                text += encodedFormText(added, m_isUtf8) + "\r\n";
+                text += encoded(added, m_coding) + "\r\n";
         }
         if (gone > 0)
             line += gone - 1;
@@ -229,7 +229,7 @@ void FormEditor::saveEntry(PropertyBag::Entry const& entry, FormNode const& node
     std::wstring_view const text =
         entry.value.type() == VT_BSTR ? Bstr::viewOf(entry.value.get().bstrVal) : std::wstring_view();
     if (text.find_first_of(L"\r\n") != std::wstring_view::npos) // no place in a line
-        return saveRecord(entry.name, encodedFormText(text, m_isUtf8), node, L"$");
+        return saveRecord(entry.name, encoded(text, m_coding), node, L"$");
     FormProperty const* const property = findProperty(node, entry.name);
     // A value that the form left out and nobody changed stays out, though the control writes it.
     bool const unchanged =

@@ -54,7 +54,7 @@ private:
     std::wstring indentOf(FormNode const& node) const;
 
     std::vector<std::string_view> m_lines;
-    bool m_isUtf8;
+    FormCoding m_coding;
     Companions& m_companions;
     std::wstring m_companionName;
     Companion m_companion;

@@ -1,0 +1,81 @@
+// Editing a form's text without a live form: values that are written are there when the form is read again.
+#include "gallery/FormEditor.h"
+
+#include "gallery/ControlBag.h"
+#include "gallery/FileBytes.h"
+#include "gallery/Fonts.h"
+#include "gallery/FormReader.h"
+
+#include <gtest/gtest.h>
+
+namespace quillet::gallery {
+namespace {
+
+using Bag = ComPtr<PropertyBag>;
+
+std::string const kUtf8Mark = "\xEF\xBB\xBF";
+
+std::string formWith(std::string const& lines)
+{
+    return "VERSION 5.00\r\nBegin VB.Form F \r\n   Begin Q.Button one \r\n" + lines + "   End\r\nEnd\r\n";
+}
+
+/// A form with one control and its companion file, without windows.
+class Edited {
+public:
+    explicit Edited(std::string text, std::string const& companion = {})
+        : m_text(std::move(text)), m_tree(readForm(m_text, L"a.frm")), m_companion(companion)
+    {
+        wchar_t folder[MAX_PATH];
+        ::GetTempPathW(MAX_PATH, folder);
+        m_folder = folder;
+        writeFileBytes(m_folder + L"\\a.frx", companion);
+    }
+
+    /// What the control is loaded with.
+    Bag bag() const
+    {
+        Companions companions(m_folder);
+        BagSources sources;
+        sources.record = [&](ResourceReference const& reference) { return companions.record(reference); };
+        sources.coding = m_tree.coding;
+        return controlBag(control(), sources);
+    }
+
+    SavedForm saved(PropertyBag const& bag, PropertyBag const* before = nullptr) const
+    {
+        Companions companions(m_folder);
+        FormEditor editor(m_text, companions, L"a.frx");
+        editor.save(bag, before, control());
+        return editor.finished();
+    }
+
+private:
+    FormNode const& control() const { return m_tree.form.children.at(0); }
+
+    std::string m_text;
+    FormTree m_tree;
+    std::string m_companion;
+    std::wstring m_folder;
+};
+
+/// What is read of the one property after it was saved.
+std::wstring readAgain(SavedForm const& form, wchar_t const* name)
+{
+    auto const bag = Edited(form.text, form.companion).bag();
+    Variant const* const found = bag->find(name);
+    return found ? std::wstring(found->toString().view()) : L"nothing";
+}
+
+TEST(FormEditor, savesALongTextInTheCodingOfItsForm)
+{
+    for (std::string const& mark : {std::string(), kUtf8Mark}) {
+        Edited const form(mark + formWith("      Caption = \"x\"\r\n"));
+        auto const bag = form.bag();
+        bag->set(L"Caption", Variant::ofString(L"\x00E4\r\n\x20AC"));
+        EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Caption"), L"\x00E4\r\n\x20AC");
+    }
+}
+
+} // namespace
+} // namespace quillet::gallery
