@@ -59,9 +59,10 @@ std::wstring hexadecimal(unsigned long value, int digits)
     return text;
 }
 
-std::wstring referenceText(std::wstring const& file, unsigned long offset)
+/// A long text is marked, a picture not.
+std::wstring referenceText(std::wstring const& file, unsigned long offset, IsText isText)
 {
-    return quoted(file) + L":" + hexadecimal(offset, 4);
+    return (isText == IsText::Yes ? L"$" : L"") + quoted(file) + L":" + hexadecimal(offset, 4);
 }
 
 std::wstring scalarText(Variant const& value)
@@ -135,18 +136,27 @@ std::vector<std::wstring> fontLines(std::wstring const& indent, std::wstring_vie
             indent + L"EndProperty"};
 }
 
-FormProperty const* findProperty(FormNode const& node, std::wstring_view name)
+// Of a name that stands twice the last one counts: it is the one that the control was loaded with.
+
+bool isNamed(FormProperty const& property, std::wstring_view name)
 {
-    auto const found = std::ranges::find_if(
-        node.properties, [&](FormProperty const& each) { return sameName(ownNameOf(each.name), name); });
-    return found == node.properties.end() ? nullptr : &*found;
+    auto const own = ownName(property.name);
+    return own && sameName(*own, name);
 }
 
-PropertyBlock const* findBlock(FormNode const& node, std::wstring_view name)
+FormProperty const* findProperty(FormNode const& node, std::wstring_view name)
 {
-    auto const found = std::ranges::find_if(
-        node.blocks, [&](PropertyBlock const& each) { return sameName(each.name, name); });
-    return found == node.blocks.end() ? nullptr : &*found;
+    auto const found = std::find_if(node.properties.rbegin(), node.properties.rend(),
+                                    [&](FormProperty const& each) { return isNamed(each, name); });
+    return found == node.properties.rend() ? nullptr : &*found;
+}
+
+PropertyBlock const* findFont(FormNode const& node, std::wstring_view name)
+{
+    auto const found = std::find_if(node.blocks.rbegin(), node.blocks.rend(), [&](PropertyBlock const& each) {
+        return isFont(each) && sameName(each.name, name);
+    });
+    return found == node.blocks.rend() ? nullptr : &*found;
 }
 
 } // namespace
@@ -164,14 +174,14 @@ void FormEditor::save(PropertyBag const& bag, PropertyBag const* before, FormNod
         return before && before->find(name) && !bag.find(name);
     };
     for (FormProperty const& property : node.properties) {
-        std::wstring_view const name = ownNameOf(property.name);
-        if (becameDefault(name))
+        auto const name = ownName(property.name);
+        if (name && becameDefault(*name))
             replace(property.line, 1, {});
-        else if (!bag.find(name))
+        else if (!name || !bag.find(*name))
             keep(property, node);
     }
     for (PropertyBlock const& block : node.blocks)
-        if (becameDefault(block.name))
+        if (isFont(block) && becameDefault(block.name))
             replace(block.line, block.endLine - block.line + 1, {});
 }
 
@@ -211,7 +221,7 @@ void FormEditor::replace(int first, int count, std::vector<std::wstring> lines)
 void FormEditor::write(FormNode const& node, FormProperty const* property, std::wstring_view name,
                        std::wstring const& value)
 {
-    std::wstring_view const written = property ? std::wstring_view(property->name) : name;
+    std::wstring const written = property ? property->name : writtenName(name);
     replace(property ? property->line : node.endLine, property ? 1 : 0,
             {assignment(indentOf(node), written, value)});
 }
@@ -223,13 +233,12 @@ void FormEditor::saveEntry(PropertyBag::Entry const& entry, FormNode const& node
     if (auto const font = query<IFont>(object.get()))
         return saveFont(entry.name, *font.get(), node);
     if (query<IPicture>(object.get()))
-        return saveRecord(entry.name, bytesOfPicture(object.get()), node);
+        return saveRecord(entry.name, bytesOfPicture(object.get()), node, IsText::No);
     if (isObject)
         return;
-    std::wstring_view const text =
-        entry.value.type() == VT_BSTR ? Bstr::viewOf(entry.value.get().bstrVal) : std::wstring_view();
-    if (text.find_first_of(L"\r\n") != std::wstring_view::npos) // no place in a line
-        return saveRecord(entry.name, encoded(text, m_coding), node, L"$");
+    if (entry.value.type() == VT_BSTR &&
+        saveLongText(entry.name, Bstr::viewOf(entry.value.get().bstrVal), node))
+        return;
     FormProperty const* const property = findProperty(node, entry.name);
     // A value that the form left out and nobody changed stays out, though the control writes it.
     bool const unchanged =
@@ -241,22 +250,31 @@ void FormEditor::saveEntry(PropertyBag::Entry const& entry, FormNode const& node
 
 void FormEditor::saveFont(std::wstring const& name, IFont& font, FormNode const& node)
 {
-    PropertyBlock const* const block = findBlock(node, name);
+    PropertyBlock const* const block = findFont(node, name);
     if (block && sameFont(*block, font))
         return;
     replace(block ? block->line : node.endLine, block ? block->endLine - block->line + 1 : 0,
             fontLines(indentOf(node), name, font));
 }
 
-/// A long text is marked, a picture not.
+/// What has no place in a line becomes a record; so does what is one already. False for every other text.
+bool FormEditor::saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node)
+{
+    std::string const record = encoded(text, m_coding);
+    bool const needsRecord = text.find_first_of(L"\r\n") != std::wstring_view::npos;
+    FormProperty const* const property = findProperty(node, name);
+    if (!needsRecord && !(property && holds(*property, record, IsText::Yes)))
+        return false;
+    saveRecord(name, record, node, IsText::Yes);
+    return true;
+}
+
 void FormEditor::saveRecord(std::wstring const& name, std::string const& record, FormNode const& node,
-                            std::wstring const& mark)
+                            IsText isText)
 {
     FormProperty const* const property = findProperty(node, name);
-    auto const* const reference = property ? std::get_if<ResourceReference>(&property->value) : nullptr;
-    if (reference && holds(*reference, record))
-        return;
-    write(node, property, name, mark + referenceText(m_companionName, addOnce(record)));
+    if (!property || !holds(*property, record, isText))
+        write(node, property, name, referenceText(m_companionName, addOnce(record), isText));
 }
 
 /// One record for each picture, however many controls show it.
@@ -269,12 +287,14 @@ unsigned long FormEditor::addOnce(std::string_view record)
 }
 
 /// Whether the new companion file has that record where the form says.
-bool FormEditor::holds(ResourceReference const& reference, std::string_view record) const
+bool FormEditor::holds(FormProperty const& property, std::string_view record, IsText isText) const
 {
-    if (!sameName(reference.file, m_companionName))
+    auto const* const reference = std::get_if<ResourceReference>(&property.value);
+    if (!reference || reference->isText != (isText == IsText::Yes) ||
+        !sameName(reference->file, m_companionName))
         return false;
     try {
-        return m_companion.record(reference.offset) == record;
+        return m_companion.record(reference->offset) == record;
     } catch (ValueFault const&) {
         return false;
     }
@@ -287,8 +307,9 @@ void FormEditor::keep(FormProperty const& property, FormNode const& node)
     if (!reference || sameName(reference->file, m_companionName))
         return;
     try {
-        std::wstring const value = referenceText(m_companionName, addOnce(m_companions.record(*reference)));
-        write(node, &property, property.name, reference->isText ? L"$" + value : value);
+        IsText const isText = reference->isText ? IsText::Yes : IsText::No;
+        write(node, &property, property.name,
+              referenceText(m_companionName, addOnce(m_companions.record(*reference)), isText));
     } catch (ValueFault const&) { // NOLINT(bugprone-empty-catch): what was lost before stays as it is
     }
 }

@@ -19,6 +19,9 @@ struct SavedForm {
     std::string companion; ///< of the file beside it; empty where there is nothing to put in
 };
 
+/// Whether a record of the companion file is a long text or a picture.
+enum class IsText { No, Yes };
+
 /// Puts the values of controls into the lines of the form that they were read from. A line whose value the
 /// control still has stays byte for byte, whoever wrote it; so does one of a value that the control never
 /// saved, such as a default. One of a value that has become the default goes.
@@ -46,11 +49,11 @@ private:
                std::wstring const& value);
     void saveEntry(PropertyBag::Entry const& entry, FormNode const& node, Variant const* before);
     void saveFont(std::wstring const& name, IFont& font, FormNode const& node);
-    void saveRecord(std::wstring const& name, std::string const& record, FormNode const& node,
-                    std::wstring const& mark = {});
+    bool saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node);
+    void saveRecord(std::wstring const& name, std::string const& record, FormNode const& node, IsText isText);
     void keep(FormProperty const& property, FormNode const& node);
     unsigned long addOnce(std::string_view record);
-    bool holds(ResourceReference const& reference, std::string_view record) const;
+    bool holds(FormProperty const& property, std::string_view record, IsText isText) const;
     std::wstring indentOf(FormNode const& node) const;
 
     std::vector<std::string_view> m_lines;

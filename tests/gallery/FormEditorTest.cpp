@@ -2,14 +2,19 @@
 #include "gallery/FormEditor.h"
 
 #include "gallery/ControlBag.h"
+#include "gallery/Counted.h"
 #include "gallery/FileBytes.h"
 #include "gallery/Fonts.h"
 #include "gallery/FormReader.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace quillet::gallery {
 namespace {
+
+using ::testing::HasSubstr;
+using namespace std::string_literals;
 
 using Bag = ComPtr<PropertyBag>;
 
@@ -67,6 +72,28 @@ std::wstring readAgain(SavedForm const& form, wchar_t const* name)
     return found ? std::wstring(found->toString().view()) : L"nothing";
 }
 
+TEST(FormEditor, leavesANameThatStandsTwiceAlone)
+{
+    Edited const form(formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
+    EXPECT_EQ(form.saved(*form.bag().get()).text,
+              formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
+}
+
+TEST(FormEditor, changesTheLineThatCountsOfANameThatStandsTwice)
+{
+    Edited const form(formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
+    auto const bag = form.bag();
+    bag->set(L"Caption", Variant::ofString(L"new"));
+    EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Caption"), L"new");
+}
+
+TEST(FormEditor, leavesAShortTextInTheCompanion)
+{
+    std::string const text = formWith("      Caption = $\"a.frx\":0000\r\n");
+    Edited const form(text, "\2\0\0\0ab"s);
+    EXPECT_EQ(form.saved(*form.bag().get()).text, text);
+}
+
 TEST(FormEditor, savesALongTextInTheCodingOfItsForm)
 {
     for (std::string const& mark : {std::string(), kUtf8Mark}) {
@@ -75,6 +102,25 @@ TEST(FormEditor, savesALongTextInTheCodingOfItsForm)
         bag->set(L"Caption", Variant::ofString(L"\x00E4\r\n\x20AC"));
         EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Caption"), L"\x00E4\r\n\x20AC");
     }
+}
+
+TEST(FormEditor, marksAPropertyWhoseNameTheExtenderHasTaken)
+{
+    Edited const form(formWith("      Tag = \"the form's\"\r\n"));
+    auto const bag = form.bag();
+    bag->set(L"Tag", Variant::ofString(L"the control's"));
+    SavedForm const saved = form.saved(*bag.get());
+    EXPECT_THAT(saved.text, HasSubstr("Tag = \"the form's\""));
+    EXPECT_EQ(readAgain(saved, L"Tag"), L"the control's");
+}
+
+TEST(FormEditor, leavesABlockThatIsNoFontWhenAFontOfItsNameGoes)
+{
+    std::string const other = "      BeginProperty Font {00000000-0000-0000-0000-000000000001}\r\n"
+                              "      EndProperty\r\n";
+    Edited const form(formWith(other + "      BeginProperty Font\r\n      EndProperty\r\n"));
+    auto const before = form.bag();
+    EXPECT_EQ(form.saved(*makeCounted<PropertyBag>().get(), before.get()).text, formWith(other));
 }
 
 } // namespace
