@@ -1,7 +1,7 @@
 // Fuzzes the form files: reading the text, its companion file, and the property bag of every control.
-//
 // An input is the form's text, then a zero byte, then the companion file; every file that the form names has
 // those bytes.
+#include "FormInput.h"
 #include "Hold.h"
 #include "gallery/Companion.h"
 #include "gallery/ControlBag.h"
@@ -9,7 +9,6 @@
 #include "gallery/FormText.h"
 #include "gallery/FormValue.h"
 #include "gallery/FormValues.h"
-#include "platform/Files.h"
 #include "platform/Objects.h"
 
 #include <cmath>
@@ -21,13 +20,12 @@ namespace {
 using namespace quillet::gallery;
 
 constexpr int kDeepest = 64;
-constexpr wchar_t kFolder[] = L"C:\\forms";
 
 /// Walks a form that was read, and holds what every form is.
 class Walk {
 public:
     Walk(std::string_view text, std::string const& companion)
-        : m_companion(companion), m_companions(kFolder), m_lines(lineCount(text))
+        : m_companion(companion), m_companions(kFormFolder), m_lines(lineCount(text))
     {}
 
     void node(FormNode const& node, int depth)
@@ -84,16 +82,6 @@ private:
             this->block(inside, depth + 1);
     }
 
-    std::string_view recordOf(ResourceReference const& reference)
-    {
-        files()[std::wstring(kFolder) + L"\\" + nameOf(reference.file)] = m_file;
-        return m_companions.record(reference);
-    }
-    static std::wstring nameOf(std::wstring const& path)
-    {
-        return path.substr(path.find_last_of(L"\\/") + 1); // npos + 1 is the beginning
-    }
-
     /// Worked out once more: four bytes of length, little-endian, and so many bytes.
     std::optional<std::string_view> expectedRecord(unsigned long offset) const
     {
@@ -112,7 +100,7 @@ private:
     {
         auto const expected = expectedRecord(reference.offset);
         try {
-            hold(expected == recordOf(reference), "a record is the bytes behind its length");
+            hold(expected == m_companions.record(reference), "a record is the bytes behind its length");
         } catch (ValueFault const& fault) {
             hold(!expected && fault.reason && *fault.reason, "a record that is there is found");
         }
@@ -121,7 +109,9 @@ private:
     void bag(FormNode const& node)
     {
         BagSources sources;
-        sources.record = [this](ResourceReference const& reference) { return recordOf(reference); };
+        sources.record = [this](ResourceReference const& reference) {
+            return m_companions.record(reference);
+        };
         sources.onFailure = [&](int line, std::wstring const& reason) {
             hold(line > node.line && line < node.endLine && !reason.empty(), "what is left out is told");
         };
@@ -135,12 +125,12 @@ private:
 
     std::string const& m_companion;
     Companions m_companions;
-    File m_file{m_companion, static_cast<long long>(m_companion.size())};
     int m_lines;
 };
 
-void read(std::string_view text, std::string const& companion)
+void read(FormInput const& input)
 {
+    std::string_view const text = input.text();
     FormTree tree;
     try {
         tree = readForm(text, L"a.frm");
@@ -149,7 +139,8 @@ void read(std::string_view text, std::string const& companion)
              "an error says where and why");
         return;
     }
-    Walk(text, companion).node(tree.form, 1);
+    setCompanion(tree, input.companion);
+    Walk(text, input.companion).node(tree.form, 1);
     for (std::wstring const& attribute : tree.attributes)
         hold(!attribute.empty(), "an attribute is a line");
     hold(tree.code.size() <= text.size(), "the code is a part of the text");
@@ -159,15 +150,10 @@ void read(std::string_view text, std::string const& companion)
 
 } // namespace quillet::fuzz
 
-extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, size_t size)
+extern "C" int LLVMFuzzerTestOneInput(BYTE const* data, size_t size)
 {
     using namespace quillet::fuzz;
-    std::string_view const input(reinterpret_cast<char const*>(data), size);
-    size_t const end = input.find('\0');
-    std::string const companion(end == input.npos ? std::string_view() : input.substr(end + 1));
-    // A copy of its own size, so that reading past the text is seen.
-    std::vector<char> const text(input.begin(), input.begin() + std::min(end, size));
-    read(std::string_view(text.data(), text.size()), companion);
+    read(FormInput({data, size}));
     files().clear();
     hold(livingObjects() == 0, "no object is left over");
     return 0;

@@ -44,8 +44,6 @@ IUnknown* newObject(BYTE choice)
 
 } // namespace
 
-FuzzedBag::~FuzzedBag() = default;
-
 /// The types whose value is a pointer get a real one, or none.
 void FuzzedBag::fill(VARIANT& value)
 {
@@ -71,21 +69,20 @@ void FuzzedBag::fill(VARIANT& value)
 void FuzzedBag::fillReference(VARIANT& value)
 {
     auto const size = static_cast<BYTE>(value.llVal);
+    auto const type = static_cast<VARTYPE>(value.vt & ~VT_BYREF);
     VARIANT referred;
-    ::VariantInit(&referred);
-    referred.vt = value.vt & static_cast<VARTYPE>(~VT_BYREF);
+    referred.vt = VT_I8; // eight bytes, which any number can be read from
     referred.llVal = m_input.take<LONGLONG>();
-    if (referred.vt == VT_BSTR)
+    if (type == VT_BSTR) {
+        referred.vt = type;
         referred.bstrVal = Bstr(m_input.takeText(size % kLongestText)).copy();
-    else if (referred.vt == VT_UNKNOWN || referred.vt == VT_DISPATCH)
+    } else if (type == VT_UNKNOWN || type == VT_DISPATCH) {
+        referred.vt = type;
         referred.punkVal = newObject(size);
-    else if (referred.vt == VT_VARIANT) // of no type of its own: the variant itself
-        referred.vt = VT_I4;
-    else if (referred.vt & VT_TYPEMASK & ~VT_UINT || referred.vt & VT_ARRAY)
-        referred.vt = VT_EMPTY;
+    }
     m_referred = Variant::adopt(referred);
-    bool const isVariant = value.vt == (VT_VARIANT | VT_BYREF);
-    value.byref = isVariant ? static_cast<void*>(m_referred.address()) : &m_referred.address()->llVal;
+    value.byref =
+        type == VT_VARIANT ? static_cast<void*>(m_referred.address()) : &m_referred.address()->llVal;
     if (size == 0)
         value.byref = nullptr;
 }

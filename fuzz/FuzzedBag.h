@@ -14,7 +14,6 @@ namespace quillet::fuzz {
 class FuzzedBag final : public Counted<IPropertyBag> {
 public:
     explicit FuzzedBag(Input& input) noexcept : m_input(input) {}
-    ~FuzzedBag() override;
 
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* log) override;
     HRESULT STDMETHODCALLTYPE Write(LPCOLESTR, VARIANT*) override { return E_NOTIMPL; }
