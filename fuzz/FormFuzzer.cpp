@@ -139,7 +139,7 @@ void read(FormInput const& input)
              "an error says where and why");
         return;
     }
-    setCompanion(tree, input.companion);
+    setCompanions(tree, input.companion, input.companion);
     Walk(text, input.companion).node(tree.form, 1);
     for (std::wstring const& attribute : tree.attributes)
         hold(!attribute.empty(), "an attribute is a line");

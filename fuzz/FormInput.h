@@ -2,6 +2,7 @@
 #pragma once
 
 #include "gallery/FormTree.h"
+#include "gallery/Names.h"
 #include "platform/Files.h"
 
 #include <windows.h>
@@ -35,24 +36,27 @@ private:
     std::vector<char> m_text;
 };
 
-/// Makes every companion file that the form names one with those bytes, and its own one, too.
-inline void setCompanion(gallery::FormNode const& node, File const& file)
+/// Makes the form's own companion file, and every other one that the form names.
+inline void setCompanions(gallery::FormNode const& node, File const& own, File const& others)
 {
     for (auto const& property : node.properties)
         if (auto const* const reference = std::get_if<gallery::ResourceReference>(&property.value)) {
             std::wstring const& path = reference->file;
             std::wstring const name = path.substr(path.find_last_of(L"\\/") + 1); // npos + 1 is the beginning
-            files()[std::wstring(kFormFolder) + L"\\" + name] = file;
+            files()[std::wstring(kFormFolder) + L"\\" + name] =
+                gallery::sameName(name, kCompanionName) ? own : others;
         }
     for (auto const& child : node.children)
-        setCompanion(child, file);
+        setCompanions(child, own, others);
 }
 
-inline void setCompanion(gallery::FormTree const& tree, std::string const& bytes)
+inline void setCompanions(gallery::FormTree const& tree, std::string const& own, std::string const& others)
 {
-    File const file{bytes, static_cast<long long>(bytes.size())};
-    files()[std::wstring(kFormFolder) + L"\\" + kCompanionName] = file;
-    setCompanion(tree.form, file);
+    auto const fileOf = [](std::string const& bytes) {
+        return File{bytes, static_cast<long long>(bytes.size())};
+    };
+    files()[std::wstring(kFormFolder) + L"\\" + kCompanionName] = fileOf(own);
+    setCompanions(tree.form, fileOf(own), fileOf(others));
 }
 
 } // namespace quillet::fuzz

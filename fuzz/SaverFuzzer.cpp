@@ -30,30 +30,36 @@ std::vector<FormNode const*> controlsOf(FormNode const& form)
     return all;
 }
 
-/// What all controls of a form save that were loaded from it and its companion file.
-std::vector<Bag> bagsOf(FormTree const& tree, std::string const& companion)
+struct Loaded {
+    std::vector<Bag> bags; ///< what each control saves again
+    bool isWhole = true;   ///< no reference led nowhere
+};
+
+/// All controls of a form, loaded from it and its companion files.
+Loaded loaded(FormTree const& tree, std::string const& own, std::string const& others)
 {
-    setCompanion(tree, companion);
+    setCompanions(tree, own, others);
     Companions companions(kFormFolder);
     BagSources sources;
     sources.coding = tree.coding;
     sources.record = [&](ResourceReference const& reference) { return companions.record(reference); };
-    std::vector<Bag> bags;
+    Loaded result;
+    sources.onFailure = [&](int, std::wstring const&) { result.isWhole = false; };
     for (FormNode const* const node : controlsOf(tree.form))
-        bags.push_back(asSaved(*controlBag(*node, sources).get()));
-    return bags;
+        result.bags.push_back(asSaved(*controlBag(*node, sources).get()));
+    return result;
 }
 
 SavedForm saved(FormTree const& tree, FormInput const& original, std::vector<Bag> const& before,
                 std::vector<Bag> const& now)
 {
-    setCompanion(tree, original.companion);
+    setCompanions(tree, original.companion, original.companion);
     Companions companions(kFormFolder);
     FormEditor editor(original.text(), companions, kCompanionName);
     auto const controls = controlsOf(tree.form);
     for (size_t i = 0; i < controls.size(); ++i)
         editor.save(*now[i].get(), before[i].get(), *controls[i]);
-    return editor.finished();
+    return editor.finish();
 }
 
 bool haveSame(std::vector<Bag> const& wanted, std::vector<Bag> const& read)
@@ -77,7 +83,7 @@ bool refersToItsOwn(FormNode const& node)
 {
     for (FormProperty const& property : node.properties)
         if (auto const* const reference = std::get_if<ResourceReference>(&property.value))
-            if (reference->file != kCompanionName)
+            if (!sameName(reference->file, kCompanionName))
                 return false;
     return std::ranges::all_of(node.children, refersToItsOwn);
 }
@@ -99,9 +105,10 @@ void save(FormInput const& original, Input changes)
     } catch (FormError const&) {
         return;
     }
-    auto const before = bagsOf(tree, original.companion);
+    auto const [before, isWhole] = loaded(tree, original.companion, original.companion);
     SavedForm const unchanged = saved(tree, original, before, before);
-    if (refersToItsOwn(tree.form))
+    if (isWhole &&
+        refersToItsOwn(tree.form)) // of a name that also stands there as a reference to nowhere one line goes
         holdSaved(unchanged.text == original.text() && unchanged.companion == original.companion,
                   "what nothing changed stays byte for byte", original, unchanged);
 
@@ -111,8 +118,8 @@ void save(FormInput const& original, Input changes)
     SavedForm const form = saved(tree, original, before, now);
     try {
         FormTree const again = readForm(form.text, L"a.frm");
-        holdSaved(haveSame(now, bagsOf(again, form.companion)), "a value is read as it was saved", original,
-                  form);
+        holdSaved(haveSame(now, loaded(again, form.companion, original.companion).bags),
+                  "a value is read as it was saved", original, form);
     } catch (FormError const&) {
         holdSaved(false, "a saved form can be read", original, form);
     }

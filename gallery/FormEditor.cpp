@@ -20,6 +20,8 @@ namespace {
 constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 constexpr std::wstring_view kIndent = L"   ";
 constexpr std::size_t kNameWidth = 16;
+/// An offset that no companion file is large enough for.
+constexpr unsigned long kNowhere = 0xFFFFFFFF;
 
 /// The lines of a form file with whatever ends each.
 std::vector<std::string_view> linesOf(std::string_view text)
@@ -185,8 +187,9 @@ void FormEditor::save(PropertyBag const& bag, PropertyBag const* before, FormNod
             replace(block.line, block.endLine - block.line + 1, {});
 }
 
-SavedForm FormEditor::finished() const
+SavedForm FormEditor::finish()
 {
+    keepLostApart();
     std::string text;
     for (int line = 1; line <= static_cast<int>(m_lines.size()) + 1; ++line) {
         auto const [first, last] = m_edits.equal_range(line);
@@ -304,14 +307,33 @@ bool FormEditor::holds(FormProperty const& property, std::string_view record, Is
 void FormEditor::keep(FormProperty const& property, FormNode const& node)
 {
     auto const* const reference = std::get_if<ResourceReference>(&property.value);
-    if (!reference || sameName(reference->file, m_companionName))
+    if (!reference)
         return;
+    bool const isOwn = sameName(reference->file, m_companionName);
     try {
-        IsText const isText = reference->isText ? IsText::Yes : IsText::No;
-        write(node, &property, property.name,
-              referenceText(m_companionName, addOnce(m_companions.record(*reference)), isText));
-    } catch (ValueFault const&) { // NOLINT(bugprone-empty-catch): what was lost before stays as it is
+        auto const record = m_companions.record(*reference);
+        if (!isOwn)
+            refer(node, property, addOnce(record));
+    } catch (ValueFault const&) { // what was lost before stays as it is
+        if (isOwn)
+            m_lost.push_back({&node, &property});
     }
+}
+
+void FormEditor::refer(FormNode const& node, FormProperty const& property, unsigned long offset)
+{
+    bool const isText = std::get<ResourceReference>(property.value).isText;
+    write(node, &property, property.name,
+          referenceText(m_companionName, offset, isText ? IsText::Yes : IsText::No));
+}
+
+/// A new record may lie where a reference led nowhere before.
+void FormEditor::keepLostApart()
+{
+    if (!m_added.empty())
+        for (Lost const& lost : m_lost)
+            refer(*lost.node, *lost.property, kNowhere);
+    m_lost.clear();
 }
 
 } // namespace quillet::gallery

@@ -35,13 +35,20 @@ public:
     /// null where nobody knows.
     void save(PropertyBag const& bag, PropertyBag const* before, FormNode const& node);
 
-    SavedForm finished() const;
+    /// The form with everything that was saved; once, at the end.
+    SavedForm finish();
 
 private:
     /// Lines to put in place of a run of the form's own lines, or before one.
     struct Edit {
         int count = 0; ///< how many lines go
         std::vector<std::wstring> lines;
+    };
+
+    /// A reference into the form's own companion file that leads nowhere.
+    struct Lost {
+        FormNode const* node;
+        FormProperty const* property;
     };
 
     void replace(int first, int count, std::vector<std::wstring> lines);
@@ -52,6 +59,8 @@ private:
     bool saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node);
     void saveRecord(std::wstring const& name, std::string const& record, FormNode const& node, IsText isText);
     void keep(FormProperty const& property, FormNode const& node);
+    void refer(FormNode const& node, FormProperty const& property, unsigned long offset);
+    void keepLostApart();
     unsigned long addOnce(std::string_view record);
     bool holds(FormProperty const& property, std::string_view record, IsText isText) const;
     std::wstring indentOf(FormNode const& node) const;
@@ -63,6 +72,7 @@ private:
     Companion m_companion;
     std::multimap<int, Edit> m_edits; ///< by their first line, from 1
     std::map<std::string, unsigned long, std::less<>> m_added;
+    std::vector<Lost> m_lost;
 };
 
 } // namespace quillet::gallery

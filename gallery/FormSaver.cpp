@@ -32,7 +32,7 @@ SavedForm savedForm(Form& form, FormTree const& tree, std::string_view original,
     for (std::size_t i = 0; i < nodes.size(); ++i)
         if (auto* const hosted = dynamic_cast<HostedControl*>(form.controls().at(i).get()))
             editor.save(*hosted->save(false).get(), hosted->asLoaded(), *nodes[i]);
-    return editor.finished();
+    return editor.finish();
 }
 
 void saveForm(Form& form, FormTree const& tree, std::wstring const& from, std::wstring const& to)

@@ -52,7 +52,7 @@ public:
         Companions companions(m_folder);
         FormEditor editor(m_text, companions, L"a.frx");
         editor.save(bag, before, control());
-        return editor.finished();
+        return editor.finish();
     }
 
 private:
@@ -121,6 +121,25 @@ TEST(FormEditor, leavesABlockThatIsNoFontWhenAFontOfItsNameGoes)
     Edited const form(formWith(other + "      BeginProperty Font\r\n      EndProperty\r\n"));
     auto const before = form.bag();
     EXPECT_EQ(form.saved(*makeCounted<PropertyBag>().get(), before.get()).text, formWith(other));
+}
+
+TEST(FormEditor, doesNotTakeANewRecordForOneThatWasLost)
+{
+    Edited const form(formWith("      Image = \"a.frx\":0000\r\n")); // the companion file is empty
+    auto const bag = form.bag();
+    bag->set(L"Caption", Variant::ofString(L"two\r\nlines"));
+    bag->set(L"Text", Variant::ofString(L"a\nb"));
+    SavedForm const saved = form.saved(*bag.get());
+    EXPECT_THAT(saved.text, HasSubstr("Image           =   \"a.frx\":FFFFFFFF\r\n"));
+    EXPECT_EQ(readAgain(saved, L"Image"), L"nothing");
+    EXPECT_EQ(readAgain(saved, L"Caption"), L"two\r\nlines");
+}
+
+TEST(FormEditor, leavesAReferenceThatLeadsNowhereWhileNothingIsAdded)
+{
+    std::string const text = formWith("      Image = \"a.frx\":0000\r\n");
+    Edited const form(text);
+    EXPECT_EQ(form.saved(*form.bag().get()).text, text);
 }
 
 } // namespace
