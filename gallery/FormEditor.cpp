@@ -236,7 +236,7 @@ void FormEditor::saveEntry(PropertyBag::Entry const& entry, FormNode const& node
     if (auto const font = query<IFont>(object.get()))
         return saveFont(entry.name, *font.get(), node);
     if (query<IPicture>(object.get()))
-        return saveRecord(entry.name, bytesOfPicture(object.get()), node, IsText::No);
+        return savePicture(entry.name, bytesOfPicture(object.get()), node);
     if (isObject)
         return;
     if (entry.value.type() == VT_BSTR &&
@@ -260,24 +260,26 @@ void FormEditor::saveFont(std::wstring const& name, IFont& font, FormNode const&
             fontLines(indentOf(node), name, font));
 }
 
-/// What has no place in a line becomes a record; so does what is one already. False for every other text.
+/// A text in the companion file stays there while it is the same, whatever its bytes; a new one goes there
+/// when it has no place in a line. False for every other text.
 bool FormEditor::saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node)
 {
-    std::string const record = encoded(text, m_coding);
-    bool const needsRecord = text.find_first_of(L"\r\n") != std::wstring_view::npos;
     FormProperty const* const property = findProperty(node, name);
-    if (!needsRecord && !(property && holds(*property, record, IsText::Yes)))
+    auto const record = recordOf(property, IsText::Yes);
+    if (record && decoded(*record, m_coding) == text)
+        return true;
+    if (text.find_first_of(L"\r\n") == std::wstring_view::npos)
         return false;
-    saveRecord(name, record, node, IsText::Yes);
+    std::string const added = encoded(text, m_coding);
+    write(node, property, name, referenceText(m_companionName, addOnce(added), IsText::Yes));
     return true;
 }
 
-void FormEditor::saveRecord(std::wstring const& name, std::string const& record, FormNode const& node,
-                            IsText isText)
+void FormEditor::savePicture(std::wstring const& name, std::string const& bytes, FormNode const& node)
 {
     FormProperty const* const property = findProperty(node, name);
-    if (!property || !holds(*property, record, isText))
-        write(node, property, name, referenceText(m_companionName, addOnce(record), isText));
+    if (recordOf(property, IsText::No) != bytes)
+        write(node, property, name, referenceText(m_companionName, addOnce(bytes), IsText::No));
 }
 
 /// One record for each picture, however many controls show it.
@@ -289,17 +291,18 @@ unsigned long FormEditor::addOnce(std::string_view record)
     return m_added.emplace(record, m_companion.add(record)).first->second;
 }
 
-/// Whether the new companion file has that record where the form says.
-bool FormEditor::holds(FormProperty const& property, std::string_view record, IsText isText) const
+/// What the new companion file has for a property; nothing where the form does not refer to it, or to
+/// nowhere.
+std::optional<std::string_view> FormEditor::recordOf(FormProperty const* property, IsText isText) const
 {
-    auto const* const reference = std::get_if<ResourceReference>(&property.value);
+    auto const* const reference = property ? std::get_if<ResourceReference>(&property->value) : nullptr;
     if (!reference || reference->isText != (isText == IsText::Yes) ||
         !sameName(reference->file, m_companionName))
-        return false;
+        return std::nullopt;
     try {
-        return m_companion.record(reference->offset) == record;
+        return m_companion.record(reference->offset);
     } catch (ValueFault const&) {
-        return false;
+        return std::nullopt;
     }
 }
 

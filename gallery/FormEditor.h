@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,12 +58,12 @@ private:
     void saveEntry(PropertyBag::Entry const& entry, FormNode const& node, Variant const* before);
     void saveFont(std::wstring const& name, IFont& font, FormNode const& node);
     bool saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node);
-    void saveRecord(std::wstring const& name, std::string const& record, FormNode const& node, IsText isText);
+    void savePicture(std::wstring const& name, std::string const& bytes, FormNode const& node);
     void keep(FormProperty const& property, FormNode const& node);
     void refer(FormNode const& node, FormProperty const& property, unsigned long offset);
     void keepLostApart();
     unsigned long addOnce(std::string_view record);
-    bool holds(FormProperty const& property, std::string_view record, IsText isText) const;
+    std::optional<std::string_view> recordOf(FormProperty const* property, IsText isText) const;
     std::wstring indentOf(FormNode const& node) const;
 
     std::vector<std::string_view> m_lines;

@@ -94,6 +94,15 @@ TEST(FormEditor, leavesAShortTextInTheCompanion)
     EXPECT_EQ(form.saved(*form.bag().get()).text, text);
 }
 
+TEST(FormEditor, leavesATextInTheCompanionThatIsNotWellCoded)
+{
+    std::string const text = kUtf8Mark + formWith("      Caption = $\"a.frx\":0000\r\n");
+    Edited const form(text, "\4\0\0\0a\r\n\xFF"s);
+    SavedForm const saved = form.saved(*form.bag().get());
+    EXPECT_EQ(saved.text, text);
+    EXPECT_EQ(saved.companion, "\4\0\0\0a\r\n\xFF"s);
+}
+
 TEST(FormEditor, savesALongTextInTheCodingOfItsForm)
 {
     for (std::string const& mark : {std::string(), kUtf8Mark}) {
