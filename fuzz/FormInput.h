@@ -36,18 +36,21 @@ private:
     std::vector<char> m_text;
 };
 
-/// Makes the form's own companion file, and every other one that the form names.
-inline void setCompanions(gallery::FormNode const& node, File const& own, File const& others)
+/// Makes the form's own companion file, and every other one that the form or a part of it names.
+template <class Part> void setCompanions(Part const& part, File const& own, File const& others)
 {
-    for (auto const& property : node.properties)
+    for (auto const& property : part.properties)
         if (auto const* const reference = std::get_if<gallery::ResourceReference>(&property.value)) {
             std::wstring const& path = reference->file;
             std::wstring const name = path.substr(path.find_last_of(L"\\/") + 1); // npos + 1 is the beginning
             files()[std::wstring(kFormFolder) + L"\\" + name] =
                 gallery::sameName(name, kCompanionName) ? own : others;
         }
-    for (auto const& child : node.children)
-        setCompanions(child, own, others);
+    for (auto const& block : part.blocks)
+        setCompanions(block, own, others);
+    if constexpr (requires { part.children; })
+        for (auto const& child : part.children)
+            setCompanions(child, own, others);
 }
 
 inline void setCompanions(gallery::FormTree const& tree, std::string const& own, std::string const& others)
