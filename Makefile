@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench dist check clean
+.PHONY: help build test gallery bench fuzz dist check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -16,10 +16,13 @@ gallery: ## opens a form with live buttons; ARGS="FORM" for another one
 bench: ## speed and size, as ratios
 	@tools/bench
 
+fuzz: ## malformed data for everything that reads it; MINUTES=5 each
+	@tools/fuzz $(MINUTES)
+
 dist: ## out/dist/quillet-*.zip, what is shipped
 	@tools/dist
 
-check: ## format, tidy, build, tests, benchmark smoke run
+check: ## format, tidy, build, tests, fuzzing, benchmark smoke run
 	@tools/check
 
 clean: ## removes everything that was built

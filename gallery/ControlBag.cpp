@@ -53,19 +53,6 @@ bool isMarkedOwn(std::wstring_view name) noexcept
     return name.size() > kOwnPrefix.size() && sameName(name.substr(0, kOwnPrefix.size()), kOwnPrefix);
 }
 
-/// The name that the control knows a line by; nothing for a line of the extender's.
-std::optional<std::wstring_view> ownName(std::wstring_view name) noexcept
-{
-    if (!isMarkedOwn(name) && isExtenderProperty(name))
-        return std::nullopt;
-    return ownNameOf(name);
-}
-
-bool isFont(PropertyBlock const& block) noexcept
-{
-    return block.classId.empty() || sameName(block.classId, kStandardFont);
-}
-
 struct ToVariant {
     std::optional<Variant> operator()(long value) const { return Variant::ofLong(value); }
     std::optional<Variant> operator()(double value) const
@@ -85,7 +72,7 @@ Variant referredTo(ResourceReference const& reference, BagSources const& sources
 {
     std::string_view const record = sources.record(reference);
     if (reference.isText)
-        return Variant::ofString(decodedFormText(record));
+        return Variant::ofString(decoded(record, sources.coding));
     try {
         return Variant::ofDispatch(pictureOf(record).get());
     } catch (RunTimeError const&) {
@@ -108,9 +95,22 @@ void addReferred(PropertyBag& bag, std::wstring_view name, FormProperty const& p
 
 } // namespace
 
-std::wstring_view ownNameOf(std::wstring_view name) noexcept
+std::optional<std::wstring_view> ownName(std::wstring_view name) noexcept
 {
-    return isMarkedOwn(name) ? name.substr(kOwnPrefix.size()) : name;
+    if (isMarkedOwn(name))
+        return name.substr(kOwnPrefix.size());
+    return isExtenderProperty(name) ? std::nullopt : std::optional(name);
+}
+
+std::wstring writtenName(std::wstring_view own)
+{
+    bool const isTaken = isExtenderProperty(own) || isMarkedOwn(own);
+    return isTaken ? std::wstring(kOwnPrefix).append(own) : std::wstring(own);
+}
+
+bool isFont(PropertyBlock const& block) noexcept
+{
+    return block.classId.empty() || sameName(block.classId, kStandardFont);
 }
 
 std::optional<Variant> variantOf(FormValue const& value) { return std::visit(ToVariant(), value); }

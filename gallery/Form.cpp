@@ -49,7 +49,7 @@ std::wstring hexOf(HRESULT result)
 } // namespace
 
 Form::Form(FormTree const& tree, FormOptions options)
-    : m_options(std::move(options)), m_name(tree.form.name),
+    : m_options(std::move(options)), m_name(tree.form.name), m_coding(tree.coding),
       m_scaleMode(FormValues(tree.form).whole(L"ScaleMode", kScaleTwips)),
       m_backColor(static_cast<OLE_COLOR>(FormValues(tree.form).whole(L"BackColor", kButtonFace))),
       m_foreColor(static_cast<OLE_COLOR>(FormValues(tree.form).whole(L"ForeColor", kButtonText))),

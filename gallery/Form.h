@@ -74,6 +74,7 @@ public:
     double twipsPerUnitY() const noexcept;
 
     std::wstring const& name() const noexcept { return m_name; }
+    FormCoding coding() const noexcept { return m_coding; }
     std::wstring caption() const;
     void setCaption(std::wstring const& caption);
     OLE_COLOR backColor() const noexcept { return m_backColor; }
@@ -114,6 +115,7 @@ private:
     FormOptions m_options;
     Scale m_scale = Scale::ofScreen();
     std::wstring m_name;
+    FormCoding m_coding;
     long m_scaleMode;
     OLE_COLOR m_backColor;
     OLE_COLOR m_foreColor;

@@ -227,8 +227,9 @@ std::wstring FormError::text() const
 
 FormTree readForm(std::string_view bytes, std::wstring const& fileName)
 {
-    std::wstring const text = decodedFormText(bytes);
+    std::wstring const text = decodedForm(bytes);
     FormTree tree = Reader(text, fileName).read();
+    tree.coding = codingOf(bytes);
     if (!sameName(tree.form.fullClass(), L"VB.Form"))
         throw FormError{fileName, tree.form.line, L"the outermost object is no VB.Form"};
     return tree;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "gallery/Companion.h"
+#include "gallery/FormEditor.h"
 #include "gallery/FormTree.h"
 
 #include <string>
@@ -11,15 +12,8 @@ namespace quillet::gallery {
 
 class Form;
 
-struct SavedForm {
-    std::string text;      ///< of the form file
-    std::string companion; ///< of the file beside it; empty where there is nothing to put in
-};
-
 /// The form as its controls would save themselves now. original is the form file's bytes that tree was read
-/// from; companionName is the name that the new companion file will have. A line whose value the control
-/// still has stays byte for byte, whoever wrote it; so does one of a value that the control never saved, such
-/// as a default. One of a value that has become the default goes. The form is a designed one.
+/// from; companionName is the name that the new companion file will have. The form is a designed one.
 SavedForm savedForm(Form& form, FormTree const& tree, std::string_view original, Companions& companions,
                     std::wstring const& companionName);
 

@@ -11,16 +11,26 @@ constexpr UINT kWindows1252 = 1252;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::wstring_view kBlanks = L" \t";
 
+UINT codePageOf(FormCoding coding) noexcept { return coding == FormCoding::Utf8 ? CP_UTF8 : kWindows1252; }
+
 } // namespace
 
-std::wstring decodedFormText(std::string_view bytes)
+FormCoding codingOf(std::string_view file) noexcept
 {
-    bool const marked = bytes.starts_with(kUtf8Mark);
-    if (marked)
-        bytes.remove_prefix(kUtf8Mark.size());
+    return file.starts_with(kUtf8Mark) ? FormCoding::Utf8 : FormCoding::Windows1252;
+}
+
+std::wstring decodedForm(std::string_view file)
+{
+    FormCoding const coding = codingOf(file);
+    return decoded(file.substr(coding == FormCoding::Utf8 ? kUtf8Mark.size() : 0), coding);
+}
+
+std::wstring decoded(std::string_view bytes, FormCoding coding)
+{
     if (bytes.empty())
         return {};
-    UINT const codePage = marked ? CP_UTF8 : kWindows1252;
+    UINT const codePage = codePageOf(coding);
     int const count = static_cast<int>(bytes.size());
     int const needed = ::MultiByteToWideChar(codePage, 0, bytes.data(), count, nullptr, 0);
     std::wstring text(static_cast<std::size_t>(needed), L'\0');
@@ -28,11 +38,11 @@ std::wstring decodedFormText(std::string_view bytes)
     return text;
 }
 
-std::string encodedFormText(std::wstring_view text, bool isUtf8)
+std::string encoded(std::wstring_view text, FormCoding coding)
 {
     if (text.empty())
         return {};
-    UINT const codePage = isUtf8 ? CP_UTF8 : kWindows1252;
+    UINT const codePage = codePageOf(coding);
     int const count = static_cast<int>(text.size());
     int const needed = ::WideCharToMultiByte(codePage, 0, text.data(), count, nullptr, 0, nullptr, nullptr);
     std::string bytes(static_cast<std::size_t>(needed), '\0');

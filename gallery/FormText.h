@@ -1,17 +1,23 @@
 // The text of a form file: its decoding, and its lines one after the other.
 #pragma once
 
+#include "gallery/FormTree.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace quillet::gallery {
 
-/// The bytes as text: Windows-1252, as the format has it, or UTF-8 behind a byte order mark.
-std::wstring decodedFormText(std::string_view bytes);
+/// The coding of a form file: Windows-1252, as the format has it, or UTF-8 behind a byte order mark.
+FormCoding codingOf(std::string_view file) noexcept;
 
-/// A line as it stands in a form file: what decoding turns back into the text.
-std::string encodedFormText(std::wstring_view text, bool isUtf8);
+/// A form file as text, without its mark.
+std::wstring decodedForm(std::string_view file);
+
+/// A piece of the form's text from its bytes, and back.
+std::wstring decoded(std::string_view bytes, FormCoding coding);
+std::string encoded(std::wstring_view text, FormCoding coding);
 
 /// The text without the blanks and tabs at its ends.
 std::wstring_view trimmed(std::wstring_view text) noexcept;

@@ -63,7 +63,11 @@ struct ObjectLine {
     int line = 0;
 };
 
+/// How the texts of a form and its companion file are coded.
+enum class FormCoding { Windows1252, Utf8 };
+
 struct FormTree {
+    FormCoding coding = FormCoding::Windows1252;
     std::wstring version;
     std::vector<ObjectLine> objects;
     FormNode form;

@@ -59,7 +59,8 @@ void HostedControl::loadProperties(FormNode const& node)
     if (auto const bagLoader = m_object.as<IPersistPropertyBag>()) {
         ComPtr<PropertyBag> const bag =
             controlBag(node, {form().options().record,
-                              [&](int line, std::wstring reason) { form().warn(line, std::move(reason)); }});
+                              [&](int line, std::wstring reason) { form().warn(line, std::move(reason)); },
+                              form().coding()});
         HRESULT const loaded = bagLoader->Load(bag.get(), nullptr);
         if (!isLeftOut(loaded))
             return check(loaded);

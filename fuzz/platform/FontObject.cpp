@@ -1,0 +1,76 @@
+// What stands in for the system's font object: identity, equality, and where the readers get fonts.
+#include "platform/FontObject.h"
+
+#include "surface/StandardFont.h"
+
+#include <olectl.h>
+
+#include <oleauto.h>
+
+namespace quillet::fuzz {
+
+int FontObject::s_living = 0;
+
+FontObject::FontObject(FONTDESC const& description)
+    : m_name(description.lpstrName), m_size(description.cySize), m_weight(description.sWeight),
+      m_charset(description.sCharset), m_italic(description.fItalic), m_underline(description.fUnderline),
+      m_strike(description.fStrikethrough)
+{
+    ++s_living;
+}
+
+HRESULT STDMETHODCALLTYPE FontObject::QueryInterface(REFIID iid, void** out)
+{
+    *out = nullptr;
+    if (iid == IID_IUnknown || iid == IID_IFont ||
+        iid == IID_IDispatch) // late-bound calls come to nothing here
+        *out = static_cast<IFont*>(this);
+    else if (iid == IID_IPersistStream)
+        *out = static_cast<IPersistStream*>(this);
+    if (!*out)
+        return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+}
+
+ULONG STDMETHODCALLTYPE FontObject::Release()
+{
+    ULONG const left = --m_references;
+    if (left == 0)
+        delete this;
+    return left;
+}
+
+HRESULT STDMETHODCALLTYPE FontObject::get_Name(BSTR* name)
+{
+    *name = ::SysAllocStringLen(m_name.data(), static_cast<UINT>(m_name.size()));
+    return *name ? S_OK : E_OUTOFMEMORY;
+}
+
+bool FontObject::operator==(FontObject const& other) const noexcept
+{
+    return m_name == other.m_name && m_size.int64 == other.m_size.int64 && m_weight == other.m_weight &&
+           m_charset == other.m_charset && m_italic == other.m_italic && m_underline == other.m_underline &&
+           m_strike == other.m_strike && m_bytes == other.m_bytes;
+}
+
+HRESULT STDMETHODCALLTYPE FontObject::IsEqual(IFont* other)
+{
+    return *this == *static_cast<FontObject*>(other) ? S_OK : S_FALSE; // there are no other fonts
+}
+
+} // namespace quillet::fuzz
+
+namespace quillet {
+
+ComPtr<IFont> systemFont() { return ComPtr<IFont>::adopt(new fuzz::FontObject()); }
+
+bool equalFonts(IFont* a, IFont* b) noexcept { return a->IsEqual(b) == S_OK; }
+
+} // namespace quillet
+
+HRESULT WINAPI OleCreateFontIndirect(FONTDESC* description, REFIID, void** font)
+{
+    *font = static_cast<IFont*>(new quillet::fuzz::FontObject(*description));
+    return S_OK;
+}

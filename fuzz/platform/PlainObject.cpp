@@ -1,0 +1,44 @@
+// What stands in for the system's picture objects: identity, and where the readers get pictures.
+#include "platform/PlainObject.h"
+
+#include "surface/StandardPicture.h"
+
+#include <ocidl.h>
+#include <olectl.h>
+
+namespace quillet::fuzz {
+
+int PlainObject::s_living = 0;
+
+bool PlainObject::answers(REFIID iid) const noexcept
+{
+    bool const isPicture = iid == IID_IPicture || iid == IID_IPictureDisp || iid == IID_IPersistStream;
+    return iid == IID_IDispatch || (isPicture && m_kind == Kind::Picture);
+}
+
+} // namespace quillet::fuzz
+
+namespace quillet {
+
+ComPtr<IPictureDisp> unloadedPicture()
+{
+    using fuzz::PlainObject;
+    auto* const picture = new PlainObject(PlainObject::Kind::Picture);
+    return ComPtr<IPictureDisp>::adopt(
+        reinterpret_cast<IPictureDisp*>(static_cast<IPersistStream*>(picture)));
+}
+
+/// Every picture here is such an object, whatever interface it was asked for.
+bool isEmptyPicture(IUnknown* picture) noexcept
+{
+    return !picture ||
+           static_cast<fuzz::PlainObject*>(reinterpret_cast<IPersistStream*>(picture))->bytes().empty();
+}
+
+} // namespace quillet
+
+HRESULT WINAPI OleCreatePictureIndirect(PICTDESC*, REFIID, BOOL, void** picture)
+{
+    *picture = quillet::unloadedPicture().detach();
+    return S_OK;
+}
