@@ -62,6 +62,17 @@ std::string ansiOf(std::wstring_view text)
     return result;
 }
 
+/// What names a window as a tool.
+TTTOOLINFOA toolOf(HWND window) noexcept
+{
+    TTTOOLINFOA tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND;
+    tool.hwnd = window;
+    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    return tool;
+}
+
 /// The user of a subclassed window; null where the slot holds none.
 ToolTipUser* ControlFromHwnd(HWND window) noexcept
 {
@@ -101,6 +112,8 @@ void ToolTipUser::windowMade(HWND window) noexcept
 {
     if (!m_running)
         return;
+    Unsubclass();
+    removeTool(threadState().toolTip);
     Subclass(window);
     AddTool(threadState().toolTip, window);
 }
@@ -113,20 +126,28 @@ void ToolTipUser::Terminate()
     Unsubclass();
     if (m_counted && state.toolTipCreated && state.toolTipUsers == 0)
         ::DestroyWindow(state.toolTip);
+    else
+        removeTool(state.toolTip);
     m_counted = m_running = false;
 }
 
 void ToolTipUser::AddTool(HWND toolTip, HWND window) noexcept
 {
-    TTTOOLINFOA tool = {};
-    tool.cbSize = TTTOOLINFOA_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND;
-    tool.hwnd = window;
-    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    TTTOOLINFOA tool = toolOf(window);
     tool.hinst = moduleInstance();
     tool.lpszText = LPSTR_TEXTCALLBACKA; // asked for at each showing: the extender's text may change
     ::SendMessageA(toolTip, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
     ::SendMessageA(toolTip, TTM_ACTIVATE, TRUE, reinterpret_cast<LPARAM>(window));
+}
+
+/// Forms that make and give up controls as they run would otherwise fill the tooltip window with tools.
+void ToolTipUser::removeTool(HWND toolTip) noexcept
+{
+    if (!m_subclassed)
+        return;
+    TTTOOLINFOA tool = toolOf(m_subclassed);
+    ::SendMessageA(toolTip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    m_subclassed = nullptr;
 }
 
 void ToolTipUser::Subclass(HWND window) noexcept

@@ -43,6 +43,7 @@ public:
 
 private:
     static void AddTool(HWND toolTip, HWND window) noexcept;
+    void removeTool(HWND toolTip) noexcept;
     void answerText(LPARAM request) noexcept;
 
     Surface& m_surface;

@@ -9,6 +9,7 @@ using kit::MouseButton;
 
 constexpr UINT kActivate = 1025;
 constexpr UINT kAddTool = 1028;
+constexpr UINT kDeleteTool = 1029;
 constexpr UINT kRelayEvent = 1031;
 
 class Tool : public ServiceTest {};
@@ -60,8 +61,8 @@ TEST_F(Tool, isTheNewWindowOfAControlThatIsShownAgainAfterItWasClosed)
         EXPECT_FALSE(::IsWindow(first));
         ToolTipWatch const watch;
         ASSERT_EQ(button.hosted().activate(), S_OK);
-        EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
-        EXPECT_EQ(watch.messages.at(0).tool.hwnd, windowOf(button));
+        EXPECT_THAT(watch.numbers(), ElementsAre(kDeleteTool, kAddTool, kActivate));
+        EXPECT_EQ(watch.messages.at(1).tool.hwnd, windowOf(button));
         EXPECT_TRUE(::IsWindowVisible(windowOf(button)));
     });
 }
@@ -76,8 +77,8 @@ TEST_F(Tool, isTheNewWindowOfAControlWhoseContainerDestroyedTheLastOne)
         ToolTipWatch const watch;
         HWND const made = windowOf(button);
         ASSERT_NE(made, nullptr);
-        EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
-        EXPECT_EQ(watch.messages.at(0).tool.hwnd, made);
+        EXPECT_THAT(watch.numbers(), ElementsAre(kDeleteTool, kAddTool, kActivate));
+        EXPECT_EQ(watch.messages.at(1).tool.hwnd, made);
     });
 }
 
@@ -100,6 +101,27 @@ TEST_F(Tool, isTheControlsWindowByItsHandleWithTextOnDemand)
         EXPECT_TRUE(::EqualRect(&tool.rect, &none));
         EXPECT_EQ(tool.hinst, library().module());
         EXPECT_EQ(reinterpret_cast<LONG_PTR>(tool.lpszText), -1);
+    });
+}
+
+// A form may make and give up controls for as long as it runs.
+TEST_F(Tool, goesWithItsControlAndWithAWindowThatIsMadeAnew)
+{
+    kit::onNewThread([] {
+        kit::FakeForm form;
+        RunningButton first(library(), form, 1);
+        first.start();
+        HWND const toolTip = theToolTipWindow();
+        auto const tools = [toolTip] { return ::SendMessageA(toolTip, TTM_GETTOOLCOUNT, 0, 0); };
+        {
+            RunningButton second(library(), form, 2);
+            second.start();
+            EXPECT_EQ(tools(), 2);
+            ASSERT_EQ(second.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+            ASSERT_EQ(second.hosted().activate(), S_OK);
+            EXPECT_EQ(tools(), 2);
+        }
+        EXPECT_EQ(tools(), 1);
     });
 }
 
