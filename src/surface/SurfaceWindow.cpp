@@ -66,6 +66,11 @@ void SurfaceWindow::create(HWND parent)
         leaveParking();
         throw RunTimeError(HRESULT_FROM_WIN32(reason));
     }
+    // A form that is laid out from right to left hands that on. Controls have no such layout: points in them
+    // count from the left.
+    LONG const style = ::GetWindowLongA(m_window, GWL_EXSTYLE);
+    if (style & WS_EX_LAYOUTRTL)
+        ::SetWindowLongA(m_window, GWL_EXSTYLE, style & ~WS_EX_LAYOUTRTL);
     ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
     m_surface.onWindowMade();
 }

@@ -36,8 +36,11 @@ TEST_P(Mouse, movesTellButtonsShiftAndTwips)
                 ElementsAre(VT_BYREF | VT_I2, VT_BYREF | VT_I2, VT_BYREF | VT_R4, VT_BYREF | VT_R4));
     EXPECT_EQ(move.values[0].toLong(), 2);
     EXPECT_EQ(move.values[1].toLong(), 3);
-    EXPECT_EQ(move.values[2].toLong(), 150); // 15 twips a pixel
-    EXPECT_EQ(move.values[3].toLong(), 60);
+    HDC const screen = ::GetDC(nullptr);
+    int const twips = 1440 / ::GetDeviceCaps(screen, LOGPIXELSX); // of a pixel
+    ::ReleaseDC(nullptr, screen);
+    EXPECT_EQ(move.values[2].toLong(), 10 * twips);
+    EXPECT_EQ(move.values[3].toLong(), 4 * twips);
 }
 
 TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
