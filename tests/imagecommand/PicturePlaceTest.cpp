@@ -91,14 +91,14 @@ TEST_P(ImagePicturePlace, besideACaptionGoesByTheNormalBorderWhateverTheLook)
 {
     setCaption(L"&Open");
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
-    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(9).get()), S_OK);
+    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(5).get()), S_OK);
     expectAt(3 + kMargin, 14, kImage, 3);
     button->put_HotForeColor(kFore);
     button->put_HotBackColor(kBack);
     button->put_HotLightBorderColor(kLight);
     button->put_HotDarkBorderColor(kDark);
     button.makeHot();
-    expectAt(3 + kMargin, 14, kImage, 9);
+    expectAt(3 + kMargin, 14, kImage, 5);
     button.leave();
 }
 

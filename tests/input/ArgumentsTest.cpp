@@ -78,19 +78,19 @@ protected:
         forgetAndAwait(kMouseMove, [&] { kit::moveCursorTo(button.window(), x, y); });
     }
     /// Where a pixel is in twips.
-    static SIZE twips(int x, int y)
+    static float twips(int pixels)
     {
-        constexpr int kTwipsPerInch = 1440;
-        WindowDc const screen(nullptr);
-        return {x * kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSX),
-                y * kTwipsPerInch / ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
+        constexpr float kTwipsPerInch = 1440;
+        WindowDc const screen(nullptr); // its pixels are square
+        return static_cast<float>(pixels) * kTwipsPerInch /
+               static_cast<float>(::GetDeviceCaps(screen.get(), LOGPIXELSX));
     }
     void expectPlace(DISPID id, int x, int y)
     {
         auto const event = last(id);
         ASSERT_THAT(event.values, SizeIs(4));
-        EXPECT_EQ(event.values[2].get().fltVal, static_cast<float>(twips(x, y).cx));
-        EXPECT_EQ(event.values[3].get().fltVal, static_cast<float>(twips(x, y).cy));
+        EXPECT_EQ(event.values[2].get().fltVal, twips(x));
+        EXPECT_EQ(event.values[3].get().fltVal, twips(y));
     }
 };
 

@@ -167,7 +167,9 @@ TEST_P(Inner, movesItsCaptionWithItsTextItsFontAndItsSize)
     RECT const higher = {20, 30, 140, 90};
     box.as<IOleInPlaceObject>()->SetObjectRects(&higher, &higher);
     kit::pumpPending();
-    EXPECT_EQ(rows().first, large.first + 20); // 40 pixels higher: in the middle again
+    if (large.first > 0) { // else the resolution is so high that the text did not fit
+        EXPECT_EQ(rows().first, large.first + 20) << "40 pixels higher: in the middle again";
+    }
 }
 
 TEST_P(Inner, wrapsALongCaption)

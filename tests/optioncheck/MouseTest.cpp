@@ -37,10 +37,10 @@ TEST_P(Mouse, movesTellButtonsShiftAndTwips)
     EXPECT_EQ(move.values[0].toLong(), 2);
     EXPECT_EQ(move.values[1].toLong(), 3);
     HDC const screen = ::GetDC(nullptr);
-    int const twips = 1440 / ::GetDeviceCaps(screen, LOGPIXELSX); // of a pixel
+    float const twips = 1440.0F / static_cast<float>(::GetDeviceCaps(screen, LOGPIXELSX)); // of a pixel
     ::ReleaseDC(nullptr, screen);
-    EXPECT_EQ(move.values[2].toLong(), 10 * twips);
-    EXPECT_EQ(move.values[3].toLong(), 4 * twips);
+    EXPECT_EQ(move.values[2].get().fltVal, 10 * twips);
+    EXPECT_EQ(move.values[3].get().fltVal, 4 * twips);
 }
 
 TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
