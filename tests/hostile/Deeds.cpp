@@ -1,8 +1,11 @@
 // What counterparts do to a control in the middle of a call of its.
 #include "Deeds.h"
 
+#include "HostileTest.h"
 #include "kit/ByName.h"
 #include "kit/Pump.h"
+
+#include <algorithm>
 
 namespace quillet::hostile {
 
@@ -134,6 +137,38 @@ std::vector<Deed> const& deeds()
         {"TakesTheCapture", [](Life& life) { ::SetCapture(life.form.window()); }},
     };
     return all;
+}
+
+std::map<std::string, int> occasionsOf(ControlKind const& kind)
+{
+    std::map<std::string, int> found;
+    Life life(kind);
+    life.heard = [&](std::string const& call) {
+        bool const isIdentifier = call.starts_with("Ambient(") || call.starts_with("Event(");
+        size_t const details = isIdentifier ? std::string::npos : call.find('(');
+        ++found[call.substr(0, std::min(details, call.find(" =")))];
+    };
+    life.live();
+    life.heard = nullptr;
+    return found;
+}
+
+void liveThroughDeeds(ControlKind const& kind, std::vector<Occasion> const& occasions, size_t every)
+{
+    for (Occasion const& occasion : occasions)
+        for (Deed const& deed : deeds())
+            for (int const letPass : {0, std::max(0, occasion.times - 2)}) {
+                if (!isDue(every * 2))
+                    continue;
+                Journal::begin(std::string(kind.name) + ": " + occasion.name + ' ' + deed.name + " after " +
+                               std::to_string(letPass));
+                {
+                    Life life(kind);
+                    life.arm(occasion.name, deed, letPass);
+                    life.live();
+                }
+                HostileTest::expectNothingLeft();
+            }
 }
 
 } // namespace quillet::hostile

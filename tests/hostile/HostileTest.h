@@ -32,13 +32,12 @@ std::vector<std::string> ownWindows();
 class HostileTest : public kit::ControlTest {
 public:
     using ControlTest::library;
+    /// After each run: the module can go, and no window of its is left. The tables' cases tell more.
+    static void expectNothingLeft();
 
 protected:
     void SetUp() override;
     void TearDown() override;
-
-    /// After each run: the module can go, and no window of its is left. The tables' cases tell more.
-    static void expectNothingLeft();
 
 private:
     DialogCloser m_closer;

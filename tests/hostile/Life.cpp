@@ -60,15 +60,18 @@ Life::Life(ControlKind const& kind)
 
 Life::~Life() { end(); }
 
-void Life::arm(std::string const& occasion, Deed const& deed)
+void Life::arm(std::string const& occasion, Deed const& deed, int letPass)
 {
+    m_letPass = letPass;
     m_occasion = occasion;
     m_deed = &deed;
 }
 
 void Life::noted(std::string const& call)
 {
-    if (!m_deed || m_doing || m_done >= kTimes || !isOccasion(call, m_occasion))
+    if (heard)
+        heard(call);
+    if (!m_deed || m_doing || m_done >= kTimes || !isOccasion(call, m_occasion) || m_letPass-- > 0)
         return;
     Journal::step(call + ": " + m_deed->name);
     m_doing = true;
@@ -94,8 +97,8 @@ void Life::live()
     step("properties", &Life::putProperties);
     step("ambients", &Life::changeAmbients);
     step("hide and show", &Life::hideAndShow);
-    step("save and load", &Life::saveAndLoad);
     step("leave", &Life::leave);
+    step("save and load", &Life::saveAndLoad);
     step("end", &Life::end);
 }
 
@@ -323,8 +326,10 @@ HWND Life::inputWindow() const
 
 void Life::watchWindows()
 {
-    if (m_occasion.starts_with("Before(") || m_occasion.starts_with("After("))
-        watchMessages(inputWindow(), *this);
+    if (!m_occasion.starts_with("Before(") && !m_occasion.starts_with("After("))
+        return;
+    watchMessages(ownWindow(), *this);
+    watchMessages(inputWindow(), *this);
 }
 
 HWND Life::otherForm()

@@ -43,10 +43,13 @@ public:
     /// The deed is done each time that the occasion comes: a call of the form's record ("Site.OnFocus"), an
     /// event ("Event(4)"), "Changed", "ViewChanged", "Closed", or a message of the control's windows
     /// ("Before(15)", "After(15)").
-    void arm(std::string const& occasion, Deed const& deed);
+    /// The first few occasions may be let pass.
+    void arm(std::string const& occasion, Deed const& deed, int letPass = 0);
     /// How often the deed was done.
     int done() const noexcept { return m_done; }
     void noted(std::string const& call);
+    /// Hears of every occasion.
+    std::function<void(std::string const&)> heard;
 
     /// Every step of a standard life, in order, and the end.
     void live();
@@ -91,6 +94,7 @@ private:
     std::string m_occasion;
     Deed const* m_deed = nullptr;
     bool m_doing = false;
+    int m_letPass = 0;
     int m_done = 0;
     bool m_ended = false;
 };

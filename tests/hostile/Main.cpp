@@ -26,6 +26,12 @@ Options& options() noexcept
     return values;
 }
 
+bool isDue(std::size_t every) noexcept
+{
+    static std::size_t rows = options().seed;
+    return options().isLong() || ++rows % every == 0;
+}
+
 namespace {
 
 /// The number behind a word of the command line; false for another word.

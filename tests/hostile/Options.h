@@ -1,6 +1,8 @@
 // How long and from which seed the room's random runs go.
 #pragma once
 
+#include <cstddef>
+
 namespace quillet::hostile {
 
 struct Options {
@@ -10,6 +12,10 @@ struct Options {
     /// How many runs to make where a plain test run makes so many.
     int runsOr(int plain) const noexcept { return isLong() ? runs : plain; }
 };
+
+/// Whether the next row of a long table is to be run: every one in the long form, else one of so many, which
+/// depends on the seed.
+bool isDue(std::size_t every) noexcept;
 
 /// The command line's, once the program has begun.
 Options& options() noexcept;

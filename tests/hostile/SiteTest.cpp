@@ -3,8 +3,6 @@
 #include "Deeds.h"
 #include "HostileTest.h"
 
-#include <set>
-
 namespace quillet::hostile {
 namespace {
 
@@ -19,19 +17,14 @@ constexpr Answer kAnswers[] = {
     {"S_FALSE", S_FALSE, false}, {"nothing", S_OK, true},         {"nothing and fails", E_FAIL, true},
 };
 
-/// What a container is asked and told in one life of the control, each once.
-std::set<std::string> occasionsOf(ControlKind const& kind)
+constexpr size_t kAnswersTaken = 5;
+
+void give(Answer const& answer, std::string const& call, Life& life)
 {
-    Life life(kind);
-    std::set<std::string> found;
-    life.form.record().whenNoted = [&](std::string const& call) {
-        bool const isIdentifier = call.starts_with("Ambient(") || call.starts_with("Event(");
-        size_t const details = isIdentifier ? std::string::npos : call.find('(');
-        size_t const end = std::min(details, call.find(" ="));
-        found.insert(call.substr(0, end));
-    };
-    life.live();
-    return found;
+    if (!answer.nothing || FAILED(answer.result))
+        life.form.record().answer(call, answer.result);
+    if (answer.nothing)
+        life.form.record().answerNothing(call);
 }
 
 class HostileSite : public HostileControlTest {};
@@ -40,57 +33,71 @@ QV_ALL_CONTROLS(HostileSite);
 TEST_P(HostileSite, isAskedWhatTheTablesOfThisRoomGoThrough)
 {
     auto const occasions = occasionsOf(kind());
-    for (char const* const expected :
-         {"Site.GetWindow", "Site.GetWindowContext", "Site.CanInPlaceActivate", "Site.OnInPlaceActivate",
-          "Site.OnUIActivate", "Site.OnUIDeactivate", "Site.OnInPlaceDeactivate", "Site.ShowObject",
-          "Site.OnFocus", "Site.TranslateAccelerator", "Site.GetExtendedControl", "Site.OnControlInfoChanged",
-          "Site.SaveObject", "Frame.SetActiveObject", "Ambient(-709)", "Ambient(-703)"})
+    for (char const* const expected : {"Site.GetWindow",
+                                       "Site.GetWindowContext",
+                                       "Site.CanInPlaceActivate",
+                                       "Site.OnInPlaceActivate",
+                                       "Site.OnUIActivate",
+                                       "Site.OnUIDeactivate",
+                                       "Site.OnInPlaceDeactivate",
+                                       "Site.ShowObject",
+                                       "Site.OnFocus",
+                                       "Site.TranslateAccelerator",
+                                       "Site.GetExtendedControl",
+                                       "Site.OnControlInfoChanged",
+                                       "Site.SaveObject",
+                                       "Frame.SetActiveObject",
+                                       "Ambient(-709)",
+                                       "Ambient(-703)",
+                                       "Event(4)",
+                                       "Event(7)",
+                                       "Event(8)",
+                                       "Changed",
+                                       "ViewChanged",
+                                       "Saved",
+                                       "Closed"})
         EXPECT_TRUE(occasions.contains(expected)) << expected;
 }
 
 TEST_P(HostileSite, thatFailsInAnyOfItsCallsIsLivedWith)
 {
-    for (std::string const& call : occasionsOf(kind()))
+    for (auto const& [call, times] : occasionsOf(kind()))
         for (Answer const& answer : kAnswers) {
+            if (!isDue(kAnswersTaken))
+                continue;
             Journal::begin(std::string(kind().name) + ": " + call + " answers " + answer.name);
-            Life life(kind());
-            if (!answer.nothing || FAILED(answer.result))
-                life.form.record().answer(call, answer.result);
-            if (answer.nothing)
-                life.form.record().answerNothing(call);
-            life.live();
+            {
+                Life life(kind());
+                give(answer, call, life);
+                life.live();
+            }
             expectNothingLeft();
+            ASSERT_FALSE(HasFailure());
         }
 }
 
 TEST_P(HostileSite, thatFailsInEveryCallIsLivedWith)
 {
+    auto const occasions = occasionsOf(kind());
     for (Answer const& answer : kAnswers) {
         Journal::begin(std::string(kind().name) + ": everything answers " + answer.name);
-        Life life(kind());
-        for (std::string const& call : occasionsOf(kind())) {
-            if (!answer.nothing || FAILED(answer.result))
-                life.form.record().answer(call, answer.result);
-            if (answer.nothing)
-                life.form.record().answerNothing(call);
+        {
+            Life life(kind());
+            for (auto const& [call, times] : occasions)
+                give(answer, call, life);
+            life.live();
         }
-        life.live();
         expectNothingLeft();
     }
 }
 
 TEST_P(HostileSite, thatDoesSomethingToTheControlInAnyOfItsCallsIsLivedWith)
 {
-    for (std::string const& call : occasionsOf(kind()))
-        for (Deed const& deed : deeds()) {
-            Journal::begin(std::string(kind().name) + ": " + call + ' ' + deed.name);
-            {
-                Life life(kind());
-                life.arm(call, deed);
-                life.live();
-            }
-            expectNothingLeft();
-        }
+    std::vector<Occasion> calls;
+    for (auto const& [call, times] : occasionsOf(kind()))
+        if (call.find('.') != std::string::npos || call.starts_with("Ambient"))
+            calls.push_back({call, times});
+    liveThroughDeeds(kind(), calls, 10);
 }
 
 } // namespace
