@@ -5,6 +5,8 @@
 #include "surface/LateBound.h"
 #include "surface/StandardFont.h"
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -43,10 +45,11 @@ ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept
 
 void Container::setSite(IOleClientSite* site) noexcept
 {
-    m_site = site;
-    m_controlSite = query<IOleControlSite>(site);
-    m_ambients = query<IDispatch>(site);
-    m_quickFont.reset();
+    // The old site goes last: it may call back in, and then finds the new one in every place.
+    auto const leaving = std::exchange(m_site, site);
+    auto const leavingControlSite = std::exchange(m_controlSite, query<IOleControlSite>(site));
+    auto const leavingAmbients = std::exchange(m_ambients, query<IDispatch>(site));
+    auto const leavingFont = std::exchange(m_quickFont, nullptr);
     m_quickUserMode = Variant();
 }
 
@@ -58,9 +61,10 @@ void Container::setQuickAmbients(QACONTAINER const& block) noexcept
 
 Variant Container::ambient(DISPID id) const noexcept
 {
-    if (!m_ambients)
+    auto const ambients = m_ambients; // kept to the end of the call, as the container may leave within it
+    if (!ambients)
         return {};
-    return orFallback(Variant(), [&] { return propertyById(m_ambients.get(), id); });
+    return orFallback(Variant(), [&] { return propertyById(ambients.get(), id); });
 }
 
 bool Container::userMode() const noexcept
@@ -85,8 +89,9 @@ ComPtr<IFont> Container::ambientFont() const
 
 ComPtr<IDispatch> Container::extender() const noexcept
 {
+    auto const site = m_controlSite;
     ComPtr<IDispatch> found;
-    if (!m_controlSite || FAILED(m_controlSite->GetExtendedControl(found.put())))
+    if (!site || FAILED(site->GetExtendedControl(found.put())))
         return {};
     return found;
 }
@@ -120,9 +125,10 @@ ComPtr<IUnknown> Container::activeControl() const noexcept
 std::vector<ComPtr<IUnknown>> Container::parentControls() const
 {
     std::vector<ComPtr<IUnknown>> found;
+    auto const site = m_site;
     ComPtr<IOleContainer> container;
     ComPtr<IEnumUnknown> objects;
-    if (m_site && SUCCEEDED(m_site->GetContainer(container.put())) && container &&
+    if (site && SUCCEEDED(site->GetContainer(container.put())) && container &&
         SUCCEEDED(container->EnumObjects(OLECONTF_EMBEDDINGS | OLECONTF_OTHERS, objects.put())) && objects) {
         ComPtr<IUnknown> object;
         while (objects->Next(1, object.put(), nullptr) == S_OK)
