@@ -56,6 +56,15 @@ public:
     RECT const& position() const noexcept { return m_position; }
 
 private:
+    /// A site that lets the control be activated, and the window to be in.
+    struct Stage {
+        ComPtr<IOleInPlaceSite> site;
+        HWND parent;
+    };
+    /// Asks the container. Throws where it refuses, or has no window and none was offered.
+    Stage stage(HWND offered) const;
+    /// Whether the control is active in that site, still or again.
+    bool isIn(ComPtr<IOleInPlaceSite> const& site) const noexcept { return m_site.get() == site.get(); }
     void activateVisibly(Offer const& offer);
     void activateKeyboard();
     void leaveKeyboard() noexcept;
