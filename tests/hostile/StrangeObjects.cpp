@@ -10,7 +10,7 @@ namespace quillet::hostile {
 
 namespace {
 
-class FailingFont final : public kit::Counterpart<IFont> {
+class FailingFont final : public kit::Counterpart<IFont, IFontDisp, IPersistStream> {
 public:
     explicit FailingFont(HRESULT answer) : m_answer(answer) {}
 
@@ -42,12 +42,24 @@ public:
     STDMETHODIMP AddRefHfont(HFONT) override { return m_answer; }
     STDMETHODIMP ReleaseHfont(HFONT) override { return m_answer; }
     STDMETHODIMP SetHdc(HDC) override { return m_answer; }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return m_answer; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return m_answer;
+    }
+    STDMETHODIMP GetClassID(CLSID*) override { return m_answer; }
+    STDMETHODIMP IsDirty() override { return m_answer; }
+    STDMETHODIMP Load(IStream*) override { return m_answer; }
+    STDMETHODIMP Save(IStream*, WINBOOL) override { return m_answer; }
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return m_answer; }
 
 private:
     HRESULT m_answer;
 };
 
-class FailingPicture final : public kit::Counterpart<IPicture> {
+class FailingPicture final : public kit::Counterpart<IPicture, IPersistStream> {
 public:
     explicit FailingPicture(HRESULT answer) : m_answer(answer) {}
 
@@ -69,6 +81,11 @@ public:
     STDMETHODIMP PictureChanged() override { return m_answer; }
     STDMETHODIMP SaveAsFile(LPSTREAM, WINBOOL, LONG*) override { return m_answer; }
     STDMETHODIMP get_Attributes(DWORD*) override { return m_answer; }
+    STDMETHODIMP GetClassID(CLSID*) override { return m_answer; }
+    STDMETHODIMP IsDirty() override { return m_answer; }
+    STDMETHODIMP Load(IStream*) override { return m_answer; }
+    STDMETHODIMP Save(IStream*, WINBOOL) override { return m_answer; }
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return m_answer; }
 
 private:
     HRESULT m_answer;

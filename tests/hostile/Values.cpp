@@ -85,7 +85,7 @@ std::vector<NamedValue> strangeValues()
         {"VT_BSTR, long", Variant::ofString(std::wstring(70'000, L'&'))},
         {"VT_UNKNOWN, null", Variant::ofUnknown(nullptr)},
         {"VT_DISPATCH, null", Variant::ofDispatch(nullptr)},
-        {"a picture", Variant::ofUnknown(kit::newBitmapPicture(3, 3, 0).get())},
+        {"a picture", Variant::ofUnknown(kit::newBitmapPicture(7, 5, RGB(1, 2, 3)).get())},
         {"a font", Variant::ofUnknown(kit::newFont(L"Tahoma", 9).get())},
         {"a font that fails", Variant::ofUnknown(failingFont(E_FAIL).get())},
         {"a font that gives nothing", Variant::ofUnknown(failingFont(S_OK).get())},
