@@ -29,7 +29,9 @@ protected:
         {
             Life life(kind());
             life.begin();
-            result = expectWholeLoad(life, [&] { return action(life); });
+            Life other(kind());
+            other.control.setSite();
+            result = expectWholeLoad(life, other, [&] { return action(life); });
             life.show();
             life.draw();
         }

@@ -12,7 +12,8 @@ namespace quillet::hostile {
 kit::Bytes savedForm(Life& life);
 
 /// Loads: after a failure the control saves what it would have saved before; after a success it can be drawn
-/// and saved, and a second control that loads that saves the same again. Answers the load's result.
-HRESULT expectWholeLoad(Life& life, std::function<HRESULT()> const& load);
+/// and saved, and another control of its class that loads that saves the same again. Answers the load's
+/// result.
+HRESULT expectWholeLoad(Life& life, Life& other, std::function<HRESULT()> const& load);
 
 } // namespace quillet::hostile
