@@ -5,11 +5,15 @@
 #include "surface/LateBound.h"
 #include "surface/StandardFont.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillet {
 
 namespace {
+
+/// No form has as many controls; a list that never ends must not take the memory.
+constexpr long kMostControls = 0x7FFF;
 
 /// The keys that a container reads with a key message: shift 1, control 2, alt 4.
 DWORD keyModifiers() noexcept
@@ -131,14 +135,15 @@ std::vector<ComPtr<IUnknown>> Container::parentControls() const
     if (site && SUCCEEDED(site->GetContainer(container.put())) && container &&
         SUCCEEDED(container->EnumObjects(OLECONTF_EMBEDDINGS | OLECONTF_OTHERS, objects.put())) && objects) {
         ComPtr<IUnknown> object;
-        while (objects->Next(1, object.put(), nullptr) == S_OK)
+        while (found.size() < static_cast<size_t>(kMostControls) &&
+               objects->Next(1, object.put(), nullptr) == S_OK)
             found.push_back(object);
         return found;
     }
     ignoringErrors([&] {
         auto const parent = query<IDispatch>(requiredExtenderProperty(L"Parent").toObject().get());
         auto const controls = query<IDispatch>(propertyByName(parent.get(), L"Controls").toObject().get());
-        long const count = propertyByName(controls.get(), L"Count").toLong();
+        long const count = std::min(propertyByName(controls.get(), L"Count").toLong(), kMostControls);
         for (long index = 0; index < count; ++index)
             found.push_back(itemByIndex(controls.get(), index).toObject());
     });
