@@ -256,7 +256,7 @@ void Life::putProperties()
     }
     if (auto const own = as<IDispatch>()) {
         kit::setByName(*own.get(), L"Font", kit::newFont(L"Tahoma", 10, true).get());
-        kit::setByName(*own.get(), L"Image", kit::newBitmapPicture(8, 8, RGB(1, 2, 3)).get());
+        kit::setByName(*own.get(), L"Image", kit::newIconPicture().get());
         kit::callByName(*own.get(), L"Refresh");
         kit::callByName(*own.get(), L"DrawButton");
         kit::invoke(*own.get(), DISPID_DOCLICK, DISPATCH_METHOD);
