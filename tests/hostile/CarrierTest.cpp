@@ -50,6 +50,8 @@ TEST_P(HostileCarrier, bagThatAnswersValuesOfAnyTypeIsLoadedOrRefused)
 {
     int refused = 0;
     for (NamedValue const& row : strangeValues()) {
+        if (!isDue(2))
+            continue;
         auto const bag = kit::make<HostileBag>();
         bag->reads = [&](VARIANT& value) {
             value = Variant(row.value).detach();
@@ -57,7 +59,7 @@ TEST_P(HostileCarrier, bagThatAnswersValuesOfAnyTypeIsLoadedOrRefused)
         };
         refused +=
             FAILED(load(row.name + " for everything", [&](Life& life) { return loadBag(life, *bag.get()); }));
-        if (isDue(3))
+        if (isDue(12))
             for (wchar_t const* const name : {L"Font", L"MouseIcon", L"Image", L"Caption", L"BackColor",
                                               L"BorderWidth", L"Enabled", L"Value"}) {
                 auto const one = kit::make<kit::FakeBag>();
@@ -67,7 +69,7 @@ TEST_P(HostileCarrier, bagThatAnswersValuesOfAnyTypeIsLoadedOrRefused)
                      [&](Life& life) { return loadBag(life, *one.get()); });
             }
     }
-    EXPECT_GT(refused, 5);
+    EXPECT_GT(refused, 2);
 }
 
 TEST_P(HostileCarrier, bagThatWritesGarbageIntoTheValueAndFailsIsHeardAsAFailureAlone)
@@ -75,6 +77,8 @@ TEST_P(HostileCarrier, bagThatWritesGarbageIntoTheValueAndFailsIsHeardAsAFailure
     for (HRESULT const result : {E_FAIL, E_INVALIDARG, E_OUTOFMEMORY, DISP_E_TYPEMISMATCH, E_POINTER})
         for (int const type :
              {int{VT_BSTR}, int{VT_UNKNOWN}, int{VT_DISPATCH}, VT_VARIANT | VT_BYREF, 0x7F7F}) {
+            if (!isDue(5))
+                continue;
             auto const bag = kit::make<HostileBag>();
             bag->reads = [&](VARIANT& value) {
                 value.llVal = 0x0BADF00D0BADF00D;
@@ -124,6 +128,8 @@ TEST_P(HostileCarrier, streamThatFailsOrSaysNonsenseInAnyReadIsRefused)
     for (Row const row : {Row{E_FAIL, 0}, Row{STG_E_READFAULT, 7}, Row{S_OK, 0}, Row{S_FALSE, 0},
                           Row{S_OK, 0x7FFFFFFF}, Row{S_OK, 0xFFFFFFFF}, Row{E_PENDING, 0}})
         for (int at = 1; at < 5; ++at) {
+            if (!isDue(4))
+                continue;
             auto const stream = kit::make<HostileStream>(full);
             stream->most = 50;
             stream->wrongAt = at;
@@ -173,7 +179,7 @@ TEST_P(HostileCarrier, thatDoesSomethingToTheControlWhileItIsAskedIsLivedWith)
 {
     kit::Bytes const full = fullForm();
     for (Deed const& deed : deeds()) {
-        if (!isDue(2))
+        if (!isDue(5))
             continue;
         Journal::begin(std::string(kind().name) + ": carriers: " + deed.name);
         {

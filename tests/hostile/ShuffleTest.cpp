@@ -11,7 +11,7 @@ class HostileOrder : public HostileTest {};
 
 TEST_F(HostileOrder, ofRandomCallsOnSeveralControlsIsLivedWith)
 {
-    for (int run = 0; run < options().runsOr(40); ++run) {
+    for (int run = 0; run < options().runsOr(20); ++run) {
         unsigned const seed = options().seed + static_cast<unsigned>(run);
         Journal::begin("a run of --seed=" + std::to_string(seed) + " --runs=1");
         {

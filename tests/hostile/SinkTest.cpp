@@ -15,12 +15,12 @@ TEST_P(HostileSink, thatDoesSomethingToTheControlInAnyEventIsLivedWith)
         if (call.starts_with("Event("))
             events.push_back({call, times});
     EXPECT_THAT(events, testing::SizeIs(testing::Ge(7U)));
-    liveThroughDeeds(kind(), events, 10);
+    liveThroughDeeds(kind(), events, 60);
 }
 
 TEST_P(HostileSink, thatDoesSomethingToTheControlInANoticeIsLivedWith)
 {
-    liveThroughDeeds(kind(), {{"Changed", 40}, {"ViewChanged", 40}, {"Saved", 2}, {"Closed", 2}}, 10);
+    liveThroughDeeds(kind(), {{"Changed", 40}, {"ViewChanged", 40}, {"Saved", 2}, {"Closed", 2}}, 50);
 }
 
 } // namespace
