@@ -5,11 +5,29 @@
 #include "base/RunTimeError.h"
 #include "surface/Surface.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
 
 constexpr LONG kHimetricPerInch = 2540;
+
+/// From one edge to the other, also where that is more than a number holds.
+LONG lengthOf(LONG from, LONG to) noexcept
+{
+    constexpr LONGLONG kMost = 0x7FFFFFFF;
+    return static_cast<LONG>(std::clamp(LONGLONG{to} - from, -kMost, kMost));
+}
+
+/// The bytes of a picture of a size above 0. Some systems' own products overflow for one that is too large.
+DWORD bytesOf(SIZE size)
+{
+    constexpr LONG kMost = 0x7FFFFFFF;
+    if (size.cx > kMost / 4 / size.cy)
+        throw RunTimeError(E_OUTOFMEMORY);
+    return static_cast<DWORD>(size.cx) * static_cast<DWORD>(size.cy) * 4;
+}
 
 /// A bitmap whose bits can be played into any DC, with a memory DC that draws on it.
 class PictureDc {
@@ -22,7 +40,7 @@ public:
         m_info.bmiHeader.biPlanes = 1;
         m_info.bmiHeader.biBitCount = 32;
         // A metafile copies so many bytes of the picture, and nothing for 0.
-        m_info.bmiHeader.biSizeImage = static_cast<DWORD>(size.cx) * static_cast<DWORD>(size.cy) * 4;
+        m_info.bmiHeader.biSizeImage = bytesOf(size);
         m_bitmap.reset(::CreateDIBSection(m_dc.get(), &m_info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
         if (!m_dc || !m_bitmap)
             throw RunTimeError(E_OUTOFMEMORY);
@@ -37,9 +55,9 @@ public:
     {
         ::GdiFlush(); // the bits are read directly
         ::SetStretchBltMode(target, COLORONCOLOR);
-        ::StretchDIBits(target, bounds.left, bounds.top, bounds.right - bounds.left,
-                        bounds.bottom - bounds.top, 0, 0, m_info.bmiHeader.biWidth, m_info.bmiHeader.biHeight,
-                        m_bits, &m_info, DIB_RGB_COLORS, SRCCOPY);
+        ::StretchDIBits(target, bounds.left, bounds.top, lengthOf(bounds.left, bounds.right),
+                        lengthOf(bounds.top, bounds.bottom), 0, 0, m_info.bmiHeader.biWidth,
+                        m_info.bmiHeader.biHeight, m_bits, &m_info, DIB_RGB_COLORS, SRCCOPY);
     }
 
 private:
@@ -163,7 +181,7 @@ SIZE View::naturalSize(RECT const& bounds)
                           pixelsOf(extent.cy, ::GetDeviceCaps(screen.get(), LOGPIXELSY))};
     if (natural.cx > 0 && natural.cy > 0)
         return natural;
-    return {::labs(bounds.right - bounds.left), ::labs(bounds.bottom - bounds.top)};
+    return {::labs(lengthOf(bounds.left, bounds.right)), ::labs(lengthOf(bounds.top, bounds.bottom))};
 }
 
 void View::drawInto(HDC dc, RECT const& bounds)
