@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench dist check clean
+.PHONY: help build test hostile gallery bench dist check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -9,6 +9,9 @@ build: ## out/x86/quilbt.ocx and out/x64/quilbt.ocx, with the gallery beside eac
 
 test: ## every test of both architectures
 	@tools/test
+
+hostile: ## the long form of one room of tests; RUNS=20000 for so many random runs, SEED=… to repeat them
+	@tools/hostile $(or $(RUNS),2000) $(SEED)
 
 gallery: ## opens a form with live buttons; ARGS="FORM" for another one
 	@tools/gallery $(ARGS)
