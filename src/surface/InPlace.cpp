@@ -115,6 +115,7 @@ void InPlace::activateVisibly(Offer const& offer)
         return;
     }
     m_active = true;
+    ++m_activation;
     m_site = site;
     site->OnInPlaceActivate();
 
@@ -144,7 +145,7 @@ void InPlace::activateVisibly(Offer const& offer)
 
 void InPlace::activateKeyboard()
 {
-    if (!m_keyboard) {
+    if (!m_keyboard && !m_leaving) {
         m_keyboard = true;
         auto const site = m_site;
         site->OnUIActivate();
@@ -190,8 +191,11 @@ void InPlace::leave(WindowThen then) noexcept
 {
     if (!m_active)
         return;
+    unsigned const activation = m_activation;
+    m_leaving = true;
     leaveKeyboard();
-    if (!m_active)
+    m_leaving = false;
+    if (!m_active || activation != m_activation) // the container has ended it meanwhile, or begun another
         return;
     // Nothing is left of this activation when the window goes: its messages may begin the next one.
     m_active = false;

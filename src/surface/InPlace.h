@@ -73,8 +73,10 @@ private:
     ComPtr<IOleInPlaceSite> m_site; ///< while active
     ComPtr<IOleInPlaceFrame> m_frame;
     ComPtr<IOleInPlaceUIWindow> m_document;
-    bool m_active = false;   ///< shown in the container's window
-    bool m_keyboard = false; ///< UI-active
+    bool m_active = false;     ///< shown in the container's window
+    bool m_keyboard = false;   ///< UI-active
+    bool m_leaving = false;    ///< the keyboard is not taken again by an activation that ends
+    unsigned m_activation = 0; ///< tells one activation from the next
     RECT m_position = {};
 };
 

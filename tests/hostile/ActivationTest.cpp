@@ -133,6 +133,33 @@ TEST_P(HostileActivation, thatBeginsAgainWhileTheLastOneEndsIsWhole)
     EXPECT_EQ(told("Site.OnUIActivate"), told("Site.OnUIDeactivate"));
 }
 
+TEST_P(HostileActivation, thatEndsDoesNotTakeTheKeyboardAgain)
+{
+    control.start();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    once("Frame.SetActiveObject(none)", [&] { control.doVerb(OLEIVERB_UIACTIVATE); });
+    EXPECT_EQ(control.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(surfaceIn(form.window()), nullptr);
+    EXPECT_EQ(told("Site.OnUIActivate"), told("Site.OnUIDeactivate"));
+}
+
+TEST_P(HostileActivation, thatIsBegunWhileTheLastOneLosesTheKeyboardStays)
+{
+    control.start();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    once("Frame.SetActiveObject(none)", [&] {
+        control.as<IOleObject>()->Close(OLECLOSE_NOSAVE);
+        control.doVerb(OLEIVERB_UIACTIVATE);
+    });
+    EXPECT_EQ(control.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_NE(surfaceIn(form.window()), nullptr);
+    EXPECT_EQ(told("Site.OnUIActivate"), 2);
+    EXPECT_EQ(control.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(surfaceIn(form.window()), nullptr);
+    EXPECT_EQ(told("Site.OnUIDeactivate"), 2);
+    EXPECT_EQ(told("Site.OnInPlaceActivate"), told("Site.OnInPlaceDeactivate"));
+}
+
 TEST_P(HostileActivation, ofTheNextControlSurvivesSomebodyWhoDestroysTheWindowWhereWindowsWait)
 {
     control.start();

@@ -22,6 +22,7 @@ struct State {
     std::string title;
     std::vector<std::string> steps;
     ULONGLONG deadline = 0; ///< 0 for none
+    int runs = 0;
 };
 
 State& state()
@@ -99,6 +100,7 @@ void waitForHangs()
 void Journal::begin(std::string const& title)
 {
     std::scoped_lock const lock(state().mutex);
+    ++state().runs;
     state().title = title;
     state().steps.clear();
     state().deadline = ::GetTickCount64() + kLimit;
@@ -115,6 +117,8 @@ void Journal::end()
     std::scoped_lock const lock(state().mutex);
     state().deadline = 0;
 }
+
+int Journal::runs() { return state().runs; }
 
 std::string Journal::text()
 {

@@ -13,6 +13,8 @@ public:
     static void step(std::string const& text);
     /// No run goes on: nothing is awaited.
     static void end();
+    /// How many runs have begun.
+    static int runs();
     /// The run's title and its steps so far.
     static std::string text();
 

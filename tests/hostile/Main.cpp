@@ -67,6 +67,7 @@ int main(int argc, char** argv)
     quillet::hostile::Journal::watch();
     HRESULT const started = ::OleInitialize(nullptr);
     int const result = RUN_ALL_TESTS();
+    std::printf("hostile: %d runs\n", quillet::hostile::Journal::runs());
     if (SUCCEEDED(started))
         ::OleUninitialize();
     return result;
