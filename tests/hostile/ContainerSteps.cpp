@@ -123,9 +123,11 @@ void unadvise(World& world, Slot& slot)
 {
     if (auto const own = slot.as<IOleObject>())
         own->Unadvise(static_cast<DWORD>(below(world.random, 4)));
-    if (!slot.connections.empty())
-        slot.connections.erase(slot.connections.begin() +
-                               below(world.random, static_cast<int>(slot.connections.size())));
+    if (slot.connections.empty())
+        return;
+    auto const at = slot.connections.begin() + below(world.random, static_cast<int>(slot.connections.size()));
+    auto const leaving = std::move(*at); // cut when the list is in order again
+    slot.connections.erase(at);
 }
 
 void changeAmbient(World& world, Slot& slot)

@@ -7,7 +7,8 @@
 #include "kit/ByName.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
-#include "kit/Usage.h"
+
+#include <algorithm>
 
 namespace quillet::hostile {
 namespace {
@@ -88,6 +89,21 @@ TEST_P(HostileData, inAStreamIsTakenWholeOrRefused)
     });
     EXPECT_GT(refused, taken / 50);
     EXPECT_GT(taken, refused / 50);
+}
+
+TEST_P(HostileData, withAFontOfAnImpossibleSizeIsRefused)
+{
+    Target target;
+    kit::Bytes bytes = target.full;
+    kit::Bytes const tenPoints{0xA0, 0x86, 0x01, 0x00}; // as a saved font has them
+    auto const size = std::ranges::search(bytes, tenPoints).begin();
+    ASSERT_NE(size, bytes.end());
+    for (BYTE const high : kit::Bytes{0x19, 0x7F}) {
+        size[3] = high;
+        EXPECT_TRUE(FAILED(expectWholeLoad(target.life, target.other, [&] {
+            return target.life.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+        })));
+    }
 }
 
 TEST_P(HostileData, ofAnotherDamagedControlIsTakenWholeOrRefused)

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <numeric>
+#include <utility>
 
 namespace quillet::hostile {
 
@@ -74,6 +74,8 @@ World::~World()
 void World::create(Slot& slot)
 {
     drop(slot);
+    if (slot.control)
+        m_former.push_back(std::move(slot.control));
     slot.kind = &oneOf(random, kControls);
     slot.control = std::make_unique<kit::Hosted>(HostileTest::library(), slot.kind->classId, form, kPlace);
     slot.events = kit::make<kit::EventRecorder>(slot.kind->eventsId);
@@ -89,7 +91,7 @@ void World::drop(Slot& slot)
     if (!slot.control)
         return;
     slot.control->remove();
-    slot.connections.clear();
+    std::exchange(slot.connections, {}).clear();
 }
 
 void World::step()

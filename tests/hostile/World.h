@@ -59,6 +59,7 @@ public:
     void drop(Slot& slot);
 
 private:
+    std::vector<std::unique_ptr<kit::Hosted>> m_former; ///< one of their steps may still be running
     int m_depth = 0;
 };
 
