@@ -5,20 +5,11 @@
 #include "base/RunTimeError.h"
 #include "surface/Surface.h"
 
-#include <algorithm>
-
 namespace quillet {
 
 namespace {
 
 constexpr LONG kHimetricPerInch = 2540;
-
-/// From one edge to the other, also where that is more than a number holds.
-LONG lengthOf(LONG from, LONG to) noexcept
-{
-    constexpr LONGLONG kMost = 0x7FFFFFFF;
-    return static_cast<LONG>(std::clamp(LONGLONG{to} - from, -kMost, kMost));
-}
 
 /// The bytes of a picture of a size above 0. Some systems' own products overflow for one that is too large.
 DWORD bytesOf(SIZE size)
@@ -55,9 +46,9 @@ public:
     {
         ::GdiFlush(); // the bits are read directly
         ::SetStretchBltMode(target, COLORONCOLOR);
-        ::StretchDIBits(target, bounds.left, bounds.top, lengthOf(bounds.left, bounds.right),
-                        lengthOf(bounds.top, bounds.bottom), 0, 0, m_info.bmiHeader.biWidth,
-                        m_info.bmiHeader.biHeight, m_bits, &m_info, DIB_RGB_COLORS, SRCCOPY);
+        ::StretchDIBits(target, bounds.left, bounds.top, bounds.right - bounds.left,
+                        bounds.bottom - bounds.top, 0, 0, m_info.bmiHeader.biWidth, m_info.bmiHeader.biHeight,
+                        m_bits, &m_info, DIB_RGB_COLORS, SRCCOPY);
     }
 
 private:
@@ -72,6 +63,15 @@ void requireContent(DWORD aspect)
 {
     if (aspect != DVASPECT_CONTENT)
         throw RunTimeError(DV_E_DVASPECT);
+}
+
+/// GDI knows coordinates of 27 bits; some systems do not survive larger ones.
+void requireCoordinates(RECT const& bounds)
+{
+    constexpr LONG kMost = 0x7FFFFFF;
+    for (LONG const edge : {bounds.left, bounds.top, bounds.right, bounds.bottom})
+        if (edge < -kMost || edge > kMost)
+            throw RunTimeError(E_INVALIDARG);
 }
 
 LONG pixelsOf(LONG himetric, int perInch) noexcept { return ::MulDiv(himetric, perInch, kHimetricPerInch); }
@@ -181,11 +181,12 @@ SIZE View::naturalSize(RECT const& bounds)
                           pixelsOf(extent.cy, ::GetDeviceCaps(screen.get(), LOGPIXELSY))};
     if (natural.cx > 0 && natural.cy > 0)
         return natural;
-    return {::labs(lengthOf(bounds.left, bounds.right)), ::labs(lengthOf(bounds.top, bounds.bottom))};
+    return {::labs(bounds.right - bounds.left), ::labs(bounds.bottom - bounds.top)};
 }
 
 void View::drawInto(HDC dc, RECT const& bounds)
 {
+    requireCoordinates(bounds);
     // At its natural size, then stretched: on a printer the caption keeps its share of the button.
     SIZE const size = naturalSize(bounds);
     if (size.cx <= 0 || size.cy <= 0)

@@ -1,6 +1,7 @@
 // Containers that ask for pictures of impossible sizes.
 #include "HostileTest.h"
 #include "kit/Canvas.h"
+#include "kit/Hosted.h"
 
 #include <oleidl.h>
 
@@ -28,11 +29,27 @@ protected:
 };
 QV_ALL_CONTROLS(HostileDrawing);
 
+TEST_P(HostileDrawing, ofAShownControlInRectanglesBeyondAllMeasureIsRefusedOrDone)
+{
+    kit::FakeForm form;
+    kit::Hosted shown(library(), kind().classId, form, {0, 0, 60, 20});
+    shown.start();
+    kit::Canvas canvas(20, 20);
+    for (LONG const from : {LONG{0}, LONG{-0x07FFFFFF}, kLeast, kMost})
+        for (LONG const to : {LONG{0}, LONG{33000}, LONG{0x07FFFFFF}, LONG{0x08000000}, kMost, kLeast}) {
+            RECTL const bounds[] = {{from, 0, to, 20}, {0, from, 20, to}, {from, from, to, to}};
+            for (RECTL const& each : bounds)
+                shown.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(),
+                                              &each, nullptr, nullptr, 0);
+        }
+}
+
 TEST_P(HostileDrawing, inRectanglesBeyondAllMeasureIsRefusedOrDone)
 {
     kit::Canvas canvas(20, 20);
     // Lengths whose products and differences are no number, or 0.
-    constexpr LONG kEdges[] = {0, 1, -50, 60, 0x8000, 0x10000, 0x08000000, 0x40000000, kMost, kLeast};
+    constexpr LONG kEdges[] = {0,          1,          -50,        60,    0x8000, 0x10000,
+                               0x07FFFFFF, 0x08000000, 0x40000000, kMost, kLeast};
     for (LONG const left : {LONG{0}, LONG{60}, kMost, kLeast})
         for (LONG const right : kEdges)
             for (LONG const bottom : kEdges) {

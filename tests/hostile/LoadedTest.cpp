@@ -102,7 +102,7 @@ TEST_P(HostileData, withAFontOfAnImpossibleSizeIsRefused)
         size[3] = high;
         EXPECT_TRUE(FAILED(expectWholeLoad(target.life, target.other, [&] {
             return target.life.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
-        })));
+        }))) << int{high};
     }
 }
 
