@@ -35,13 +35,15 @@ TEST_P(HostileDrawing, ofAShownControlInRectanglesBeyondAllMeasureIsRefusedOrDon
     kit::Hosted shown(library(), kind().classId, form, {0, 0, 60, 20});
     shown.start();
     kit::Canvas canvas(20, 20);
-    for (LONG const from : {LONG{0}, LONG{-0x07FFFFFF}, kLeast, kMost})
-        for (LONG const to : {LONG{0}, LONG{33000}, LONG{0x07FFFFFF}, LONG{0x08000000}, kMost, kLeast}) {
-            RECTL const bounds[] = {{from, 0, to, 20}, {0, from, 20, to}, {from, from, to, to}};
-            for (RECTL const& each : bounds)
-                shown.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(),
-                                              &each, nullptr, nullptr, 0);
-        }
+    constexpr LONG kEdges[] = {0, 1, -50, 1300, 33000, -0x07FFFFFF, 0x07FFFFFF, 0x08000000, kMost, kLeast};
+    for (LONG const left : kEdges)
+        for (LONG const top : kEdges)
+            for (LONG const right : kEdges)
+                for (LONG const bottom : kEdges) {
+                    RECTL const bounds{left, top, right, bottom};
+                    shown.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                                                  canvas.dc(), &bounds, nullptr, nullptr, 0);
+                }
 }
 
 TEST_P(HostileDrawing, inRectanglesBeyondAllMeasureIsRefusedOrDone)

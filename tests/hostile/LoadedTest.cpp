@@ -98,12 +98,10 @@ TEST_P(HostileData, withAFontOfAnImpossibleSizeIsRefused)
     kit::Bytes const tenPoints{0xA0, 0x86, 0x01, 0x00}; // as a saved font has them
     auto const size = std::ranges::search(bytes, tenPoints).begin();
     ASSERT_NE(size, bytes.end());
-    for (BYTE const high : kit::Bytes{0x19, 0x7F}) {
-        size[3] = high;
-        EXPECT_TRUE(FAILED(expectWholeLoad(target.life, target.other, [&] {
-            return target.life.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
-        }))) << int{high};
-    }
+    size[3] = 0x19; // 42,000 points
+    EXPECT_TRUE(FAILED(expectWholeLoad(target.life, target.other, [&] {
+        return target.life.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+    })));
 }
 
 TEST_P(HostileData, ofAnotherDamagedControlIsTakenWholeOrRefused)
