@@ -7,12 +7,13 @@ namespace {
 
 constexpr int kSteps = 60;
 
-class HostileOrder : public HostileTest {};
+// Seeds of runs that crashed, left a window or told half of an activation before the component was mended.
+constexpr unsigned kOnceFailed[] = {29546998, 29547062, 29547174, 40000276, 50000180};
 
-TEST_F(HostileOrder, ofRandomCallsOnSeveralControlsIsLivedWith)
-{
-    for (int run = 0; run < options().runsOr(20); ++run) {
-        unsigned const seed = options().seed + static_cast<unsigned>(run);
+class HostileOrder : public HostileTest {
+protected:
+    static void run(unsigned seed)
+    {
         Journal::begin("a run of --seed=" + std::to_string(seed) + " --runs=1");
         {
             World world(seed);
@@ -20,6 +21,21 @@ TEST_F(HostileOrder, ofRandomCallsOnSeveralControlsIsLivedWith)
                 world.step();
         }
         expectNothingLeft();
+    }
+};
+
+TEST_F(HostileOrder, ofRandomCallsOnSeveralControlsIsLivedWith)
+{
+    for (int i = 0; i < options().runsOr(15); ++i) {
+        run(options().seed + static_cast<unsigned>(i));
+        ASSERT_FALSE(HasFailure()) << Journal::text();
+    }
+}
+
+TEST_F(HostileOrder, thatOnceFailedIsLivedWith)
+{
+    for (unsigned const seed : kOnceFailed) {
+        run(seed);
         ASSERT_FALSE(HasFailure()) << Journal::text();
     }
 }
