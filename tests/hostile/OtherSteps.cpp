@@ -37,7 +37,6 @@ void putProperty(World& world, Slot& slot)
         kit::invoke(*own.get(), kit::idOf(*own.get(), name), DISPATCH_PROPERTYPUTREF, {value});
 }
 
-/// A value that fits is there when it was accepted, unless somebody was called meanwhile.
 void putCaption(World& world, Slot& slot)
 {
     if (auto const own = slot.as<IDispatch>())

@@ -39,12 +39,10 @@ RECT anyRectangle(Random& random)
 
 HWND Slot::anyWindow(Random& random) const
 {
-    LONG number = 0;
     HWND window = nullptr;
     if (auto const own = as<IOleWindow>(); own && random() % 2)
         own->GetWindow(&window);
     HWND const inner = window ? ::GetWindow(window, GW_CHILD) : nullptr;
-    (void)number;
     return inner && random() % 2 ? inner : window;
 }
 
