@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench fuzz dist check clean
+.PHONY: help build test gallery bench soak fuzz hostile schemes dist check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -18,6 +18,15 @@ bench: ## speed and size, as ratios
 
 fuzz: ## malformed data for everything that reads it; MINUTES=5 each
 	@tools/fuzz $(MINUTES)
+
+soak: ## what 100,000 paints and 10,000 lives of each control leave behind
+	@tools/soak $(PAINTS) $(LIVES)
+
+hostile: ## the long form of one room of tests; RUNS=20000 for so many random runs, SEED=… to repeat them
+	@tools/hostile $(or $(RUNS),2000) $(SEED)
+
+schemes: ## tests and pictures at other resolutions and in a high-contrast scheme
+	@tools/schemes $(DPI)
 
 dist: ## out/dist/quillet-*.zip, what is shipped
 	@tools/dist

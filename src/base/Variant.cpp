@@ -21,7 +21,23 @@ namespace {
     }
 }
 
+/// The system follows a reference without looking.
+void requireTarget(VARIANT const& value)
+{
+    if (refersToNothing(value))
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+}
+
 } // namespace
+
+bool refersToNothing(VARIANT const& value) noexcept
+{
+    if (!(value.vt & VT_BYREF))
+        return false;
+    if (!value.byref)
+        return true;
+    return value.vt == (VT_VARIANT | VT_BYREF) && (value.pvarVal->vt & VT_BYREF) && !value.pvarVal->byref;
+}
 
 Variant::Variant(Variant const& other) : Variant()
 {
@@ -108,6 +124,7 @@ Variant Variant::ofFloatRef(float* target) noexcept
 
 Variant Variant::copyOf(VARIANT const& borrowed)
 {
+    requireTarget(borrowed);
     Variant result;
     HRESULT const copied = ::VariantCopyInd(&result.m_value, const_cast<VARIANT*>(&borrowed));
     if (FAILED(copied))
@@ -137,6 +154,7 @@ VARIANT Variant::detach() noexcept
 
 Variant Variant::convertedTo(VARTYPE type) const
 {
+    requireTarget(m_value);
     Variant result;
     HRESULT const changed = ::VariantChangeType(&result.m_value, const_cast<VARIANT*>(&m_value), 0, type);
     if (FAILED(changed))

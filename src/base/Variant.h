@@ -56,6 +56,9 @@ private:
     VARIANT m_value;
 };
 
+/// Whether a VARIANT is a reference without anything that it refers to, straight or by another VARIANT.
+bool refersToNothing(VARIANT const& value) noexcept;
+
 /// Reads a borrowed VARIANT as a 16-bit integer.
 inline short shortOf(VARIANT const& value) { return Variant::copyOf(value).toShort(); }
 

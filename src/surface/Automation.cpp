@@ -48,6 +48,16 @@ MemberName const* memberNamed(ControlClass const& controlClass, std::wstring_vie
     return nullptr;
 }
 
+/// The type information takes arguments as they come: what cannot be read is refused before.
+void requireReadable(DISPPARAMS const& arguments)
+{
+    if ((arguments.cArgs && !arguments.rgvarg) || (arguments.cNamedArgs && !arguments.rgdispidNamedArgs))
+        throw RunTimeError(E_INVALIDARG);
+    for (UINT i = 0; i < arguments.cArgs; ++i)
+        if (refersToNothing(arguments.rgvarg[i]))
+            throw RunTimeError(DISP_E_TYPEMISMATCH);
+}
+
 } // namespace
 
 ITypeInfo& TypeInfos::dispatchInfo(IID const& interfaceId)
@@ -107,7 +117,7 @@ HRESULT Automation::invoke(Surface& surface, IDispatch* dual, DISPID id, WORD ki
 {
     auto const alive = surface.keepAlive();
     return comCall([&] {
-        deref(arguments);
+        requireReadable(deref(arguments));
         // A container presses a default or cancel button by this identifier, which no library publishes.
         if (id == DISPID_DOCLICK && (kind & DISPATCH_METHOD)) {
             surface.doClick();

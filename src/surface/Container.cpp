@@ -5,9 +5,15 @@
 #include "surface/LateBound.h"
 #include "surface/StandardFont.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace quillet {
 
 namespace {
+
+/// No form has as many controls; a list that never ends must not take the memory.
+constexpr long kMostControls = 0x7FFF;
 
 /// The keys that a container reads with a key message: shift 1, control 2, alt 4.
 DWORD keyModifiers() noexcept
@@ -43,10 +49,11 @@ ComPtr<IDispatch> extenderOf(IUnknown* control) noexcept
 
 void Container::setSite(IOleClientSite* site) noexcept
 {
-    m_site = site;
-    m_controlSite = query<IOleControlSite>(site);
-    m_ambients = query<IDispatch>(site);
-    m_quickFont.reset();
+    // The old site goes last: it may call back in, and then finds the new one in every place.
+    auto const leaving = std::exchange(m_site, site);
+    auto const leavingControlSite = std::exchange(m_controlSite, query<IOleControlSite>(site));
+    auto const leavingAmbients = std::exchange(m_ambients, query<IDispatch>(site));
+    auto const leavingFont = std::exchange(m_quickFont, nullptr);
     m_quickUserMode = Variant();
 }
 
@@ -58,9 +65,10 @@ void Container::setQuickAmbients(QACONTAINER const& block) noexcept
 
 Variant Container::ambient(DISPID id) const noexcept
 {
-    if (!m_ambients)
+    auto const ambients = m_ambients; // kept to the end of the call, as the container may leave within it
+    if (!ambients)
         return {};
-    return orFallback(Variant(), [&] { return propertyById(m_ambients.get(), id); });
+    return orFallback(Variant(), [&] { return propertyById(ambients.get(), id); });
 }
 
 bool Container::userMode() const noexcept
@@ -85,8 +93,9 @@ ComPtr<IFont> Container::ambientFont() const
 
 ComPtr<IDispatch> Container::extender() const noexcept
 {
+    auto const site = m_controlSite;
     ComPtr<IDispatch> found;
-    if (!m_controlSite || FAILED(m_controlSite->GetExtendedControl(found.put())))
+    if (!site || FAILED(site->GetExtendedControl(found.put())))
         return {};
     return found;
 }
@@ -120,19 +129,21 @@ ComPtr<IUnknown> Container::activeControl() const noexcept
 std::vector<ComPtr<IUnknown>> Container::parentControls() const
 {
     std::vector<ComPtr<IUnknown>> found;
+    auto const site = m_site;
     ComPtr<IOleContainer> container;
     ComPtr<IEnumUnknown> objects;
-    if (m_site && SUCCEEDED(m_site->GetContainer(container.put())) && container &&
+    if (site && SUCCEEDED(site->GetContainer(container.put())) && container &&
         SUCCEEDED(container->EnumObjects(OLECONTF_EMBEDDINGS | OLECONTF_OTHERS, objects.put())) && objects) {
         ComPtr<IUnknown> object;
-        while (objects->Next(1, object.put(), nullptr) == S_OK)
+        while (found.size() < static_cast<size_t>(kMostControls) &&
+               objects->Next(1, object.put(), nullptr) == S_OK)
             found.push_back(object);
         return found;
     }
     ignoringErrors([&] {
         auto const parent = query<IDispatch>(requiredExtenderProperty(L"Parent").toObject().get());
         auto const controls = query<IDispatch>(propertyByName(parent.get(), L"Controls").toObject().get());
-        long const count = propertyByName(controls.get(), L"Count").toLong();
+        long const count = std::min(propertyByName(controls.get(), L"Count").toLong(), kMostControls);
         for (long index = 0; index < count; ++index)
             found.push_back(itemByIndex(controls.get(), index).toObject());
     });

@@ -4,6 +4,8 @@
 #include "base/Checked.h"
 #include "surface/Surface.h"
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -85,23 +87,35 @@ void InPlace::activate(Activation kind, Offer const& offer)
         activateKeyboard();
 }
 
+InPlace::Stage InPlace::stage(HWND offered) const
+{
+    ComPtr<IOleClientSite> const client = m_surface.container().site();
+    auto site = query<IOleInPlaceSite>(client.get());
+    // A site that cannot answer has not refused.
+    if (!site || site->CanInPlaceActivate() == S_FALSE)
+        throw RunTimeError(E_FAIL);
+    HWND parent = nullptr;
+    if (FAILED(site->GetWindow(&parent)) || !parent)
+        parent = offered;
+    // A container may take the control out of the site while it is asked.
+    if (!parent || client.get() != m_surface.container().site())
+        throw RunTimeError(E_FAIL);
+    return {std::move(site), parent};
+}
+
 void InPlace::activateVisibly(Offer const& offer)
 {
     if (m_active) {
         m_surface.window().show();
         return;
     }
-    auto const site = query<IOleInPlaceSite>(m_surface.container().site());
-    // A site that cannot answer has not refused.
-    if (!site || site->CanInPlaceActivate() == S_FALSE)
-        throw RunTimeError(E_FAIL);
-    HWND parent = nullptr;
-    if (FAILED(site->GetWindow(&parent)) || !parent)
-        parent = offer.parent;
-    if (!parent)
-        throw RunTimeError(E_FAIL);
-
+    auto const [site, parent] = stage(offer.parent);
+    if (m_active) { // the container did it while it was asked
+        m_surface.window().show();
+        return;
+    }
     m_active = true;
+    ++m_activation;
     m_site = site;
     site->OnInPlaceActivate();
 
@@ -112,8 +126,8 @@ void InPlace::activateVisibly(Offer const& offer)
     ComPtr<IOleInPlaceFrame> frame;
     ComPtr<IOleInPlaceUIWindow> document;
     bool const answered =
-        SUCCEEDED(site->GetWindowContext(frame.put(), document.put(), &given, &clip, &info));
-    if (!m_active) // the container closed the control meanwhile
+        isIn(site) && SUCCEEDED(site->GetWindowContext(frame.put(), document.put(), &given, &clip, &info));
+    if (!isIn(site)) // the container closed the control meanwhile, or moved it elsewhere
         return;
     if (answered) {
         m_frame = frame;
@@ -123,14 +137,15 @@ void InPlace::activateVisibly(Offer const& offer)
         given = *offer.position;
     m_position = given;
     m_surface.window().attach(parent, hasSize(clip) ? &clip : nullptr);
-    m_surface.window().show();
-    if (ComPtr<IOleClientSite> const client = m_surface.container().site(); client && m_active)
+    if (isIn(site))
+        m_surface.window().show();
+    if (ComPtr<IOleClientSite> const client = m_surface.container().site(); client && isIn(site))
         client->ShowObject();
 }
 
 void InPlace::activateKeyboard()
 {
-    if (!m_keyboard) {
+    if (!m_keyboard && !m_leaving) {
         m_keyboard = true;
         auto const site = m_site;
         site->OnUIActivate();
@@ -176,17 +191,22 @@ void InPlace::leave(WindowThen then) noexcept
 {
     if (!m_active)
         return;
+    unsigned const activation = m_activation;
+    m_leaving = true;
     leaveKeyboard();
-    if (!m_active)
+    m_leaving = false;
+    if (!m_active || activation != m_activation) // the container has ended it meanwhile, or begun another
         return;
+    // Nothing is left of this activation when the window goes: its messages may begin the next one.
     m_active = false;
+    auto const site = std::exchange(m_site, nullptr);
+    m_frame.reset();
+    m_document.reset();
     if (then == WindowThen::Parked)
         m_surface.window().park();
     else
         m_surface.window().destroy();
-    m_frame.reset();
-    m_document.reset();
-    if (auto const site = std::move(m_site))
+    if (site)
         site->OnInPlaceDeactivate();
 }
 

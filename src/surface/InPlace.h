@@ -56,6 +56,15 @@ public:
     RECT const& position() const noexcept { return m_position; }
 
 private:
+    /// A site that lets the control be activated, and the window to be in.
+    struct Stage {
+        ComPtr<IOleInPlaceSite> site;
+        HWND parent;
+    };
+    /// Asks the container. Throws where it refuses, or has no window and none was offered.
+    Stage stage(HWND offered) const;
+    /// Whether the control is active in that site, still or again.
+    bool isIn(ComPtr<IOleInPlaceSite> const& site) const noexcept { return m_site.get() == site.get(); }
     void activateVisibly(Offer const& offer);
     void activateKeyboard();
     void leaveKeyboard() noexcept;
@@ -64,8 +73,10 @@ private:
     ComPtr<IOleInPlaceSite> m_site; ///< while active
     ComPtr<IOleInPlaceFrame> m_frame;
     ComPtr<IOleInPlaceUIWindow> m_document;
-    bool m_active = false;   ///< shown in the container's window
-    bool m_keyboard = false; ///< UI-active
+    bool m_active = false;     ///< shown in the container's window
+    bool m_keyboard = false;   ///< UI-active
+    bool m_leaving = false;    ///< the keyboard is not taken again by an activation that ends
+    unsigned m_activation = 0; ///< tells one activation from the next
     RECT m_position = {};
 };
 

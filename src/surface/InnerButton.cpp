@@ -110,12 +110,17 @@ void InnerButton::destroy() noexcept
 {
     if (!m_window)
         return;
-    // From here on messages find no button: they must not reach a control that is going.
+    ::DestroyWindow(forget());
+}
+
+/// From here on messages find no button: they must not reach a control that is going, or has another window.
+HWND InnerButton::forget() noexcept
+{
     HWND const window = std::exchange(m_window, nullptr);
     m_focused = false;
     ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
                         0);
-    ::DestroyWindow(window);
+    return window;
 }
 
 void InnerButton::setCaption(std::wstring_view caption)

@@ -68,6 +68,7 @@ private:
     static void registerClass(WNDCLASSEXW description);
 
     void create(HWND parent);
+    HWND forget() noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOnUnseen(UINT message, WPARAM wParam, LPARAM lParam);

@@ -139,8 +139,7 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return passOnUnseen(message, wParam, lParam);
     case WM_NCDESTROY: {
         LRESULT const result = passOn(message, wParam, lParam);
-        m_window = nullptr;
-        m_focused = false;
+        forget();
         return result;
     }
     default:

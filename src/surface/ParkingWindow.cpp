@@ -10,17 +10,28 @@
 
 namespace quillet {
 
-HWND enterParking()
+namespace {
+
+/// The thread's window, made again when somebody destroyed it.
+HWND madeParkingWindow(ThreadState& state)
 {
-    ThreadState& state = threadState();
     // A plain system class: the window does nothing but be a parent.
-    if (!state.parkingWindow)
+    if (!::IsWindow(state.parkingWindow))
         state.parkingWindow = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, "Static", nullptr, WS_POPUP, 0, 0, 0, 0,
                                                 nullptr, nullptr, moduleInstance(), nullptr);
     if (!state.parkingWindow)
         throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
-    ++state.surfaces;
     return state.parkingWindow;
+}
+
+} // namespace
+
+HWND enterParking()
+{
+    ThreadState& state = threadState();
+    HWND const window = madeParkingWindow(state);
+    ++state.surfaces;
+    return window;
 }
 
 void leaveParking() noexcept
@@ -32,6 +43,6 @@ void leaveParking() noexcept
     });
 }
 
-HWND parkingWindow() { return threadState().parkingWindow; }
+HWND parkingWindow() { return madeParkingWindow(threadState()); }
 
 } // namespace quillet

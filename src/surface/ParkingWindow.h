@@ -10,7 +10,7 @@ HWND enterParking();
 /// Leaves them; the last one takes the parking window along.
 void leaveParking() noexcept;
 
-/// The calling thread's parking window; null when no surface has a window.
+/// The calling thread's parking window, made again if somebody destroyed it. For a surface that has joined.
 HWND parkingWindow();
 
 } // namespace quillet

@@ -1,6 +1,8 @@
 // A control's properties as rows: the types of each kind.
 #include "surface/PropertyTable.h"
 
+#include "surface/StandardFont.h"
+
 namespace quillet {
 
 namespace {
@@ -12,11 +14,17 @@ struct KindRow {
 };
 
 constexpr KindRow kKinds[] = {
-    {PropertyKind::Colour, VT_I4, VT_I4},          {PropertyKind::Flag, VT_BOOL, VT_BOOL},
-    {PropertyKind::FlagAsInteger, VT_BOOL, VT_I2}, {PropertyKind::Integer, VT_I2, VT_I2},
-    {PropertyKind::Number, VT_I4, VT_I4},          {PropertyKind::Style, VT_I4, VT_I2},
-    {PropertyKind::State, VT_I2, VT_I2},           {PropertyKind::Text, VT_BSTR, VT_BSTR},
-    {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},  {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
+    {PropertyKind::Colour, VT_I4, VT_I4},
+    {PropertyKind::Flag, VT_BOOL, VT_BOOL},
+    {PropertyKind::FlagAsInteger, VT_BOOL, VT_I2},
+    {PropertyKind::Integer, VT_I2, VT_I2},
+    {PropertyKind::Number, VT_I4, VT_I4},
+    {PropertyKind::Style, VT_I4, VT_I2},
+    {PropertyKind::State, VT_I2, VT_I2},
+    {PropertyKind::Text, VT_BSTR, VT_BSTR},
+    {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},
+    {PropertyKind::OwnFont, VT_UNKNOWN, VT_UNKNOWN},
+    {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
 };
 
 KindRow const& rowOf(PropertyKind kind) noexcept
@@ -27,14 +35,30 @@ KindRow const& rowOf(PropertyKind kind) noexcept
     __builtin_unreachable();
 }
 
-/// A font that is not there is an error; a picture may be missing.
-void requireObjectOfKind(PropertyKind kind, IUnknown* object)
+/// Whether an object is what a property of that kind holds and hands out, and can be saved.
+bool isOfKind(PropertyKind kind, IUnknown* object) noexcept
 {
-    bool const isFont = kind == PropertyKind::Font;
-    if (!object && isFont)
+    bool const fits = isFont(kind) ? query<IFont>(object) && query<IFontDisp>(object)
+                                   : query<IPicture>(object) && query<IPictureDisp>(object);
+    return fits && query<IPersistStream>(object);
+}
+
+/// A font or picture as its property keeps it; everything that can go wrong with the object goes wrong here.
+/// A font that is not there is an error; a picture may be missing.
+Variant convertedObject(PropertyKind kind, IUnknown* object)
+{
+    if (!object && isFont(kind))
         throw RunTimeError(ErrorNumber::ObjectNotSet);
-    if (object && !query<IUnknown>(object, isFont ? IID_IFont : IID_IPicture))
+    if (!object)
+        return Variant::ofUnknown(nullptr);
+    if (!isOfKind(kind, object))
         throw RunTimeError(ErrorNumber::TypeMismatch);
+    if (kind != PropertyKind::OwnFont)
+        return Variant::ofUnknown(object);
+    auto const own = copyOfFont(object);
+    if (!own)
+        throw RunTimeError(ErrorNumber::TypeMismatch);
+    return Variant::ofUnknown(own.get());
 }
 
 /// Colours with the top bit set come as negative, as unsigned and as text of either.
@@ -68,9 +92,7 @@ Variant convertedProperty(PropertyKind kind, Variant const& value)
         return convertedState(value);
     if (keptType(kind) != VT_UNKNOWN)
         return value.type() == keptType(kind) ? value : value.convertedTo(keptType(kind));
-    auto const object = value.toObject();
-    requireObjectOfKind(kind, object.get());
-    return Variant::ofUnknown(object.get());
+    return convertedObject(kind, value.toObject().get());
 }
 
 Variant savedProperty(PropertyKind kind, Variant const& kept)

@@ -28,10 +28,15 @@ enum class PropertyKind {
     Style,         ///< kept in 32 bits, saved in 16 where it fits
     State,         ///< of a check box: 16 bits, and only 0, 1 and 2
     Text,
-    Font,
+    Font,    ///< the object that was given
+    OwnFont, ///< a copy of it
     Picture,
 };
 
+constexpr bool isFont(PropertyKind kind) noexcept
+{
+    return kind == PropertyKind::Font || kind == PropertyKind::OwnFont;
+}
 VARTYPE keptType(PropertyKind kind) noexcept;
 VARTYPE savedType(PropertyKind kind) noexcept;
 
@@ -110,7 +115,7 @@ template <class Control> struct SurfaceAccess {
         [](Control& c, Variant const& v) { c.setEnabled(v.toBool()); }};
     static constexpr PropertyAccess<Control> kFont = {
         [](Control const& c) { return Variant::ofUnknown(c.font()); },
-        [](Control& c, Variant const& v) { c.setFont(v.toObject().get()); }};
+        [](Control& c, Variant const& v) { c.setFont(query<IFont>(v.toObject().get())); }};
     static constexpr PropertyAccess<Control> kMousePointer = {
         [](Control const& c) { return fieldValue(c.mousePointer()); },
         [](Control& c, Variant const& v) { c.setMousePointer(v.toShort()); }};
@@ -141,23 +146,14 @@ public:
     /// that does not convert changes nothing.
     void put(Control& control, Row const& row, Variant const& value) const
     {
-        Variant const converted = convertedProperty(row.kind, value);
-        if (!row.assign)
-            row.access.set(control, converted);
-        else if (!row.assign(control, converted))
-            return;
-        control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
-        if (row.repaint == Repaint::AfterMeasuring)
-            control.onMeasure();
-        if (row.repaint == Repaint::Yes || row.repaint == Repaint::AfterMeasuring)
-            control.repaint();
+        assign(control, row, convertedProperty(row.kind, value));
     }
 
     /// The values of a new control, fonts first; they are the container's.
     void init(Control& control) const
     {
         for (Row const& row : m_rows)
-            if (row.kind == PropertyKind::Font)
+            if (isFont(row.kind))
                 storeObject(control, row, fallbackOf(control, row));
         setDefaults(control, m_rows);
     }
@@ -214,6 +210,19 @@ public:
     }
 
 private:
+    /// What the setter does once its value is converted.
+    void assign(Control& control, Row const& row, Variant const& converted) const
+    {
+        if (!row.assign)
+            row.access.set(control, converted);
+        else if (!row.assign(control, converted))
+            return;
+        control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
+        if (row.repaint == Repaint::AfterMeasuring)
+            control.onMeasure();
+        if (row.repaint == Repaint::Yes || row.repaint == Repaint::AfterMeasuring)
+            control.repaint();
+    }
     static void setDefaults(Control& control, std::span<Row const> rows)
     {
         for (Row const& row : rows)
@@ -223,13 +232,13 @@ private:
     void storeObject(Control& control, Row const& row, Variant const& value) const
     {
         if (m_objects == LoadedObjects::ThroughSetters)
-            put(control, row, value);
+            assign(control, row, value);
         else
             row.access.set(control, value);
     }
     static Variant fallbackOf(Control const& control, Row const& row)
     {
-        if (row.kind == PropertyKind::Font)
+        if (isFont(row.kind)) // the container's, already a copy
             return Variant::ofUnknown(control.container().ambientFont().get());
         if (row.kind == PropertyKind::Text)
             return Variant::ofString(row.fallbackText);

@@ -10,6 +10,8 @@
 
 #include <objidl.h>
 
+#include <cstdlib>
+
 namespace quillet {
 
 namespace {
@@ -61,6 +63,15 @@ SavedObject::Kind kindOf(IUnknown* object)
     throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
+/// No honest form has larger letters; drawing those of a forged size takes some systems minutes.
+bool hasHonestSize(IUnknown* object)
+{
+    constexpr LONGLONG kMostPoints = 2160;
+    auto const font = query<IFont>(object);
+    CY size = {};
+    return !font || (SUCCEEDED(font->get_Size(&size)) && std::abs(size.int64) <= kMostPoints * 10000);
+}
+
 } // namespace
 
 SavedObject savedObjectOf(IUnknown* object)
@@ -86,7 +97,7 @@ ComPtr<IUnknown> objectOf(SavedObject const& saved)
     check(stream->Write(saved.bytes.data(), static_cast<ULONG>(saved.bytes.size()), nullptr));
     rewind(*stream.get());
     auto const persist = object.as<IPersistStream>();
-    if (!persist || FAILED(persist->Load(stream.get())))
+    if (!persist || FAILED(persist->Load(stream.get())) || !hasHonestSize(object.get()))
         throw RunTimeError(E_FAIL);
     return object;
 }

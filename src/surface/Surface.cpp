@@ -127,16 +127,6 @@ void Surface::setMouseIcon(IUnknown* picture)
     m_mouseIcon = std::move(taken);
 }
 
-void Surface::setFont(IUnknown* font)
-{
-    if (!font)
-        throw RunTimeError(ErrorNumber::ObjectNotSet);
-    auto own = copyOfFont(font);
-    if (!own)
-        throw RunTimeError(ErrorNumber::TypeMismatch);
-    m_font.set(std::move(own));
-}
-
 void Surface::setWidth(long twips)
 {
     if (m_container.putExtenderProperty(L"Width", Variant::ofFloat(static_cast<float>(twips))))

@@ -101,8 +101,8 @@ public:
     void setEnabled(bool enabled) noexcept;
     void setMousePointer(short pointer) noexcept { m_mousePointer = pointer; }
     void setMouseIcon(IUnknown* picture);
-    /// Takes a copy of the font as its own. ObjectNotSet for none, TypeMismatch for what is no font.
-    void setFont(IUnknown* font);
+    /// Takes the font over: nobody else has it.
+    void setFont(ComPtr<IFont> own) noexcept { m_font.set(std::move(own)); }
 
     /// Asks the container for another width, in twips: by its extender, or where there is none by its site;
     /// before activation the control's own extent changes.

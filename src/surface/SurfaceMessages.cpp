@@ -107,6 +107,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     }
     case WM_NCDESTROY: { // somebody destroyed a window above this one
+        // Its last message to us, also where somebody made it up: the next window must not hear of its end.
+        ::SetWindowLongPtrA(m_window, 0, 0);
         LRESULT const result = passOn(message, wParam, lParam);
         lost();
         return result;

@@ -114,7 +114,10 @@ void SurfaceWindow::park() noexcept
     if (!m_window)
         return;
     ::ShowWindow(m_window, SW_HIDE);
-    ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
+    if (m_surface.inPlace().isActive()) // again, by what hiding led to
+        ignoringErrors([&] { show(); });
+    else if (m_window)
+        ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
 }
 
 void SurfaceWindow::move(RECT const* clip)

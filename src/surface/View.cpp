@@ -11,6 +11,15 @@ namespace {
 
 constexpr LONG kHimetricPerInch = 2540;
 
+/// The bytes of a picture of a size above 0. Some systems' own products overflow for one that is too large.
+DWORD bytesOf(SIZE size)
+{
+    constexpr LONG kMost = 0x7FFFFFFF;
+    if (size.cx > kMost / 4 / size.cy)
+        throw RunTimeError(E_OUTOFMEMORY);
+    return static_cast<DWORD>(size.cx) * static_cast<DWORD>(size.cy) * 4;
+}
+
 /// A bitmap whose bits can be played into any DC, with a memory DC that draws on it.
 class PictureDc {
 public:
@@ -22,7 +31,7 @@ public:
         m_info.bmiHeader.biPlanes = 1;
         m_info.bmiHeader.biBitCount = 32;
         // A metafile copies so many bytes of the picture, and nothing for 0.
-        m_info.bmiHeader.biSizeImage = static_cast<DWORD>(size.cx) * static_cast<DWORD>(size.cy) * 4;
+        m_info.bmiHeader.biSizeImage = bytesOf(size);
         m_bitmap.reset(::CreateDIBSection(m_dc.get(), &m_info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
         if (!m_dc || !m_bitmap)
             throw RunTimeError(E_OUTOFMEMORY);
@@ -54,6 +63,15 @@ void requireContent(DWORD aspect)
 {
     if (aspect != DVASPECT_CONTENT)
         throw RunTimeError(DV_E_DVASPECT);
+}
+
+/// GDI knows coordinates of 27 bits; some systems do not survive larger ones.
+void requireCoordinates(RECT const& bounds)
+{
+    constexpr LONG kMost = 0x7FFFFFF;
+    for (LONG const edge : {bounds.left, bounds.top, bounds.right, bounds.bottom})
+        if (edge < -kMost || edge > kMost)
+            throw RunTimeError(E_INVALIDARG);
 }
 
 LONG pixelsOf(LONG himetric, int perInch) noexcept { return ::MulDiv(himetric, perInch, kHimetricPerInch); }
@@ -168,6 +186,7 @@ SIZE View::naturalSize(RECT const& bounds)
 
 void View::drawInto(HDC dc, RECT const& bounds)
 {
+    requireCoordinates(bounds);
     // At its natural size, then stretched: on a printer the caption keeps its share of the button.
     SIZE const size = naturalSize(bounds);
     if (size.cx <= 0 || size.cy <= 0)

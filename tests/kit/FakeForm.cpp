@@ -105,8 +105,8 @@ FakeForm::FakeForm(int width, int height)
     m_controls->provide(
         L"Count", [this](Variant const&) { return Variant::ofLong(static_cast<long>(m_sites.size())); });
     m_controls->provide(L"Item", [this](Variant const& index) {
-        FakeSite& site = *m_sites.at(static_cast<size_t>(index.toLong()));
-        return Variant::ofDispatch(&site.extender());
+        auto const at = static_cast<size_t>(index.toLong());
+        return at < m_sites.size() ? Variant::ofDispatch(&m_sites[at]->extender()) : Variant();
     });
 }
 

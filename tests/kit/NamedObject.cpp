@@ -101,17 +101,23 @@ STDMETHODIMP NamedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCI
 STDMETHODIMP NamedObject::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
                                  EXCEPINFO*, UINT*)
 {
-    Property* const property = find(id);
+    ComPtr<IUnknown> const alive(unknown());
+    Property* property = find(id);
     if (!property || !arguments)
         return DISP_E_MEMBERNOTFOUND;
-    if (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF))
-        return write(*property, *arguments);
-    return read(*property, *arguments, result);
+    bool const writes = kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+    if (writes && arguments->cArgs != 1)
+        return DISP_E_BADPARAMCOUNT;
+    std::string const called = m_who + '.' + narrow(property->name);
+    m_record->note(writes ? called + " = " + textOf(Variant::copyOf(arguments->rgvarg[0])) : called);
+    property = find(id); // what hears of the call may have taken the property away
+    if (!property)
+        return DISP_E_MEMBERNOTFOUND;
+    return writes ? write(*property, *arguments) : read(*property, *arguments, result);
 }
 
-HRESULT NamedObject::read(Property& property, DISPPARAMS const& arguments, VARIANT* result)
+HRESULT NamedObject::read(Property const& property, DISPPARAMS const& arguments, VARIANT* result)
 {
-    m_record->note(m_who + '.' + narrow(property.name));
     if (FAILED(property.failure))
         return property.failure;
     Variant const argument = arguments.cArgs ? Variant::copyOf(arguments.rgvarg[0]) : Variant();
@@ -123,10 +129,7 @@ HRESULT NamedObject::read(Property& property, DISPPARAMS const& arguments, VARIA
 
 HRESULT NamedObject::write(Property& property, DISPPARAMS const& arguments)
 {
-    if (arguments.cArgs != 1)
-        return DISP_E_BADPARAMCOUNT;
     Variant const value = Variant::copyOf(arguments.rgvarg[0]);
-    m_record->note(m_who + '.' + narrow(property.name) + " = " + textOf(value));
     if (FAILED(property.failure))
         return property.failure;
     property.value = value;

@@ -53,7 +53,7 @@ private:
     Property& propertyNamed(std::wstring const& name);
     Property* find(std::wstring const& name);
     Property* find(DISPID id);
-    HRESULT read(Property& property, DISPPARAMS const& arguments, VARIANT* result);
+    HRESULT read(Property const& property, DISPPARAMS const& arguments, VARIANT* result);
     HRESULT write(Property& property, DISPPARAMS const& arguments);
 
     std::string m_who;

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -17,7 +18,15 @@ namespace quillet::kit {
 /// A call is noted as "Who.Method" or "Who.Method(details)"; answers are set by "Who.Method".
 class Record {
 public:
-    void note(std::string call) { m_calls.push_back(std::move(call)); }
+    void note(std::string const& call)
+    {
+        m_calls.push_back(call);
+        if (auto const run = whenNoted)
+            run(call);
+    }
+    /// Runs inside every call, before it is answered: what a counterpart does when it is asked.
+    std::function<void(std::string const&)> whenNoted;
+
     std::vector<std::string> const& calls() const noexcept { return m_calls; }
     /// The calls since the last time, forgotten from here on.
     std::vector<std::string> take() { return std::exchange(m_calls, {}); }

@@ -52,7 +52,7 @@ constexpr Row kRows[] = {
     {L"BackColor",          id::BackColor,          Kind::Colour,  kButtonFace,   Held::kBackColor,                   Saved::Yes, kAsSurface, Repaint::Yes},
     {L"ForeColor",          id::ForeColor,          Kind::Colour,  kButtonText,   Held::kForeColor,                   Saved::Yes, kAsSurface, Repaint::Yes},
     {L"Enabled",            id::Enabled,            Kind::Flag,    true,          Held::kEnabled,                     Saved::Yes, kAsSurface, Repaint::Yes},
-    {L"Font",               id::Font,               Kind::Font,    0,             Held::kFont,                        Saved::Yes, kAsSurface, Repaint::Yes},
+    {L"Font",               id::Font,               Kind::OwnFont, 0,             Held::kFont,                        Saved::Yes, kAsSurface, Repaint::Yes},
     {L"BorderStyle",        id::BorderStyle,        Kind::Style,   1,             kField<&Looks::borderStyle>,        Saved::Yes, kNew,       Repaint::Yes},
     {L"BorderColor",        id::BorderColor,        Kind::Colour,  k3dDarkShadow, kField<&Looks::borderColor>,        Saved::Yes, kNew,       Repaint::Yes},
     {L"HotForeColor",       id::HotForeColor,       Kind::Colour,  k3dHighlight,  kField<&Looks::hotForeColor>,       Saved::Yes, kNew,       Repaint::No},

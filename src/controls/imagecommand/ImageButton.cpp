@@ -23,7 +23,7 @@ ImageButton::ImageButton(ImageButtonKind const& kind, IUnknown* outer)
 
 void ImageButton::onInitProperties()
 {
-    setFont(container().ambientFont().get());
+    setFont(container().ambientFont());
     properties().setDefaults(*this, Part::Through, id::ShowFocusRectangle);
     ignoringErrors([&] { repaint(); });
     properties().setDefaults(*this, Part::After, id::ShowFocusRectangle);

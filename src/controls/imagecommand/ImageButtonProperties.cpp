@@ -109,7 +109,7 @@ constexpr auto kRows = std::to_array<Row>({
     {L"BackColor",                id::BackColor,                Kind::Colour,  kFace,        Held::kBackColor,                         kSaved, kAsSurface, kPaint},
     {L"ForeColor",                id::ForeColor,                Kind::Colour,  kText,        Held::kForeColor,                         kSaved, kAsSurface, kPaint},
     {L"Enabled",                  id::Enabled,                  Kind::Flag,    true,         Held::kEnabled,                           kSaved, kAsSurface, kPaint},
-    {L"Font",                     id::Font,                     Kind::Font,    0,            Held::kFont,                              kSaved, kAsSurface, kMeasure},
+    {L"Font",                     id::Font,                     Kind::OwnFont, 0,            Held::kFont,                              kSaved, kAsSurface, kMeasure},
     {L"BorderStyle",              id::BorderStyle,              Kind::Style,   1,            kField<&Looks::borderStyle>,              kSaved, kNew, kMeasure},
     {L"LightBorderColor",         id::LightBorderColor,         Kind::Colour,  kDark,        kField<&Looks::lightBorderColor>,         kSaved, kNew, kPaint},
     {L"HotForeColor",             id::HotForeColor,             Kind::Colour,  k3dHighlight, kField<&Looks::hotForeColor>,             kSaved, kNew, kQuiet},

@@ -31,7 +31,7 @@ struct InnerAccess {
         }};
     static constexpr Access kFont = {[](Control const& c) { return Variant::ofUnknown(c.font()); },
                                      [](Control& c, Variant const& v) {
-                                         c.setFont(v.toObject().get());
+                                         c.setFont(query<IFont>(v.toObject().get()));
                                          c.innerButton().fontChanged();
                                      }};
     static constexpr Access kCaption = {
@@ -69,7 +69,7 @@ constexpr OptionCheckRows optionCheckRows(OptionCheckDifferences const& own)
     return {{
         {L"ForeColor",    DISPID_UNKNOWN,   Kind::Colour,  kButtonText, own.readForeColor,    Saved::Yes,          kNew,       Repaint::No},
         {L"Enabled",      id::Enabled,      Kind::Flag,    true,        Held::kEnabled,       Saved::Yes,          kAsLaidOut, Repaint::Yes},
-        {L"Font",         id::Font,         Kind::Font,    0,           Inner::kFont,         Saved::Yes,          kAsLaidOut, Repaint::ByItself},
+        {L"Font",         id::Font,         Kind::OwnFont, 0,           Inner::kFont,         Saved::Yes,          kAsLaidOut, Repaint::ByItself},
         {L"Caption",      id::Caption,      Kind::Text,    0,           Inner::kCaption,      Saved::Yes,          kAsLaidOut, Repaint::ByItself, nullptr, own.caption},
         {L"Value",        id::Value,        own.valueKind, 0,           own.value,            Saved::Yes,          kAsLaidOut, Repaint::Yes},
         {L"HotForeColor", id::HotForeColor, Kind::Colour,  kButtonText, Inner::kHotForeColor, Saved::Yes,          kNew,       Repaint::Yes},

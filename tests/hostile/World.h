@@ -1,0 +1,80 @@
+// Several controls alive at once on one form, and the steps that a generator takes them through.
+#pragma once
+
+#include "Controls.h"
+#include "kit/FakeForm.h"
+#include "kit/Hosted.h"
+#include "kit/Sinks.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <random>
+#include <vector>
+
+namespace quillet::hostile {
+
+using Random = std::mt19937;
+
+/// A number from 0 up to, but without, the end.
+inline int below(Random& random, int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
+template <class Row, size_t count> Row const& oneOf(Random& random, Row const (&rows)[count])
+{
+    return rows[below(random, static_cast<int>(count))];
+}
+
+/// A place for one control, which may be there or not.
+struct Slot {
+    ControlKind const* kind = nullptr;
+    std::unique_ptr<kit::Hosted> control;
+    ComPtr<kit::EventRecorder> events;
+    ComPtr<kit::ChangeRecorder> changes;
+    ComPtr<kit::ViewRecorder> views;
+    std::vector<std::unique_ptr<kit::Connection>> connections;
+
+    template <class T> ComPtr<T> as() const { return control ? control->as<T>() : ComPtr<T>(); }
+    /// The control's window in the form or the one inside it, whatever there is.
+    HWND anyWindow(Random& random) const;
+};
+
+class World {
+public:
+    explicit World(unsigned seed);
+    ~World();
+    World(World const&) = delete;
+    World& operator=(World const&) = delete;
+
+    kit::FakeForm form;
+    kit::FakeForm otherForm;
+    ComPtr<kit::FakeSite> otherSite;
+    Random random;
+    std::array<Slot, 4> slots;
+
+    /// One step of the tables with one of the controls.
+    void step();
+    /// From a counterpart, in the middle of a call of a control's: now and then one more step.
+    void called();
+
+    void create(Slot& slot);
+    void drop(Slot& slot);
+
+private:
+    std::vector<std::unique_ptr<kit::Hosted>> m_former; ///< one of their steps may still be running
+    int m_depth = 0;
+};
+
+struct Step {
+    char const* name;
+    int weight;
+    void (*run)(World&, Slot&);
+};
+
+/// What containers call.
+std::vector<Step> const& containerSteps();
+/// What scripts, windows and nobody in his right mind call.
+std::vector<Step> const& otherSteps();
+
+/// A rectangle of any size, small ones mostly.
+RECT anyRectangle(Random& random);
+
+} // namespace quillet::hostile
