@@ -1,4 +1,4 @@
-// What one button holds while it is shown: memory, windows, handles.
+// What one button holds while it is shown: memory and windows.
 #include "bench/Bench.h"
 #include "bench/CrowdedForm.h"
 #include "bench/SystemButtons.h"
@@ -14,7 +14,6 @@ namespace {
 struct Held {
     double bytes;
     double windows;
-    double gdi;
 };
 
 /// What so many objects hold, for one of them.
@@ -26,8 +25,7 @@ Held heldBy(int count, std::function<void()> const& make)
     kit::pumpPending();
     auto const after = kit::Usage::now();
     auto const each = [count](auto more) { return static_cast<double>(more) / count; };
-    return {each(after.bytes - before.bytes), each(after.windows - before.windows),
-            each(after.gdi - before.gdi)};
+    return {each(after.bytes - before.bytes), each(after.windows - before.windows)};
 }
 
 std::string rounded(double value) { return std::to_string(static_cast<long>(value + 0.5)); }
@@ -44,7 +42,6 @@ Rows measureFootprint(kit::Library const& library, Effort effort)
     return {
         {"heap bytes of one button", rounded(ours.bytes), rounded(theirs.bytes), "–", "–"},
         {"windows of one button", rounded(ours.windows), rounded(theirs.windows), "–", "–"},
-        {"GDI places of one button", rounded(ours.gdi), rounded(theirs.gdi), "–", "–"},
     };
 }
 
