@@ -19,11 +19,19 @@ FontObject::FontObject(FONTDESC const& description)
     ++s_living;
 }
 
+FontObject::FontObject(FontObject const& other)
+    : m_name(other.m_name), m_size(other.m_size), m_weight(other.m_weight), m_charset(other.m_charset),
+      m_italic(other.m_italic), m_underline(other.m_underline), m_strike(other.m_strike),
+      m_bytes(other.m_bytes)
+{
+    ++s_living;
+}
+
 HRESULT STDMETHODCALLTYPE FontObject::QueryInterface(REFIID iid, void** out)
 {
     *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IFont ||
-        iid == IID_IDispatch) // late-bound calls come to nothing here
+    if (iid == IID_IUnknown || iid == IID_IFont || iid == IID_IDispatch ||
+        iid == IID_IFontDisp) // late-bound calls come to nothing here
         *out = static_cast<IFont*>(this);
     else if (iid == IID_IPersistStream)
         *out = static_cast<IPersistStream*>(this);
@@ -39,6 +47,12 @@ ULONG STDMETHODCALLTYPE FontObject::Release()
     if (left == 0)
         delete this;
     return left;
+}
+
+HRESULT STDMETHODCALLTYPE FontObject::Clone(IFont** copy)
+{
+    *copy = new FontObject(*this);
+    return S_OK;
 }
 
 HRESULT STDMETHODCALLTYPE FontObject::get_Name(BSTR* name)
@@ -62,6 +76,15 @@ HRESULT STDMETHODCALLTYPE FontObject::IsEqual(IFont* other)
 } // namespace quillet::fuzz
 
 namespace quillet {
+
+ComPtr<IFont> copyOfFont(IUnknown* font) noexcept
+{
+    auto const original = query<IFont>(font);
+    ComPtr<IFont> copy;
+    if (original)
+        original->Clone(copy.put());
+    return copy;
+}
 
 ComPtr<IFont> systemFont() { return ComPtr<IFont>::adopt(new fuzz::FontObject()); }
 

@@ -42,7 +42,7 @@ public:
     HRESULT STDMETHODCALLTYPE put_Strikethrough(BOOL) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE put_Weight(SHORT) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE put_Charset(SHORT) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Clone(IFont**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Clone(IFont** copy) override;
     HRESULT STDMETHODCALLTYPE SetRatio(LONG, LONG) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE QueryTextMetrics(TEXTMETRICW*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE AddRefHfont(HFONT) override { return E_NOTIMPL; }
@@ -56,6 +56,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER*) override { return E_NOTIMPL; }
 
 private:
+    FontObject(FontObject const& other);
     ~FontObject() { --s_living; }
     template <class T> static HRESULT answer(T* out, T value) noexcept
     {

@@ -10,8 +10,6 @@
 
 #include <objidl.h>
 
-#include <cstdlib>
-
 namespace quillet {
 
 namespace {
@@ -66,10 +64,10 @@ SavedObject::Kind kindOf(IUnknown* object)
 /// No honest form has larger letters; drawing those of a forged size takes some systems minutes.
 bool hasHonestSize(IUnknown* object)
 {
-    constexpr LONGLONG kMostPoints = 2160;
+    constexpr LONGLONG kMost = 2160 * 10000; // points
     auto const font = query<IFont>(object);
     CY size = {};
-    return !font || (SUCCEEDED(font->get_Size(&size)) && std::abs(size.int64) <= kMostPoints * 10000);
+    return !font || (SUCCEEDED(font->get_Size(&size)) && size.int64 <= kMost && size.int64 >= -kMost);
 }
 
 } // namespace
