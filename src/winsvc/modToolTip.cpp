@@ -112,7 +112,6 @@ void ToolTipUser::windowMade(HWND window) noexcept
 {
     if (!m_running)
         return;
-    Unsubclass();
     removeTool(threadState().toolTip);
     Subclass(window);
     AddTool(threadState().toolTip, window);
@@ -141,13 +140,12 @@ void ToolTipUser::AddTool(HWND toolTip, HWND window) noexcept
 }
 
 /// Forms that make and give up controls as they run would otherwise fill the tooltip window with tools.
-void ToolTipUser::removeTool(HWND toolTip) noexcept
+void ToolTipUser::removeTool(HWND toolTip) const noexcept
 {
     if (!m_subclassed)
         return;
     TTTOOLINFOA tool = toolOf(m_subclassed);
     ::SendMessageA(toolTip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
-    m_subclassed = nullptr;
 }
 
 void ToolTipUser::Subclass(HWND window) noexcept

@@ -43,7 +43,7 @@ public:
 
 private:
     static void AddTool(HWND toolTip, HWND window) noexcept;
-    void removeTool(HWND toolTip) noexcept;
+    void removeTool(HWND toolTip) const noexcept;
     void answerText(LPARAM request) noexcept;
 
     Surface& m_surface;
