@@ -3,6 +3,7 @@
 
 #include "base/Bstr.h"
 #include "base/RunTimeError.h"
+#include "kit/Fonts.h"
 
 #include <cwchar>
 #include <iterator>
@@ -127,6 +128,12 @@ HRESULT Siblings::Next(ULONG count, IUnknown** controls, ULONG* fetched)
     return given == count ? S_OK : S_FALSE;
 }
 
+Frame::Frame(HWND window, IOleContainer* container)
+    : m_window(window), m_container(container), m_font(kit::newFont(L"MS Shell Dlg", 8))
+{
+    kit::handleOf(deref(m_font.get())); // as a form that uses its font itself
+}
+
 HRESULT Frame::QueryInterface(REFIID iid, void** object)
 {
     bool const known = iid == IID_IUnknown || iid == IID_IOleWindow || iid == IID_IOleInPlaceUIWindow ||
@@ -191,7 +198,15 @@ HRESULT Site::GetTypeInfoCount(UINT* count)
 
 HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
-    return id == DISPID_AMBIENT_USERMODE ? answer(result, true) : DISP_E_MEMBERNOTFOUND;
+    switch (id) {
+    case DISPID_AMBIENT_USERMODE:
+        return answer(result, true);
+    case DISPID_AMBIENT_FONT:
+        result->vt = VT_DISPATCH;
+        return m_frame.font()->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&result->pdispVal));
+    default:
+        return DISP_E_MEMBERNOTFOUND;
+    }
 }
 
 HRESULT SavedButton::QueryInterface(REFIID iid, void** object)

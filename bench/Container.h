@@ -76,13 +76,13 @@ private:
     std::size_t m_next = 0;
 };
 
-/// The window's frame; there are no menus and no borders to negotiate.
+/// The window's frame, and the form's font; there are no menus and no borders to negotiate.
 class Frame final : public Owned<IOleInPlaceFrame> {
 public:
-    explicit Frame(HWND window, IOleContainer* container = nullptr) : m_window(window), m_container(container)
-    {}
+    explicit Frame(HWND window, IOleContainer* container = nullptr);
 
     IOleContainer* container() const noexcept { return m_container; }
+    IFont* font() const noexcept { return m_font.get(); }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP GetWindow(HWND* window) override;
@@ -101,9 +101,10 @@ public:
 private:
     HWND m_window;
     IOleContainer* m_container;
+    ComPtr<IFont> m_font;
 };
 
-/// The place of one control: its sites and its ambient properties (run mode).
+/// The place of one control: its sites and its ambient properties (run mode, the form's font).
 class Site final : public Owned<IOleClientSite, IOleControlSite, IOleInPlaceSite, IDispatch> {
 public:
     Site(Frame& frame, HWND window, RECT const& position)
