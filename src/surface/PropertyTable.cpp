@@ -91,16 +91,15 @@ Variant convertedProperty(PropertyKind kind, Variant const& value)
     if (kind == PropertyKind::State)
         return convertedState(value);
     if (keptType(kind) != VT_UNKNOWN)
-        return value.type() == keptType(kind) ? value : value.convertedTo(keptType(kind));
+        return value.convertedTo(keptType(kind));
     return convertedObject(kind, value.toObject().get());
 }
 
 Variant savedProperty(PropertyKind kind, Variant const& kept)
 {
     bool const fits = kind != PropertyKind::Style || kept.get().lVal == static_cast<short>(kept.get().lVal);
-    if (!fits || kept.type() == savedType(kind))
-        return kept; // what is too large for its saved type is saved as it is, not lost
-    return kept.convertedTo(savedType(kind));
+    // What is too large for its saved type is saved as it is, not lost.
+    return fits ? kept.convertedTo(savedType(kind)) : kept;
 }
 
 Variant plainFallback(PropertyKind kind, long fallback)
