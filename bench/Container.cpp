@@ -40,12 +40,12 @@ constexpr wchar_t const* kExtenderNames[] = {L"Name",        L"Default", L"Cance
 
 } // namespace
 
-HRESULT FormFace::QueryInterface(REFIID iid, void** object)
+HRESULT LateBound::QueryInterface(REFIID iid, void** object)
 {
     return handOut(iid == IID_IDispatch || iid == IID_IUnknown ? this : nullptr, object);
 }
 
-HRESULT FormFace::GetTypeInfoCount(UINT* count)
+HRESULT LateBound::GetTypeInfoCount(UINT* count)
 {
     *count = 0;
     return S_OK;
@@ -62,17 +62,6 @@ HRESULT FormFace::Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* resul
 {
     result->vt = VT_I4;
     result->lVal = HandleToLong(m_window);
-    return S_OK;
-}
-
-HRESULT Extender::QueryInterface(REFIID iid, void** object)
-{
-    return handOut(iid == IID_IDispatch || iid == IID_IUnknown ? this : nullptr, object);
-}
-
-HRESULT Extender::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
     return S_OK;
 }
 

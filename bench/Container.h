@@ -22,14 +22,19 @@ public:
     STDMETHODIMP_(ULONG) Release() override { return 1; }
 };
 
-/// The form as its controls' extenders name it: it tells its window.
-class FormFace final : public Owned<IDispatch> {
+/// An object that can be used by name alone.
+class LateBound : public Owned<IDispatch> {
 public:
-    explicit FormFace(HWND window) : m_window(window) {}
-
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+};
+
+/// The form as its controls' extenders name it: it tells its window.
+class FormFace final : public LateBound {
+public:
+    explicit FormFace(HWND window) : m_window(window) {}
+
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override;
@@ -40,13 +45,10 @@ private:
 
 /// What a control reads of its extender by name: no default button, no tooltip, the form as its container.
 /// What it writes is taken and forgotten.
-class Extender final : public Owned<IDispatch> {
+class Extender final : public LateBound {
 public:
     explicit Extender(HWND form) : m_form(form) {}
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override;

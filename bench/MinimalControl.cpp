@@ -15,18 +15,6 @@ HRESULT MinimalControl::put(LONG value)
     return S_OK;
 }
 
-HRESULT MinimalControl::QueryInterface(REFIID, void** object)
-{
-    *object = nullptr;
-    return E_NOINTERFACE;
-}
-
-HRESULT MinimalControl::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
 HRESULT MinimalControl::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids)
 {
     bool const known = ::lstrcmpiW(names[0], L"Number") == 0;

@@ -16,14 +16,11 @@ protected:
 };
 
 /// The property "Number", through the vtable and by name.
-class MinimalControl final : public Owned<IDispatch>, public Number {
+class MinimalControl final : public LateBound, public Number {
 public:
     HRESULT STDMETHODCALLTYPE get(LONG* value) override;
     HRESULT STDMETHODCALLTYPE put(LONG value) override;
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO*, UINT*) override;

@@ -188,6 +188,12 @@ LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
     return own ? ::CallWindowProcA(own, window, message, wParam, lParam) : 0;
 }
 
+LONG ToolTipUser::WindowProc(LONG window, LONG message, LONG wParam, LONG lParam) noexcept
+{
+    return static_cast<LONG>(WindowProc(static_cast<HWND>(LongToHandle(window)), static_cast<UINT>(message),
+                                        static_cast<WPARAM>(wParam), LPARAM{lParam}));
+}
+
 void ToolTipUser::answerText(LPARAM request) noexcept
 {
     ignoringErrors([&] {

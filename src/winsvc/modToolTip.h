@@ -37,6 +37,8 @@ public:
     /// answers its question for text, and always passes the message on. Answers what the previous procedure
     /// answered.
     LRESULT WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    /// The same with a published member's arguments: 32 bits of a handle are significant on every Windows.
+    LONG WindowProc(LONG window, LONG message, LONG wParam, LONG lParam) noexcept;
 
     /// The control itself, counted.
     ComPtr<IUnknown> control() const noexcept;

@@ -3,27 +3,18 @@
 
 #include "base/RunTimeError.h"
 #include "drawing/BoundSurface.h"
+#include "kit/SystemColours.h"
 
 #include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
 
-/// Sets the button face and the selection colour for one scope.
-class SchemeScope {
-public:
+/// The button face and the selection colour.
+struct SchemeScope : kit::SystemColours {
     SchemeScope(COLORREF face, COLORREF selection)
-    {
-        COLORREF const colours[] = {face, selection};
-        ::SetSysColors(2, kIndexes, colours);
-    }
-    ~SchemeScope() { ::SetSysColors(2, kIndexes, m_previous); }
-    SchemeScope(SchemeScope const&) = delete;
-    SchemeScope& operator=(SchemeScope const&) = delete;
-
-private:
-    static constexpr INT kIndexes[] = {COLOR_BTNFACE, COLOR_HIGHLIGHT};
-    COLORREF const m_previous[2] = {::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT)};
+        : SystemColours({COLOR_BTNFACE, COLOR_HIGHLIGHT}, {face, selection})
+    {}
 };
 
 struct Scheme {

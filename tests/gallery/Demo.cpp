@@ -51,6 +51,16 @@ void Demo::focusOn(wchar_t const* name)
     m_form->focus().update();
 }
 
+void typeKey(BYTE key, BYTE held)
+{
+    if (held)
+        ::keybd_event(held, 0, 0, 0);
+    ::keybd_event(key, 0, 0, 0);
+    ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    if (held)
+        ::keybd_event(held, 0, KEYEVENTF_KEYUP, 0);
+}
+
 void Demo::key(UINT message, WPARAM key)
 {
     MSG sent{::GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 | 1 : 1, 0, {}};

@@ -15,6 +15,8 @@ namespace quillet::gallery::test {
 
 std::wstring programFolder();
 std::string narrow(std::wstring_view text);
+/// Types a key while another may be held, as a keyboard does.
+void typeKey(BYTE key, BYTE held = 0);
 
 /// The form with everything that it raises written down.
 class Demo {

@@ -41,13 +41,8 @@ protected:
     /// Types a key, with another one held, through the form's own keyboard rules.
     void type(BYTE key, BYTE held = 0)
     {
+        typeKey(key, held);
         bool up = false;
-        if (held)
-            ::keybd_event(held, 0, 0, 0);
-        ::keybd_event(key, 0, 0, 0);
-        ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-        if (held)
-            ::keybd_event(held, 0, KEYEVENTF_KEYUP, 0);
         WPARAM const last = held ? held : key;
         for (ULONGLONG const end = ::GetTickCount64() + 5000; !up && ::GetTickCount64() < end;) {
             ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);

@@ -148,29 +148,18 @@ TEST(RealControl, theMouseEntersPressesAndLeavesAButton)
     EXPECT_TRUE(demo.waitFor("cmdPlain.MouseExit"));
 }
 
-/// Types a key while another may be held, as a keyboard does.
-void type(BYTE key, BYTE held = 0)
-{
-    if (held)
-        ::keybd_event(held, 0, 0, 0);
-    ::keybd_event(key, 0, 0, 0);
-    ::keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-    if (held)
-        ::keybd_event(held, 0, KEYEVENTF_KEYUP, 0);
-}
-
 TEST(RealControl, typedKeysReachTheirButtonsOnceEach)
 {
     Demo demo;
     demo.form().show();
     demo.focusOn(L"cmdPlain");
     demo.events.clear();
-    type('T', VK_MENU);
+    typeKey('T', VK_MENU);
     EXPECT_TRUE(demo.waitFor("cmdThick.Click"));
-    type(VK_TAB);
-    type(VK_SPACE);
+    typeKey(VK_TAB);
+    typeKey(VK_SPACE);
     EXPECT_TRUE(demo.waitFor("cmdBare.Click"));
-    type(VK_ESCAPE);
+    typeKey(VK_ESCAPE);
     EXPECT_TRUE(demo.waitFor("cmdCancel.Click"));
     std::vector<std::string> clicks;
     std::copy_if(demo.events.begin(), demo.events.end(), std::back_inserter(clicks),

@@ -4,6 +4,7 @@
 #include "base/Variant.h"
 #include "kit/Counterpart.h"
 #include "kit/Memory.h"
+#include "kit/RefusingStream.h"
 
 #include <ocidl.h>
 #include <windows.h>
@@ -34,7 +35,7 @@ public:
 };
 
 /// A stream over bytes that goes wrong at one of its calls, the first being 1.
-class HostileStream final : public kit::Counterpart<IStream> {
+class HostileStream final : public kit::RefusingStream {
 public:
     explicit HostileStream(kit::Bytes bytes = {}) : m_bytes(std::move(bytes)) {}
 
@@ -48,18 +49,6 @@ public:
 
     STDMETHODIMP Read(void* target, ULONG size, ULONG* read) override;
     STDMETHODIMP Write(void const* source, ULONG size, ULONG* written) override;
-    STDMETHODIMP Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return E_NOTIMPL; }
-    STDMETHODIMP SetSize(ULARGE_INTEGER) override { return E_NOTIMPL; }
-    STDMETHODIMP CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override
-    {
-        return E_NOTIMPL;
-    }
-    STDMETHODIMP Commit(DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Revert() override { return E_NOTIMPL; }
-    STDMETHODIMP LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Stat(STATSTG*, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Clone(IStream**) override { return E_NOTIMPL; }
 
 private:
     /// Whether this call goes wrong; a deed is done and the call goes on as usual.

@@ -2,7 +2,7 @@
 #include "kit/Memory.h"
 
 #include "base/RunTimeError.h"
-#include "kit/Counterpart.h"
+#include "kit/RefusingStream.h"
 
 #include <ole2.h>
 
@@ -21,8 +21,8 @@ ULONGLONG seek(IStream& stream, LONGLONG to, DWORD from)
     return position.QuadPart;
 }
 
-/// Reads and writes in order, as far as it goes; every other call is refused.
-class BrokenStream final : public Counterpart<IStream> {
+/// Reads and writes in order, as far as it goes.
+class BrokenStream final : public RefusingStream {
 public:
     BrokenStream(Bytes bytes, ULONG bytesTaken) : m_bytes(std::move(bytes)), m_taken(bytesTaken) {}
 
@@ -45,25 +45,8 @@ public:
             *written = size;
         return S_OK;
     }
-    STDMETHODIMP Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return E_NOTIMPL; }
-    STDMETHODIMP SetSize(ULARGE_INTEGER) override { return E_NOTIMPL; }
-    STDMETHODIMP CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override
-    {
-        return E_NOTIMPL;
-    }
-    STDMETHODIMP Commit(DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Revert() override { return E_NOTIMPL; }
-    STDMETHODIMP LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Stat(STATSTG*, DWORD) override { return E_NOTIMPL; }
-    STDMETHODIMP Clone(IStream**) override { return E_NOTIMPL; }
 
 private:
-    void* faceOf(REFIID iid) noexcept override
-    {
-        return iid == __uuidof(ISequentialStream) ? static_cast<IStream*>(this) : Counterpart::faceOf(iid);
-    }
-
     Bytes m_bytes;
     size_t m_at = 0;
     ULONG m_taken;

@@ -4,6 +4,7 @@
 #include "kit/ByName.h"
 #include "kit/Painter.h"
 #include "kit/Pump.h"
+#include "kit/SystemColours.h"
 
 namespace quillet::hosting {
 namespace {
@@ -17,21 +18,9 @@ void PrintTo(Kind const& kind, std::ostream* out) { *out << kind.name; }
 constexpr COLORREF kOddFace = RGB(3, 201, 99);
 constexpr COLORREF kOddText = RGB(151, 3, 77);
 
-/// The desktop's colours of faces and of texts on them, for one scope.
-class OddScheme {
-public:
-    OddScheme()
-    {
-        COLORREF const colours[] = {kOddFace, kOddText};
-        ::SetSysColors(2, kIndexes, colours);
-    }
-    ~OddScheme() { ::SetSysColors(2, kIndexes, m_previous); }
-    OddScheme(OddScheme const&) = delete;
-    OddScheme& operator=(OddScheme const&) = delete;
-
-private:
-    static constexpr INT kIndexes[] = {COLOR_BTNFACE, COLOR_BTNTEXT};
-    COLORREF const m_previous[2] = {::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNTEXT)};
+/// The desktop's colours of faces and of texts on them.
+struct OddScheme : kit::SystemColours {
+    OddScheme() : SystemColours({COLOR_BTNFACE, COLOR_BTNTEXT}, {kOddFace, kOddText}) {}
 };
 
 class Schemes : public kit::ControlTest, public testing::WithParamInterface<Kind> {

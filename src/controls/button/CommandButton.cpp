@@ -17,9 +17,6 @@ namespace event = eventid::command;
 constexpr short kLeftButton = 1;
 constexpr short kSpace = 32;
 
-/// A GDI or USER handle as hosts know it: 32 bits are significant on every Windows.
-long handleAsLong(HANDLE handle) noexcept { return HandleToLong(handle); }
-
 } // namespace
 
 bool isOwnPress(MouseArguments const& mouse) noexcept
@@ -142,23 +139,20 @@ void CommandButton::takeUnderlineOff()
     check(font()->put_Underline(FALSE));
 }
 
+// 32 bits of a handle are significant on every Windows.
 HRESULT CommandButton::answerHwnd(LONG* value)
 {
-    return call([&] { deref(value) = handleAsLong(hWnd()); });
+    return call([&] { deref(value) = HandleToLong(hWnd()); });
 }
 
 HRESULT CommandButton::answerHdc(LONG* value)
 {
-    return call([&] { deref(value) = handleAsLong(window().dc()); });
+    return call([&] { deref(value) = HandleToLong(window().dc()); });
 }
 
 HRESULT CommandButton::answerWindowProc(LONG window, LONG message, LONG wParam, LONG lParam, LONG* result)
 {
-    return call([&] {
-        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(window)),
-                                                               static_cast<UINT>(message),
-                                                               static_cast<WPARAM>(wParam), lParam));
-    });
+    return call([&] { deref(result) = m_toolTip.WindowProc(window, message, wParam, lParam); });
 }
 
 } // namespace quillet

@@ -119,11 +119,7 @@ HRESULT OptionCheckButton::getWindow(LONG* value) noexcept
 HRESULT OptionCheckButton::runWindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam,
                                          LONG* result) noexcept
 {
-    return call([&] {
-        deref(result) = static_cast<LONG>(m_toolTip.WindowProc(static_cast<HWND>(LongToHandle(hwnd)),
-                                                               static_cast<UINT>(uMsg),
-                                                               static_cast<WPARAM>(wParam), lParam));
-    });
+    return call([&] { deref(result) = m_toolTip.WindowProc(hwnd, uMsg, wParam, lParam); });
 }
 
 } // namespace quillet
