@@ -22,7 +22,7 @@ fuzz: ## malformed data for everything that reads it; MINUTES=5 each
 soak: ## what 100,000 paints and 10,000 lives of each control leave behind
 	@tools/soak $(PAINTS) $(LIVES)
 
-hostile: ## the long form of the tests in hostile containers; RUNS=20000 random runs, SEED=… to repeat them
+hostile: ## the long form of the tests in hostile containers; RUNS=2000 random runs, SEED=… to repeat them
 	@tools/hostile $(or $(RUNS),2000) $(SEED)
 
 schemes: ## tests and pictures at other resolutions and in a high-contrast scheme
@@ -31,7 +31,7 @@ schemes: ## tests and pictures at other resolutions and in a high-contrast schem
 dist: ## out/dist/quillet-*.zip, what is shipped
 	@tools/dist
 
-check: ## format, tidy, build, tests, fuzzing, benchmark smoke run
+check: ## format, links, tidy, build, tests, fuzzing, benchmarks and archives in short
 	@tools/check
 
 clean: ## removes everything that was built
