@@ -1,6 +1,7 @@
 // The surface's picture element: a picture of a form's, shown over the face of a control.
 #include "surface/ImageElement.h"
 
+#include "surface/Scale.h"
 #include "surface/StandardPicture.h"
 
 #include <olectl.h>
@@ -12,8 +13,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr int kHimetricPerInch = 2540;
 
 BITMAPINFO trueColour(SIZE size) noexcept
 {
@@ -100,9 +99,7 @@ SIZE sizeOfRendered(IPicture& picture) noexcept
     OLE_YSIZE_HIMETRIC height = 0;
     picture.get_Width(&width);
     picture.get_Height(&height);
-    WindowDc const screen(nullptr);
-    return {::MulDiv(width, ::GetDeviceCaps(screen.get(), LOGPIXELSX), kHimetricPerInch),
-            ::MulDiv(height, ::GetDeviceCaps(screen.get(), LOGPIXELSY), kHimetricPerInch)};
+    return pixelsOfHimetric(width, height);
 }
 
 /// Whether the picture object keeps a mask that only it can draw with.

@@ -1,7 +1,7 @@
 // Mouse messages taken apart: which button, what happened to it, and the arguments of a mouse event.
 #include "surface/MouseMessage.h"
 
-#include "surface/Surface.h"
+#include "surface/Scale.h"
 
 #include <windowsx.h>
 

@@ -12,12 +12,6 @@ namespace quillet {
 
 namespace {
 
-void requireContent(DWORD aspect)
-{
-    if (aspect != DVASPECT_CONTENT)
-        throw RunTimeError(DV_E_DVASPECT);
-}
-
 /// The verbs that a container lists; the others are for containers alone. Not left to the registry: a control
 /// may run without being registered.
 constexpr OLEVERB kPrimaryVerb = {OLEIVERB_PRIMARY, const_cast<LPOLESTR>(kPrimaryVerbName), 0,
@@ -26,6 +20,12 @@ constexpr OLEVERB kPropertiesVerb = {OLEIVERB_PROPERTIES, const_cast<LPOLESTR>(L
                                      OLEVERBATTRIB_ONCONTAINERMENU};
 
 } // namespace
+
+void requireContent(DWORD aspect)
+{
+    if (aspect != DVASPECT_CONTENT)
+        throw RunTimeError(DV_E_DVASPECT);
+}
 
 /// A verb's name is handed out as a copy that the caller frees.
 template <> struct Handed<OLEVERB> {

@@ -10,6 +10,9 @@
 
 namespace quillet {
 
+/// Throws unless the aspect is the one that controls have.
+void requireContent(DWORD aspect);
+
 class OleObject final : public Face<IOleObject> {
 public:
     using Face::Face;

@@ -3,6 +3,7 @@
 
 #include "base/Handles.h"
 #include "base/RunTimeError.h"
+#include "surface/Scale.h"
 
 #include <olectl.h>
 
@@ -21,14 +22,13 @@ ComPtr<IFont> systemFont()
 {
     LOGFONTW shape = {};
     ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(shape), &shape);
-    WindowDc const screen(nullptr);
-    LONG const pixelsPerInch = ::GetDeviceCaps(screen.get(), LOGPIXELSY);
 
     FONTDESC description = {};
     description.cbSizeofstruct = sizeof(description);
     description.lpstrName = shape.lfFaceName;
     // Points times 10,000, from a height in pixels (negative: of the characters alone).
-    description.cySize.int64 = static_cast<LONGLONG>(::labs(shape.lfHeight)) * 72 * 10000 / pixelsPerInch;
+    description.cySize.int64 =
+        static_cast<LONGLONG>(::labs(shape.lfHeight)) * 72 * 10000 / screenResolution().y;
     description.sWeight = static_cast<SHORT>(shape.lfWeight);
     description.sCharset = shape.lfCharSet;
     ComPtr<IFont> font;

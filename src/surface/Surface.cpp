@@ -2,7 +2,6 @@
 #include "surface/Surface.h"
 
 #include "base/Checked.h"
-#include "base/Handles.h"
 #include "base/RunTimeError.h"
 #include "surface/StandardFont.h"
 
@@ -10,21 +9,7 @@
 
 namespace quillet {
 
-namespace {
-
-constexpr int kTwipsPerInch = 1440;
-constexpr int kHimetricPerInch = 2540;
-
-} // namespace
-
 IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
-
-TwipsPerPixel twipsPerPixel() noexcept
-{
-    WindowDc const screen(nullptr);
-    return {static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(screen.get(), LOGPIXELSX),
-            static_cast<double>(kTwipsPerInch) / ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
-}
 
 Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
     : m_class(controlClass), m_outer(outer ? outer : &m_identity)

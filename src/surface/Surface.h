@@ -17,6 +17,7 @@
 #include "surface/OleObject.h"
 #include "surface/Persistence.h"
 #include "surface/QuickActivation.h"
+#include "surface/Scale.h"
 #include "surface/SmallFaces.h"
 #include "surface/SurfaceFont.h"
 #include "surface/SurfaceWindow.h"
@@ -30,13 +31,6 @@
 namespace quillet {
 
 class PropertyBag;
-
-/// Twips in one pixel of the screen.
-struct TwipsPerPixel {
-    double x;
-    double y;
-};
-TwipsPerPixel twipsPerPixel() noexcept;
 
 inline bool isEmpty(SIZE size) noexcept { return size.cx <= 0 || size.cy <= 0; }
 

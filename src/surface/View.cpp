@@ -9,8 +9,6 @@ namespace quillet {
 
 namespace {
 
-constexpr LONG kHimetricPerInch = 2540;
-
 /// The bytes of a picture of a size above 0. Some systems' own products overflow for one that is too large.
 DWORD bytesOf(SIZE size)
 {
@@ -59,12 +57,6 @@ private:
     HGDIOBJ m_previous = nullptr;
 };
 
-void requireContent(DWORD aspect)
-{
-    if (aspect != DVASPECT_CONTENT)
-        throw RunTimeError(DV_E_DVASPECT);
-}
-
 /// GDI knows coordinates of 27 bits; some systems do not survive larger ones.
 void requireCoordinates(RECT const& bounds)
 {
@@ -73,8 +65,6 @@ void requireCoordinates(RECT const& bounds)
         if (edge < -kMost || edge > kMost)
             throw RunTimeError(E_INVALIDARG);
 }
-
-LONG pixelsOf(LONG himetric, int perInch) noexcept { return ::MulDiv(himetric, perInch, kHimetricPerInch); }
 
 } // namespace
 
@@ -173,13 +163,10 @@ HRESULT View::GetNaturalExtent(DWORD, LONG, DVTARGETDEVICE*, HDC, DVEXTENTINFO*,
 
 SIZE View::naturalSize(RECT const& bounds)
 {
-    if (SIZE const live = m_surface.window().clientSize(); live.cx > 0 && live.cy > 0)
+    if (SIZE const live = m_surface.window().clientSize(); !isEmpty(live))
         return live;
-    WindowDc const screen(nullptr);
     SIZEL const extent = m_surface.oleObject().extent();
-    SIZE const natural = {pixelsOf(extent.cx, ::GetDeviceCaps(screen.get(), LOGPIXELSX)),
-                          pixelsOf(extent.cy, ::GetDeviceCaps(screen.get(), LOGPIXELSY))};
-    if (natural.cx > 0 && natural.cy > 0)
+    if (SIZE const natural = pixelsOfHimetric(extent.cx, extent.cy); !isEmpty(natural))
         return natural;
     return {::labs(bounds.right - bounds.left), ::labs(bounds.bottom - bounds.top)};
 }
@@ -189,7 +176,7 @@ void View::drawInto(HDC dc, RECT const& bounds)
     requireCoordinates(bounds);
     // At its natural size, then stretched: on a printer the caption keeps its share of the button.
     SIZE const size = naturalSize(bounds);
-    if (size.cx <= 0 || size.cy <= 0)
+    if (isEmpty(size))
         return;
     PictureDc const picture(size);
     m_surface.paintInto(picture.dc(), size);
