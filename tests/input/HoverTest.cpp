@@ -149,10 +149,12 @@ TEST_F(Hover, refreshesTheToolTipTextFromTheExtender)
 
 TEST_F(Hover, goesOnWhereTheExtenderHasNoToolTipText)
 {
+    EXPECT_EQ(button->put_ToolTipText(Bstr(L"kept").get()), S_OK);
     button.extender().remove(L"ToolTipText");
     EXPECT_THAT(enter(button), ElementsAre("MouseEnter", "Paint", "MouseMove"));
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
     EXPECT_THAT(leave(button), Contains("MouseExit"));
+    EXPECT_EQ(toolTipText(), L"kept");
 }
 
 } // namespace
