@@ -64,6 +64,26 @@ TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
     EXPECT_EQ(button.differencesFrom(normal), "");
 }
 
+// Under the cursor, but nobody has told it yet: only painting finds out.
+TEST_F(FlatLooks, drawButtonDrawsTheStateThatTheLastPaintingFound)
+{
+    ShownButton button(library(), form);
+    ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
+    kit::pumpPending();
+    button.site().position = {20, 180, 140, 220};
+    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
+              S_OK);
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    EXPECT_TRUE(kit::moveCursorAway());
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+}
+
 TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
 {
     ShownButton button(library(), form);
