@@ -2,6 +2,7 @@
 #include "drawing/GdiCalls.h"
 
 #include "base/Handles.h"
+#include "drawing/ImportTable.h"
 
 #include <algorithm>
 #include <cstring>
@@ -123,39 +124,13 @@ std::vector<Row> const& rows()
     return all;
 }
 
-void exchange(void** slot, void* address)
-{
-    DWORD old = 0;
-    ::VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &old);
-    *slot = address;
-    ::VirtualProtect(slot, sizeof *slot, old, &old);
-}
-
-/// Calls visit(name, slot) for every function that the image imports by name.
-template <class Visit> void forEachImport(HMODULE caller, Visit visit)
-{
-    auto* const image = reinterpret_cast<BYTE*>(caller);
-    auto const* const dos = reinterpret_cast<IMAGE_DOS_HEADER const*>(image);
-    auto const* const nt = reinterpret_cast<IMAGE_NT_HEADERS const*>(image + dos->e_lfanew);
-    auto const& imports = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    auto const* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR const*>(image + imports.VirtualAddress);
-    for (; library->Name; ++library) {
-        auto const* name = reinterpret_cast<IMAGE_THUNK_DATA const*>(image + library->OriginalFirstThunk);
-        auto* slot = reinterpret_cast<void**>(image + library->FirstThunk);
-        for (; name->u1.AddressOfData; ++name, ++slot)
-            if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
-                visit(reinterpret_cast<IMAGE_IMPORT_BY_NAME const*>(image + name->u1.AddressOfData)->Name,
-                      slot);
-    }
-}
-
 void standIn(HMODULE caller)
 {
     forEachImport(caller, [](char const* name, void** slot) {
         for (Row const& row : rows())
             if (std::strcmp(name, row.name) == 0) {
                 *row.original = *slot;
-                exchange(slot, row.stand);
+                exchangeImport(slot, row.stand);
             }
     });
 }
@@ -165,7 +140,7 @@ void stepAside(HMODULE caller)
     forEachImport(caller, [](char const*, void** slot) {
         for (Row const& row : rows())
             if (*slot == row.stand)
-                exchange(slot, *row.original);
+                exchangeImport(slot, *row.original);
     });
 }
 
