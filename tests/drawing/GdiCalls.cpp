@@ -1,7 +1,8 @@
-// Notes the GDI calls of this program by standing in the import table of its own image.
+// Notes the GDI calls of an image by standing in its import table.
 #include "drawing/GdiCalls.h"
 
 #include "base/Handles.h"
+#include "drawing/ImportTable.h"
 
 #include <algorithm>
 #include <cstring>
@@ -123,50 +124,23 @@ std::vector<Row> const& rows()
     return all;
 }
 
-BYTE* image() { return reinterpret_cast<BYTE*>(::GetModuleHandleW(nullptr)); }
-
-void exchange(void** slot, void* address)
+void standIn(HMODULE caller)
 {
-    DWORD old = 0;
-    ::VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &old);
-    *slot = address;
-    ::VirtualProtect(slot, sizeof *slot, old, &old);
-}
-
-/// Calls visit(name, slot) for every function that this program imports by name.
-template <class Visit> void forEachImport(Visit visit)
-{
-    auto const* const dos = reinterpret_cast<IMAGE_DOS_HEADER const*>(image());
-    auto const* const nt = reinterpret_cast<IMAGE_NT_HEADERS const*>(image() + dos->e_lfanew);
-    auto const& imports = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    auto const* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR const*>(image() + imports.VirtualAddress);
-    for (; library->Name; ++library) {
-        auto const* name = reinterpret_cast<IMAGE_THUNK_DATA const*>(image() + library->OriginalFirstThunk);
-        auto* slot = reinterpret_cast<void**>(image() + library->FirstThunk);
-        for (; name->u1.AddressOfData; ++name, ++slot)
-            if (!IMAGE_SNAP_BY_ORDINAL(name->u1.Ordinal))
-                visit(reinterpret_cast<IMAGE_IMPORT_BY_NAME const*>(image() + name->u1.AddressOfData)->Name,
-                      slot);
-    }
-}
-
-void standIn()
-{
-    forEachImport([](char const* name, void** slot) {
+    forEachImport(caller, [](char const* name, void** slot) {
         for (Row const& row : rows())
             if (std::strcmp(name, row.name) == 0) {
                 *row.original = *slot;
-                exchange(slot, row.stand);
+                exchangeImport(slot, row.stand);
             }
     });
 }
 
-void stepAside()
+void stepAside(HMODULE caller)
 {
-    forEachImport([](char const*, void** slot) {
+    forEachImport(caller, [](char const*, void** slot) {
         for (Row const& row : rows())
             if (*slot == row.stand)
-                exchange(slot, *row.original);
+                exchangeImport(slot, *row.original);
     });
 }
 
@@ -178,7 +152,7 @@ HGDIOBJ bitmapOfAFreshDc()
 
 } // namespace
 
-GdiCalls::GdiCalls(kit::SharedRecord record) : m_record(std::move(record))
+GdiCalls::GdiCalls(kit::SharedRecord record, HMODULE caller) : m_record(std::move(record)), m_caller(caller)
 {
     name(nullptr, "none");
     name(::GetStockObject(NULL_BRUSH), "NULL_BRUSH");
@@ -187,12 +161,12 @@ GdiCalls::GdiCalls(kit::SharedRecord record) : m_record(std::move(record))
     name(::GetStockObject(SYSTEM_FONT), "initial font");
     name(bitmapOfAFreshDc(), "initial bitmap");
     g_calls = this;
-    standIn();
+    standIn(m_caller);
 }
 
 GdiCalls::~GdiCalls()
 {
-    stepAside();
+    stepAside(m_caller);
     g_calls = nullptr;
 }
 

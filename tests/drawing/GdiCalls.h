@@ -1,4 +1,4 @@
-// Notes the GDI calls of this program, in order, and makes some of them fail.
+// Notes the GDI calls of this program or of one that it has loaded, in order, and makes some of them fail.
 #pragma once
 
 #include "kit/Record.h"
@@ -12,12 +12,13 @@
 
 namespace quillet {
 
-/// While it lives, the calls that this program makes to the functions a surface uses go through it: it notes
-/// them in the record as "SelectObject dc1 pen1 -> BLACK_PEN" and passes them on. Objects that are made are
-/// numbered by kind. Calls that Windows' own libraries make are not seen. One at a time.
+/// While it lives, the calls that one image (this program, unless another is named) makes to the functions a
+/// surface uses go through it: it notes them in the record as "SelectObject dc1 pen1 -> BLACK_PEN" and passes
+/// them on. Objects that are made are numbered by kind; others that have no name are "?". Calls that Windows'
+/// own libraries make are not seen. One at a time.
 class GdiCalls {
 public:
-    explicit GdiCalls(kit::SharedRecord record);
+    explicit GdiCalls(kit::SharedRecord record, HMODULE caller = ::GetModuleHandleW(nullptr));
     ~GdiCalls();
     GdiCalls(GdiCalls const&) = delete;
     GdiCalls& operator=(GdiCalls const&) = delete;
@@ -37,6 +38,7 @@ public:
 
 private:
     kit::SharedRecord m_record;
+    HMODULE m_caller;
     std::map<void const*, std::string> m_names;
     std::map<std::string, int> m_made;
     std::set<std::string> m_failing;

@@ -39,6 +39,30 @@ TEST(StateTint, hasTheKnownValuesOfCommonSchemes)
     }
 }
 
+/// One channel of the tint in whole numbers: its fraction over 510, rounded with halves to the even
+/// neighbour.
+COLORREF tintedExactly(COLORREF face, COLORREF selection, bool deep)
+{
+    COLORREF const lift = deep ? 200 * (255 - face) : 100 * (255 - selection);
+    COLORREF const over510 = lift + 255 * (selection + face);
+    COLORREF const whole = over510 / 510;
+    COLORREF const rest = over510 % 510;
+    return whole + (rest > 255 || (rest == 255 && whole % 2 != 0) ? 1 : 0);
+}
+
+TEST(StateTint, isTheNearestWholeNumberForEveryFaceAndEverySelection)
+{
+    for (COLORREF face = 0; face < 256; ++face)
+        for (COLORREF selection = 0; selection < 256; ++selection) {
+            // The other two channels have values of their own: none may get into its neighbour.
+            COLORREF const deep = stateTint(RGB(255, face, 0), RGB(0, selection, 255), VARIANT_TRUE);
+            COLORREF const light = stateTint(RGB(255, 0, face), RGB(0, 255, selection), VARIANT_FALSE);
+            ASSERT_EQ(deep, RGB(128, tintedExactly(face, selection, true), 228)) << face << ' ' << selection;
+            ASSERT_EQ(light, RGB(178, 128, tintedExactly(face, selection, false)))
+                << face << ' ' << selection;
+        }
+}
+
 TEST(StateTint, isDeepForAnyValueButZero)
 {
     for (VARIANT_BOOL const deep : {VARIANT_BOOL{1}, VARIANT_BOOL{2}, VARIANT_BOOL{-2}})

@@ -132,6 +132,20 @@ TEST_F(FlatBagWrite, writesEachPropertyAloneWhenOnlyItDiffers)
     }
 }
 
+TEST_F(FlatBagWrite, writesABorderStyleBeyond16BitsWholeAndReadsItBack)
+{
+    ASSERT_EQ(button.load(*empty.get()), S_OK);
+    ASSERT_EQ(button->put_BorderStyle(static_cast<pdsButtonBorderStyleConstants>(70000)), S_OK);
+    ASSERT_EQ(button.save(*bag.get()), S_OK);
+    ASSERT_THAT(bag->namesWritten(), ElementsAre(L"BorderStyle"));
+    EXPECT_EQ(bag->writes[0].value.toLong(), 70000);
+    ASSERT_EQ(button.load(*empty.get()), S_OK);
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
+    pdsButtonBorderStyleConstants style{};
+    EXPECT_EQ(button->get_BorderStyle(&style), S_OK);
+    EXPECT_EQ(static_cast<long>(style), 70000);
+}
+
 TEST_F(FlatBagWrite, doesNotWriteToolTipText)
 {
     ASSERT_EQ(button.load(*empty.get()), S_OK);

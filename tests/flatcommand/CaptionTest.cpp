@@ -102,6 +102,29 @@ TEST_F(FlatCaption, withTheMarkerAtItsEndHasNoAccessKey)
     EXPECT_THAT(accelerators(), IsEmpty());
 }
 
+// The mark's place is a 16-bit number.
+TEST_F(FlatCaption, hasItsMarkAtThe32767thCharacterAtMost)
+{
+    std::wstring const before(32766, L' ');
+    button.setCaption((before + L"&k").c_str());
+    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'k'}, Key{FALT, L'K'}));
+}
+
+TEST_F(FlatCaption, withAMarkBeyond16BitsEndsThePaintSilently)
+{
+    expectShown(L"&Old");
+    Face face = normalFace();
+    face.caption = L"&Old";
+    std::wstring const before(32767, L' ');
+    button.events().forget();
+    EXPECT_EQ(button->put_Caption(Bstr(before + L"&k").get()), S_OK);
+    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(face), "") << "a paint that ends early shows nothing";
+    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'o'}, Key{FALT, L'O'}));
+    expectShown(L"&New");
+}
+
 TEST_F(FlatCaption, longerThanTheButtonIsCutAtTheBorder)
 {
     expectShown(L"A rather &long caption that goes on and on and on");

@@ -120,6 +120,20 @@ TEST_F(FlatEmphasis, withoutShowFocusRectangleAFocusedButtonHasTheBorderAndNoFra
     EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
 }
 
+// The caption starts where it does without the focus, and from there to the right its face covers the frame.
+TEST_F(FlatEmphasis, theFaceOfACaptionWithASmallIndentCoversTheLeftSideOfTheFrame)
+{
+    button.setCaption(L"&Cover");
+    ASSERT_TRUE(kit::focus(button.window()));
+    for (SHORT const indent : std::initializer_list<SHORT>{0, 2, 3, 4}) {
+        EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
+        Face face = focused(normalFace());
+        face.caption = L"&Cover";
+        face.indent = indent;
+        EXPECT_EQ(repaintedAgainst(face), "") << indent;
+    }
+}
+
 TEST_F(FlatEmphasis, withShowFocusRectangleTrueAndBackColor808080TheFocusFrameIsDrawnInE0E0E0)
 {
     EXPECT_EQ(button->put_BackColor(0x808080), S_OK);

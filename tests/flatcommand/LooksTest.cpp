@@ -64,6 +64,27 @@ TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
     EXPECT_EQ(button.differencesFrom(normal), "");
 }
 
+// Put under the cursor and away again, with no message in between: only painting finds out.
+TEST_F(FlatLooks, drawButtonDrawsTheStateThatTheLastPaintingFound)
+{
+    ShownButton button(library(), form);
+    ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
+    kit::pumpPending();
+    auto const moveTo = [&](RECT const& place) {
+        EXPECT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&place, &place), S_OK);
+    };
+    moveTo({20, 180, 140, 220});
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    moveTo(kPlace);
+    EXPECT_EQ(button->DrawButton(), S_OK);
+    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    EXPECT_EQ(button->Refresh(), S_OK);
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+}
+
 TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
 {
     ShownButton button(library(), form);

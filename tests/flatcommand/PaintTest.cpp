@@ -35,6 +35,15 @@ TEST_F(FlatPaint, isRaisedWhenTheWindowIsExposed)
     EXPECT_EQ(button.events().count(kPaint), 1);
 }
 
+TEST_F(FlatPaint, isRaisedAtOnceWhenTheButtonIsShownAgain)
+{
+    EXPECT_EQ(button.doVerb(OLEIVERB_HIDE), S_OK);
+    kit::pumpPending();
+    button.events().forget();
+    EXPECT_EQ(button.doVerb(OLEIVERB_SHOW), S_OK);
+    EXPECT_GE(button.events().count(kPaint), 1) << "before any message was handled";
+}
+
 TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
 {
     std::string found = "no event";

@@ -151,6 +151,26 @@ TEST_F(FlatProperties, assignedKeepTheValueTellTheContainerAndRepaintOnlyForTheR
         checkAssigned(button, row);
 }
 
+TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
+{
+    FlatButton button(library(), form);
+    button.start();
+    std::vector<std::string> order;
+    OLE_COLOR told = 0;
+    button.changes().action = [&](DISPID id) {
+        order.push_back(id == 0x68030017 ? "told" : "another property");
+        button->get_BackColor(&told);
+    };
+    button.events().action = [&](kit::EventRecorder::Event const& event) {
+        order.push_back(event.id == kPaint ? "painted" : "another event");
+    };
+    EXPECT_EQ(button->put_BackColor(kOther), S_OK);
+    EXPECT_THAT(order, ElementsAre("told", "painted"));
+    EXPECT_EQ(told, kOther);
+    button.changes().action = nullptr;
+    button.events().action = nullptr;
+}
+
 TEST_F(FlatProperties, assignedTheSameValueAgainStillTellAndRepaint)
 {
     FlatButton button(library(), form);

@@ -79,6 +79,16 @@ TEST_F(DesignMode, noEventIsRaisedAndTheStateIsAlwaysNormal)
     EXPECT_THAT(button.events().ids(), ElementsAre());
 }
 
+TEST_F(DesignMode, theToolTipTextIsNotTakenFromTheExtender)
+{
+    button.extender().offer(L"ToolTipText", Variant::ofString(L"the extender's"));
+    EXPECT_EQ(button->put_ToolTipText(Bstr(L"own").get()), S_OK);
+    move(kInside);
+    Bstr text;
+    EXPECT_EQ(button->get_ToolTipText(text.put()), S_OK);
+    EXPECT_EQ(text.view(), L"own");
+}
+
 TEST_F(DesignMode, theSurfaceIsStillPainted)
 {
     EXPECT_EQ(button->put_BackColor(RGB(16, 160, 32)), S_OK);

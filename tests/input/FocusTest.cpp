@@ -279,7 +279,9 @@ TEST_F(FocusMoves, inDesignModeRaiseNoPaint)
     ASSERT_TRUE(kit::focus(window(1)));
     for (auto const& each : buttons)
         each->site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
+    form.record().forget();
     EXPECT_THAT(focusOn(window(2)), ElementsAre());
+    EXPECT_EQ(form.record().countFrom("Container.EnumObjects"), 0) << "nobody is looked for";
 }
 
 // A button that was never loaded has no window services; its own handlers work all the same.

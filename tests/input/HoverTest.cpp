@@ -109,6 +109,36 @@ TEST_F(Hover, whoseCaptureSomebodyTookEndsWithoutMouseExit)
     EXPECT_EQ(button.look(), "normal");
 }
 
+TEST_F(Hover, takesTheCaptureFromWhoeverHasItAtAMoveInside)
+{
+    ::SetCapture(form.window());
+    button.events().forget();
+    ASSERT_TRUE(kit::moveCursorTo(button.window(), kInside.x, kInside.y));
+    kit::pumpPending();
+    EXPECT_THAT(button.happened(), ElementsAre()) << "the move was the other window's";
+    ::SendMessageA(button.window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_EQ(::GetCapture(), button.window());
+    EXPECT_THAT(button.happened(), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_THAT(leave(button), ElementsAre("MouseExit", "Paint", "MouseMove"));
+}
+
+TEST_F(Hover, hasTakenTheCaptureBeforeItTellsAndGivenItBackBeforeItTells)
+{
+    HWND atEnter = nullptr;
+    HWND atExit = button.window();
+    button.events().action = [&](kit::EventRecorder::Event const&) {
+        std::string const name = button.lastEvent();
+        if (name == "MouseEnter")
+            atEnter = ::GetCapture();
+        if (name == "MouseExit")
+            atExit = ::GetCapture();
+    };
+    enter(button);
+    leave(button);
+    EXPECT_EQ(atEnter, button.window());
+    EXPECT_EQ(atExit, nullptr);
+}
+
 TEST_F(Hover, showsAtTheNextPaintingWithoutAnyMouseMessage)
 {
     ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
@@ -149,10 +179,12 @@ TEST_F(Hover, refreshesTheToolTipTextFromTheExtender)
 
 TEST_F(Hover, goesOnWhereTheExtenderHasNoToolTipText)
 {
+    EXPECT_EQ(button->put_ToolTipText(Bstr(L"kept").get()), S_OK);
     button.extender().remove(L"ToolTipText");
     EXPECT_THAT(enter(button), ElementsAre("MouseEnter", "Paint", "MouseMove"));
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
     EXPECT_THAT(leave(button), Contains("MouseExit"));
+    EXPECT_EQ(toolTipText(), L"kept");
 }
 
 } // namespace

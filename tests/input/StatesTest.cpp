@@ -103,6 +103,20 @@ TEST_P(States, draggingOffShowsTheNormalLookAndDraggingBackThePressedOne)
     EXPECT_EQ(button().look(), "hot");
 }
 
+TEST_P(States, draggingOffWithTwoButtonsDownKeepsThePressedLookUntilTheLeftOneComesUp)
+{
+    enter(button());
+    pressDown(button());
+    pressDown(button(), kit::MouseButton::Right);
+    EXPECT_THAT(dragOff(button()), ElementsAre("MouseMove"));
+    EXPECT_EQ(button().look(), "pressed");
+    EXPECT_EQ(::GetCapture(), button().window());
+    EXPECT_THAT(letUp(button(), kit::MouseButton::Right), ElementsAre("MouseUp"));
+    EXPECT_EQ(button().look(), "pressed");
+    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp"));
+    EXPECT_EQ(button().look(), "normal");
+}
+
 TEST_P(States, aReleaseOutsideIsNoClick)
 {
     enter(button());

@@ -33,15 +33,27 @@ struct PublishedClass {
     wchar_t const* classId;
     CLSID id;
     wchar_t const* toolboxBitmap;
+    wchar_t const* miscStatus; ///< as content
 };
+
+wchar_t const* const kButtonStatus = L"135569"; // 0x20000 + 0x1000 + 0x100 + 0x80 + 0x10 + 0x1
+wchar_t const* const kBoxStatus = L"131473";    // the same without 0x1000
+static_assert(0x21191 == 135569 && 0x20191 == 131473);
+static_assert(0x20191 == (OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
+                          OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE));
+static_assert(0x21191 == (0x20191 | OLEMISC_ACTSLIKEBUTTON));
 
 PublishedClass const kClasses[] = {
     {L"qvFlatCommand", L"Quillet flat command button", L"{CF82FC21-7B85-4C5D-A482-1BBDBA57101F}",
-     kQvFlatCommandClass, L"101"},
+     kQvFlatCommandClass, L"101", kButtonStatus},
     {L"qvImageCommand", L"Quillet image command button", L"{E8F64720-1D71-4A18-8153-6F9D6621C282}",
-     kQvImageCommandClass, L"102"},
+     kQvImageCommandClass, L"102", kButtonStatus},
     {L"FlatToolButton", L"Quillet flat tool button", L"{0E4FB5B5-7A88-42CB-81F7-6CC85145053E}",
-     kFlatToolButtonClass, L"103"},
+     kFlatToolButtonClass, L"103", kButtonStatus},
+    {L"qvFlatOption", L"Quillet flat option button", L"{70BE46FE-6F5D-4F36-9D6A-678F6CA0E998}",
+     kQvFlatOptionClass, L"104", kBoxStatus},
+    {L"qvFlatCheck", L"Quillet flat check box", L"{5146FACD-92C5-46B9-B393-A67C3669CE63}", kQvFlatCheckClass,
+     L"105", kBoxStatus},
 };
 
 std::wstring lowered(std::wstring text)
@@ -107,7 +119,7 @@ void expectClass(Snapshot& rows, PublishedClass const& row)
         {key + L"\\progid@", shown + L".1"},
         {key + L"\\versionindependentprogid@", shown},
         {key + L"\\miscstatus@", L"0"},
-        {key + L"\\miscstatus\\1@", L"135569"}, // 0x20000 + 0x1000 + 0x100 + 0x80 + 0x10 + 0x1
+        {key + L"\\miscstatus\\1@", row.miscStatus},
         {key + L"\\toolboxbitmap32@", kit::Library::path() + L", " + row.toolboxBitmap},
         {key + L"\\typelib@", L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}"},
         {key + L"\\version@", L"1.0"},
@@ -243,9 +255,7 @@ TEST_F(Registration, letsTheSystemFindEachClassByName)
 
         DWORD status = 0;
         EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_CONTENT, &status), S_OK);
-        EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
-                                             OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
-                                             OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON));
+        EXPECT_EQ(std::to_wstring(status), row.miscStatus);
         EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_ICON, &status), S_OK);
         EXPECT_EQ(status, 0u);
     }

@@ -1,4 +1,5 @@
 // The users of the tooltip window, by the thread's own numbers.
+#include "MadeWindows.h"
 #include "PlainControl.h"
 #include "ToolTips.h"
 #include "kit/FakeForm.h"
@@ -55,6 +56,53 @@ TEST_F(Users, areCountedFirstThingAndTheWindowIsMadeOnce)
         second.createToolTip();
         EXPECT_EQ(state.toolTipUsers, 2);
         EXPECT_EQ(state.toolTip, made);
+    });
+}
+
+TEST_F(Users, firstHaveTheControlLibraryReadyAndThenAPlainTopmostWindow)
+{
+    onNewThread([] {
+        Sited control(true);
+        control.control->hWnd();
+        MadeWindows const made;
+        control.createToolTip();
+        ASSERT_EQ(made.windows.size(), 1U);
+        MadeWindow const& window = made.windows.front();
+        EXPECT_TRUE(window.controlsInitialised);
+        EXPECT_EQ(window.extendedStyle, 8U);
+        EXPECT_EQ(window.className, "tooltips_class32");
+        EXPECT_FALSE(window.hasTitle);
+        EXPECT_EQ(window.style, 0U);
+        for (int const length : window.place)
+            EXPECT_EQ(static_cast<DWORD>(length), 0x80000000U);
+        EXPECT_EQ(window.parent, nullptr);
+        EXPECT_EQ(window.menu, nullptr);
+        EXPECT_EQ(window.instance, moduleInstance());
+        EXPECT_EQ(window.data, nullptr);
+    });
+}
+
+TEST_F(Users, whoseWindowCannotBeMadeLiveWithoutOneAndItIsNotTriedAgain)
+{
+    onNewThread([] {
+        ThreadState const& state = threadState();
+        Sited first(true);
+        Sited second(true);
+        HWND const window = first.control->hWnd();
+        second.control->hWnd();
+        MadeWindows made;
+        made.failing = true;
+        first.createToolTip();
+        EXPECT_TRUE(state.toolTipCreated);
+        EXPECT_EQ(state.toolTip, nullptr);
+        made.failing = false;
+        second.createToolTip();
+        EXPECT_EQ(made.windows.size(), 1U);
+        EXPECT_EQ(state.toolTipUsers, 2);
+        ::SendMessageA(window, WM_MOUSEMOVE, 0, 0);
+        first.end();
+        second.end();
+        EXPECT_EQ(state.toolTipUsers, 0);
     });
 }
 
@@ -117,6 +165,25 @@ TEST_F(Users, beyondThirtyTwoBitsAreAnOverflow)
         EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max())
             << "who was not counted is not uncounted";
         state.toolTipUsers = 0;
+    });
+}
+
+TEST_F(Users, whoseNumberHasNoPredecessorOverflowAtTheirEnd)
+{
+    onNewThread([] {
+        ThreadState& state = threadState();
+        Sited control(false);
+        control.createToolTip();
+        state.toolTipUsers = std::numeric_limits<long>::min();
+        try {
+            control.control.toolTip().Terminate();
+            ADD_FAILURE() << "no error";
+        } catch (RunTimeError const& error) {
+            EXPECT_EQ(error.result(), static_cast<HRESULT>(0x800A0006));
+        }
+        state.toolTipUsers = 1;
+        control.end();
+        EXPECT_EQ(state.toolTipUsers, 0);
     });
 }
 

@@ -20,6 +20,13 @@ void PlainControl::onPaint()
         log->emplace_back("paint");
 }
 
+void PlainControl::onFocusMessage(bool gained)
+{
+    if (failing)
+        throw RunTimeError(E_FAIL);
+    Surface::onFocusMessage(gained);
+}
+
 void RoomTest::SetUpTestSuite()
 {
     setModuleInstance(::GetModuleHandleW(nullptr));

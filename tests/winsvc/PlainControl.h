@@ -20,7 +20,10 @@ public:
     ToolTipUser toolTip{*this};
     std::vector<std::string>* log = nullptr; ///< notes "paint" where a test wants to see it
 
+    bool failing = false; ///< whether a change of the focus fails
+
     void onPaint() override;
+    void onFocusMessage(bool gained) override;
     void onTerminate() override { toolTip.Terminate(); }
 
 protected:

@@ -49,20 +49,13 @@ protected:
         EXPECT_EQ(after.windows, before.windows);
         EXPECT_LE(after.window, before.window + kHandlesAtRandom);
         EXPECT_LE(after.gdi, before.gdi + kHandlesAtRandom);
-        EXPECT_LE(after.bytes, before.bytes + kBytesAtRandom + bytesOfTools(toolTip));
+        EXPECT_LE(after.bytes, before.bytes + kBytesAtRandom);
     }
 
 private:
     // Far below one handle, or the smallest block, a round.
     static constexpr int kHandlesAtRandom = 40;
     static constexpr size_t kBytesAtRandom = 2048;
-
-    /// The tooltip window keeps a record of every tool that it was ever told of: nobody takes tools out.
-    static size_t bytesOfTools(ToolTip toolTip)
-    {
-        constexpr size_t kBytesOfOne = 2 * sizeof(TTTOOLINFOA);
-        return toolTip == ToolTip::Kept ? kRounds * kBytesOfOne : 0;
-    }
 };
 
 TEST_F(Soak, ofThreeHundredLivesBesideAControlThatStaysLeavesNothingBehind)

@@ -59,6 +59,21 @@ TEST_F(Subclassing, twiceInstallsTheDispatchProcedureOnceSoTheChainNeverPointsAt
     });
 }
 
+TEST_F(Subclassing, passesAMessageOnWhoseHandlingFails)
+{
+    onNewThread([] {
+        Window window;
+        PlainOwner const control;
+        control->failing = true;
+        control.toolTip().Subclass(window.handle());
+        for (UINT const message : {WM_SETFOCUS, WM_KILLFOCUS}) {
+            window.send(message);
+            EXPECT_EQ(window.previous.count(message), 1) << message;
+        }
+        control.toolTip().Unsubclass();
+    });
+}
+
 TEST_F(Subclassing, anotherWindowFirstGivesTheFormerOneBack)
 {
     onNewThread([] {
