@@ -6,24 +6,9 @@
 namespace quillet::flat {
 namespace {
 
-constexpr COLORREF kFore = RGB(10, 20, 30);
-constexpr COLORREF kBack = RGB(40, 50, 60);
-constexpr COLORREF kBorder = RGB(70, 80, 90);
-
 class FlatLooks : public FlatTest {
 protected:
     kit::FakeForm form;
-
-    static void setColors(FlatButton& button)
-    {
-        button->put_ForeColor(kFore);
-        button->put_BackColor(kBack);
-        button->put_BorderColor(kBorder);
-    }
-    static void setWidth(FlatButton& button, short width)
-    {
-        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
-    }
 };
 
 TEST_F(FlatLooks, normalShowsForeBackAndBorderColourAndTheCaptionAtItsIndent)
@@ -34,7 +19,7 @@ TEST_F(FlatLooks, normalShowsForeBackAndBorderColourAndTheCaptionAtItsIndent)
     button.setCaption(L"Plain");
     face.caption = L"Plain";
     EXPECT_EQ(button.differencesFrom(face), "");
-    setColors(button);
+    button.setColors();
     face = {kFore, kBack, kBorder};
     face.caption = L"Plain";
     EXPECT_EQ(button.differencesFrom(face), "");
@@ -162,8 +147,8 @@ TEST_F(FlatLooks, disabledDiffersFromNormalByItsCaptionColourAlone)
 {
     ShownButton button(library(), form);
     button.setCaption(L"&Off");
-    setColors(button);
-    setWidth(button, 2);
+    button.setColors();
+    button.setWidth(2);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     Face face{::GetSysColor(COLOR_GRAYTEXT), kBack, kBorder};
     face.caption = L"&Off";
@@ -189,8 +174,8 @@ TEST_F(FlatLooks, disabledStaysDisabledUnderTheCursor)
 TEST_F(FlatLooks, taskPaneAtRestIsTextOnFaceInShadowWhateverTheColourProperties)
 {
     ShownButton button(library(), form);
-    setColors(button);
-    setWidth(button, 2);
+    button.setColors();
+    button.setWidth(2);
     button.setCaption(L"T&ask");
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     Face face = taskPaneNormalFace();
@@ -202,7 +187,7 @@ TEST_F(FlatLooks, taskPaneAtRestIsTextOnFaceInShadowWhateverTheColourProperties)
 TEST_F(FlatLooks, taskPaneHotIsABlendWithASelectionBorder)
 {
     ShownButton button(library(), form);
-    setColors(button);
+    button.setColors();
     button.setCaption(L"T&ask");
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
@@ -217,7 +202,7 @@ TEST_F(FlatLooks, taskPaneHotIsABlendWithASelectionBorder)
 TEST_F(FlatLooks, taskPaneDisabledIsShadowOnFaceInShadow)
 {
     ShownButton button(library(), form);
-    setColors(button);
+    button.setColors();
     button.setCaption(L"T&ask");
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
@@ -242,10 +227,10 @@ TEST_F(FlatLooks, tintsOfTheExpectationAreTheWorkedExamples)
 TEST_F(FlatLooks, borderStyle0WithBorderWidth5HasNoBorderAndTheCaptionStartsAtCaptionIndent)
 {
     ShownButton button(library(), form);
-    setColors(button);
+    button.setColors();
     button.setCaption(L"&Bare");
     EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
-    setWidth(button, 5);
+    button.setWidth(5);
     Face face{kFore, kBack, kBorder};
     face.caption = L"&Bare";
     face.bordered = false;

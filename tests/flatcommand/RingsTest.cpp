@@ -7,31 +7,17 @@ namespace {
 
 constexpr RECT kSmall{20, 30, 34, 38}; // 14 x 8
 
-constexpr COLORREF kFore = RGB(10, 20, 30);
-constexpr COLORREF kBack = RGB(40, 50, 60);
-constexpr COLORREF kBorder = RGB(70, 80, 90);
 kit::Letters const kLetters{{'.', kBack}, {'#', kBorder}, {'f', kFore}, {'g', RGB(0x80, 0x80, 0x80)}};
 
 class FlatRings : public FlatTest {
 protected:
     kit::FakeForm form;
-
-    static void setColors(FlatButton& button)
-    {
-        button->put_ForeColor(kFore);
-        button->put_BackColor(kBack);
-        button->put_BorderColor(kBorder);
-    }
-    static void setWidth(FlatButton& button, short width)
-    {
-        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
-    }
 };
 
 TEST_F(FlatRings, normalIsABorderOfOnePixelRoundTheFace)
 {
     ShownButton button(library(), form, kSmall);
-    setColors(button);
+    button.setColors();
     EXPECT_EQ(button.picture(kLetters), "##############\n"
                                         "#............#\n"
                                         "#............#\n"
@@ -45,8 +31,8 @@ TEST_F(FlatRings, normalIsABorderOfOnePixelRoundTheFace)
 TEST_F(FlatRings, aBorderWidthOf3IsThreePixelsOnEverySide)
 {
     ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 3);
+    button.setColors();
+    button.setWidth(3);
     EXPECT_EQ(button.picture(kLetters), "##############\n"
                                         "##############\n"
                                         "##############\n"
@@ -60,8 +46,8 @@ TEST_F(FlatRings, aBorderWidthOf3IsThreePixelsOnEverySide)
 TEST_F(FlatRings, aBorderWidthOf0IsAllFace)
 {
     ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 0);
+    button.setColors();
+    button.setWidth(0);
     kit::Canvas shown(14, 8);
     button.read(shown);
     EXPECT_EQ(shown.count(kBack), 14 * 8);
@@ -70,7 +56,7 @@ TEST_F(FlatRings, aBorderWidthOf0IsAllFace)
 TEST_F(FlatRings, withTheFocusTheBorderIsOnePixelThickerAndAFrameStandsTwoPixelsInside)
 {
     ShownButton button(library(), form, kSmall);
-    setColors(button);
+    button.setColors();
     ASSERT_TRUE(kit::focus(button.window()));
     ASSERT_EQ(button->Refresh(), S_OK);
     EXPECT_EQ(button.picture(kLetters), "##############\n"
@@ -109,12 +95,12 @@ TEST_F(FlatRings, extremeWidthsAndIndentsEndThePaintSilently)
     for (short const width : std::initializer_list<short>{SHRT_MIN, -1, 0, 60, SHRT_MAX})
         for (short const indent : std::initializer_list<short>{SHRT_MIN, -1, 0, 300, SHRT_MAX}) {
             EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
-            setWidth(button, width);
+            button.setWidth(width);
             EXPECT_EQ(button->DrawButton(), S_OK);
             paints += 2;
         }
     EXPECT_EQ(button.events().count(kPaint), paints);
-    setWidth(button, 1);
+    button.setWidth(1);
     EXPECT_EQ(button->put_CaptionIndent(4), S_OK);
     Face face = normalFace();
     face.caption = L"&Far";
@@ -124,12 +110,12 @@ TEST_F(FlatRings, extremeWidthsAndIndentsEndThePaintSilently)
 TEST_F(FlatRings, aBorderWiderThanTheButtonIsAllBorder)
 {
     ShownButton button(library(), form, kSmall);
-    setColors(button);
-    setWidth(button, 4);
+    button.setColors();
+    button.setWidth(4);
     kit::Canvas shown(14, 8);
     button.read(shown);
     EXPECT_EQ(shown.count(kBorder), 14 * 8);
-    setWidth(button, SHRT_MAX);
+    button.setWidth(SHRT_MAX);
     button.read(shown);
     EXPECT_EQ(shown.count(kBorder), 14 * 8);
 }

@@ -44,6 +44,18 @@ std::string ShownButton::picture(kit::Letters const& letters) const
     return shown.picture(letters);
 }
 
+void ShownButton::setColors()
+{
+    (*this)->put_ForeColor(kFore);
+    (*this)->put_BackColor(kBack);
+    (*this)->put_BorderColor(kBorder);
+}
+
+void ShownButton::setWidth(short width)
+{
+    EXPECT_EQ((*this)->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
+}
+
 void ShownButton::makeHot()
 {
     SIZE const now = size();

@@ -8,9 +8,12 @@
 
 namespace quillet::flat {
 
-enum class Caption { None, Named };
+/// Colours that no scheme has.
+inline constexpr COLORREF kFore = RGB(10, 20, 30);
+inline constexpr COLORREF kBack = RGB(40, 50, 60);
+inline constexpr COLORREF kBorder = RGB(70, 80, 90);
 
-/// Activated and painted; without a caption unless a test wants the name's.
+/// Activated and painted, without a caption.
 class ShownButton : public FlatButton {
 public:
     ShownButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace);
@@ -22,6 +25,10 @@ public:
     std::string differencesFrom(Face const& face) const;
     /// The same for a picture as text, for buttons small enough.
     std::string picture(kit::Letters const& letters) const;
+
+    /// Gives the normal look the colours above.
+    void setColors();
+    void setWidth(short width);
 
     /// Moves the cursor onto the button and repaints it.
     void makeHot();
