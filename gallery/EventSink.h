@@ -64,7 +64,6 @@ public:
     Connection& operator=(Connection&& other) noexcept;
     ~Connection() { end(); }
 
-    bool isConnected() const noexcept { return static_cast<bool>(m_point); }
     void end() noexcept;
 
 private:

@@ -21,7 +21,6 @@ public:
     STDMETHODIMP OnAmbientPropertyChange(DISPID property) override;
     STDMETHODIMP FreezeEvents(WINBOOL freeze) override;
 
-    std::wstring const& accessKeys() const noexcept { return m_accessKeys; }
     /// Takes the keys and, when they really changed, tells the container: painting sets them every time.
     void setAccessKeys(std::wstring_view keys);
 

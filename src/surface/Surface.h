@@ -66,7 +66,6 @@ public:
     Container const& container() const noexcept { return m_container; }
     SurfaceWindow& window() noexcept { return m_window; }
     InPlace& inPlace() noexcept { return m_inPlace; }
-    OleControl& oleControl() noexcept { return m_oleControl; }
     OleObject& oleObject() noexcept { return m_oleObject; }
     Persistence& persistence() noexcept { return m_persistence; }
     View& view() noexcept { return m_view; }

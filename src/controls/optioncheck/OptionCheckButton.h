@@ -59,7 +59,6 @@ protected:
     static bool setMouseCapture(HWND window, bool capture) noexcept;
     /// What a move does to the look while the form runs, the event apart.
     void followMouse(MouseArguments const& mouse);
-    bool lastHover() const noexcept { return m_lastHover; }
     void setLastHover(bool over) noexcept { m_lastHover = over; }
 
     // The members that both interfaces have; the properties go through their rows.
