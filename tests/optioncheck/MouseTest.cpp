@@ -43,6 +43,26 @@ TEST_P(Mouse, movesTellButtonsShiftAndTwips)
     EXPECT_EQ(move.values[3].get().fltVal, 4 * twips);
 }
 
+TEST_P(Mouse, pressesAndReleasesTellButtonShiftAndTwips)
+{
+    HDC const screen = ::GetDC(nullptr);
+    float const twips = 1440.0F / static_cast<float>(::GetDeviceCaps(screen, LOGPIXELSX)); // of a pixel
+    ::ReleaseDC(nullptr, screen);
+    for (auto const& [message, name] :
+         {std::pair{UINT{WM_RBUTTONDOWN}, "MouseDown"}, std::pair{UINT{WM_RBUTTONUP}, "MouseUp"}}) {
+        box.events().forget();
+        ::SendMessageW(box.inner(), message, MK_CONTROL, MAKELPARAM(10, 4));
+        ASSERT_EQ(box.count(name), 1);
+        auto const& event = box.events().events.front();
+        EXPECT_THAT(event.types,
+                    ElementsAre(VT_BYREF | VT_I2, VT_BYREF | VT_I2, VT_BYREF | VT_R4, VT_BYREF | VT_R4));
+        EXPECT_EQ(event.values[0].toLong(), 2);
+        EXPECT_EQ(event.values[1].toLong(), 2);
+        EXPECT_EQ(event.values[2].get().fltVal, 10 * twips);
+        EXPECT_EQ(event.values[3].get().fltVal, 4 * twips);
+    }
+}
+
 TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
 {
     box.enter();
