@@ -52,6 +52,24 @@ TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
     EXPECT_TRUE(checked);
 }
 
+TEST_P(ImageToggle, isPaintedWhenMouseUpIsRaised)
+{
+    constexpr COLORREF kEdge = RGB(12, 34, 56);
+    ASSERT_EQ(button()->put_CheckedLightBorderColor(kEdge), S_OK);
+    button().moveTo(kInside);
+    button().press();
+    COLORREF shown = CLR_INVALID;
+    button().events().action = [&](auto const& event) {
+        if (event.id != kMouseUp)
+            return;
+        WindowDc const dc(button().window());
+        shown = ::GetPixel(dc.get(), 0, 0);
+    };
+    button().release();
+    button().events().action = nullptr;
+    EXPECT_EQ(shown, kEdge);
+}
+
 TEST_P(ImageToggle, countsTheRightAndTheBottomEdgeAsInside)
 {
     int const right = kPlace.right - kPlace.left;
