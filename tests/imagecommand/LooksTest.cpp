@@ -320,6 +320,18 @@ TEST_P(ImageLooks, whileNotActiveAreTheNormalOneUnderTheCursorAndDisabled)
     expect(face(kFore, kBack, kLight, kDark));
 }
 
+TEST_P(ImageLooks, ofAPressedButtonThatIsDisabledAndEnabledAgainAreNotPressed)
+{
+    setColors();
+    button.makePressed();
+    EXPECT_EQ(pixelAt(button, 60, 36), kPressedBack);
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(pixelAt(button, 60, 36), kBack);
+    ASSERT_EQ(button->put_Enabled(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(pixelAt(button, 60, 36), kHotBack);
+    button.leave();
+}
+
 TEST_P(ImageLooks, areDecidedByAPaintAndNotByTheHostsCallOfDrawButton)
 {
     setColors();

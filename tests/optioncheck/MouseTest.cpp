@@ -71,6 +71,41 @@ TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_P(Mouse, isHeldAndTheLookIsHotWhenMouseMoveIsRaised)
+{
+    box.setColours(kFore, kFore);
+    HWND held = nullptr;
+    COLORREF inside = CLR_INVALID;
+    box.events().action = [&](auto const& event) {
+        if (inside != CLR_INVALID || nameOfEvent(event.id) != "MouseMove")
+            return;
+        held = ::GetCapture();
+        inside = box.pixel(kInGlyph);
+    };
+    box.enter();
+    box.events().action = nullptr;
+    EXPECT_EQ(held, box.inner());
+    EXPECT_EQ(inside, kLightGrey);
+}
+
+TEST_P(Mouse, isHeldOutsideAsLongAsAButtonIsDown)
+{
+    box.setColours(kFore, kFore);
+    for (MouseButton const button : {MouseButton::Left, MouseButton::Right}) {
+        box.enter();
+        box.press(button);
+        for (int further = 0; further < 3; ++further) {
+            box.during([&] { box.moveTo({kBeside.x + further, kBeside.y}); }, "MouseMove");
+            EXPECT_EQ(::GetCapture(), box.inner());
+        }
+        box.letGo(button);
+        if (button != MouseButton::Left) // the system ends the capture with a press of the left one
+            box.during([&] { box.moveTo({kBeside.x + 5, kBeside.y}); }, "MouseMove");
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(box.pixel(kInGlyph), kWhite);
+    }
+}
+
 TEST_P(Mouse, isNotOverTheBoxUnderAnotherWindow)
 {
     UniqueWindow const cover(::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 400, 100,

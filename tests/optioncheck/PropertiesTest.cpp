@@ -243,9 +243,12 @@ TEST_P(Properties, showAboutWaitsForItsBox)
 TEST_P(Properties, resizeCoversTheControlAndRaisesResize)
 {
     RECT const larger = {20, 30, 200, 70};
+    RECT inner = {};
+    box.events().action = [&](auto const&) { ::GetClientRect(box.inner(), &inner); };
     EXPECT_EQ(box.as<IOleInPlaceObject>()->SetObjectRects(&larger, &larger), S_OK);
+    box.events().action = nullptr;
     EXPECT_THAT(box.happened(), ElementsAre("Resize"));
-    RECT inner;
+    EXPECT_EQ(inner.right, 180) << "when Resize is raised";
     ::GetClientRect(box.inner(), &inner);
     EXPECT_EQ(inner.right, 180);
     EXPECT_EQ(inner.bottom, 40);

@@ -229,6 +229,18 @@ TEST_P(Saving, leavesTheControlAsItWasWhereAValueIsBroken)
     }
 }
 
+TEST_P(Saving, setsTheToolTipUpAfterResize)
+{
+    box.hosted().setSite();
+    HWND const inner = box.hwnd();
+    LONG_PTR subclassed = -1;
+    box.events().action = [&](auto const&) { subclassed = ::GetWindowLongPtrA(inner, GWLP_USERDATA); };
+    EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
+    box.events().action = nullptr;
+    EXPECT_EQ(subclassed, 0);
+    EXPECT_NE(::GetWindowLongPtrA(inner, GWLP_USERDATA), 0);
+}
+
 QV_EACH_BOX(Saving);
 
 using CheckSaving = BoxTest;
