@@ -197,7 +197,11 @@ TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
     expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makeHot();
     expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
-    button.leave();
+    button.makePressed();
+    expect(focused(face(sys(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    button.leave(); // released over it: not checked any more
+    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), selection, selection));
 }
