@@ -126,6 +126,29 @@ TEST_P(ImageBag, paintsOnceAndChangesNothingWhenItIsLoaded)
     EXPECT_EQ(button.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
 }
 
+TEST_P(ImageBag, isFollowedByTheToolTipAndThenByThePaint)
+{
+    HWND const window = button.window();
+    ASSERT_EQ(::GetWindowLongPtrA(window, GWLP_USERDATA), 0);
+    bool subclassed = false;
+    button.events().action = [&](auto const&) {
+        subclassed = ::GetWindowLongPtrA(window, GWLP_USERDATA) != 0;
+    };
+    ASSERT_EQ(load(), S_OK);
+    button.events().action = nullptr;
+    EXPECT_TRUE(subclassed);
+}
+
+TEST_P(ImageBag, givesTheAccessKeyBeforeAnybodyShowsTheButton)
+{
+    bag->put(L"Caption", Variant::ofString(L"&Save"));
+    ASSERT_EQ(load(), S_OK);
+    CONTROLINFO info{};
+    info.cb = sizeof info;
+    ASSERT_EQ(button.as<IOleControl>()->GetControlInfo(&info), S_OK);
+    EXPECT_EQ(info.cAccel, 2);
+}
+
 TEST_P(ImageBag, leavesTheBackColourOfATaskPaneButtonAsItWasSaved)
 {
     bag->put(L"BackColor", Variant::ofLong(0x123456));

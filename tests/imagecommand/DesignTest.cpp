@@ -40,6 +40,17 @@ TEST_P(ImageDesign, raisesNothingTakesNoCaptureAndShowsTheNormalLook)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_P(ImageDesign, hearsNoAccessKey)
+{
+    button.setCaption(L"&Save");
+    MSG message{};
+    message.hwnd = form.window();
+    message.message = WM_SYSCHAR;
+    message.wParam = L's';
+    button.as<IOleControl>()->OnMnemonic(&message);
+    EXPECT_THAT(button.events().ids(), IsEmpty());
+}
+
 TEST_P(ImageDesign, togglesNothing)
 {
     button.makeCheckButton();

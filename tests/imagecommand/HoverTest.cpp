@@ -25,6 +25,23 @@ TEST_P(ImageHover, leavesOnceWithoutTheCaptureAndWithARepaint)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_P(ImageHover, hasTheCaptureWhenItTellsOfEnteringAndNoneWhenItTellsOfLeaving)
+{
+    HWND entering = nullptr;
+    HWND leaving = button().window();
+    button().events().action = [&](auto const& event) {
+        if (event.id == kMouseEnter)
+            entering = ::GetCapture();
+        if (event.id == kMouseExit)
+            leaving = ::GetCapture();
+    };
+    button().moveTo(kInside);
+    button().moveTo(kBeside);
+    button().events().action = nullptr;
+    EXPECT_EQ(entering, button().window());
+    EXPECT_EQ(leaving, nullptr);
+}
+
 TEST_P(ImageHover, leftButtonPressesAndItsReleaseClicks)
 {
     button().moveTo(kInside);

@@ -1,6 +1,7 @@
 // The looks of both classes, pixel by pixel, in the user's colours and in the task-pane scheme.
 #include "Face.h"
 #include "kit/ByName.h"
+#include "kit/Fonts.h"
 #include "kit/Input.h"
 #include "kit/Painter.h"
 #include "kit/Pump.h"
@@ -196,7 +197,11 @@ TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
     expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makeHot();
     expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
-    button.leave();
+    button.makePressed();
+    expect(focused(face(sys(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    button.leave(); // released over it: not checked any more
+    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), selection, selection));
 }
@@ -297,6 +302,65 @@ TEST_P(ImageLooks, ofHotAndPressedPropertiesWaitForTheirState)
     expect(resting);
     button.makeHot();
     expect(face(kHotFore, RGB(9, 99, 199), kHotLight, kHotDark));
+}
+
+TEST_P(ImageLooks, doNotGoByTheFontForCheckedButtons)
+{
+    setColors();
+    check();
+    auto const large = kit::newFont(L"Tahoma", 20, true);
+    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
+    button.repaint();
+    expect(face(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
+}
+
+TEST_P(ImageLooks, whileNotActiveAreTheNormalOneUnderTheCursorAndDisabled)
+{
+    setColors();
+    ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
+    button.makeHot();
+    expect(face(kFore, kBack, kLight, kDark));
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    expect(face(kFore, kBack, kLight, kDark));
+}
+
+TEST_P(ImageLooks, ofAPressedButtonThatIsDisabledAndEnabledAgainAreNotPressed)
+{
+    setColors();
+    button.makePressed();
+    EXPECT_EQ(pixelAt(button, 60, 36), kPressedBack);
+    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    EXPECT_EQ(pixelAt(button, 60, 36), kBack);
+    ASSERT_EQ(button->put_Enabled(VARIANT_TRUE), S_OK);
+    EXPECT_EQ(pixelAt(button, 60, 36), kHotBack);
+    button.leave();
+}
+
+TEST_P(ImageLooks, areDecidedByAPaintAndNotByTheHostsCallOfDrawButton)
+{
+    setColors();
+    button.makeHot();
+    ::SetCursorPos(0, 0); // the message of the move waits
+    ASSERT_EQ(button->DrawButton(), S_OK);
+    expect(face(kHotFore, kHotBack, kHotLight, kHotDark));
+    ASSERT_EQ(button->put_LightBorderColor(kLight), S_OK);
+    expect(face(kFore, kBack, kLight, kDark));
+}
+
+TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
+{
+    setColors();
+    ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+    std::string found = "no event";
+    button.events().action = [&](auto const&) {
+        Face expected = face(kFore, RGB(7, 8, 9), kLight, kDark);
+        expected.shown = Shown{kImage, 5, middle(button.size().cy, kImage.height)};
+        expected.captionLeft = 5 + kImage.width + 1;
+        found = differencesFrom(button, expected);
+    };
+    ASSERT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
+    button.events().action = nullptr;
+    EXPECT_EQ(found, "");
 }
 
 TEST_P(ImageLooks, areTheSameInAViewOfTheControl)

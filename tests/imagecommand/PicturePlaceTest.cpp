@@ -162,6 +162,32 @@ TEST_P(ImagePicturePlace, followsTheShownPicturesOwnSize)
     expectAt(1 + kMargin, 10, {30, 20, RGB(1, 250, 250)});
 }
 
+TEST_P(ImagePicturePlace, movesTheCaptionOfAButtonThatHasAPictureInOneLookOnly)
+{
+    ImageButton bare(library(), form, kind(), {20, 80, 140, 120}, L"Bare");
+    bare.load();
+    bare->put_CaptionIndent(7);
+    ASSERT_EQ(bare->putref_HotImage(pictureOf(kHot).get()), S_OK);
+    for (auto const put : {&_qvImageCommand::put_ForeColor, &_qvImageCommand::put_HotForeColor})
+        (bare.dual()->*put)(kFore);
+    for (auto const put : {&_qvImageCommand::put_BackColor, &_qvImageCommand::put_HotBackColor})
+        (bare.dual()->*put)(kBack);
+    for (auto const put : {&_qvImageCommand::put_LightBorderColor, &_qvImageCommand::put_HotLightBorderColor})
+        (bare.dual()->*put)(kLight);
+    for (auto const put : {&_qvImageCommand::put_DarkBorderColor, &_qvImageCommand::put_HotDarkBorderColor})
+        (bare.dual()->*put)(kDark);
+    bare.setCaption(L"&Open");
+    Face expected = face();
+    expected.caption = L"&Open";
+    expected.captionLeft = 1 + 7;
+    EXPECT_EQ(differencesFrom(bare, expected), "");
+    bare.makeHot();
+    expected.captionLeft = 1 + kMargin + kHot.width + kGap;
+    expected.shown = Shown{kHot, 1 + kMargin, middle(40, kHot.height)};
+    EXPECT_EQ(differencesFrom(bare, expected), "");
+    bare.leave();
+}
+
 TEST_P(ImagePicturePlace, isCutAtTheEdgeWhereThePictureIsTooLarge)
 {
     Plain const large{200, 90, RGB(1, 250, 1)};

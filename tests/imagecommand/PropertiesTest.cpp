@@ -1,4 +1,5 @@
 // The properties of both classes: their initial values, and what assigning each of them does.
+#include "Face.h"
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
@@ -174,6 +175,47 @@ TEST_P(ImageProperties, initialisingPaintsBeforeThePicturesAreEmptied)
     EXPECT_EQ(valueOf(button, L"Image"), "none");
 }
 
+TEST_P(ImageProperties, initialisingPaintsBetweenTheFocusRectangleAndTheDarkBorders)
+{
+    ImageButton button(library(), form, kind());
+    ASSERT_EQ(button.setSite(), S_OK);
+    ASSERT_EQ(button.initNew(), S_OK);
+    for (wchar_t const* const name : {L"CaptionIndent", L"DarkBorderColor", L"HotDarkBorderColor"})
+        ASSERT_EQ(kit::putByName(*button.dual(), name, Variant::ofLong(99)).result, S_OK);
+    VARIANT_BOOL const focusRectangle = kind().isTool ? VARIANT_FALSE : VARIANT_TRUE;
+    ASSERT_EQ(button->put_ShowFocusRectangle(static_cast<VARIANT_BOOL>(~focusRectangle)), S_OK);
+    ASSERT_EQ(button->put_CheckButton(VARIANT_TRUE), S_OK);
+    std::vector<std::string> seen;
+    button.events().action = [&](auto const&) {
+        for (wchar_t const* const name : {L"CaptionIndent", L"ShowFocusRectangle", L"DarkBorderColor",
+                                          L"HotDarkBorderColor", L"CheckButton"})
+            seen.push_back(valueOf(button, name));
+    };
+    ASSERT_EQ(button.initNew(), S_OK);
+    button.events().action = nullptr;
+    EXPECT_THAT(seen, ElementsAre("4", std::to_string(focusRectangle), "99", "99", "-1"));
+}
+
+TEST_P(ImageProperties, tellOfTheChangeThenMeasureAndThenPaint)
+{
+    ImageButton button(library(), form, kind());
+    start(button);
+    std::vector<std::string> order;
+    button.changes().action = [&](DISPID) { order.push_back("told"); };
+    button.events().action = [&](auto const& event) {
+        order.push_back(event.id == kPaint ? "painted" : "another event");
+    };
+    form.record().whenNoted = [&](std::string const& call) {
+        if (call.starts_with("Extender.Width = "))
+            order.push_back("measured");
+    };
+    button.setCaption(L"In order");
+    form.record().whenNoted = nullptr;
+    button.events().action = nullptr;
+    button.changes().action = nullptr;
+    EXPECT_THAT(order, ElementsAre("told", "measured", "painted"));
+}
+
 TEST_P(ImageProperties, whenAssignedStoreTellRepaintAndMeasureAsEachShould)
 {
     for (EffectRow const& row : kEffects) {
@@ -317,6 +359,31 @@ TEST_P(ImageProperties, refreshDrawsTheButtonWithoutThePaintEvent)
     EXPECT_EQ(button->Refresh(), S_OK);
     EXPECT_EQ(button->DrawButton(), S_OK);
     EXPECT_THAT(button.events().ids(), IsEmpty());
+}
+
+TEST_P(ImageProperties, refreshAndDrawButtonPutBackWhatSomebodyPaintedOver)
+{
+    ImageButton button(library(), form, kind());
+    button.load();
+    for (auto const draw : {&_qvImageCommand::Refresh, &_qvImageCommand::DrawButton}) {
+        {
+            WindowDc const dc(button.window());
+            ::SetPixelV(dc.get(), 60, 20, RGB(255, 0, 255));
+        }
+        ASSERT_EQ(pixelAt(button, 60, 20), RGB(255, 0, 255));
+        EXPECT_EQ((button.dual()->*draw)(), S_OK);
+        EXPECT_EQ(pixelAt(button, 60, 20), ::GetSysColor(COLOR_BTNFACE));
+    }
+}
+
+TEST_P(ImageProperties, whileActiveIsFalseARunningFormStillHearsOfEachPaint)
+{
+    ImageButton button(library(), form, kind());
+    button.load();
+    ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
+    button.forget();
+    EXPECT_EQ(button->put_BackColor(0x123456), S_OK);
+    EXPECT_THAT(button.events().ids(), ElementsAre(kPaint));
 }
 
 TEST_P(ImageProperties, atDesignTimeRaiseNoEventAndTellWhatChanged)

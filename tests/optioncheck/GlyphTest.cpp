@@ -196,6 +196,19 @@ TEST_F(Glyph, isShadedAtEveryHeight)
         }
 }
 
+TEST_F(Glyph, isShadedWithoutLeavingTheBrushBehind)
+{
+    for (Kind const* kind : {&kOption, &kCheck}) {
+        auto const box = shown(*kind, 0);
+        HDC const dc = ::GetDC(box->inner()); // the window's own: what is selected stays
+        HGDIOBJ const before = ::GetCurrentObject(dc, OBJ_BRUSH);
+        ASSERT_NE(before, ::GetStockObject(LTGRAY_BRUSH));
+        box->enter();
+        EXPECT_EQ(box->pixel(kInGlyph), kLightGrey);
+        EXPECT_EQ(::GetCurrentObject(dc, OBJ_BRUSH), before) << kind->name;
+    }
+}
+
 TEST_F(Glyph, standsAtTheSamePlaceForEveryFont)
 {
     auto const box = shown(kCheck, 1);

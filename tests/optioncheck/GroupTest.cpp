@@ -169,6 +169,23 @@ TEST_F(Group, clearsEveryOtherOneWhateverItsValue)
     EXPECT_EQ(form.record().count("Extender.TabStop = -1"), 2);
 }
 
+TEST_F(Group, givesTheChosenOneItsTabStopThenClearsTheOthersAndThenRaisesClick)
+{
+    auto& frame = container(1);
+    for (int i = 0; i < 3; ++i)
+        add(kOption, &frame);
+    std::vector<std::string> order;
+    form.record().whenNoted = [&](std::string const& call) {
+        if (call.starts_with("Extender.TabStop ="))
+            order.push_back(call);
+    };
+    boxes[1]->events().action = [&](auto const& event) { order.push_back(nameOfEvent(event.id)); };
+    boxes[1]->setValue(1);
+    form.record().whenNoted = nullptr;
+    EXPECT_THAT(order, ElementsAre("Extender.TabStop = -1", "Extender.TabStop = 0", "Extender.TabStop = 0",
+                                   "Click", "Extender.TabStop = -1"));
+}
+
 TEST_F(Group, leavesOneTabStop)
 {
     auto& frame = container(1);

@@ -43,12 +43,67 @@ TEST_P(Mouse, movesTellButtonsShiftAndTwips)
     EXPECT_EQ(move.values[3].get().fltVal, 4 * twips);
 }
 
+TEST_P(Mouse, pressesAndReleasesTellButtonShiftAndTwips)
+{
+    HDC const screen = ::GetDC(nullptr);
+    float const twips = 1440.0F / static_cast<float>(::GetDeviceCaps(screen, LOGPIXELSX)); // of a pixel
+    ::ReleaseDC(nullptr, screen);
+    for (auto const& [message, name] :
+         {std::pair{UINT{WM_RBUTTONDOWN}, "MouseDown"}, std::pair{UINT{WM_RBUTTONUP}, "MouseUp"}}) {
+        box.events().forget();
+        ::SendMessageW(box.inner(), message, MK_CONTROL, MAKELPARAM(10, 4));
+        ASSERT_EQ(box.count(name), 1);
+        auto const& event = box.events().events.front();
+        EXPECT_THAT(event.types,
+                    ElementsAre(VT_BYREF | VT_I2, VT_BYREF | VT_I2, VT_BYREF | VT_R4, VT_BYREF | VT_R4));
+        EXPECT_EQ(event.values[0].toLong(), 2);
+        EXPECT_EQ(event.values[1].toLong(), 2);
+        EXPECT_EQ(event.values[2].get().fltVal, 10 * twips);
+        EXPECT_EQ(event.values[3].get().fltVal, 4 * twips);
+    }
+}
+
 TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
 {
     box.enter();
     EXPECT_EQ(::GetCapture(), box.inner());
     EXPECT_THAT(box.leave(), ElementsAre("MouseMove"));
     EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_P(Mouse, isHeldAndTheLookIsHotWhenMouseMoveIsRaised)
+{
+    box.setColours(kFore, kFore);
+    HWND held = nullptr;
+    COLORREF inside = CLR_INVALID;
+    box.events().action = [&](auto const& event) {
+        if (inside != CLR_INVALID || nameOfEvent(event.id) != "MouseMove")
+            return;
+        held = ::GetCapture();
+        inside = box.pixel(kInGlyph);
+    };
+    box.enter();
+    box.events().action = nullptr;
+    EXPECT_EQ(held, box.inner());
+    EXPECT_EQ(inside, kLightGrey);
+}
+
+TEST_P(Mouse, isHeldOutsideAsLongAsAButtonIsDown)
+{
+    box.setColours(kFore, kFore);
+    for (MouseButton const button : {MouseButton::Left, MouseButton::Right}) {
+        box.enter();
+        box.press(button);
+        for (int further = 0; further < 3; ++further) {
+            box.during([&] { box.moveTo({kBeside.x + further, kBeside.y}); }, "MouseMove");
+            EXPECT_EQ(::GetCapture(), box.inner());
+        }
+        box.letGo(button);
+        if (button != MouseButton::Left) // the system ends the capture with a press of the left one
+            box.during([&] { box.moveTo({kBeside.x + 5, kBeside.y}); }, "MouseMove");
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(box.pixel(kInGlyph), kWhite);
+    }
 }
 
 TEST_P(Mouse, isNotOverTheBoxUnderAnotherWindow)

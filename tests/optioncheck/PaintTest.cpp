@@ -64,6 +64,9 @@ TEST_P(Paint, ofADisabledOneLetsWaitingMessagesRun)
     EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 0); // an enabled one lets nothing run
     box.put(L"Enabled", Variant::ofBool(false));
     EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 42);
+    ::PostMessageW(other.get(), WM_APP, 43, 0);
+    kit::callByName(box.dispatch(), L"Refresh");
+    EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 43);
 }
 
 TEST_P(Paint, ofADisabledOneLeavesKeysToTheHostsLoop)
@@ -154,6 +157,12 @@ TEST_P(Paint, shadesNothingAtDesignTime)
     designed.put(L"Enabled", Variant::ofBool(false));
     EXPECT_TRUE(designed.captionHas(shadow()));
     EXPECT_EQ(designed.pixel(kInGlyph), kWhite);
+    kit::Canvas drawn(120, 20);
+    RECTL const bounds = {0, 0, 120, 20};
+    EXPECT_EQ(designed.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.dc(),
+                                               &bounds, nullptr, nullptr, 0),
+              S_OK);
+    EXPECT_EQ(drawn.at(kInGlyph.x, kInGlyph.y), kWhite);
 }
 
 TEST_P(Paint, ofAnInactiveOneIsDisabledInAPictureToo)

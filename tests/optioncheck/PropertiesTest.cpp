@@ -32,6 +32,38 @@ protected:
 
 class NewBox : public EachBoxTest {};
 
+/// Dialogs of this thread are closed as soon as they show.
+class DialogCloser {
+public:
+    DialogCloser() : m_timer(::SetTimer(nullptr, 0, 20, &DialogCloser::look)) { s_seen = 0; }
+    ~DialogCloser() { ::KillTimer(nullptr, m_timer); }
+    DialogCloser(DialogCloser const&) = delete;
+    DialogCloser& operator=(DialogCloser const&) = delete;
+
+    int seen() const noexcept { return s_seen; }
+
+private:
+    static BOOL CALLBACK close(HWND window, LPARAM)
+    {
+        wchar_t name[16] = {};
+        ::GetClassNameW(window, name, 16);
+        if (std::wstring(name) != L"#32770" || !::IsWindowVisible(window))
+            return TRUE;
+        ++s_seen;
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+        return FALSE;
+    }
+    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
+    {
+        if (!s_seen)
+            ::EnumThreadWindows(::GetCurrentThreadId(), &DialogCloser::close, 0);
+    }
+
+    static int s_seen;
+    UINT_PTR m_timer;
+};
+int DialogCloser::s_seen = 0;
+
 TEST_P(NewBox, hasTheNameOfItsExtenderAndTheAmbientFont)
 {
     auto const font = kit::newFont(L"Courier New", 14, true);
@@ -55,6 +87,34 @@ TEST_P(NewBox, keepsItsLaidOutCaptionWhereThereIsNoName)
     box.extender().remove(L"Name");
     box.startNew();
     EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+}
+
+TEST_P(NewBox, initialisedAgainHasWhatANewOneHasButForWhatTheUserChose)
+{
+    Box box(kind(), library(), form, kPlace, L"optOne");
+    box.startNew();
+    box.put(L"Caption", Variant::ofString(L"Other"));
+    box.put(L"HotForeColor", Variant::ofLong(0x010203));
+    box.put(L"ForeColor", Variant::ofLong(0x040506));
+    box.put(L"BackColor", Variant::ofLong(0x070809));
+    EXPECT_EQ(box.hosted().initNew(), S_OK);
+    EXPECT_EQ(box.get(L"Caption").toString().view(), L"optOne");
+    EXPECT_EQ(box.get(L"HotForeColor").toLong(), kButtonText);
+    EXPECT_EQ(box.get(L"ForeColor").toLong(), isOption() ? 0x040506 : kButtonText);
+    EXPECT_EQ(box.get(L"BackColor").toLong(), 0x070809);
+}
+
+TEST_P(NewBox, tellsOfTheFontThatItIsGiven)
+{
+    Box box(kind(), library(), form);
+    auto const sink = kit::make<kit::ChangeRecorder>();
+    kit::Connection const connection(box.hosted().object(), IID_IPropertyNotifySink, sink->unknown());
+    box.hosted().setSite();
+    EXPECT_EQ(box.hosted().initNew(), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(DISPID_FONT));
+    EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
+    EXPECT_THAT(sink->take(), ElementsAre(DISPID_FONT));
+    EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
 }
 
 TEST_P(NewBox, worksWithoutLoadingOrInitialising)
@@ -172,12 +232,23 @@ TEST_P(Properties, refreshPaintsTheInnerButton)
     EXPECT_NE(box.pixel({110, 3}), RGB(255, 0, 255));
 }
 
+TEST_P(Properties, showAboutWaitsForItsBox)
+{
+    DialogCloser const closer;
+    EXPECT_EQ(kit::callByName(box.dispatch(), L"ShowAbout").result, S_OK);
+    EXPECT_EQ(closer.seen(), 1);
+    EXPECT_TRUE(::IsWindowEnabled(form.window()));
+}
+
 TEST_P(Properties, resizeCoversTheControlAndRaisesResize)
 {
     RECT const larger = {20, 30, 200, 70};
+    RECT inner = {};
+    box.events().action = [&](auto const&) { ::GetClientRect(box.inner(), &inner); };
     EXPECT_EQ(box.as<IOleInPlaceObject>()->SetObjectRects(&larger, &larger), S_OK);
+    box.events().action = nullptr;
     EXPECT_THAT(box.happened(), ElementsAre("Resize"));
-    RECT inner;
+    EXPECT_EQ(inner.right, 180) << "when Resize is raised";
     ::GetClientRect(box.inner(), &inner);
     EXPECT_EQ(inner.right, 180);
     EXPECT_EQ(inner.bottom, 40);

@@ -49,6 +49,36 @@ TEST_P(Saving, readsInOrder)
     EXPECT_EQ(bag->namesRead(), expected);
 }
 
+/// An empty bag that looks at the control's picture at the first question.
+class LookingBag final : public kit::Counterpart<IPropertyBag> {
+public:
+    explicit LookingBag(Box const& box) : m_box(box) {}
+    COLORREF seen = CLR_INVALID;
+
+    STDMETHODIMP Read(LPCOLESTR, VARIANT*, IErrorLog*) override
+    {
+        if (seen == CLR_INVALID)
+            seen = m_box.pixel({110, 3});
+        return E_INVALIDARG;
+    }
+    STDMETHODIMP Write(LPCOLESTR, VARIANT*) override { return E_NOTIMPL; }
+
+private:
+    Box const& m_box;
+};
+
+TEST_P(Saving, refreshesAnOptionBeforeItReadsAndNoCheckBox)
+{
+    box.start();
+    {
+        WindowDc const dc(box.inner());
+        ::SetPixelV(dc.get(), 110, 3, RGB(255, 0, 255));
+    }
+    auto const bag = kit::make<LookingBag>(box);
+    EXPECT_EQ(box.hosted().load(*bag.get()), S_OK);
+    EXPECT_EQ(bag->seen, isOption() ? ::GetSysColor(COLOR_BTNFACE) : RGB(255, 0, 255));
+}
+
 TEST_P(Saving, writesInOrderAndTheColourTwice)
 {
     box.start(*fullBag(1).get());
@@ -124,6 +154,19 @@ TEST_P(Saving, keepsTheUsersColourOfADisabledOneThatIsTheDefault)
     EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(0x80000012));
 }
 
+TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
+{
+    box.start();
+    box.setColours(RGB(200, 0, 0), RGB(200, 0, 0));
+    auto const bag = newBag();
+    bag->put(L"ForeColor", Variant::ofLong(RGB(0, 0, 200)));
+    EXPECT_EQ(box.hosted().load(*bag.get()), S_OK);
+    EXPECT_EQ(box.get(L"ForeColor").toLong(), static_cast<long>(RGB(0, 0, 200)));
+    EXPECT_TRUE(box.captionHas(RGB(0, 0, 200)));
+    EXPECT_FALSE(box.captionHas(RGB(200, 0, 0)));
+    EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"ForeColor", L"ForeColor"));
+}
+
 TEST_P(Saving, goesThroughAStream)
 {
     box.start(*fullBag(1).get());
@@ -184,6 +227,18 @@ TEST_P(Saving, leavesTheControlAsItWasWhereAValueIsBroken)
         EXPECT_EQ(box.value(), 0);
         EXPECT_TRUE(box.get(L"Enabled").toBool());
     }
+}
+
+TEST_P(Saving, setsTheToolTipUpAfterResize)
+{
+    box.hosted().setSite();
+    HWND const inner = box.hwnd();
+    LONG_PTR subclassed = -1;
+    box.events().action = [&](auto const&) { subclassed = ::GetWindowLongPtrA(inner, GWLP_USERDATA); };
+    EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
+    box.events().action = nullptr;
+    EXPECT_EQ(subclassed, 0);
+    EXPECT_NE(::GetWindowLongPtrA(inner, GWLP_USERDATA), 0);
 }
 
 QV_EACH_BOX(Saving);

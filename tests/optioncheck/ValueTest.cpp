@@ -113,6 +113,40 @@ TEST_F(OptionValue, givesAHostThatWantedNoTabStopNone)
     EXPECT_THAT(tabStopWrites(form), ElementsAre("Extender.TabStop = 0", "Extender.TabStop = 0"));
 }
 
+TEST_F(OptionValue, readsTheHostsTabStopAtTheEndOfLoading)
+{
+    Box box(kOption, library(), form);
+    box.events().action = [&](auto const& event) { // the last step before
+        if (nameOfEvent(event.id) == "Resize")
+            box.extender().offer(L"TabStop", Variant::ofBool(false));
+    };
+    box.hosted().setSite();
+    EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
+    box.events().action = nullptr;
+    box.extender().offer(L"TabStop", Variant::ofBool(true));
+    EXPECT_EQ(box.setValue(1), S_OK);
+    EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
+}
+
+TEST_F(OptionValue, isStoredThenToldAndThenTakesTheTabStopAlong)
+{
+    Box box(kOption, library(), form);
+    box.start();
+    box.setValue(1);
+    Told told(box);
+    long value = -1;
+    bool tabStop = false;
+    told->action = [&](DISPID) {
+        value = box.value();
+        tabStop = box.extender().value(L"TabStop").toBool();
+    };
+    EXPECT_EQ(box.setValue(0), S_OK);
+    told->action = nullptr;
+    EXPECT_EQ(value, 0);
+    EXPECT_TRUE(tabStop);
+    EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
+}
+
 TEST_F(OptionValue, leavesTheTabStopOfAChosenOneThatIsBeingLoaded)
 {
     auto const bag = newBag();

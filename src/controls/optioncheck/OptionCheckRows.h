@@ -19,10 +19,13 @@ struct InnerAccess {
     using Control = OptionCheckButton;
     using Access = PropertyAccess<Control>;
 
+    /// The colour that is shown. The user's changes first: a shown button paints within, and goes by that
+    /// one.
     static constexpr Access kForeColor = {
         [](Control const& c) { return fieldValue(c.innerButton().foreColor()); },
         [](Control& c, Variant const& v) {
-            c.innerButton().setForeColor(static_cast<OLE_COLOR>(v.toLong()));
+            c.setForeColor(static_cast<OLE_COLOR>(v.toLong()));
+            c.innerButton().setForeColor(c.foreColor());
         }};
     static constexpr Access kBackColor = {
         [](Control const& c) { return fieldValue(c.innerButton().backColor()); },
@@ -45,7 +48,7 @@ struct InnerAccess {
 /// Where the two differ.
 struct OptionCheckDifferences {
     wchar_t const* caption; ///< as laid out
-    InnerAccess::Access readForeColor;
+    AtStart shownForeColor;
     PropertyKind valueKind;
     InnerAccess::Access value;
     Saved secondForeColor;
@@ -67,14 +70,14 @@ constexpr OptionCheckRows optionCheckRows(OptionCheckDifferences const& own)
     constexpr auto kAsLaidOut = AtStart::Surface;
     // clang-format off
     return {{
-        {L"ForeColor",    DISPID_UNKNOWN,   Kind::Colour,  kButtonText, own.readForeColor,    Saved::Yes,          kNew,       Repaint::No},
-        {L"Enabled",      id::Enabled,      Kind::Flag,    true,        Held::kEnabled,       Saved::Yes,          kAsLaidOut, Repaint::Yes},
-        {L"Font",         id::Font,         Kind::OwnFont, 0,           Inner::kFont,         Saved::Yes,          kAsLaidOut, Repaint::ByItself},
-        {L"Caption",      id::Caption,      Kind::Text,    0,           Inner::kCaption,      Saved::Yes,          kAsLaidOut, Repaint::ByItself, nullptr, own.caption},
-        {L"Value",        id::Value,        own.valueKind, 0,           own.value,            Saved::Yes,          kAsLaidOut, Repaint::Yes},
-        {L"HotForeColor", id::HotForeColor, Kind::Colour,  kButtonText, Inner::kHotForeColor, Saved::Yes,          kNew,       Repaint::Yes},
-        {L"BackColor",    id::BackColor,    Kind::Colour,  kButtonFace, Inner::kBackColor,    Saved::Yes,          kAsLaidOut, Repaint::ByItself},
-        {L"ForeColor",    id::ForeColor,    Kind::Colour,  kButtonText, Held::kForeColor,     own.secondForeColor, kAsLaidOut, Repaint::Yes},
+        {L"ForeColor",    DISPID_UNKNOWN,   Kind::Colour,  kButtonText, Inner::kForeColor,    Saved::Yes,          own.shownForeColor, Repaint::No},
+        {L"Enabled",      id::Enabled,      Kind::Flag,    true,        Held::kEnabled,       Saved::Yes,          kAsLaidOut,         Repaint::Yes},
+        {L"Font",         id::Font,         Kind::OwnFont, 0,           Inner::kFont,         Saved::Yes,          kAsLaidOut,         Repaint::ByItself},
+        {L"Caption",      id::Caption,      Kind::Text,    0,           Inner::kCaption,      Saved::Yes,          kAsLaidOut,         Repaint::ByItself, nullptr, own.caption},
+        {L"Value",        id::Value,        own.valueKind, 0,           own.value,            Saved::Yes,          kAsLaidOut,         Repaint::Yes},
+        {L"HotForeColor", id::HotForeColor, Kind::Colour,  kButtonText, Inner::kHotForeColor, Saved::Yes,          kNew,               Repaint::Yes},
+        {L"BackColor",    id::BackColor,    Kind::Colour,  kButtonFace, Inner::kBackColor,    Saved::Yes,          kAsLaidOut,         Repaint::ByItself},
+        {L"ForeColor",    id::ForeColor,    Kind::Colour,  kButtonText, Held::kForeColor,     own.secondForeColor, kAsLaidOut,         Repaint::Yes},
     }};
     // clang-format on
 }

@@ -17,21 +17,13 @@ constexpr ControlClass kClass = {
 namespace id = dispid::qvFlatCheck;
 namespace event = eventid::optionCheck;
 
-/// The user's colour starts as the one that the box shows.
-constexpr InnerAccess::Access kBothForeColors = {
-    [](OptionCheckButton const& c) { return fieldValue(c.innerButton().foreColor()); },
-    [](OptionCheckButton& c, Variant const& v) {
-        c.innerButton().setForeColor(static_cast<OLE_COLOR>(v.toLong()));
-        c.setForeColor(c.innerButton().foreColor());
-    }};
-
 /// A changed value raises Click.
 constexpr InnerAccess::Access kValue = {
     [](OptionCheckButton const& c) { return fieldValue(static_cast<short>(c.innerButton().value())); },
     [](OptionCheckButton& c, Variant const& v) { c.innerButton().setValue(v.toShort()); }};
 
 constexpr OptionCheckRows kRows =
-    optionCheckRows({L"Check1", kBothForeColors, PropertyKind::State, kValue, Saved::OnlyWritten});
+    optionCheckRows({L"Check1", AtStart::Default, PropertyKind::State, kValue, Saved::OnlyWritten});
 
 } // namespace
 

@@ -29,7 +29,7 @@ constexpr InnerAccess::Access kValue = {
     }};
 
 constexpr OptionCheckRows kRows =
-    optionCheckRows({L"Option1", InnerAccess::kForeColor, PropertyKind::Number, kValue, Saved::Yes});
+    optionCheckRows({L"Option1", AtStart::Surface, PropertyKind::Number, kValue, Saved::Yes});
 
 Variant containerWindow(IDispatch* extender)
 {
