@@ -65,6 +65,20 @@ struct WindowTraits {
 };
 using UniqueWindow = UniqueHandle<WindowTraits>;
 
+struct LibraryTraits {
+    using Handle = HMODULE;
+    static void close(HMODULE library) noexcept { ::FreeLibrary(library); }
+};
+using UniqueLibrary = UniqueHandle<LibraryTraits>;
+
+/// A function that a library exports; null where it does not, or where there is no library.
+template <class Function> Function* functionOf(HMODULE library, char const* name) noexcept
+{
+    // By way of a plain function pointer, as compilers mistrust the direct conversion.
+    auto const plain = library ? reinterpret_cast<void (*)()>(::GetProcAddress(library, name)) : nullptr;
+    return reinterpret_cast<Function*>(plain);
+}
+
 /// Selects an object into a DC for one scope. Declare it after the object that it selects.
 class SelectScope {
 public:

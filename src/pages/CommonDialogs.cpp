@@ -7,17 +7,10 @@ namespace quillet {
 
 namespace {
 
-struct LibraryTraits {
-    using Handle = HMODULE;
-    static void close(HMODULE library) noexcept { ::FreeLibrary(library); }
-};
-
 template <class Dialog> bool show(char const* function, Dialog& dialog) noexcept
 {
-    UniqueHandle<LibraryTraits> const library(::LoadLibraryW(L"comdlg32.dll"));
-    // By way of a plain function pointer, as compilers mistrust the direct conversion.
-    auto const plain = reinterpret_cast<void (*)()>(::GetProcAddress(library.get(), function));
-    auto const open = reinterpret_cast<BOOL(APIENTRY*)(Dialog*)>(plain);
+    UniqueLibrary const library(::LoadLibraryW(L"comdlg32.dll"));
+    auto const open = functionOf<BOOL APIENTRY(Dialog*)>(library.get(), function);
     return open && open(&dialog);
 }
 

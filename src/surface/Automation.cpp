@@ -48,7 +48,8 @@ MemberName const* memberNamed(ControlClass const& controlClass, std::wstring_vie
     return nullptr;
 }
 
-/// The type information takes arguments as they come: what cannot be read is refused before.
+} // namespace
+
 void requireReadable(DISPPARAMS const& arguments)
 {
     if ((arguments.cArgs && !arguments.rgvarg) || (arguments.cNamedArgs && !arguments.rgdispidNamedArgs))
@@ -57,8 +58,6 @@ void requireReadable(DISPPARAMS const& arguments)
         if (refersToNothing(arguments.rgvarg[i]))
             throw RunTimeError(DISP_E_TYPEMISMATCH);
 }
-
-} // namespace
 
 ITypeInfo& TypeInfos::dispatchInfo(IID const& interfaceId)
 {

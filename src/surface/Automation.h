@@ -9,6 +9,9 @@
 
 namespace quillet {
 
+/// Type information takes arguments as they come: what cannot be read is refused before.
+void requireReadable(DISPPARAMS const& arguments);
+
 /// The descriptions that the component's own type library gives of a class, loaded at first need.
 class TypeInfos {
 public:

@@ -35,15 +35,6 @@ WNDCLASSEXW systemClass()
     return description;
 }
 
-/// The character after the first mark that is no escape for another one; empty where there is none.
-std::wstring_view accessKeyOf(std::wstring_view caption) noexcept
-{
-    for (size_t at = caption.find(L'&'); at != std::wstring_view::npos; at = caption.find(L'&', at + 2))
-        if (at + 1 < caption.size() && caption[at + 1] != L'&')
-            return caption.substr(at + 1, 1);
-    return {};
-}
-
 wchar_t const* textOf(Bstr const& text) noexcept { return text.get() ? text.get() : L""; }
 
 HFONT handleOf(IFont* font)
@@ -123,11 +114,33 @@ HWND InnerButton::forget() noexcept
     return window;
 }
 
+/// A mark before another one is an escape for it.
+std::wstring_view InnerButton::accessKey() const noexcept
+{
+    std::wstring_view const caption = m_caption.view();
+    for (size_t at = caption.find(L'&'); at != std::wstring_view::npos; at = caption.find(L'&', at + 2))
+        if (at + 1 < caption.size() && caption[at + 1] != L'&')
+            return caption.substr(at + 1, 1);
+    return {};
+}
+
+std::wstring InnerButton::shownCaption() const
+{
+    std::wstring shown;
+    std::wstring_view const caption = m_caption.view();
+    for (size_t at = 0; at < caption.size(); ++at) {
+        if (caption[at] == L'&' && ++at == caption.size())
+            break;
+        shown += caption[at];
+    }
+    return shown;
+}
+
 void InnerButton::setCaption(std::wstring_view caption)
 {
     m_caption = Bstr(caption);
     m_place = {};
-    m_surface.setAccessKeys(accessKeyOf(caption));
+    m_surface.setAccessKeys(accessKey());
     if (!m_window)
         return;
     // Straight to the system's procedure: a subclassing by code page would lose characters.
@@ -164,6 +177,7 @@ void InnerButton::store(long value)
         return;
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(value), 0);
     refresh();
+    m_surface.accessibility().stateChanged();
 }
 
 void InnerButton::setValue(long value)

@@ -8,6 +8,7 @@
 #include <ocidl.h>
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 
 namespace quillet {
@@ -31,6 +32,10 @@ public:
     void destroy() noexcept;
 
     Bstr const& caption() const noexcept { return m_caption; }
+    /// The caption as it is read: without the marks of access keys.
+    std::wstring shownCaption() const;
+    /// The character behind the first mark that counts; empty where there is none.
+    std::wstring_view accessKey() const noexcept;
     void setCaption(std::wstring_view caption);
     OLE_COLOR foreColor() const noexcept { return m_foreColor; }
     void setForeColor(OLE_COLOR colour);
@@ -38,6 +43,7 @@ public:
     void setBackColor(OLE_COLOR colour);
     void fontChanged();
 
+    InnerKind kind() const noexcept { return m_kind; }
     /// 0 clear, 1 set, of a check box 2: the third state.
     long value() const noexcept { return m_value; }
     /// Raises Click as a click does, where it chooses an option or changes a check box.

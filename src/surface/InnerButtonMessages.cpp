@@ -121,6 +121,10 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SYSKEYUP:
     case WM_CHAR:
         return key(message, wParam, lParam);
+    case WM_GETOBJECT:
+        if (m_surface.accessibility().isAskedFor(m_window, lParam))
+            return m_surface.accessibility().answer(wParam);
+        return passOn(message, wParam, lParam);
     case WM_SETFOCUS:
         return gotFocus(wParam, lParam);
     case WM_KILLFOCUS:

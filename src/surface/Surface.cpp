@@ -92,6 +92,7 @@ void Surface::terminate() noexcept
     m_inPlace.leave(InPlace::WindowThen::Destroyed);
     ignoringErrors([&] { onTerminate(); });
     m_window.destroy();
+    m_accessibility.disconnect();
     m_events.disconnect();
     m_view.disconnect();
     m_oleObject.disconnect();
@@ -144,6 +145,7 @@ void Surface::propertyChanged(DISPID property, ViewChange view)
     m_events.notifyChanged(property);
     if (view == ViewChange::Yes)
         m_view.notifyChanged();
+    m_accessibility.propertyChanged(property);
 }
 
 void Surface::paintInto(HDC dc, SIZE size)

@@ -5,6 +5,7 @@
 #include "base/ComPtr.h"
 #include "base/Module.h"
 #include "base/RunTimeError.h"
+#include "surface/Accessibility.h"
 #include "surface/Automation.h"
 #include "surface/Browsing.h"
 #include "surface/Container.h"
@@ -72,6 +73,7 @@ public:
     Events& events() noexcept { return m_events; }
     SurfaceFont& surfaceFont() noexcept { return m_font; }
     Browsing& browsing() noexcept { return m_browsing; }
+    Accessibility& accessibility() noexcept { return m_accessibility; }
 
     bool userMode() const noexcept { return m_container.userMode(); }
 
@@ -165,6 +167,10 @@ public:
     /// Its window was made, or made anew.
     virtual void onInnerMade() {}
 
+    /// What screen readers are told of the control, and of which window; null while there is none.
+    virtual AccessibleLook accessibleLook() const { return {}; }
+    virtual HWND accessibleWindow() const noexcept { return m_window.existing(); }
+
     /// What the window tells a dialog's keyboard handling (DLGC flags).
     virtual LRESULT dialogCode() const { return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON; }
 
@@ -223,6 +229,7 @@ private:
     ObjectWithSite m_objectWithSite{*this};
     ObjectSafety m_objectSafety{*this};
     Browsing m_browsing{*this};
+    Accessibility m_accessibility{*this};
 };
 
 /// Makes a control, alone or as part of an outer object, and hands out one of its interfaces.

@@ -78,6 +78,10 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CHAR:
         m_surface.onKeyPress(static_cast<short>(wParam));
         return 0;
+    case WM_GETOBJECT:
+        if (m_surface.accessibility().isAskedFor(m_window, lParam))
+            return m_surface.accessibility().answer(wParam);
+        return passOn(message, wParam, lParam);
     case WM_GETDLGCODE:
         return m_surface.dialogCode();
     case WM_SETCURSOR:

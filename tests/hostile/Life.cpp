@@ -9,6 +9,8 @@
 #include "kit/Memory.h"
 #include "kit/Pump.h"
 
+#include <oleacc.h>
+
 #include <gtest/gtest.h>
 
 namespace quillet::hostile {
@@ -93,6 +95,7 @@ void Life::live()
     step("show", &Life::show);
     step("mouse", &Life::useMouse);
     step("keys", &Life::useKeys);
+    step("accessible object", &Life::useAccessibleObject);
     step("draw", &Life::draw);
     step("properties", &Life::putProperties);
     step("ambients", &Life::changeAmbients);
@@ -195,6 +198,26 @@ void Life::useKeys()
     if (auto const own = as<IOleControl>())
         own->OnMnemonic(&mnemonic);
     kit::pumpPending();
+}
+
+void Life::useAccessibleObject()
+{
+    ComPtr<IAccessible> object;
+    if (HWND const window = asksAccessibleObject ? inputWindow() : nullptr)
+        ::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                     reinterpret_cast<void**>(object.put()));
+    if (!object)
+        return;
+    VARIANT const self = Variant::ofLong(CHILDID_SELF).get();
+    Bstr text;
+    Variant value;
+    object->get_accName(self, text.put());
+    object->get_accDescription(self, text.put());
+    object->get_accState(self, value.put());
+    object->accSelect(SELFLAG_TAKEFOCUS, self);
+    object->accDoDefaultAction(self);
+    ComPtr<IDispatch> parent;
+    object->get_accParent(parent.put());
 }
 
 void Life::useMouse()

@@ -50,6 +50,7 @@ public:
     void noted(std::string const& call);
     /// Hears of every occasion.
     std::function<void(std::string const&)> heard;
+    bool asksAccessibleObject = true;
 
     /// Every step of a standard life, in order, and the end.
     void live();
@@ -63,6 +64,7 @@ public:
     void initOrLoad();
     void show();
     void useKeys();
+    void useAccessibleObject();
     void useMouse();
     void draw();
     void putProperties();

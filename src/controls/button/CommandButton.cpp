@@ -1,12 +1,14 @@
 // What all command buttons do alike: follow the mouse, press, click, tell whether they are emphasised.
 #include "controls/button/CommandButton.h"
 
+#include "controls/button/Caption.h"
 #include "drawing/OffScreenDC.h"
 #include "surface/Cursor.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillet {
 
@@ -63,6 +65,7 @@ void CommandButton::onMouseUp(MouseArguments const& mouse)
         m_pressed = false;
         onReleased(mouse);
         repaint();
+        accessibility().stateChanged();
     }
     raiseMouseEvent(event::MouseUp, mouse);
 }
@@ -92,6 +95,16 @@ void CommandButton::setPressed(bool pressed)
 {
     m_pressed = pressed;
     repaint();
+    accessibility().stateChanged();
+}
+
+AccessibleLook CommandButton::accessibleLook() const
+{
+    SplitCaption split(caption());
+    LONG const state = (m_pressed ? STATE_SYSTEM_PRESSED : 0) |
+                       (m_state == VisualState::Hot ? STATE_SYSTEM_HOTTRACKED : 0) |
+                       (isDefault(*this) ? STATE_SYSTEM_DEFAULT : 0);
+    return {ROLE_SYSTEM_PUSHBUTTON, state, std::move(split.shown), std::move(split.accessKey), L"Press"};
 }
 
 void CommandButton::decideState(bool reacting)

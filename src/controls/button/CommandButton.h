@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include <span>
+#include <string_view>
 
 namespace quillet {
 
@@ -33,12 +34,14 @@ public:
     void onTerminate() override { m_toolTip.Terminate(); }
     void onWindowMade() override { m_toolTip.windowMade(hWnd()); }
     void onFontChanged() override { repaint(); }
+    AccessibleLook accessibleLook() const override;
 
 protected:
     using Surface::Surface;
 
     /// Whether the button reacts to the user. Never in design mode.
     virtual bool reacts() const noexcept { return userMode(); }
+    virtual std::wstring_view caption() const noexcept = 0;
     /// The left button came up; the repaint comes after it.
     virtual void onReleased(MouseArguments const&) {}
 

@@ -71,6 +71,7 @@ public:
 
 protected:
     IDispatch* dual() noexcept override { return this; }
+    std::wstring_view caption() const noexcept override { return m_looks.caption.view(); }
 
 private:
     struct Palette;

@@ -82,6 +82,7 @@ public:
     void onMouseMove(MouseArguments const& mouse) override;
     void onResize() override { repaint(); }
     void onMeasure() override;
+    AccessibleLook accessibleLook() const override;
 
     ImageLooks& looks() noexcept { return m_looks; }
     ImageLooks const& looks() const noexcept { return m_looks; }
@@ -93,6 +94,7 @@ protected:
     PropertyTable<ImageButton> const& properties() const noexcept { return m_kind.properties; }
 
     bool reacts() const noexcept override { return inUserMode(); }
+    std::wstring_view caption() const noexcept override { return m_looks.caption.view(); }
     void onReleased(MouseArguments const& mouse) override;
 
     /// Paints the button in the look that it has, picture included.

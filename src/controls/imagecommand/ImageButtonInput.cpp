@@ -29,6 +29,16 @@ void ImageButton::onMouseMove(MouseArguments const& mouse)
     raiseMouseEvent(eventid::command::MouseMove, mouse);
 }
 
+AccessibleLook ImageButton::accessibleLook() const
+{
+    AccessibleLook look = CommandButton::accessibleLook();
+    if (m_looks.checkButton)
+        look.role = ROLE_SYSTEM_CHECKBUTTON;
+    if (isChecked())
+        look.state |= STATE_SYSTEM_CHECKED;
+    return look;
+}
+
 /// The field itself: a click by the user is no change of the property that a designer would save.
 void ImageButton::onReleased(MouseArguments const& mouse)
 {

@@ -105,6 +105,15 @@ void OptionCheckButton::followMouse(MouseArguments const& mouse)
         followHover();
 }
 
+AccessibleLook OptionCheckButton::accessibleLook() const
+{
+    constexpr LONG kStates[] = {0, STATE_SYSTEM_CHECKED, STATE_SYSTEM_MIXED};
+    bool const option = m_inner.kind() == InnerKind::Option;
+    return {option ? ROLE_SYSTEM_RADIOBUTTON : ROLE_SYSTEM_CHECKBUTTON, kStates[m_inner.value()],
+            m_inner.shownCaption(), std::wstring(m_inner.accessKey()),
+            option || m_inner.value() == 0 ? L"Check" : L"Uncheck"};
+}
+
 HRESULT OptionCheckButton::getValue(OLE_TRISTATE* value) noexcept
 {
     return call([&] { deref(value) = static_cast<OLE_TRISTATE>(m_inner.value()); });

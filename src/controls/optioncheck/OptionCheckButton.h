@@ -45,6 +45,8 @@ public:
     void onAccessKeyPress(short) override { doClick(); }
     void doClick() override { m_inner.click(); }
     void onTerminate() override;
+    AccessibleLook accessibleLook() const override;
+    HWND accessibleWindow() const noexcept override { return m_inner.existing(); }
 
 protected:
     OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
