@@ -1,7 +1,7 @@
 VERSION 5.00
 Object = "{B451FB09-0E80-40CF-B3BD-7CC480918F2F}#1.0#0"; "quilbt.ocx"
 Begin VB.Form frmOptions 
-   BackColor       =   &H00FFFFFF&
+   BackColor       =   &H80000005&
    BorderStyle     =   1  'Fixed Single
    Caption         =   "Quillet - flat options"
    ClientHeight    =   5985
@@ -32,7 +32,7 @@ Begin VB.Form frmOptions
          Italic          =   0   'False
          Strikethrough   =   0   'False
       EndProperty
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "Flat option buttons and check boxes"
       Height          =   420
       Left            =   240
@@ -41,7 +41,7 @@ Begin VB.Form frmOptions
       Width           =   8970
    End
    Begin VB.Label lblHint 
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "One choice in each frame: by mouse, by arrow keys, or by Alt and an underlined letter."
       ForeColor       =   &H00606060&
       Height          =   240
@@ -51,7 +51,7 @@ Begin VB.Form frmOptions
       Width           =   8970
    End
    Begin VB.Frame fraSize 
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "Size: equal hot colour"
       Height          =   2055
       Left            =   240
@@ -59,7 +59,7 @@ Begin VB.Form frmOptions
       Top             =   960
       Width           =   2880
       Begin Quillet.qvFlatOption optSmall 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "&Small"
          Height          =   270
          Left            =   240
@@ -69,7 +69,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin Quillet.qvFlatOption optLarge 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "&Large"
          Height          =   270
          Left            =   240
@@ -79,7 +79,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin Quillet.qvFlatOption optHuge 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Not in stock"
          Enabled         =   0   'False
          Height          =   270
@@ -89,7 +89,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin Quillet.qvFlatOption optMedium 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "&Medium"
          Height          =   270
          Left            =   240
@@ -101,7 +101,7 @@ Begin VB.Form frmOptions
       End
    End
    Begin VB.Frame fraColour 
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "Colour: its own hot colour"
       Height          =   2055
       Left            =   3285
@@ -157,7 +157,7 @@ Begin VB.Form frmOptions
       End
    End
    Begin VB.Frame fraPlain 
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "Delivery: the system's own"
       Height          =   2055
       Left            =   6330
@@ -165,7 +165,7 @@ Begin VB.Form frmOptions
       Top             =   960
       Width           =   2880
       Begin VB.OptionButton optPost 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "By &post"
          Height          =   270
          Left            =   240
@@ -174,7 +174,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin VB.OptionButton optCourier 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "By co&urier"
          Height          =   270
          Left            =   240
@@ -184,7 +184,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin VB.OptionButton optFetch 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "&Fetched"
          Height          =   270
          Left            =   240
@@ -193,7 +193,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin VB.OptionButton optPigeon 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "By pigeon"
          Enabled         =   0   'False
          Height          =   270
@@ -204,7 +204,7 @@ Begin VB.Form frmOptions
       End
    End
    Begin VB.Frame fraExtras 
-      BackColor       =   &H00FFFFFF&
+      BackColor       =   &H80000005&
       Caption         =   "Extras: check boxes in three states"
       Height          =   2055
       Left            =   240
@@ -212,7 +212,7 @@ Begin VB.Form frmOptions
       Top             =   3165
       Width           =   8970
       Begin Quillet.qvFlatCheck chkGift 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "G&ift wrapping"
          Height          =   270
          Left            =   240
@@ -222,7 +222,7 @@ Begin VB.Form frmOptions
          Width           =   2700
       End
       Begin Quillet.qvFlatCheck chkCard 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "With a &card"
          Height          =   270
          Left            =   240
@@ -233,7 +233,7 @@ Begin VB.Form frmOptions
          Width           =   2700
       End
       Begin Quillet.qvFlatCheck chkNews 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Some &newsletters"
          Height          =   270
          Left            =   240
@@ -244,7 +244,7 @@ Begin VB.Form frmOptions
          Width           =   2700
       End
       Begin Quillet.qvFlatCheck chkNever 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Set and disabled"
          Enabled         =   0   'False
          Height          =   270
@@ -255,7 +255,7 @@ Begin VB.Form frmOptions
          Width           =   2700
       End
       Begin Quillet.qvFlatCheck chkExpress 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "E&xpress"
          ForeColor       =   &H007A3020&
          Height          =   270
@@ -267,7 +267,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin Quillet.qvFlatCheck chkInsured 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Insure&d"
          ForeColor       =   &H00205A20&
          Height          =   270
@@ -279,7 +279,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin Quillet.qvFlatCheck chkLong 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Third state, and &hot"
          ForeColor       =   &H0020207A&
          Height          =   270
@@ -291,7 +291,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin Quillet.qvFlatCheck chkOff 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Clear and disabled"
          Enabled         =   0   'False
          Height          =   270
@@ -301,7 +301,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin VB.CheckBox chkPlain 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "The s&ystem's own"
          Height          =   270
          Left            =   6330
@@ -310,7 +310,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin VB.CheckBox chkPlainSet 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Set"
          Height          =   270
          Left            =   6330
@@ -320,7 +320,7 @@ Begin VB.Form frmOptions
          Width           =   2400
       End
       Begin VB.CheckBox chkPlainOff 
-         BackColor       =   &H00FFFFFF&
+         BackColor       =   &H80000005&
          Caption         =   "Disabled"
          Enabled         =   0   'False
          Height          =   270
