@@ -28,6 +28,7 @@ Rows measureMouse(kit::Library const& library, Effort effort);
 Rows measureFocus(kit::Library const& library, Effort effort);
 Rows measureCreation(kit::Library const& library, Effort effort);
 Rows measureMembers(kit::Library const& library, Effort effort);
+Rows measureFills(kit::Library const& library, Effort effort);
 Rows measureOptions(kit::Library const& library, Effort effort);
 Rows measureSaving(kit::Library const& library, Effort effort);
 Rows measureFootprint(kit::Library const& library, Effort effort);

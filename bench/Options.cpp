@@ -111,22 +111,6 @@ Rows measureOne(kit::Library const& library, Effort effort)
     return rows;
 }
 
-/// Each shading asks for the window's device context and never gives it back.
-Row measureFills(kit::Library const& library, Effort effort)
-{
-    int const fills = effort == Effort::Full ? 100'000 : 1'000;
-    Pair pair(library);
-    check(pair.option->put_Enabled(VARIANT_FALSE));
-    auto const shade = [&] { ::RedrawWindow(pair.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
-    for (int i = 0; i < 100; ++i) // until the system's caches have what they keep
-        shade();
-    int const before = kit::Usage::now().gdi;
-    for (int i = 0; i < fills; ++i)
-        shade();
-    return {"growth of GDI places over " + std::to_string(fills) + " shaded glyphs",
-            std::to_string(kit::Usage::now().gdi - before), "0", "–", "0"};
-}
-
 /// So many options in one container, against as many of the system's in one group.
 class Groups {
 public:
@@ -172,10 +156,25 @@ private:
 
 } // namespace
 
+/// Each shading asks for the window's device context and never gives it back.
+Rows measureFills(kit::Library const& library, Effort effort)
+{
+    int const fills = effort == Effort::Full ? 100'000 : 1'000;
+    Pair pair(library);
+    check(pair.option->put_Enabled(VARIANT_FALSE));
+    auto const shade = [&] { ::RedrawWindow(pair.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
+    for (int i = 0; i < 100; ++i) // until the system's caches have what they keep
+        shade();
+    int const before = kit::Usage::now().gdi;
+    for (int i = 0; i < fills; ++i)
+        shade();
+    return {{"growth of GDI places over " + std::to_string(fills) + " shaded glyphs",
+             std::to_string(kit::Usage::now().gdi - before), "0", "–", "0"}};
+}
+
 Rows measureOptions(kit::Library const& library, Effort effort)
 {
     Rows rows = measureOne(library, effort);
-    rows.push_back(measureFills(library, effort));
     struct Size {
         int options;
         int rounds;
