@@ -128,7 +128,8 @@ TEST_P(Accessible, isCalledByItsCaptionWithoutTheMark)
     EXPECT_EQ(text(&IAccessible::get_accKeyboardShortcut, S_FALSE), L"");
 }
 
-// An option's mark before another one is an escape; of a command button the first mark counts, whatever it is.
+// An option's mark before another one is an escape; of a command button the first mark counts, whatever it
+// is.
 TEST_P(Accessible, isCalledAsItsCaptionReads)
 {
     put(L"Caption", Variant::ofString(L"Salt && p&epper"));
