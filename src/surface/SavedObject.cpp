@@ -64,7 +64,7 @@ SavedObject::Kind kindOf(IUnknown* object)
 /// No honest form has larger letters; drawing those of a forged size takes some systems minutes.
 bool hasHonestSize(IUnknown* object)
 {
-    constexpr LONGLONG kMost = 2160 * 10000; // points
+    constexpr LONGLONG kMost = 2160LL * 10000; // points
     auto const font = query<IFont>(object);
     CY size = {};
     return !font || (SUCCEEDED(font->get_Size(&size)) && size.int64 <= kMost && size.int64 >= -kMost);
