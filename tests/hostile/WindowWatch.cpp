@@ -16,15 +16,17 @@ struct Watch {
     Life* life;
 };
 
-std::map<HWND, Watch>& watches()
+/// By the 32 bits of a handle that count: after some 32,000 windows, systems differ in the others from call
+/// to call.
+std::map<LONG, Watch>& watches()
 {
-    static std::map<HWND, Watch> all;
+    static std::map<LONG, Watch> all;
     return all;
 }
 
 LRESULT CALLBACK watching(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    auto const found = watches().find(window);
+    auto const found = watches().find(HandleToLong(window));
     if (found == watches().end())
         return ::DefWindowProcA(window, message, wParam, lParam);
     Watch const watch = found->second;
@@ -50,16 +52,17 @@ HWND surfaceIn(HWND form)
 
 void watchMessages(HWND window, Life& life)
 {
-    if (!window || watches().contains(window))
+    if (!window || watches().contains(HandleToLong(window)))
         return;
     auto const previous = ::GetWindowLongPtrA(window, GWLP_WNDPROC);
-    watches()[window] = {reinterpret_cast<WNDPROC>(previous), &life};
+    watches()[HandleToLong(window)] = {reinterpret_cast<WNDPROC>(previous), &life};
     ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&watching));
 }
 
 void forgetWatches()
 {
-    std::erase_if(watches(), [](auto const& each) { return !::IsWindow(each.first); });
+    std::erase_if(watches(),
+                  [](auto const& each) { return !::IsWindow(static_cast<HWND>(LongToHandle(each.first))); });
 }
 
 } // namespace quillet::hostile
