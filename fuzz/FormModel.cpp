@@ -3,6 +3,7 @@
 #include "FormModel.h"
 
 #include "platform/MemoryStream.h"
+#include "surface/SavedPicture.h"
 
 #include <oaidl.h>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr size_t kHeader = 12;
 constexpr unsigned kLargest = 64u << 20;
+constexpr unsigned kLargestFont = 21'600'000; // 2,160 points
 
 using Bytes = std::span<BYTE const>;
 
@@ -59,9 +61,10 @@ bool takeData(Bytes body, size_t& at, FormModel& model)
         unsigned const kind = half(body, at);
         unsigned const size = whole(body, at + 2);
         bool const isDamaged = size > 0 && body[at + 6] == kDamaged;
-        if (kind == 1 && isDamaged)
+        bool const isHuge = size >= 10 && whole(body, at + 12) > kLargestFont;
+        if (kind == 1 && (isDamaged || isHuge))
             return false;
-        model.hasDamagedPicture |= kind == 2 && isDamaged;
+        model.hasDamagedPicture |= kind == 2 && !isWholePicture(body.subspan(at + 6, size));
         if (kind == 0) {
             model.written.insert(model.written.end(), 6, 0);
             at += 6 + size;

@@ -22,13 +22,10 @@ constexpr Telling kTellings[] = {
 
 } // namespace
 
-bool Accessibility::isAskedFor(HWND window, LPARAM what) const noexcept
+std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM what)
 {
-    return static_cast<LONG>(what) == OBJID_CLIENT && window == m_surface.accessibleWindow();
-}
-
-LRESULT Accessibility::answer(WPARAM request)
-{
+    if (static_cast<LONG>(what) != OBJID_CLIENT || window != m_surface.accessibleWindow())
+        return std::nullopt;
     if (!m_object)
         m_object = ComPtr<AccessibleObject>(new AccessibleObject(m_surface));
     return m_object->handOver(request);

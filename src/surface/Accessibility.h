@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 namespace quillet {
 
 class Surface;
@@ -17,10 +19,9 @@ public:
     Accessibility(Accessibility const&) = delete;
     Accessibility& operator=(Accessibility const&) = delete;
 
-    /// Whether a window's WM_GETOBJECT asks for the control; everything else is the system's to answer.
-    bool isAskedFor(HWND window, LPARAM what) const noexcept;
-    /// The answer to it.
-    LRESULT answer(WPARAM request);
+    /// The answer to a window's WM_GETOBJECT that asks for the control; every other is the system's to
+    /// answer.
+    std::optional<LRESULT> answer(HWND window, WPARAM request, LPARAM what);
 
     /// For whoever listens to the desktop's events; costs nothing while nobody does.
     void propertyChanged(DISPID property) const noexcept;

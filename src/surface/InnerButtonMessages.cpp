@@ -122,8 +122,8 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CHAR:
         return key(message, wParam, lParam);
     case WM_GETOBJECT:
-        if (m_surface.accessibility().isAskedFor(m_window, lParam))
-            return m_surface.accessibility().answer(wParam);
+        if (auto const object = m_surface.accessibility().answer(m_window, wParam, lParam))
+            return *object;
         return passOn(message, wParam, lParam);
     case WM_SETFOCUS:
         return gotFocus(wParam, lParam);

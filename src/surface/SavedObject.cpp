@@ -2,6 +2,7 @@
 #include "surface/SavedObject.h"
 
 #include "base/RunTimeError.h"
+#include "surface/SavedPicture.h"
 #include "surface/StandardFont.h"
 #include "surface/StandardPicture.h"
 
@@ -9,6 +10,8 @@
 #include <olectl.h>
 
 #include <objidl.h>
+
+#include <cstring>
 
 namespace quillet {
 
@@ -61,13 +64,22 @@ SavedObject::Kind kindOf(IUnknown* object)
     throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
-/// No honest form has larger letters; drawing those of a forged size takes some systems minutes.
-bool hasHonestSize(IUnknown* object)
+/// No honest form has letters of more than 2,160 points; drawing those of a forged size takes some systems
+/// minutes. A saved font has its size in ten thousandths of a point behind version, character set, style and
+/// weight; one that is shorter the font object refuses itself.
+bool hasHonestSize(std::vector<BYTE> const& font) noexcept
 {
-    constexpr LONGLONG kMost = 2160LL * 10000; // points
-    auto const font = query<IFont>(object);
-    CY size = {};
-    return !font || (SUCCEEDED(font->get_Size(&size)) && size.int64 <= kMost && size.int64 >= -kMost);
+    constexpr size_t kSize = 6;
+    DWORD size = 0;
+    if (font.size() >= kSize + sizeof size)
+        std::memcpy(&size, font.data() + kSize, sizeof size);
+    return size <= 2160 * 10000;
+}
+
+/// Whether the system's own objects can be given these bytes.
+bool isHonest(SavedObject const& saved) noexcept
+{
+    return saved.kind == SavedObject::Kind::Font ? hasHonestSize(saved.bytes) : isWholePicture(saved.bytes);
 }
 
 } // namespace
@@ -91,11 +103,13 @@ ComPtr<IUnknown> objectOf(SavedObject const& saved)
     ComPtr<IUnknown> object = emptyObject(saved.kind);
     if (!object)
         return {};
+    if (!isHonest(saved))
+        throw RunTimeError(E_FAIL);
     auto const stream = memoryStream();
     check(stream->Write(saved.bytes.data(), static_cast<ULONG>(saved.bytes.size()), nullptr));
     rewind(*stream.get());
     auto const persist = object.as<IPersistStream>();
-    if (!persist || FAILED(persist->Load(stream.get())) || !hasHonestSize(object.get()))
+    if (!persist || FAILED(persist->Load(stream.get())))
         throw RunTimeError(E_FAIL);
     return object;
 }

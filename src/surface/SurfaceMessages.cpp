@@ -79,8 +79,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.onKeyPress(static_cast<short>(wParam));
         return 0;
     case WM_GETOBJECT:
-        if (m_surface.accessibility().isAskedFor(m_window, lParam))
-            return m_surface.accessibility().answer(wParam);
+        if (auto const object = m_surface.accessibility().answer(m_window, wParam, lParam))
+            return *object;
         return passOn(message, wParam, lParam);
     case WM_GETDLGCODE:
         return m_surface.dialogCode();

@@ -50,7 +50,7 @@ public:
     void noted(std::string const& call);
     /// Hears of every occasion.
     std::function<void(std::string const&)> heard;
-    bool asksAccessibleObject = true;
+    bool asksAccessibleObject = true; ///< not where memory is counted: some systems keep some of it each time
 
     /// Every step of a standard life, in order, and the end.
     void live();

@@ -2,6 +2,7 @@
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
+#include "kit/Fonts.h"
 #include "kit/Memory.h"
 
 #include <algorithm>
@@ -63,6 +64,22 @@ TEST_P(ImageDamage, ofAPictureIsToldAndTheRestOfTheControlIsLoaded)
     EXPECT_EQ(button.caption(), L"&Print");
     EXPECT_EQ(valueOf(button, L"CheckButton"), "-1");
     EXPECT_EQ(button.as<IPersistStreamInit>()->IsDirty(), S_OK) << "what it would save is something else";
+}
+
+TEST_P(ImageDamage, ofAnIconsHeightLeavesTheIconOut)
+{
+    ASSERT_EQ(button->putref_Image(kit::newIconPicture().get()), S_OK);
+    Bytes bytes = saved();
+    auto const picture = firstPicture(bytes);
+    ASSERT_NE(picture, bytes.end());
+    constexpr ptrdiff_t kHeight =
+        8 + 6 + 16 + 8; // behind mark and length, directory, its entry, size and width
+    ASSERT_EQ(picture[kHeight], 64) << "32 rows of colours, and as many of the mask";
+    picture[kHeight + 3] = 0x20; // 536,870,976 rows: systems that believe it read behind the data
+    EXPECT_EQ(load(bytes), S_FALSE);
+    EXPECT_EQ(valueOf(button, L"Image"), "none");
+    EXPECT_NE(valueOf(button, L"HotImage"), "none");
+    EXPECT_EQ(button.caption(), L"&Print");
 }
 
 TEST_P(ImageDamage, atAnyLengthIsRefusedAndChangesNothing)

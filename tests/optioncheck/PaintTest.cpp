@@ -20,6 +20,14 @@ protected:
         box.start(*bag.get());
     }
 
+    static void draw(Box& drawn, kit::Canvas& on)
+    {
+        RECTL const bounds = {0, 0, 120, 20};
+        EXPECT_EQ(drawn.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, on.dc(),
+                                                &bounds, nullptr, nullptr, 0),
+                  S_OK);
+    }
+
     Box box;
 };
 
@@ -158,10 +166,7 @@ TEST_P(Paint, shadesNothingAtDesignTime)
     EXPECT_TRUE(designed.captionHas(shadow()));
     EXPECT_EQ(designed.pixel(kInGlyph), kWhite);
     kit::Canvas drawn(120, 20);
-    RECTL const bounds = {0, 0, 120, 20};
-    EXPECT_EQ(designed.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.dc(),
-                                               &bounds, nullptr, nullptr, 0),
-              S_OK);
+    draw(designed, drawn);
     EXPECT_EQ(drawn.at(kInGlyph.x, kInGlyph.y), kWhite);
 }
 
@@ -170,10 +175,7 @@ TEST_P(Paint, ofAnInactiveOneIsDisabledInAPictureToo)
     box.setColours(kFore, kFore);
     box.put(L"Enabled", Variant::ofBool(false));
     kit::Canvas drawn(120, 20);
-    RECTL const bounds = {0, 0, 120, 20};
-    EXPECT_EQ(box.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.dc(),
-                                          &bounds, nullptr, nullptr, 0),
-              S_OK);
+    draw(box, drawn);
     EXPECT_EQ(drawn.at(kInGlyph.x, kInGlyph.y), kLightGrey);
     EXPECT_GT(drawn.count(shadow()), 0);
     EXPECT_EQ(drawn.count(kFore), 0);
