@@ -37,13 +37,13 @@ Variant newFont(Input& input)
     return Variant::ofUnknown(static_cast<IFont*>(font.get()));
 }
 
+/// Of a format whose bytes nobody looks at.
 Variant newPicture(Input& input)
 {
-    auto bytes = input.takeBytes(input.take<BYTE>() % kLongest);
-    if (!bytes.empty() && bytes.front() == kDamaged)
-        bytes.front() = 0;
-    return Variant::ofUnknown(
-        gallery::pictureOf({reinterpret_cast<char const*>(bytes.data()), bytes.size()}).get());
+    auto const bytes = input.takeBytes(input.take<BYTE>() % kLongest);
+    std::string const file = "GIF8" + std::string(bytes.begin(), bytes.end());
+    std::string const length{static_cast<char>(file.size()), 0, 0, 0};
+    return Variant::ofUnknown(gallery::pictureOf(std::string("lt\0\0", 4) + length + file).get());
 }
 
 Variant newScalar(Input& input, gallery::FormCoding coding)

@@ -3,7 +3,7 @@
 #include "FormModel.h"
 
 #include "platform/MemoryStream.h"
-#include "surface/SavedPicture.h"
+#include "base/SavedPicture.h"
 
 #include <oaidl.h>
 

@@ -2,7 +2,7 @@
 #include "surface/SavedObject.h"
 
 #include "base/RunTimeError.h"
-#include "surface/SavedPicture.h"
+#include "base/SavedPicture.h"
 #include "surface/StandardFont.h"
 #include "surface/StandardPicture.h"
 

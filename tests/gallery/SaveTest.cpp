@@ -217,6 +217,19 @@ TEST(SavedForm, thatLostItsPicturesIsToldOfEachAndOpens)
     EXPECT_EQ(form.saved().text, text) << "nothing more is lost";
 }
 
+TEST(SavedForm, whosePictureClaimsToBeHugeIsToldOfItAndOpens)
+{
+    std::string const text = kHead + kButton + "      Image           =   \"test.frx\":0000\r\n" + kTail;
+    std::string picture = bytesOfPicture(redPicture(4).get());
+    constexpr size_t kHeight = 8 + 14 + 8; // behind mark and length, the file's header, size and width
+    ASSERT_EQ(picture[kHeight], 4);
+    auto const companion = [&] { return std::string{static_cast<char>(picture.size()), 0, 0, 0} + picture; };
+    EXPECT_THAT(Designed(text, companion()).demo().warnings, IsEmpty());
+    picture[kHeight + 3] = 0x20;
+    EXPECT_THAT(Designed(text, companion()).demo().warnings,
+                ::testing::ElementsAre("test.frm:12: Image cannot be read: it is no picture"));
+}
+
 TEST(SavedForm, takesALongTextFromItsCompanion)
 {
     std::string const text = kHead +

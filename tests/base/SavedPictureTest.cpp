@@ -1,5 +1,5 @@
 // Pictures in the formats of files, whole and with one thing wrong at a time.
-#include "surface/SavedPicture.h"
+#include "base/SavedPicture.h"
 
 #include "kit/Memory.h"
 

@@ -1,5 +1,5 @@
 // Bitmaps, icons and cursors as files have them, looked over before anybody believes them.
-#include "surface/SavedPicture.h"
+#include "base/SavedPicture.h"
 
 #include <algorithm>
 #include <cstdint>
