@@ -37,11 +37,12 @@ Variant newFont(Input& input)
     return Variant::ofUnknown(static_cast<IFont*>(font.get()));
 }
 
-/// Of a format whose bytes nobody looks at.
+/// A GIF of one pixel, with bytes behind its end that nobody looks at.
 Variant newPicture(Input& input)
 {
+    constexpr std::string_view kGif{"GIF89a\1\0\1\0\x80\0\0\0\0\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35};
     auto const bytes = input.takeBytes(input.take<BYTE>() % kLongest);
-    std::string const file = "GIF8" + std::string(bytes.begin(), bytes.end());
+    std::string const file = std::string(kGif) + std::string(bytes.begin(), bytes.end());
     std::string const length{static_cast<char>(file.size()), 0, 0, 0};
     return Variant::ofUnknown(gallery::pictureOf(std::string("lt\0\0", 4) + length + file).get());
 }

@@ -7,11 +7,10 @@
 
 namespace quillet {
 
-/// Whether a picture object's saved bytes are a bitmap, an icon or a cursor, or none at all, and every size
-/// and place that they name lies within them. To be asked before the system gets them: its loaders believe
-/// what they read, and read on behind the end of damaged bytes. GIF, JPEG and PNG pass, as their decoders
-/// look for themselves; metafiles do not: no button shows them, and whoever plays them believes each of their
-/// records.
+/// Whether a picture object's saved bytes are a bitmap, an icon or a cursor, in any format that systems read,
+/// or none at all, and every size and place that they name lies within them. To be asked before the system
+/// gets them: its loaders believe what they read, and read on behind the end of damaged bytes. Metafiles are
+/// refused: no button shows them, and whoever plays them believes each of their records.
 bool isWholePicture(std::span<BYTE const> saved) noexcept;
 
 } // namespace quillet

@@ -85,7 +85,43 @@ Bytes icon(std::vector<Bytes> const& images, BYTE type = 1)
     return file + all;
 }
 
-Bytes const kPng = textBytes("\x89PNG\r\n\x1a\n") + 20;
+Bytes bigEndian(DWORD value, size_t size)
+{
+    Bytes bytes;
+    for (size_t i = size; i-- > 0;)
+        bytes.push_back(static_cast<BYTE>(value >> 8 * i));
+    return bytes;
+}
+
+Bytes png(DWORD width, DWORD height)
+{
+    return textBytes("\x89PNG\r\n\x1a\n") + Bytes{0, 0, 0, 13, 'I', 'H', 'D', 'R'} + bigEndian(width, 4) +
+           bigEndian(height, 4) + 9;
+}
+
+/// Behind some tables, as cameras write them.
+Bytes jpeg(DWORD width, DWORD height, BYTE frame = 0xC0)
+{
+    return Bytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 6,    'J',   'F', 0xFF, 0xC0, 0xFF,
+                 0xFF, 0xC4, 0,    3,    7, 0xFF, frame, 0,   11,   8} +
+           bigEndian(height, 2) + bigEndian(width, 2) + Bytes{1, 1, 0x11, 0, 0xFF, 0xDA, 0, 2};
+}
+
+Bytes const kGifColours{0, 0, 0, 255, 255, 255};
+
+Bytes gifScreen(WORD width, WORD height, BYTE flags)
+{
+    return textBytes("GIF89a") + bytesOf(width) + bytesOf(height) + Bytes{flags, 0, 0};
+}
+
+Bytes gifFrame(WORD width, WORD height, BYTE flags, Bytes const& colours = {})
+{
+    return Bytes{',', 0, 0, 0, 0} + bytesOf(width) + bytesOf(height) + Bytes{flags} + colours +
+           Bytes{2, 2, 'D', 1, 0};
+}
+
+Bytes const kGifEnd{';'};
+
 constexpr size_t kMask16 = 16 * 4; // 16 rows of 16 bits, each in whole double words
 
 /// 16 by 16 pixels in 16 colours: 104 bytes of header and colours, 128 of bits, 64 of mask.
@@ -128,7 +164,7 @@ TEST(SavedPicture, mayBeAnIconOrACursor)
     EXPECT_TRUE(isWholeToItsLastByte(icon({smallImage()})));
     EXPECT_TRUE(isWholeToItsLastByte(icon({smallImage()}, 2)));
     EXPECT_TRUE(isWholeToItsLastByte(icon({smallImage(), smallImage()})));
-    EXPECT_TRUE(isWholeToItsLastByte(icon({kPng, smallImage()})));
+    EXPECT_TRUE(isWholeToItsLastByte(icon({png(9, 5), smallImage()})));
     BITMAPCOREHEADER const core = {sizeof core, 16, 32, 1, 1};
     EXPECT_TRUE(isWholeToItsLastByte(icon({bytesOf(core) + 6 + kMask16 + kMask16})));
 }
@@ -146,11 +182,66 @@ TEST(SavedPicture, mayBeAnIconWithoutPixels)
     EXPECT_FALSE(isWhole(icon({bytesOf(header(0, 1, 0)) + 2000})));
 }
 
-TEST(SavedPicture, mayBeOfFormatsThatTheirDecodersLookAt)
+TEST(SavedPicture, mayBeAPng)
 {
-    EXPECT_TRUE(isWhole(textBytes("GIF89a") + 20));
-    EXPECT_TRUE(isWhole(Bytes{0xFF, 0xD8, 0xFF, 0xE0} + 20));
-    EXPECT_TRUE(isWhole(kPng));
+    EXPECT_TRUE(isWhole(png(9, 5)));
+    EXPECT_TRUE(isWhole(png(8192, 8192)));
+    for (DWORD const length : {0U, 0x8000U, 0x10009U, 0x40000001U, 0x80000009U, 0xFFFFFFFFU}) {
+        EXPECT_FALSE(isWhole(png(length, 5))) << length;
+        EXPECT_FALSE(isWhole(png(9, length))) << length;
+        EXPECT_FALSE(isWhole(icon({png(9, length)}))) << length;
+    }
+    EXPECT_FALSE(isWhole(png(8192, 8193)));
+    EXPECT_FALSE(isWhole(textBytes("\x89PNG\r\n\x1a\n")));
+}
+
+TEST(SavedPicture, mayBeAJpeg)
+{
+    for (BYTE const frame : {BYTE{0xC0}, BYTE{0xC1}, BYTE{0xC2}, BYTE{0xCF}})
+        EXPECT_TRUE(isWhole(jpeg(9, 5, frame))) << int{frame};
+    EXPECT_TRUE(isWhole(jpeg(8192, 8192)));
+    EXPECT_FALSE(isWhole(jpeg(8192, 8193)));
+    EXPECT_FALSE(isWhole(jpeg(40000, 300)));
+    EXPECT_FALSE(isWhole(jpeg(0, 5)));
+    EXPECT_FALSE(isWhole(jpeg(9, 0)));
+    for (BYTE const table : {BYTE{0xC4}, BYTE{0xC8}, BYTE{0xCC}, BYTE{0xDB}})
+        EXPECT_FALSE(isWhole(jpeg(9, 5, table))) << "a scan before its frame: " << int{table};
+}
+
+TEST(SavedPicture, mayBeAJpegThatBeginsWithOddBytes)
+{
+    EXPECT_FALSE(isWhole(Bytes{0xFF, 0xD8})) << "and nothing else";
+    EXPECT_FALSE(isWhole(Bytes{0xFF, 0xD8, 0xFF, 0xFF, 0xFF}));
+    EXPECT_TRUE(isWhole(Bytes{0xFF, 0xD8, 3, 4} + jpeg(9, 5))) << "decoders pass over what is no marker";
+    EXPECT_FALSE(isWhole(Bytes{0xFF, 0xD8, 0xFF, 0xE1, 0, 1} + jpeg(9, 5))) << "shorter than its length";
+    EXPECT_FALSE(isWhole(Bytes{0xFF, 0xD8, 0xFF, 0xE1, 0xFF, 0xFF} + jpeg(9, 5))) << "longer than the file";
+}
+
+TEST(SavedPicture, mayBeAGif)
+{
+    EXPECT_TRUE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + gifFrame(9, 5, 0) + kGifEnd));
+    EXPECT_TRUE(isWhole(gifScreen(9, 5, 0) + gifFrame(9, 5, 0x80, kGifColours) + kGifEnd))
+        << "with colours of the frame's own";
+    EXPECT_TRUE(isWhole(gifScreen(9, 5, 0x87) + 768 + gifFrame(9, 5, 0) + gifFrame(2, 2, 0) + kGifEnd));
+    Bytes const comment{'!', 0xFE, 2, 'a', 'b', 1, ';', 0};
+    EXPECT_TRUE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + comment + gifFrame(9, 5, 0) + comment))
+        << "without an end";
+}
+
+TEST(SavedPicture, hasAllPartsOfAGif)
+{
+    EXPECT_FALSE(isWhole(gifScreen(9, 5, 0) + gifFrame(9, 5, 0) + kGifEnd)) << "no colours";
+    EXPECT_FALSE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + kGifEnd)) << "no frame";
+    EXPECT_FALSE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + Bytes{7} + gifFrame(9, 5, 0)));
+    for (WORD const length : {WORD{0}, WORD{0x8000}, WORD{0xFFFF}}) {
+        EXPECT_FALSE(isWhole(gifScreen(length, 5, 0x80) + kGifColours + gifFrame(9, 5, 0))) << length;
+        EXPECT_FALSE(isWhole(gifScreen(9, length, 0x80) + kGifColours + gifFrame(9, 5, 0))) << length;
+        EXPECT_FALSE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + gifFrame(length, 5, 0))) << length;
+        EXPECT_FALSE(isWhole(gifScreen(9, 5, 0x80) + kGifColours + gifFrame(9, length, 0))) << length;
+    }
+    Bytes const whole = gifScreen(9, 5, 0x80) + kGifColours + gifFrame(9, 5, 0);
+    for (size_t length = 4; length < whole.size(); ++length)
+        EXPECT_FALSE(isWhole(Bytes(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(length)))) << length;
 }
 
 TEST(SavedPicture, mayBeNone)

@@ -20,17 +20,6 @@ constexpr wchar_t const* kSavedNames[] = {
     L"Value",         L"AutoSizeWidth", L"Checked",        L"CheckButton",   L"HotForeColor",
     L"CaptionIndent", L"MousePointer",  L"OfficeXPColors", L"CentreCaption", L"Active"};
 
-std::string hexadecimal(kit::Bytes const& bytes)
-{
-    std::string text;
-    char digits[3];
-    for (BYTE const byte : bytes) {
-        std::snprintf(digits, sizeof(digits), "%02x", byte);
-        text += digits;
-    }
-    return text;
-}
-
 class HostileData : public HostileControlTest {
 protected:
     Random random{options().seed};

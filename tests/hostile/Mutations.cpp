@@ -2,6 +2,7 @@
 #include "Mutations.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 
 namespace quillet::hostile {
@@ -103,6 +104,17 @@ kit::Bytes damaged(kit::Bytes bytes, Random& random, std::string& how)
         how += std::string(how.empty() ? "" : ", ") + damage.name;
     }
     return bytes;
+}
+
+std::string hexadecimal(kit::Bytes const& bytes)
+{
+    std::string text;
+    char digits[3];
+    for (BYTE const byte : bytes) {
+        std::snprintf(digits, sizeof(digits), "%02x", byte);
+        text += digits;
+    }
+    return text;
 }
 
 } // namespace quillet::hostile

@@ -11,4 +11,6 @@ namespace quillet::hostile {
 /// The bytes with one to three kinds of damage, which the text names.
 kit::Bytes damaged(kit::Bytes bytes, Random& random, std::string& how);
 
+std::string hexadecimal(kit::Bytes const& bytes);
+
 } // namespace quillet::hostile
