@@ -2,8 +2,8 @@
 // counts.
 #include "FormModel.h"
 
-#include "platform/MemoryStream.h"
 #include "base/SavedPicture.h"
+#include "platform/MemoryStream.h"
 
 #include <oaidl.h>
 
