@@ -24,16 +24,12 @@ struct PictureRow {
 std::vector<PictureRow> pictures()
 {
     PICTDESC description{};
-    description.cbSizeofstruct = sizeof description;
     description.picType = PICTYPE_ICON;
     description.icon.hicon = static_cast<HICON>(
         ::CopyImage(::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_WARNING)), IMAGE_ICON, 16, 16, 0));
-    ComPtr<IPictureDisp> icon;
-    check(::OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE,
-                                     reinterpret_cast<void**>(icon.put())));
     return {{"no picture", {}},
             {"a bitmap", kit::newBitmapPicture(16, 16, RGB(10, 120, 200))},
-            {"an icon", icon}};
+            {"an icon", kit::newPicture(description)}};
 }
 
 /// What the button shows, painted by body.

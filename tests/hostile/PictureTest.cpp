@@ -2,13 +2,9 @@
 #include "HostileTest.h"
 #include "Life.h"
 #include "Mutations.h"
-#include "base/Handles.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
-#include <olectl.h>
-
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -22,16 +18,6 @@ Bytes savedBytes(IUnknown* picture)
     auto const stream = kit::streamOf();
     EXPECT_EQ(query<IPersistStream>(picture)->Save(stream.get(), TRUE), S_OK);
     return kit::bytesOf(*stream.get());
-}
-
-Bytes savedPicture(PICTDESC description)
-{
-    description.cbSizeofstruct = sizeof description;
-    ComPtr<IUnknown> picture;
-    EXPECT_EQ(
-        ::OleCreatePictureIndirect(&description, IID_IPicture, TRUE, reinterpret_cast<void**>(picture.put())),
-        S_OK);
-    return savedBytes(picture.get());
 }
 
 Bytes savedBitmap(WORD depth)
@@ -50,7 +36,7 @@ Bytes savedBitmap(WORD depth)
     description.picType = PICTYPE_BITMAP;
     description.bmp.hbitmap =
         ::CreateDIBSection(nullptr, reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS, &bits, nullptr, 0);
-    return savedPicture(description);
+    return savedBytes(kit::newPicture(description).get());
 }
 
 Bytes savedCursor()
@@ -58,7 +44,7 @@ Bytes savedCursor()
     PICTDESC description = {};
     description.picType = PICTYPE_ICON;
     description.icon.hicon = ::CopyIcon(::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW)));
-    return savedPicture(description);
+    return savedBytes(kit::newPicture(description).get());
 }
 
 /// One white pixel.

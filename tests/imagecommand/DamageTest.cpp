@@ -72,8 +72,7 @@ TEST_P(ImageDamage, ofAnIconsHeightLeavesTheIconOut)
     Bytes bytes = saved();
     auto const picture = firstPicture(bytes);
     ASSERT_NE(picture, bytes.end());
-    constexpr ptrdiff_t kHeight =
-        8 + 6 + 16 + 8; // behind mark and length, directory, its entry, size and width
+    constexpr ptrdiff_t kHeight = 8 + 6 + 16 + 8; // behind its frame, the directory, an entry, size and width
     ASSERT_EQ(picture[kHeight], 2 * picture[kHeight - 4]) << "rows of colours, and as many of the mask";
     picture[kHeight + 3] = 0x20; // more than 536,870,912 rows: systems that believe it read behind the data
     EXPECT_EQ(load(bytes), S_FALSE);

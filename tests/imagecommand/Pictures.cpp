@@ -13,18 +13,9 @@ namespace quillet::image {
 
 namespace {
 
-ComPtr<IPictureDisp> made(PICTDESC* description)
-{
-    ComPtr<IPictureDisp> picture;
-    check(::OleCreatePictureIndirect(description, IID_IPictureDisp, TRUE,
-                                     reinterpret_cast<void**>(picture.put())));
-    return picture;
-}
-
 PICTDESC description(UINT type)
 {
     PICTDESC result{};
-    result.cbSizeofstruct = sizeof result;
     result.picType = type;
     return result;
 }
@@ -53,10 +44,16 @@ ComPtr<IPictureDisp> pictureOf(Plain const& plain)
 ComPtr<IPictureDisp> emptyPicture()
 {
     PICTDESC result = description(PICTYPE_NONE);
-    return made(&result);
+    return kit::newPicture(result);
 }
 
-ComPtr<IPictureDisp> unloadedPicture() { return made(nullptr); }
+ComPtr<IPictureDisp> unloadedPicture()
+{
+    ComPtr<IPictureDisp> picture;
+    check(
+        ::OleCreatePictureIndirect(nullptr, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.put())));
+    return picture;
+}
 
 ComPtr<IPictureDisp> metafilePicture()
 {
@@ -64,14 +61,14 @@ ComPtr<IPictureDisp> metafilePicture()
     ::Rectangle(dc, 0, 0, 20, 20);
     PICTDESC result = description(PICTYPE_ENHMETAFILE);
     result.emf.hemf = ::CloseEnhMetaFile(dc);
-    return made(&result);
+    return kit::newPicture(result);
 }
 
 ComPtr<IPictureDisp> alphaBitmap(Pixels const& pixels, int side)
 {
     PICTDESC result = description(PICTYPE_BITMAP);
     result.bmp.hbitmap = section(pixels, side).release();
-    return made(&result);
+    return kit::newPicture(result);
 }
 
 ComPtr<IPictureDisp> alphaIcon(Pixels const& pixels, int side)
@@ -84,7 +81,7 @@ ComPtr<IPictureDisp> alphaIcon(Pixels const& pixels, int side)
     parts.hbmMask = mask.get();
     PICTDESC result = description(PICTYPE_ICON);
     result.icon.hicon = ::CreateIconIndirect(&parts);
-    return made(&result);
+    return kit::newPicture(result);
 }
 
 short typeOf(IPictureDisp* picture)

@@ -11,14 +11,6 @@ namespace {
 
 constexpr LONGLONG kPoint = 10000; // a currency counts ten-thousandths
 
-ComPtr<IPictureDisp> newPicture(PICTDESC& description)
-{
-    ComPtr<IPictureDisp> picture;
-    check(::OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE,
-                                     reinterpret_cast<void**>(picture.put())));
-    return picture;
-}
-
 } // namespace
 
 ComPtr<IFont> newFont(wchar_t const* name, int points, bool bold)
@@ -77,6 +69,15 @@ bool equalFonts(IFont& a, IFont& b)
     return a.IsEqual(&b) == S_OK;
 }
 
+ComPtr<IPictureDisp> newPicture(PICTDESC description)
+{
+    description.cbSizeofstruct = sizeof description;
+    ComPtr<IPictureDisp> picture;
+    check(::OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE,
+                                     reinterpret_cast<void**>(picture.put())));
+    return picture;
+}
+
 ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color)
 {
     WindowDc const screen(nullptr);
@@ -89,7 +90,6 @@ ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color)
         ::FillRect(dc.get(), &all, brush.get());
     }
     PICTDESC description{};
-    description.cbSizeofstruct = sizeof description;
     description.picType = PICTYPE_BITMAP;
     description.bmp.hbitmap = bitmap.release(); // the picture owns it
     return newPicture(description);
@@ -98,7 +98,6 @@ ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color)
 ComPtr<IPictureDisp> newIconPicture()
 {
     PICTDESC description{};
-    description.cbSizeofstruct = sizeof description;
     description.picType = PICTYPE_ICON;
     description.icon.hicon = ::CopyIcon(::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_WARNING)));
     return newPicture(description);

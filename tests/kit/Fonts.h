@@ -26,6 +26,9 @@ HFONT handleOf(IFont& font);
 /// first.
 bool equalFonts(IFont& a, IFont& b);
 
+/// A picture object of what the description names, which becomes its own.
+ComPtr<IPictureDisp> newPicture(PICTDESC description);
+
 /// A picture object that holds a small bitmap, or an icon.
 ComPtr<IPictureDisp> newBitmapPicture(int width, int height, COLORREF color);
 ComPtr<IPictureDisp> newIconPicture();
