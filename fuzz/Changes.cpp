@@ -3,8 +3,8 @@
 #include "Changes.h"
 
 #include "base/ComCall.h"
-#include "gallery/FormText.h"
-#include "gallery/Pictures.h"
+#include "gallery/form/FormText.h"
+#include "gallery/form/Pictures.h"
 #include "platform/Objects.h"
 
 #include <oleauto.h>

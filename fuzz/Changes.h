@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Input.h"
-#include "gallery/FormTree.h"
-#include "gallery/PropertyBag.h"
+#include "gallery/form/FormTree.h"
+#include "gallery/form/PropertyBag.h"
 
 namespace quillet::fuzz {
 

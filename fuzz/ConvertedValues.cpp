@@ -4,9 +4,9 @@
 #include "Hold.h"
 #include "base/RunTimeError.h"
 #include "platform/MemoryStream.h"
-#include "surface/SavedValues.h"
-#include "surface/StandardFont.h"
-#include "surface/StandardPicture.h"
+#include "saving/SavedValues.h"
+#include "saving/StandardFont.h"
+#include "saving/StandardPicture.h"
 
 #include <optional>
 

@@ -3,12 +3,12 @@
 // those bytes.
 #include "FormInput.h"
 #include "Hold.h"
-#include "gallery/Companion.h"
-#include "gallery/ControlBag.h"
-#include "gallery/FormReader.h"
-#include "gallery/FormText.h"
-#include "gallery/FormValue.h"
-#include "gallery/FormValues.h"
+#include "gallery/form/Companion.h"
+#include "gallery/form/ControlBag.h"
+#include "gallery/form/FormReader.h"
+#include "gallery/form/FormText.h"
+#include "gallery/form/FormValue.h"
+#include "gallery/form/FormValues.h"
 #include "platform/Objects.h"
 
 #include <cmath>

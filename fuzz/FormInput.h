@@ -1,8 +1,8 @@
 // A form file and its companion, as the fuzzers of forms are given them.
 #pragma once
 
-#include "gallery/FormTree.h"
-#include "gallery/Names.h"
+#include "gallery/form/FormTree.h"
+#include "gallery/form/Names.h"
 #include "platform/Files.h"
 
 #include <windows.h>

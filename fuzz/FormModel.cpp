@@ -2,8 +2,8 @@
 // counts.
 #include "FormModel.h"
 
-#include "base/SavedPicture.h"
 #include "platform/MemoryStream.h"
+#include "saving/SavedPicture.h"
 
 #include <oaidl.h>
 

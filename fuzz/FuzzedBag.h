@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Input.h"
+#include "base/Counted.h"
 #include "base/Variant.h"
-#include "platform/Counted.h"
 
 #include <ocidl.h>
 
@@ -22,7 +22,6 @@ public:
     bool hasRefused() const noexcept { return m_hasRefused; }
 
 private:
-    bool answers(REFIID iid) const noexcept override { return iid == IID_IPropertyBag; }
     void fill(VARIANT& value);
     void fillReference(VARIANT& value);
 

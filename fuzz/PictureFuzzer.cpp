@@ -1,7 +1,7 @@
 // Fuzzes the check of saved pictures: a bitmap or an icon that passes, a loader that believes every word of
 // it can load without a step outside, and without a number that overflows in 32 bits.
 #include "Hold.h"
-#include "base/SavedPicture.h"
+#include "saving/SavedPicture.h"
 
 #include <sanitizer/asan_interface.h>
 

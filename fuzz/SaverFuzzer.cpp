@@ -6,11 +6,11 @@
 #include "Changes.h"
 #include "FormInput.h"
 #include "Hold.h"
-#include "gallery/ControlBag.h"
-#include "gallery/FormEditor.h"
-#include "gallery/FormReader.h"
-#include "gallery/FormText.h"
-#include "gallery/FormValue.h"
+#include "gallery/form/ControlBag.h"
+#include "gallery/form/FormEditor.h"
+#include "gallery/form/FormReader.h"
+#include "gallery/form/FormText.h"
+#include "gallery/form/FormValue.h"
 #include "platform/Objects.h"
 
 namespace quillet::fuzz {

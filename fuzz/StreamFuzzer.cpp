@@ -9,7 +9,7 @@
 #include "Input.h"
 #include "base/RunTimeError.h"
 #include "platform/Objects.h"
-#include "surface/SavedValues.h"
+#include "saving/SavedValues.h"
 
 namespace quillet::fuzz {
 

@@ -1,7 +1,7 @@
 // What stands in for the system's font object: identity, equality, and where the readers get fonts.
 #include "platform/FontObject.h"
 
-#include "surface/StandardFont.h"
+#include "saving/StandardFont.h"
 
 #include <olectl.h>
 
@@ -27,26 +27,10 @@ FontObject::FontObject(FontObject const& other)
     ++s_living;
 }
 
-HRESULT STDMETHODCALLTYPE FontObject::QueryInterface(REFIID iid, void** out)
+/// Late-bound calls come to nothing here.
+IUnknown* FontObject::inheritedInterface(REFIID iid) noexcept
 {
-    *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IFont || iid == IID_IDispatch ||
-        iid == IID_IFontDisp) // late-bound calls come to nothing here
-        *out = static_cast<IFont*>(this);
-    else if (iid == IID_IPersistStream)
-        *out = static_cast<IPersistStream*>(this);
-    if (!*out)
-        return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-}
-
-ULONG STDMETHODCALLTYPE FontObject::Release()
-{
-    ULONG const left = --m_references;
-    if (left == 0)
-        delete this;
-    return left;
+    return iid == IID_IDispatch || iid == IID_IFontDisp ? static_cast<IFont*>(this) : nullptr;
 }
 
 HRESULT STDMETHODCALLTYPE FontObject::Clone(IFont** copy)

@@ -12,16 +12,12 @@
 namespace quillet::fuzz {
 
 /// A font by its description, without a handle. It keeps the bytes it was loaded from and writes them again.
-class FontObject final : public IFont, public IPersistStream {
+class FontObject final : public Counted<IFont, IPersistStream> {
 public:
     FontObject() noexcept { ++s_living; }
     explicit FontObject(FONTDESC const& description);
 
     static int living() noexcept { return s_living; }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE get_Name(BSTR* name) override;
     HRESULT STDMETHODCALLTYPE get_Size(CY* size) override { return answer(size, m_size); }
@@ -57,7 +53,8 @@ public:
 
 private:
     FontObject(FontObject const& other);
-    ~FontObject() { --s_living; }
+    ~FontObject() override { --s_living; }
+    IUnknown* inheritedInterface(REFIID iid) noexcept override;
     template <class T> static HRESULT answer(T* out, T value) noexcept
     {
         *out = value;
@@ -66,7 +63,6 @@ private:
     bool operator==(FontObject const& other) const noexcept;
 
     static int s_living;
-    ULONG m_references = 1;
     std::wstring m_name = L"System";
     CY m_size{};
     SHORT m_weight = 400;

@@ -6,9 +6,9 @@
 
 namespace quillet::fuzz {
 
-bool MemoryStream::answers(REFIID iid) const noexcept
+IUnknown* MemoryStream::inheritedInterface(REFIID iid) noexcept
 {
-    return iid == IID_IStream || iid == IID_ISequentialStream;
+    return iid == IID_ISequentialStream ? static_cast<IStream*>(this) : nullptr;
 }
 
 HRESULT STDMETHODCALLTYPE MemoryStream::Read(void* target, ULONG size, ULONG* got)

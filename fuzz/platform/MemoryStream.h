@@ -1,7 +1,7 @@
 // A stream over bytes in memory.
 #pragma once
 
-#include "platform/Counted.h"
+#include "base/Counted.h"
 
 #include <objidl.h>
 
@@ -37,7 +37,7 @@ public:
     HRESULT STDMETHODCALLTYPE Clone(IStream**) override { return E_NOTIMPL; }
 
 protected:
-    bool answers(REFIID iid) const noexcept override;
+    IUnknown* inheritedInterface(REFIID iid) noexcept override;
 
 private:
     std::vector<BYTE> m_bytes;

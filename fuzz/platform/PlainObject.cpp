@@ -1,7 +1,7 @@
 // What stands in for the system's picture objects: identity, and where the readers get pictures.
 #include "platform/PlainObject.h"
 
-#include "surface/StandardPicture.h"
+#include "saving/StandardPicture.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -10,10 +10,19 @@ namespace quillet::fuzz {
 
 int PlainObject::s_living = 0;
 
-bool PlainObject::answers(REFIID iid) const noexcept
+HRESULT STDMETHODCALLTYPE PlainObject::QueryInterface(REFIID iid, void** out)
 {
-    bool const isPicture = iid == IID_IPicture || iid == IID_IPictureDisp || iid == IID_IPersistStream;
-    return iid == IID_IDispatch || (isPicture && m_kind == Kind::Picture);
+    if (iid == IID_IPersistStream && m_kind != Kind::Picture) {
+        *out = nullptr;
+        return E_NOINTERFACE;
+    }
+    return Counted::QueryInterface(iid, out);
+}
+
+IUnknown* PlainObject::inheritedInterface(REFIID iid) noexcept
+{
+    bool const isPicture = m_kind == Kind::Picture && (iid == IID_IPicture || iid == IID_IPictureDisp);
+    return iid == IID_IDispatch || isPicture ? static_cast<IPersistStream*>(this) : nullptr;
 }
 
 } // namespace quillet::fuzz

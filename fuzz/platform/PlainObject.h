@@ -17,6 +17,7 @@ public:
     std::vector<BYTE> const& bytes() const noexcept { return m_bytes; }
     static int living() noexcept { return s_living; }
 
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override;
     HRESULT STDMETHODCALLTYPE Load(IStream* stream) override { return loadBytes(*stream, m_bytes); }
     HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL) override { return saveBytes(*stream, m_bytes); }
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID*) override { return E_NOTIMPL; }
@@ -25,7 +26,8 @@ public:
 
 private:
     ~PlainObject() override { --s_living; }
-    bool answers(REFIID iid) const noexcept override;
+    /// By identifier alone: whoever asks for a picture here only keeps it and lets go of it.
+    IUnknown* inheritedInterface(REFIID iid) noexcept override;
 
     static int s_living;
     Kind m_kind;

@@ -2,8 +2,8 @@
 #include "pages/EditedObjects.h"
 
 #include "base/Bstr.h"
+#include "base/LateBound.h"
 #include "base/RunTimeError.h"
-#include "surface/LateBound.h"
 
 #include <algorithm>
 

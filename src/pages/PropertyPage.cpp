@@ -2,7 +2,7 @@
 #include "pages/PropertyPage.h"
 
 #include "base/HelpFile.h"
-#include "surface/TaskMemory.h"
+#include "base/TaskMemory.h"
 
 #include <olectl.h>
 
@@ -10,23 +10,9 @@
 
 namespace quillet {
 
-HRESULT PropertyPage::QueryInterface(REFIID iid, void** object)
+IUnknown* PropertyPage::inheritedInterface(REFIID iid) noexcept
 {
-    if (!object)
-        return E_POINTER;
-    *object = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IPropertyPage && iid != IID_IPropertyPage2)
-        return E_NOINTERFACE;
-    *object = ComPtr<IPropertyPage2>(this).detach();
-    return S_OK;
-}
-
-ULONG PropertyPage::Release()
-{
-    ULONG const left = --m_references;
-    if (left == 0)
-        delete this;
-    return left;
+    return iid == IID_IPropertyPage ? static_cast<IPropertyPage2*>(this) : nullptr;
 }
 
 HRESULT PropertyPage::SetPageSite(IPropertyPageSite* site)

@@ -3,7 +3,7 @@
 
 #include "base/ComCall.h"
 #include "base/ComPtr.h"
-#include "base/Module.h"
+#include "base/Counted.h"
 #include "base/RunTimeError.h"
 #include "pages/EditedObjects.h"
 #include "pages/PageWindow.h"
@@ -19,15 +19,8 @@
 namespace quillet {
 
 /// A page derives from this, says which properties it edits and fills its window.
-class PropertyPage : public IPropertyPage2, public PageCommands {
+class PropertyPage : public Counted<IPropertyPage2>, public PageCommands {
 public:
-    PropertyPage(PropertyPage const&) = delete;
-    PropertyPage& operator=(PropertyPage const&) = delete;
-
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override;
-
     // IPropertyPage
     STDMETHODIMP SetPageSite(IPropertyPageSite* site) override;
     STDMETHODIMP Activate(HWND parent, LPCRECT place, WINBOOL modal) override;
@@ -45,7 +38,8 @@ public:
 
 protected:
     explicit PropertyPage(wchar_t const* title) noexcept : m_title(title) {}
-    virtual ~PropertyPage() = default;
+
+    IUnknown* inheritedInterface(REFIID iid) noexcept override;
 
     /// Whether the page edits the property.
     virtual bool edits(DescribedProperty const& property) const = 0;
@@ -66,8 +60,6 @@ private:
     void requireWindow() const;
     void apply();
 
-    LiveObject m_live;
-    ULONG m_references = 0;
     wchar_t const* m_title;
     ComPtr<IPropertyPageSite> m_site;
     EditedObjects m_objects;
@@ -83,8 +75,7 @@ template <class Page> HRESULT createPage(IUnknown* outer, REFIID iid, void** obj
         deref(object) = nullptr;
         if (outer)
             throw RunTimeError(CLASS_E_NOAGGREGATION);
-        ComPtr<IPropertyPage2> const page(new Page);
-        check(page->QueryInterface(iid, object));
+        check(makeCounted<Page>()->QueryInterface(iid, object));
     });
 }
 

@@ -1,7 +1,7 @@
 // Makes controls and property pages for hosts.
 #pragma once
 
-#include "base/Module.h"
+#include "base/Counted.h"
 #include "shell/ClassTable.h"
 
 #include <windows.h>
@@ -11,24 +11,15 @@
 namespace quillet {
 
 /// The factory of one class. It keeps the component loaded while it lives or is locked.
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public Counted<IClassFactory> {
 public:
-    /// A new factory with no reference yet.
-    static ClassFactory* make(CreateFunction create) { return new ClassFactory(create); }
+    explicit ClassFactory(CreateFunction create) noexcept : m_create(create) {}
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override;
-    STDMETHODIMP_(ULONG) Release() override;
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override;
     STDMETHODIMP LockServer(WINBOOL lock) override;
 
 private:
-    explicit ClassFactory(CreateFunction create) noexcept : m_create(create) {}
-    ~ClassFactory() = default;
-
-    LiveObject m_live;
     CreateFunction m_create;
-    LONG volatile m_references = 0;
 };
 
 } // namespace quillet

@@ -3,12 +3,12 @@
 #include "base/ComPtr.h"
 #include "base/Module.h"
 #include "base/RunTimeError.h"
+#include "controls/optioncheck/InnerButton.h"
 #include "shell/ClassFactory.h"
 #include "shell/PageTable.h"
 #include "shell/Registration.h"
-#include "surface/InnerButton.h"
-#include "surface/SurfaceWindow.h"
-#include "surface/ThreadState.h"
+#include "surface/window/SurfaceWindow.h"
+#include "surface/window/ThreadState.h"
 
 #include <windows.h>
 
@@ -64,8 +64,7 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void**
         CreateFunction const create = creatorOf(classId);
         if (!create)
             return CLASS_E_CLASSNOTAVAILABLE;
-        ComPtr<IClassFactory> const factory = ClassFactory::make(create);
-        return factory->QueryInterface(iid, object);
+        return makeCounted<ClassFactory>(create)->QueryInterface(iid, object);
     });
 }
 

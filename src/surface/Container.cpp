@@ -2,8 +2,8 @@
 #include "surface/Container.h"
 
 #include "base/ComCall.h"
-#include "surface/LateBound.h"
-#include "surface/StandardFont.h"
+#include "base/LateBound.h"
+#include "saving/StandardFont.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // A control's properties as rows: the types of each kind.
 #include "surface/PropertyTable.h"
 
-#include "surface/StandardFont.h"
+#include "saving/StandardFont.h"
 
 namespace quillet {
 

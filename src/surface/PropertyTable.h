@@ -3,7 +3,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Variant.h"
-#include "surface/PropertyBag.h"
+#include "saving/PropertyBag.h"
 #include "surface/Surface.h"
 
 #include <ocidl.h>

@@ -3,7 +3,7 @@
 
 #include "base/Checked.h"
 #include "base/RunTimeError.h"
-#include "surface/StandardFont.h"
+#include "saving/StandardFont.h"
 
 #include <algorithm>
 
@@ -120,7 +120,7 @@ void Surface::setWidth(long twips)
     if (m_inPlace.isActive())
         m_inPlace.requestWidth(roundedToEven(twips / twipsPerPixel().x));
     else
-        m_oleObject.setWidth(std::max(0, ::MulDiv(twips, kHimetricPerInch, kTwipsPerInch)));
+        m_oleObject.setWidth(std::max(0L, himetricOfTwips(twips)));
 }
 
 void Surface::raiseMouseEvent(DISPID id, MouseArguments const& mouse)

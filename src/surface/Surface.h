@@ -5,24 +5,24 @@
 #include "base/ComPtr.h"
 #include "base/Module.h"
 #include "base/RunTimeError.h"
-#include "surface/Accessibility.h"
-#include "surface/Automation.h"
-#include "surface/Browsing.h"
+#include "base/Scale.h"
 #include "surface/Container.h"
 #include "surface/ControlClass.h"
-#include "surface/DataObject.h"
-#include "surface/Events.h"
-#include "surface/InPlace.h"
-#include "surface/MouseMessage.h"
-#include "surface/OleControl.h"
-#include "surface/OleObject.h"
-#include "surface/Persistence.h"
-#include "surface/QuickActivation.h"
-#include "surface/Scale.h"
-#include "surface/SmallFaces.h"
 #include "surface/SurfaceFont.h"
-#include "surface/SurfaceWindow.h"
-#include "surface/View.h"
+#include "surface/faces/Accessibility.h"
+#include "surface/faces/Automation.h"
+#include "surface/faces/Browsing.h"
+#include "surface/faces/DataObject.h"
+#include "surface/faces/Events.h"
+#include "surface/faces/InPlace.h"
+#include "surface/faces/OleControl.h"
+#include "surface/faces/OleObject.h"
+#include "surface/faces/Persistence.h"
+#include "surface/faces/QuickActivation.h"
+#include "surface/faces/SmallFaces.h"
+#include "surface/faces/View.h"
+#include "surface/window/MouseMessage.h"
+#include "surface/window/SurfaceWindow.h"
 
 #include <ocidl.h>
 #include <windows.h>
@@ -155,17 +155,6 @@ public:
     virtual void onFocusMessage(bool gained);
     /// A window inside the control's tells something about itself.
     virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
-
-    // What an inner button tells; its mouse goes to the handlers above. A key set to 0 is used up.
-
-    virtual void onKeyDown(short& /*keyCode*/, short /*shift*/) {}
-    virtual void onKeyUp(short& /*keyCode*/, short /*shift*/) {}
-    virtual void onCharacter(short& /*keyAscii*/) {}
-    /// The left button came up and the inner button has made of it what it had to.
-    virtual void onInnerReleased() {}
-    virtual void onInnerPainted() {}
-    /// Its window was made, or made anew.
-    virtual void onInnerMade() {}
 
     /// What screen readers are told of the control, and of which window; null while there is none.
     virtual AccessibleLook accessibleLook() const { return {}; }

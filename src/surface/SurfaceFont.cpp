@@ -2,8 +2,9 @@
 #include "surface/SurfaceFont.h"
 
 #include "base/ComCall.h"
+#include "base/Counted.h"
 #include "base/RunTimeError.h"
-#include "surface/StandardFont.h"
+#include "saving/StandardFont.h"
 #include "surface/Surface.h"
 
 #include <olectl.h>
@@ -11,30 +12,12 @@
 namespace quillet {
 
 /// Counted apart from the control, so that the font's connection does not keep the control alive.
-class SurfaceFont::Listener final : public IPropertyNotifySink {
+class SurfaceFont::Listener final : public Counted<IPropertyNotifySink> {
 public:
     explicit Listener(SurfaceFont& font) noexcept : m_font(&font) {}
 
     void leave() noexcept { m_font = nullptr; }
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override
-    {
-        if (!object)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink)
-            return E_NOINTERFACE;
-        *object = ComPtr<IPropertyNotifySink>(this).detach();
-        return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++m_references; }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        ULONG const left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     STDMETHODIMP OnChanged(DISPID) override
     {
         return comCall([&] {
@@ -45,10 +28,7 @@ public:
     STDMETHODIMP OnRequestEdit(DISPID) override { return S_OK; }
 
 private:
-    ~Listener() = default;
-
     SurfaceFont* m_font;
-    ULONG m_references = 0;
 };
 
 SurfaceFont::SurfaceFont(Surface& surface) noexcept : m_surface(surface) {}
@@ -68,7 +48,7 @@ void SurfaceFont::set(ComPtr<IFont> font) noexcept
     if (!m_font)
         return;
     ignoringErrors([&] {
-        m_listener = ComPtr<Listener>(new Listener(*this));
+        m_listener = makeCounted<Listener>(*this);
         auto const points = m_font.as<IConnectionPointContainer>();
         if (!points || FAILED(points->FindConnectionPoint(IID_IPropertyNotifySink, m_point.put())))
             return;

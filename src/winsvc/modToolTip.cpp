@@ -6,7 +6,7 @@
 #include "base/ComCall.h"
 #include "base/Module.h"
 #include "surface/Surface.h"
-#include "surface/ThreadState.h"
+#include "surface/window/ThreadState.h"
 
 #include <commctrl.h>
 

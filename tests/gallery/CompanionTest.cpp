@@ -1,7 +1,7 @@
 // The binary file beside a form: its records, whole and damaged.
-#include "gallery/Companion.h"
+#include "gallery/form/Companion.h"
 
-#include "gallery/FormValue.h"
+#include "gallery/form/FormValue.h"
 
 #include <gtest/gtest.h>
 

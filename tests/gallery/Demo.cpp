@@ -1,10 +1,10 @@
 // The demonstration form with the component's own controls, live, for tests.
 #include "gallery/Demo.h"
 
-#include "gallery/EventText.h"
-#include "gallery/Extender.h"
-#include "gallery/FileBytes.h"
-#include "gallery/Utf8.h"
+#include "gallery/app/EventText.h"
+#include "gallery/form/FileBytes.h"
+#include "gallery/form/Utf8.h"
+#include "gallery/host/Extender.h"
 
 #include <algorithm>
 

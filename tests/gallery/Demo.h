@@ -1,10 +1,11 @@
 // The demonstration form with the component's own controls, live, for tests.
 #pragma once
 
-#include "gallery/Companion.h"
-#include "gallery/ControlLibrary.h"
-#include "gallery/Form.h"
-#include "gallery/FormReader.h"
+#include "gallery/Members.h"
+#include "gallery/app/ControlLibrary.h"
+#include "gallery/form/Companion.h"
+#include "gallery/form/FormReader.h"
+#include "gallery/host/Form.h"
 
 #include <memory>
 #include <string>

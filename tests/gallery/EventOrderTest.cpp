@@ -85,7 +85,7 @@ protected:
     /// The line of a mouse event of cmdPlain at the given pixels, which a button measures in twips.
     std::string line(char const* event, POINT pixels, int button) const
     {
-        Scale const scale = Scale::ofScreen();
+        Resolution const scale = screenResolution();
         std::array<char, 96> text{};
         std::snprintf(text.data(), text.size(), "cmdPlain.%s(%d, 0, %ld, %ld)", event, button,
                       scale.twipsX(pixels.x), scale.twipsY(pixels.y));

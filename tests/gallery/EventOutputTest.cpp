@@ -1,9 +1,9 @@
 // Events as lines of text, in the log's file and in the pane beside the form.
 #include "base/Variant.h"
-#include "gallery/EventLog.h"
-#include "gallery/EventPane.h"
-#include "gallery/EventText.h"
 #include "gallery/FormKit.h"
+#include "gallery/app/EventLog.h"
+#include "gallery/app/EventPane.h"
+#include "gallery/app/EventText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // The extended control: the form's members, the control's members, and identity.
-#include "gallery/Extender.h"
+#include "gallery/host/Extender.h"
 
 #include "gallery/FormKit.h"
-#include "gallery/FormObject.h"
+#include "gallery/host/FormObject.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // A small ActiveX control for tests of the form host: it writes down what the host does with it.
 #pragma once
 
+#include "base/Counted.h"
 #include "base/Handles.h"
-#include "gallery/Counted.h"
-#include "gallery/LateBound.h"
-#include "gallery/PropertyBag.h"
+#include "gallery/form/PropertyBag.h"
+#include "gallery/host/LateBoundObject.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -36,9 +36,10 @@ struct FakeTraits {
     WPARAM usedKey = 0;         ///< a key that TranslateAccelerator uses up
 };
 
-class FakeControl final : public LateBound<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject,
-                                           IOleControl, IPersistPropertyBag, IPersistStreamInit,
-                                           IConnectionPointContainer, IConnectionPoint, IProvideClassInfo2> {
+class FakeControl final
+    : public LateBoundObject<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject, IOleControl,
+                             IPersistPropertyBag, IPersistStreamInit, IConnectionPointContainer,
+                             IConnectionPoint, IProvideClassInfo2> {
 public:
     explicit FakeControl(FakeTraits traits = {});
     ~FakeControl() override;

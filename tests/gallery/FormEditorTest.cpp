@@ -1,11 +1,11 @@
 // Editing a form's text without a live form: values that are written are there when the form is read again.
-#include "gallery/FormEditor.h"
+#include "gallery/form/FormEditor.h"
 
-#include "gallery/ControlBag.h"
-#include "gallery/Counted.h"
-#include "gallery/FileBytes.h"
-#include "gallery/Fonts.h"
-#include "gallery/FormReader.h"
+#include "base/Counted.h"
+#include "gallery/form/ControlBag.h"
+#include "gallery/form/FileBytes.h"
+#include "gallery/form/Fonts.h"
+#include "gallery/form/FormReader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

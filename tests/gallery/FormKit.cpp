@@ -1,7 +1,7 @@
 // Opens forms in tests: with fake controls, and with what they raise written down.
 #include "gallery/FormKit.h"
 
-#include "gallery/Extender.h"
+#include "gallery/host/Extender.h"
 
 #include <stdexcept>
 

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "gallery/FakeControl.h"
-#include "gallery/Form.h"
-#include "gallery/FormReader.h"
+#include "gallery/Members.h"
+#include "gallery/form/FormReader.h"
+#include "gallery/host/Form.h"
 
 #include <map>
 #include <memory>

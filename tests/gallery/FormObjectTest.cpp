@@ -1,8 +1,8 @@
 // The form's automation face, its collections, and the ambients of its sites.
-#include "gallery/FormObject.h"
+#include "gallery/host/FormObject.h"
 
-#include "gallery/Extender.h"
 #include "gallery/FormKit.h"
+#include "gallery/host/Extender.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Reading of form files: every kind of line and of value, and the place and reason of every error.
-#include "gallery/FormReader.h"
+#include "gallery/form/FormReader.h"
 
-#include "gallery/FormValue.h"
+#include "gallery/form/FormValue.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The life of a hosted control: what the host calls, and in which order.
-#include "gallery/HostedControl.h"
+#include "gallery/host/HostedControl.h"
 
 #include "gallery/FormKit.h"
 
@@ -67,7 +67,7 @@ TEST(HostedControl, twipsBecomeHimetricExtentsAndPixels)
     FakeControl& fake = kit.fake(L"One");
     EXPECT_EQ(fake.extent.cx, 2646); // 1500 twips, 1440 an inch, 2540 HIMETRIC an inch
     EXPECT_EQ(fake.extent.cy, 794);
-    Scale const scale = Scale::ofScreen();
+    Resolution const scale = screenResolution();
     EXPECT_EQ(fake.place.left, scale.pixelsX(150));
     EXPECT_EQ(fake.place.top, scale.pixelsY(300));
     EXPECT_EQ(fake.place.right, scale.pixelsX(1650));
@@ -111,7 +111,7 @@ TEST(HostedControl, whatTheControlAsksForInPixelsBecomesItsPlaceInTwips)
     auto const site = query<IOleInPlaceSite>(fake.site());
     RECT const wish{20, 30, 120, 70};
     EXPECT_EQ(site->OnPosRectChange(&wish), S_OK);
-    Scale const scale = Scale::ofScreen();
+    Resolution const scale = screenResolution();
     EXPECT_EQ(kit.control(L"One").state().place,
               (Place{scale.twipsX(20), scale.twipsY(30), scale.twipsX(100), scale.twipsY(40)}));
     EXPECT_TRUE(::EqualRect(&fake.place, &wish));

@@ -1,10 +1,10 @@
 // Tab, arrows, Enter, Esc, access keys, and the active control that follows them.
-#include "gallery/Keyboard.h"
+#include "gallery/host/Keyboard.h"
 
 #include "gallery/FormKit.h"
-#include "gallery/FormObject.h"
-#include "gallery/IntrinsicControl.h"
-#include "gallery/TabOrder.h"
+#include "gallery/host/FormObject.h"
+#include "gallery/host/TabOrder.h"
+#include "gallery/intrinsic/IntrinsicControl.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

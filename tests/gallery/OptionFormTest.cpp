@@ -1,6 +1,6 @@
 // The form of option buttons and check boxes, worked with real keys alone.
 #include "gallery/Demo.h"
-#include "gallery/Extender.h"
+#include "gallery/host/Extender.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

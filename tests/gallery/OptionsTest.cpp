@@ -1,5 +1,5 @@
 // The command line of the gallery.
-#include "gallery/Options.h"
+#include "gallery/app/Options.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The property bag, and what of a form's lines reaches a control.
-#include "gallery/PropertyBag.h"
+#include "gallery/form/PropertyBag.h"
 
-#include "gallery/ControlBag.h"
-#include "gallery/Fonts.h"
+#include "gallery/form/ControlBag.h"
+#include "gallery/form/Fonts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The component's own controls on the demonstration form: found by file, loaded, pressed, and let go again.
 #include "gallery/Demo.h"
-#include "gallery/Extender.h"
-#include "gallery/HostedControl.h"
+#include "gallery/host/Extender.h"
+#include "gallery/host/HostedControl.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // Saving a form: what nothing changed stays byte for byte, what changed is written, what is broken is told.
 #include "gallery/Demo.h"
-#include "gallery/FileBytes.h"
-#include "gallery/Fonts.h"
-#include "gallery/FormSaver.h"
-#include "gallery/LateBound.h"
-#include "gallery/Pictures.h"
+#include "gallery/app/FormSaver.h"
+#include "gallery/form/FileBytes.h"
+#include "gallery/form/Fonts.h"
+#include "gallery/form/Pictures.h"
+#include "gallery/host/LateBoundObject.h"
 
 #include <olectl.h>
 

@@ -1,7 +1,7 @@
 // The tool bar form with its pictures, live: clicked, checked, and grown with its captions.
 #include "gallery/Demo.h"
-#include "gallery/HostedControl.h"
-#include "gallery/LateBound.h"
+#include "gallery/host/HostedControl.h"
+#include "gallery/host/LateBoundObject.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

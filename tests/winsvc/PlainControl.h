@@ -3,7 +3,7 @@
 
 #include "base/Module.h"
 #include "surface/Surface.h"
-#include "surface/ThreadState.h"
+#include "surface/window/ThreadState.h"
 #include "winsvc/modToolTip.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 #include "controls/button/Caption.h"
 #include "drawing/OffScreenDC.h"
-#include "surface/Cursor.h"
+#include "surface/window/Cursor.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 

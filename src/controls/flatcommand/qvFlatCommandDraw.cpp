@@ -5,7 +5,7 @@
 #include "controls/flatcommand/qvFlatCommand.h"
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
-#include "surface/PaintTarget.h"
+#include "surface/window/PaintTarget.h"
 #include "typelib/DispatchIds.h"
 
 namespace quillet {

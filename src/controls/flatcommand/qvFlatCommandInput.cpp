@@ -1,6 +1,6 @@
 // The flat command button's mouse, keys and focus. Everything here happens at run time only.
 #include "controls/flatcommand/qvFlatCommand.h"
-#include "surface/Cursor.h"
+#include "surface/window/Cursor.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 

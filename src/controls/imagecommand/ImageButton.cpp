@@ -1,7 +1,7 @@
 // A button with a picture: how it begins, loads and saves.
 #include "controls/imagecommand/ImageButton.h"
 
-#include "surface/StandardPicture.h"
+#include "saving/StandardPicture.h"
 #include "typelib/DispatchIds.h"
 
 namespace quillet {

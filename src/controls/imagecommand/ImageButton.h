@@ -3,7 +3,7 @@
 
 #include "base/Bstr.h"
 #include "controls/button/CommandButton.h"
-#include "surface/ImageElement.h"
+#include "controls/imagecommand/ImageElement.h"
 #include "surface/PropertyTable.h"
 
 #include <ocidl.h>

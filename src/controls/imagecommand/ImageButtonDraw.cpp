@@ -7,8 +7,8 @@
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
 #include "drawing/xpstate.h"
-#include "surface/PaintTarget.h"
-#include "surface/StandardPicture.h"
+#include "saving/StandardPicture.h"
+#include "surface/window/PaintTarget.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Interfaces.h"
 

@@ -2,8 +2,8 @@
 #include "controls/button/SystemColours.h"
 #include "controls/imagecommand/Create.h"
 #include "controls/imagecommand/ImageButton.h"
+#include "saving/StandardPicture.h"
 #include "surface/MessageBoxes.h"
-#include "surface/StandardPicture.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 

@@ -3,8 +3,8 @@
 #include "base/Handles.h"
 #include "controls/button/Caption.h"
 #include "controls/imagecommand/ImageButton.h"
-#include "surface/StandardFont.h"
-#include "surface/StandardPicture.h"
+#include "saving/StandardFont.h"
+#include "saving/StandardPicture.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "base/Bstr.h"
-#include "surface/Cursor.h"
-#include "surface/InnerButton.h"
+#include "controls/optioncheck/InnerButton.h"
 #include "surface/PropertyTable.h"
 #include "surface/Surface.h"
+#include "surface/window/Cursor.h"
 #include "winsvc/modToolTip.h"
 
 #include <windows.h>
@@ -27,15 +27,9 @@ public:
     void onInitProperties() override;
     void onWriteProperties(PropertyBag& bag) override;
     void onPaint() override;
-    void onInnerPainted() override;
     void onMouseDown(MouseArguments const& mouse) override;
     void onMouseUp(MouseArguments const& mouse) override;
-    void onInnerReleased() override { followHover(); }
-    void onInnerMade() override { m_toolTip.windowMade(m_inner.existing()); }
     void onWindowMade() override { m_inner.handle(); }
-    void onKeyDown(short& keyCode, short shift) override;
-    void onKeyUp(short& keyCode, short shift) override;
-    void onCharacter(short& keyAscii) override;
     void onCommand(WORD code, HWND from) override;
     void onGotFocus() override { m_inner.takeFocus(); }
     void onFocusMessage(bool gained) override;
@@ -47,6 +41,16 @@ public:
     void onTerminate() override;
     AccessibleLook accessibleLook() const override;
     HWND accessibleWindow() const noexcept override { return m_inner.existing(); }
+
+    // What the button inside tells; its mouse goes to the handlers above. A key set to 0 is used up.
+    void onKeyDown(short& keyCode, short shift);
+    void onKeyUp(short& keyCode, short shift);
+    void onCharacter(short& keyAscii);
+    /// The left button came up and the button inside has made of it what it had to.
+    void onInnerReleased() { followHover(); }
+    void onInnerPainted();
+    /// Its window was made, or made anew.
+    void onInnerMade() { m_toolTip.windowMade(m_inner.existing()); }
 
 protected:
     OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,

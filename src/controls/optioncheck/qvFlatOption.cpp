@@ -1,10 +1,10 @@
 // The flat option button: its properties and their order, and its choice among its siblings.
 #include "controls/optioncheck/qvFlatOption.h"
 
+#include "base/LateBound.h"
 #include "controls/optioncheck/Create.h"
 #include "controls/optioncheck/OptionCheckRows.h"
-#include "surface/Cursor.h"
-#include "surface/LateBound.h"
+#include "surface/window/Cursor.h"
 #include "typelib/Guids.h"
 
 #include <utility>

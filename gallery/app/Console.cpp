@@ -1,0 +1,50 @@
+// What the gallery says to whoever started it. A program with windows has no console of its own.
+#include "gallery/app/Console.h"
+
+#include "gallery/form/UniqueFile.h"
+#include "gallery/form/Utf8.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace quillet::gallery {
+
+namespace {
+
+bool write(HANDLE file, std::wstring_view text)
+{
+    if (!file || file == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    std::string const bytes = utf8(text);
+    return ::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != FALSE;
+}
+
+bool writeToParentsConsole(std::wstring_view text)
+{
+    if (!::AttachConsole(ATTACH_PARENT_PROCESS) && ::GetLastError() != ERROR_ACCESS_DENIED)
+        return false;
+    UniqueFile const console(::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                                           FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
+                                           nullptr));
+    if (console.get() == INVALID_HANDLE_VALUE)
+        return false;
+    DWORD written = 0;
+    return ::WriteConsoleW(console.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) !=
+           FALSE;
+}
+
+} // namespace
+
+void say(Stream stream, std::wstring_view text)
+{
+    bool const isError = stream == Stream::Error;
+    if (write(::GetStdHandle(isError ? STD_ERROR_HANDLE : STD_OUTPUT_HANDLE), text) ||
+        writeToParentsConsole(text))
+        return;
+    if (isError)
+        ::MessageBoxW(nullptr, std::wstring(text).c_str(), L"Gallery", MB_OK | MB_ICONERROR);
+}
+
+} // namespace quillet::gallery

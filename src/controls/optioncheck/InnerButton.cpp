@@ -1,0 +1,242 @@
+// An option button or check box inside a control: its window, and what it keeps.
+#include "controls/optioncheck/InnerButton.h"
+
+#include "base/ComCall.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "controls/optioncheck/OptionCheckButton.h"
+#include "drawing/Colour.h"
+
+#include <cwchar>
+#include <iterator>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+
+/// Window classes belong to the process: the address keeps two loaded copies of the component apart.
+struct ClassName {
+    wchar_t text[40];
+    ClassName() noexcept
+    {
+        std::swprintf(text, std::size(text), L"QuilletButton:%p", static_cast<void*>(moduleInstance()));
+    }
+};
+
+WNDCLASSEXW systemClass()
+{
+    WNDCLASSEXW description = {};
+    description.cbSize = sizeof(description);
+    if (!::GetClassInfoExW(nullptr, L"Button", &description))
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+    return description;
+}
+
+wchar_t const* textOf(Bstr const& text) noexcept { return text.get() ? text.get() : L""; }
+
+HFONT handleOf(IFont* font)
+{
+    HFONT handle = nullptr;
+    check(deref(font).get_hFont(&handle), IID_IFont);
+    return handle;
+}
+
+} // namespace
+
+InnerButton::InnerButton(OptionCheckButton& surface, InnerKind kind, std::wstring_view caption)
+    : m_surface(surface), m_kind(kind), m_caption(caption)
+{}
+
+void InnerButton::registerClass(WNDCLASSEXW description)
+{
+    ClassName const name;
+    WNDCLASSEXW existing = {};
+    existing.cbSize = sizeof(existing);
+    if (::GetClassInfoExW(moduleInstance(), name.text, &existing))
+        return;
+    // It owns its DC, so whoever asks for it time and again without giving it back gets the same one. It
+    // knows no double clicks: there is no event for them, and each press is to be one.
+    description.style = CS_OWNDC;
+    description.lpfnWndProc = &InnerButton::procedure;
+    // Found through extra bytes behind the system's: the user-data slot belongs to subclassing.
+    description.cbWndExtra += static_cast<int>(sizeof(void*));
+    description.hInstance = moduleInstance();
+    description.lpszClassName = name.text;
+    if (!::RegisterClassExW(&description))
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+}
+
+void InnerButton::unregisterClass() noexcept { ::UnregisterClassW(ClassName().text, moduleInstance()); }
+
+void InnerButton::create(HWND parent)
+{
+    WNDCLASSEXW const system = systemClass();
+    registerClass(system);
+    SIZE const size = m_surface.window().clientSize();
+    DWORD const style = m_kind == InnerKind::Option ? BS_RADIOBUTTON : BS_3STATE;
+    m_window = ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, ClassName().text, textOf(m_caption),
+                                 WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, size.cx, size.cy, parent,
+                                 nullptr, moduleInstance(), nullptr);
+    if (!m_window)
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+    m_system = system.lpfnWndProc;
+    ::SetWindowLongPtrW(m_window, system.cbWndExtra, reinterpret_cast<LONG_PTR>(this));
+    passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(m_value), 0);
+    fontChanged();
+    m_surface.onInnerMade();
+}
+
+HWND InnerButton::handle()
+{
+    HWND const parent = m_surface.hWnd(); // which, newly made, may have asked for this one
+    if (!m_window)
+        create(parent);
+    return m_window;
+}
+
+void InnerButton::destroy() noexcept
+{
+    if (!m_window)
+        return;
+    ::DestroyWindow(forget());
+}
+
+/// From here on messages find no button: they must not reach a control that is going, or has another window.
+HWND InnerButton::forget() noexcept
+{
+    HWND const window = std::exchange(m_window, nullptr);
+    m_focused = false;
+    ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
+                        0);
+    return window;
+}
+
+/// A mark before another one is an escape for it.
+std::wstring_view InnerButton::accessKey() const noexcept
+{
+    std::wstring_view const caption = m_caption.view();
+    for (size_t at = caption.find(L'&'); at != std::wstring_view::npos; at = caption.find(L'&', at + 2))
+        if (at + 1 < caption.size() && caption[at + 1] != L'&')
+            return caption.substr(at + 1, 1);
+    return {};
+}
+
+std::wstring InnerButton::shownCaption() const
+{
+    std::wstring shown;
+    std::wstring_view const caption = m_caption.view();
+    for (size_t at = 0; at < caption.size(); ++at) {
+        if (caption[at] == L'&' && ++at == caption.size())
+            break;
+        shown += caption[at];
+    }
+    return shown;
+}
+
+void InnerButton::setCaption(std::wstring_view caption)
+{
+    m_caption = Bstr(caption);
+    m_place = {};
+    m_surface.setAccessKeys(accessKey());
+    if (!m_window)
+        return;
+    // Straight to the system's procedure: a subclassing by code page would lose characters.
+    Bstr const text(caption);
+    passOnUnseen(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(textOf(text)));
+    refresh();
+}
+
+void InnerButton::setForeColor(OLE_COLOR colour)
+{
+    if (std::exchange(m_foreColor, colour) != colour)
+        refresh();
+}
+
+void InnerButton::setBackColor(OLE_COLOR colour)
+{
+    if (std::exchange(m_backColor, colour) != colour)
+        refresh();
+}
+
+void InnerButton::fontChanged()
+{
+    m_place = {};
+    if (!m_window)
+        return;
+    passOnUnseen(WM_SETFONT, reinterpret_cast<WPARAM>(handleOf(m_surface.font())), FALSE);
+    refresh();
+}
+
+void InnerButton::store(long value)
+{
+    m_value = value;
+    if (!m_window)
+        return;
+    passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(value), 0);
+    refresh();
+    m_surface.accessibility().stateChanged();
+}
+
+void InnerButton::setValue(long value)
+{
+    if (value == m_value)
+        return;
+    store(value);
+    if (m_kind == InnerKind::Check || value != 0)
+        m_surface.onClick();
+}
+
+void InnerButton::click()
+{
+    long const wanted = m_kind == InnerKind::Option || m_value == 0 ? 1 : 0;
+    if (wanted != m_value)
+        store(wanted);
+    m_surface.onClick();
+}
+
+void InnerButton::notified(WORD code)
+{
+    // A press gives the focus, and some systems take that for a click; it clicks at its release.
+    if (code == BN_CLICKED && !m_pressing)
+        click();
+}
+
+void InnerButton::cover() noexcept
+{
+    if (!m_window) // it is made as large
+        return;
+    SIZE const size = m_surface.window().clientSize();
+    ::SetWindowPos(m_window, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void InnerButton::refresh() noexcept
+{
+    if (m_window)
+        ::RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void InnerButton::takeFocus() { ::SetFocus(handle()); }
+
+void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) const
+{
+    drawInnerButton(dc, size,
+                    {m_kind, m_value, resolvedColour(foreColor), resolvedColour(m_backColor), inside,
+                     m_focused, m_caption.view(), handleOf(m_surface.font()), m_place});
+}
+
+void InnerButton::paint()
+{
+    PAINTSTRUCT region;
+    HWND const window = m_window;
+    HDC const dc = ::BeginPaint(window, &region);
+    RECT client = {};
+    ::GetClientRect(window, &client);
+    ignoringErrors([&] { draw(dc, {client.right, client.bottom}, m_foreColor, kWhite); });
+    ::EndPaint(window, &region);
+    m_surface.onInnerPainted();
+}
+
+} // namespace quillet

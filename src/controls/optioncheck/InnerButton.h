@@ -1,0 +1,103 @@
+// An option button or check box inside a control: a child window of the system's button class, painted flat.
+#pragma once
+
+#include "base/Bstr.h"
+#include "controls/optioncheck/InnerButtonPicture.h"
+#include "controls/optioncheck/InnerKind.h"
+
+#include <ocidl.h>
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+class OptionCheckButton;
+struct ButtonMessage;
+
+/// Keyboard, states and accessibility are the system's own; the picture is ours. What it has to tell goes to
+/// the surface's handlers: mouse, keys, Click. The surface's font is its font.
+class InnerButton {
+public:
+    InnerButton(OptionCheckButton& surface, InnerKind kind, std::wstring_view caption);
+    ~InnerButton() { destroy(); }
+    InnerButton(InnerButton const&) = delete;
+    InnerButton& operator=(InnerButton const&) = delete;
+
+    /// The window, made at first need on the surface's. Throws when Windows refuses it.
+    HWND handle();
+    /// The window or null; makes none.
+    HWND existing() const noexcept { return m_window; }
+    void destroy() noexcept;
+
+    Bstr const& caption() const noexcept { return m_caption; }
+    /// The caption as it is read: without the marks of access keys.
+    std::wstring shownCaption() const;
+    /// The character behind the first mark that counts; empty where there is none.
+    std::wstring_view accessKey() const noexcept;
+    void setCaption(std::wstring_view caption);
+    OLE_COLOR foreColor() const noexcept { return m_foreColor; }
+    void setForeColor(OLE_COLOR colour);
+    OLE_COLOR backColor() const noexcept { return m_backColor; }
+    void setBackColor(OLE_COLOR colour);
+    void fontChanged();
+
+    InnerKind kind() const noexcept { return m_kind; }
+    /// 0 clear, 1 set, of a check box 2: the third state.
+    long value() const noexcept { return m_value; }
+    /// Raises Click as a click does, where it chooses an option or changes a check box.
+    void setValue(long value);
+    /// A user's click: an option becomes the chosen one, a check box changes between clear and set.
+    void click();
+
+    /// Makes the window as large as the surface.
+    void cover() noexcept;
+    /// Paints at once what is shown.
+    void refresh() noexcept;
+    void takeFocus();
+    /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
+    void tellFocus(bool gained) noexcept { m_focused = gained; }
+    /// Takes a notification of the window to its parent.
+    void notified(WORD code);
+
+    /// Paints into any DC.
+    void draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) const;
+
+    /// For the entry point, when the component goes.
+    static void unregisterClass() noexcept;
+
+private:
+    class PaintedByUs;
+
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    static void registerClass(WNDCLASSEXW description);
+
+    void create(HWND parent);
+    HWND forget() noexcept;
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT passOnUnseen(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam);
+    LRESULT pressed(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT key(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT gotFocus(WPARAM wParam, LPARAM lParam);
+    LRESULT lostFocus(WPARAM wParam, LPARAM lParam);
+    void paint();
+    void store(long value);
+    bool isClickedByFocus() const noexcept;
+
+    OptionCheckButton& m_surface;
+    InnerKind const m_kind;
+    Bstr m_caption;
+    OLE_COLOR m_foreColor = 0x80000012; ///< button text
+    OLE_COLOR m_backColor = 0x8000000F; ///< button face
+    mutable CaptionPlace m_place{};
+    long m_value = 0;
+    HWND m_window = nullptr;
+    WNDPROC m_system = nullptr; ///< the procedure of the system's button class
+    bool m_focused = false;
+    bool m_pressing = false; ///< the system handles a press of the left button
+};
+
+} // namespace quillet

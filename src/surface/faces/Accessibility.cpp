@@ -1,0 +1,59 @@
+// A control's side towards screen readers and test tools: its accessible object, and notice of changes.
+#include "surface/faces/Accessibility.h"
+
+#include "surface/Surface.h"
+
+#include <string_view>
+
+namespace quillet {
+
+namespace {
+
+struct Telling {
+    std::wstring_view property;
+    DWORD event;
+};
+
+constexpr Telling kTellings[] = {
+    {L"Caption", EVENT_OBJECT_NAMECHANGE},
+    {L"Enabled", EVENT_OBJECT_STATECHANGE},
+    {L"Checked", EVENT_OBJECT_STATECHANGE},
+};
+
+} // namespace
+
+std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM what)
+{
+    if (static_cast<LONG>(what) != OBJID_CLIENT || window != m_surface.accessibleWindow())
+        return std::nullopt;
+    if (!m_object)
+        m_object = makeCounted<AccessibleObject>(m_surface);
+    return m_object->handOver(request);
+}
+
+void Accessibility::propertyChanged(DISPID property) const noexcept
+{
+    for (MemberName const& member : m_surface.controlClass().members)
+        if (member.id == property)
+            for (Telling const& row : kTellings)
+                if (row.property == member.name)
+                    tell(row.event);
+}
+
+void Accessibility::stateChanged() const noexcept { tell(EVENT_OBJECT_STATECHANGE); }
+
+void Accessibility::tell(DWORD event) const noexcept
+{
+    HWND const window = m_surface.accessibleWindow();
+    if (window && ::IsWinEventHookInstalled(event))
+        ::NotifyWinEvent(event, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void Accessibility::disconnect() noexcept
+{
+    if (m_object)
+        m_object->leave();
+    m_object.reset();
+}
+
+} // namespace quillet

@@ -1,0 +1,75 @@
+// A control's dual interface: late-bound calls go through the type library.
+#pragma once
+
+#include "base/ComPtr.h"
+#include "surface/faces/Face.h"
+
+#include <oaidl.h>
+#include <windows.h>
+
+namespace quillet {
+
+/// Type information takes arguments as they come: what cannot be read is refused before.
+void requireReadable(DISPPARAMS const& arguments);
+
+/// The descriptions that the component's own type library gives of a class, loaded at first need.
+class TypeInfos {
+public:
+    /// The dispatch form of the described interface, as hosts look at it, and the vtable form, as calls go
+    /// through it. Throw when the type library cannot be loaded.
+    ITypeInfo& dispatchInfo(IID const& interfaceId);
+    ITypeInfo& vtableInfo(IID const& interfaceId);
+    /// The description of the class.
+    static ComPtr<ITypeInfo> classInfo(CLSID const& classId);
+
+private:
+    ComPtr<ITypeInfo> m_dispatch;
+    ComPtr<ITypeInfo> m_vtable;
+};
+
+/// The part of automation that does not depend on the interface.
+class Automation {
+public:
+    HRESULT getTypeInfo(Surface& surface, UINT index, ITypeInfo** info) noexcept;
+    HRESULT getIdsOfNames(Surface& surface, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
+    HRESULT invoke(Surface& surface, IDispatch* dual, DISPID id, WORD kind, DISPPARAMS* arguments,
+                   VARIANT* result, EXCEPINFO* exception, UINT* badArgument) noexcept;
+
+private:
+    TypeInfos m_infos;
+};
+
+/// Implements IDispatch for a dual interface. A control derives from this and from Surface.
+template <class Interface> class Dual : public Face<Interface> {
+public:
+    using Face<Interface>::Face;
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override
+    {
+        if (!count)
+            return E_POINTER;
+        *count = 1;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) override
+    {
+        return m_automation.getTypeInfo(this->m_surface, index, info);
+    }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override
+    {
+        return m_automation.getIdsOfNames(this->m_surface, names, count, ids);
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+                        EXCEPINFO* exception, UINT* badArgument) override
+    {
+        if (reserved != IID_NULL)
+            return DISP_E_UNKNOWNINTERFACE;
+        return m_automation.invoke(this->m_surface, this, id, kind, arguments, result, exception,
+                                   badArgument);
+    }
+
+private:
+    Automation m_automation;
+};
+
+} // namespace quillet

@@ -1,0 +1,20 @@
+// IQuickActivate: what a container else sets up in a dozen calls, in one.
+#pragma once
+
+#include "surface/faces/Face.h"
+
+#include <ocidl.h>
+#include <windows.h>
+
+namespace quillet {
+
+class QuickActivation final : public Face<IQuickActivate> {
+public:
+    using Face::Face;
+
+    STDMETHODIMP QuickActivate(QACONTAINER* container, QACONTROL* control) override;
+    STDMETHODIMP SetContentExtent(LPSIZEL extent) override;
+    STDMETHODIMP GetContentExtent(LPSIZEL extent) override;
+};
+
+} // namespace quillet

@@ -1,0 +1,43 @@
+// Where the mouse cursor is.
+#include "surface/window/Cursor.h"
+
+#include "surface/window/ThreadState.h"
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+POINT cursorNow() noexcept
+{
+    POINT cursor = {};
+    ::GetCursorPos(&cursor);
+    return cursor;
+}
+
+} // namespace
+
+CursorMoment::CursorMoment()
+    : m_cursor(cursorNow()), m_messagePlace(::GetMessagePos()),
+      m_outer(std::exchange(threadState().cursorMoment, this))
+{}
+
+CursorMoment::~CursorMoment() { threadState().cursorMoment = m_outer; }
+
+POINT CursorMoment::cursor() const noexcept
+{
+    return ::GetMessagePos() == m_messagePlace ? m_cursor : cursorNow();
+}
+
+bool isUnderCursor(HWND window)
+{
+    CursorMoment const* const moment = threadState().cursorMoment;
+    POINT const cursor = moment ? moment->cursor() : cursorNow();
+    RECT place = {};
+    // The place rules most windows out without a search, which costs as much as a fill.
+    return ::GetWindowRect(window, &place) && ::PtInRect(&place, cursor) &&
+           ::WindowFromPoint(cursor) == window;
+}
+
+} // namespace quillet

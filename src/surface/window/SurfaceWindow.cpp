@@ -1,0 +1,205 @@
+// The surface's window: its class, its place, its parent.
+#include "surface/window/SurfaceWindow.h"
+
+#include "base/ComCall.h"
+#include "base/Handles.h"
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+#include "surface/Surface.h"
+#include "surface/window/ParkingWindow.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+/// Window classes belong to the process: the address keeps two loaded copies of the component apart.
+struct ClassName {
+    char text[40];
+    ClassName() noexcept
+    {
+        std::snprintf(text, sizeof(text), "QuilletSurface:%p", static_cast<void*>(moduleInstance()));
+    }
+};
+
+void registerClass(WNDPROC procedure)
+{
+    ClassName const name;
+    WNDCLASSEXA description = {};
+    description.cbSize = sizeof(description);
+    if (::GetClassInfoExA(moduleInstance(), name.text, &description))
+        return;
+    description = {};
+    description.cbSize = sizeof(description);
+    description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+    description.lpfnWndProc = procedure;
+    // The surface is found through the window's extra bytes: the user-data slot belongs to subclassing.
+    description.cbWndExtra = sizeof(void*);
+    description.hInstance = moduleInstance();
+    description.lpszClassName = name.text;
+    if (!::RegisterClassExA(&description))
+        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+}
+
+} // namespace
+
+void SurfaceWindow::unregisterClass() noexcept
+{
+    ClassName const name;
+    ::UnregisterClassA(name.text, moduleInstance());
+}
+
+void SurfaceWindow::create(HWND parent)
+{
+    registerClass(&SurfaceWindow::procedure);
+    HWND const parking = enterParking();
+    RECT const& place = m_surface.inPlace().position();
+    m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName().text, nullptr,
+                                 WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
+                                     (m_surface.enabled() ? 0 : WS_DISABLED),
+                                 place.left, place.top, place.right - place.left, place.bottom - place.top,
+                                 parent ? parent : parking, nullptr, moduleInstance(), nullptr);
+    if (!m_window) {
+        DWORD const reason = ::GetLastError();
+        leaveParking();
+        throw RunTimeError(HRESULT_FROM_WIN32(reason));
+    }
+    // A form that is laid out from right to left hands that on. Controls have no such layout: points in them
+    // count from the left.
+    LONG const style = ::GetWindowLongA(m_window, GWL_EXSTYLE);
+    if (style & WS_EX_LAYOUTRTL)
+        ::SetWindowLongA(m_window, GWL_EXSTYLE, style & ~WS_EX_LAYOUTRTL);
+    ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
+    m_surface.onWindowMade();
+}
+
+HWND SurfaceWindow::handle()
+{
+    if (!m_window)
+        create(nullptr);
+    return m_window;
+}
+
+HDC SurfaceWindow::dc()
+{
+    if (!m_dc)
+        m_dc = ::GetDC(handle());
+    return m_dc;
+}
+
+SIZE SurfaceWindow::clientSize() const noexcept
+{
+    RECT client = {};
+    if (m_window)
+        ::GetClientRect(m_window, &client);
+    return {client.right, client.bottom};
+}
+
+void SurfaceWindow::attach(HWND parent, RECT const* clip)
+{
+    if (!m_window) {
+        create(parent);
+        clipTo(clip);
+        return;
+    }
+    if (::GetParent(m_window) != parent)
+        ::SetParent(m_window, parent);
+    move(clip);
+}
+
+void SurfaceWindow::park() noexcept
+{
+    if (!m_window)
+        return;
+    ::ShowWindow(m_window, SW_HIDE);
+    if (m_surface.inPlace().isActive()) // again, by what hiding led to
+        ignoringErrors([&] { show(); });
+    else if (m_window)
+        ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
+}
+
+void SurfaceWindow::move(RECT const* clip)
+{
+    RECT const& position = m_surface.inPlace().position();
+    ::SetWindowPos(handle(), nullptr, position.left, position.top, position.right - position.left,
+                   position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    clipTo(clip);
+}
+
+void SurfaceWindow::clipTo(RECT const* clip)
+{
+    RECT const& position = m_surface.inPlace().position();
+    RECT visible;
+    bool const partly =
+        clip && ::IntersectRect(&visible, clip, &position) && !::EqualRect(&visible, &position);
+    if (!partly) {
+        if (std::exchange(m_clipped, false))
+            ::SetWindowRgn(m_window, nullptr, TRUE);
+        return;
+    }
+    ::OffsetRect(&visible, -position.left, -position.top);
+    UniqueRegion region(::CreateRectRgnIndirect(&visible));
+    if (::SetWindowRgn(m_window, region.get(), TRUE)) {
+        region.release(); // the window owns it from here on
+        m_clipped = true;
+    }
+}
+
+void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
+
+void SurfaceWindow::hide() noexcept
+{
+    if (m_window)
+        ::ShowWindow(m_window, SW_HIDE);
+}
+
+void SurfaceWindow::takeFocus()
+{
+    HWND const window = handle();
+    HWND const focused = ::GetFocus();
+    if (focused != window && !::IsChild(window, focused))
+        ::SetFocus(window);
+}
+
+void SurfaceWindow::enable(bool enabled) noexcept
+{
+    if (!m_window)
+        return;
+    ::EnableWindow(m_window, enabled);
+    if (enabled)
+        return;
+    // Windows takes keyboard and mouse from a disabled window, but not from the windows inside it.
+    if (::IsChild(m_window, ::GetFocus()))
+        ::SetFocus(nullptr);
+    if (HWND const captured = ::GetCapture(); captured && ::IsChild(m_window, captured))
+        ::ReleaseCapture();
+}
+
+void SurfaceWindow::destroy() noexcept
+{
+    if (!m_window)
+        return;
+    // From here on messages find no surface: they must not reach a control that is going.
+    ::SetWindowLongPtrA(m_window, 0, 0);
+    ::DestroyWindow(forget());
+    leaveParking();
+}
+
+/// Everything that was the window's own goes with it.
+HWND SurfaceWindow::forget() noexcept
+{
+    m_dc = nullptr;
+    m_clipped = m_clickBegun = m_focusTold = false;
+    return std::exchange(m_window, nullptr);
+}
+
+void SurfaceWindow::lost() noexcept
+{
+    forget();
+    leaveParking();
+    m_surface.inPlace().leave(InPlace::WindowThen::Destroyed); // it is
+}
+
+} // namespace quillet
