@@ -30,9 +30,7 @@ def rows_of(path, macros=None):
         if line.startswith("#"):
             if definition := re.match(r"#define (\w+) (\S+)$", line):
                 macros[definition[1]] = definition[2]
-            elif (included := re.match(r'#include "typelib/(members/\w+\.inc)"$', line)) and not re.search(
-                "begin|end", included[1]
-            ):
+            elif included := re.match(r'#include "typelib/(members/\w+\.inc)"$', line):
                 yield from rows_of(included[1], macros)
             continue
         row = ROW.match(line)

@@ -201,6 +201,8 @@ class Writer:
     def _constants(self, described):
         members = []
         for index, (name, value) in enumerate(described.values):
+            if not 0 <= value < 1 << 26:
+                raise SystemExit(f"{name}: the value needs a record of its own")
             record = struct.pack("<HHIi", 20, index, simple(VT_INT, VT_I4), 0)
             # A constant; its value stands in the word that says so with its topmost bit.
             record += struct.pack("<HHI", 2, self._sizes.constant, 1 << 31 | VT_I4 << 26 | value)
