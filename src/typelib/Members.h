@@ -12,12 +12,12 @@ namespace quillet {
 
 enum class MemberKind { Value, ReadOnly, Object, Method, Function, WindowProcedure };
 
+/// The type is VT_UI4 where 32 bits have either sign: in colours and in messages.
 struct Member {
     std::wstring_view name;
     DISPID id;
     MemberKind kind;
-    VARTYPE
-        type; ///< of the value, result or message; VT_UI4 where 32 bits have either sign; VT_EMPTY for none
+    VARTYPE type; ///< of the value or result; VT_EMPTY for none
 };
 
 using Members = std::span<Member const>;
