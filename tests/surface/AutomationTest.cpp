@@ -7,6 +7,7 @@ namespace quillet::hosting {
 namespace {
 
 constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
+constexpr WORD kAssignments[] = {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF};
 constexpr HRESULT kInvalidUseOfNull = static_cast<HRESULT>(0x800A005E);
 
 Variant ofType(VARTYPE type)
@@ -178,7 +179,7 @@ TEST_F(Automation, takesAPlainValueByReferenceAsAnAssignment)
 TEST_F(Automation, takesObjectsByEveryKindOfAssignment)
 {
     auto const icon = kit::newIconPicture();
-    for (WORD const how : {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF}) {
+    for (WORD const how : kAssignments) {
         EXPECT_EQ(assign(L"MouseIcon", how, Variant::ofDispatch(icon.get())), S_OK);
         EXPECT_EQ(query<IPictureDisp>(get(L"MouseIcon").toObject().get()).get(), icon.get());
         EXPECT_EQ(assign(L"MouseIcon", how, Variant::ofDispatch(nullptr)), S_OK);
@@ -205,7 +206,7 @@ TEST_F(Automation, refusesNullForAValueAsInvalidUseOfNull)
 TEST_F(Automation, doesNotFindAReadOnlyMemberThatIsSet)
 {
     for (wchar_t const* const name : {L"hwnd", L"hdc"})
-        for (WORD const how : {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF})
+        for (WORD const how : kAssignments)
             EXPECT_EQ(assign(name, how, Variant::ofLong(1)), DISP_E_MEMBERNOTFOUND) << kit::narrow(name);
 }
 
