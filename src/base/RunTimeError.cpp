@@ -17,6 +17,7 @@ constexpr Text kTexts[] = {
     {ErrorNumber::Overflow, L"Overflow"},
     {ErrorNumber::TypeMismatch, L"Type mismatch"},
     {ErrorNumber::ObjectNotSet, L"Object variable or With block variable not set"},
+    {ErrorNumber::InvalidUseOfNull, L"Invalid use of Null"},
     {ErrorNumber::InvalidPropertyValue, L"Invalid property value"},
     {ErrorNumber::InvalidPicture, L"Invalid picture"},
 };

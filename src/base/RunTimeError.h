@@ -11,6 +11,7 @@ enum class ErrorNumber : long {
     Overflow = 6,
     TypeMismatch = 13,
     ObjectNotSet = 91,
+    InvalidUseOfNull = 94,
     InvalidPropertyValue = 380,
     InvalidPicture = 481,
 };

@@ -156,6 +156,8 @@ Variant Variant::convertedTo(VARTYPE type) const
 {
     if (m_value.vt == type)
         return *this; // the system takes ten times as long for that
+    if (m_value.vt == VT_NULL)
+        throw RunTimeError(ErrorNumber::InvalidUseOfNull);
     requireTarget(m_value);
     Variant result;
     HRESULT const changed = ::VariantChangeType(&result.m_value, const_cast<VARIANT*>(&m_value), 0, type);

@@ -42,7 +42,8 @@ public:
     VARIANT* put() noexcept;
     VARIANT detach() noexcept;
 
-    /// The value in another type. Type mismatch (13) or Overflow (6) where it does not convert.
+    /// The value in another type. Type mismatch (13) or Overflow (6) where it does not convert, Invalid use
+    /// of Null (94) for Null.
     Variant convertedTo(VARTYPE type) const;
     short toShort() const { return convertedTo(VT_I2).m_value.iVal; }
     long toLong() const { return convertedTo(VT_I4).m_value.lVal; }

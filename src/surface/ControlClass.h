@@ -1,23 +1,21 @@
 // What the surface needs to know of the class that it serves.
 #pragma once
 
-#include "typelib/MemberNames.h"
+#include "typelib/Members.h"
 
 #include <windows.h>
-
-#include <span>
 
 namespace quillet {
 
 /// One constant per control; everything else that the surface does is the same for all of them.
 struct ControlClass {
     CLSID classId;
-    IID interfaceId;                     ///< the default dual interface
-    IID eventsId;                        ///< the default source, a dispatch interface
-    wchar_t const* name;                 ///< as a user reads it, such as "qvFlatCommand"
-    wchar_t const* progId;               ///< where its errors come from, such as "Quillet.qvFlatCommand"
-    DWORD miscStatus;                    ///< OLEMISC flags
-    std::span<MemberName const> members; ///< of the default interface
+    IID interfaceId;       ///< the default dual interface
+    IID eventsId;          ///< the default source, a dispatch interface
+    wchar_t const* name;   ///< as a user reads it, such as "qvFlatCommand"
+    wchar_t const* progId; ///< where its errors come from, such as "Quillet.qvFlatCommand"
+    DWORD miscStatus;      ///< OLEMISC flags
+    Members members;       ///< of the default interface
 };
 
 /// The name of the verb that activates a control, as container menus show it.

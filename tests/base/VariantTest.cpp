@@ -209,6 +209,16 @@ TEST(Variant, givesItsObjectByAnyOfTheObjectTypes)
     EXPECT_EQ(object->references(), 1U);
 }
 
+TEST(Variant, thatIsNullIsAnInvalidUseOfNullForEveryValue)
+{
+    VARIANT raw{};
+    raw.vt = VT_NULL;
+    Variant const null = Variant::adopt(raw);
+    for (VARTYPE const type : {VT_I2, VT_I4, VT_UI4, VT_BOOL, VT_BSTR})
+        EXPECT_EQ(thrownBy([&] { null.convertedTo(type); }), runTimeError(94)) << type;
+    EXPECT_EQ(null.convertedTo(VT_NULL).type(), VT_NULL);
+}
+
 TEST(Variant, hasNoObjectWhenItIsEmptyNullOrHoldsANullPointer)
 {
     EXPECT_FALSE(Variant().toObject());

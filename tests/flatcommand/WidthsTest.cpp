@@ -10,6 +10,7 @@ namespace {
 using testing::IsEmpty;
 
 constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
+constexpr HRESULT kInvalidUseOfNull = static_cast<HRESULT>(0x800A005E);
 constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
 
 struct Width {
@@ -145,9 +146,21 @@ TEST_P(FlatWidths, ofWhatIsNoNumberIsATypeMismatchAndLeavesTheOldWidth)
     array.address()->parray = ::SafeArrayCreateVector(VT_I2, 0, 2);
     EXPECT_TRUE(FAILED(put(array)));
     EXPECT_TRUE(FAILED(put(Variant::ofUnknown(form.frame().unknown()))));
+    EXPECT_EQ(width(), 1);
+    expectNothingHappened();
+}
+
+TEST_P(FlatWidths, ofNullIsAnInvalidUseOfNullAndLeavesTheOldWidth)
+{
     Variant null;
     null.address()->vt = VT_NULL;
-    EXPECT_TRUE(FAILED(put(null)));
+    EXPECT_EQ(put(null), kInvalidUseOfNull);
+    EXPECT_EQ(takenError(),
+              std::pair(std::wstring(L"Invalid use of Null"), std::wstring(L"Quillet.qvFlatCommand")));
+    Variant reference;
+    reference.address()->vt = VT_VARIANT | VT_BYREF;
+    reference.address()->pvarVal = null.address();
+    EXPECT_EQ(put(reference), kInvalidUseOfNull);
     EXPECT_EQ(width(), 1);
     expectNothingHappened();
 }

@@ -20,7 +20,7 @@ std::wstring Library::path()
     return whole.substr(0, whole.rfind(L'\\') + 1) + L"quilbt.ocx";
 }
 
-Library::Library() : m_module(::LoadLibraryW(path().c_str())) {}
+Library::Library(std::wstring const& file) : m_module(::LoadLibraryW(file.c_str())) {}
 
 Library::~Library()
 {

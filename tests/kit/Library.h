@@ -9,10 +9,10 @@
 
 namespace quillet::kit {
 
-/// Holds quilbt.ocx, which lies beside the test program, in memory.
+/// Holds quilbt.ocx, which lies beside the test program, in memory; or a copy of it.
 class Library {
 public:
-    Library();
+    explicit Library(std::wstring const& file = path());
     ~Library();
     Library(Library const&) = delete;
     Library& operator=(Library const&) = delete;

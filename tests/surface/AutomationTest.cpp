@@ -7,6 +7,15 @@ namespace quillet::hosting {
 namespace {
 
 constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
+constexpr WORD kAssignments[] = {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF};
+constexpr HRESULT kInvalidUseOfNull = static_cast<HRESULT>(0x800A005E);
+
+Variant ofType(VARTYPE type)
+{
+    Variant value;
+    value.address()->vt = type;
+    return value;
+}
 
 class Automation : public SurfaceTest {
 protected:
@@ -20,7 +29,12 @@ protected:
     }
     HRESULT put(wchar_t const* name, Variant const& value)
     {
-        kit::Called const called = kit::putByName(*dispatch.get(), name, value);
+        return assign(name, DISPATCH_PROPERTYPUT, value);
+    }
+    HRESULT assign(wchar_t const* name, WORD how, Variant const& value)
+    {
+        kit::Called const called =
+            kit::invoke(*dispatch.get(), kit::idOf(*dispatch.get(), name), how, {value});
         return called.result == DISP_E_EXCEPTION ? called.code : called.result;
     }
     Variant get(wchar_t const* name)
@@ -115,6 +129,152 @@ TEST_F(Automation, takesObjectsByReferenceAssignment)
     EXPECT_EQ(query<IPictureDisp>(get(L"MouseIcon").toObject().get()).get(), icon.get());
     EXPECT_EQ(kit::setByName(*dispatch.get(), L"MouseIcon", nullptr).result, S_OK);
     EXPECT_FALSE(get(L"MouseIcon").toObject());
+}
+
+TEST_F(Automation, givesAColourAsASignedNumberWhichScriptsCanRead)
+{
+    for (wchar_t const* const name : {L"BackColor", L"ForeColor", L"HotBackColor", L"BorderColor"}) {
+        Variant const colour = get(name);
+        EXPECT_EQ(colour.type(), VT_I4) << kit::narrow(name);
+        EXPECT_LT(colour.get().lVal, 0) << "a system colour has the top bit";
+    }
+}
+
+TEST_F(Automation, takesAColourWhoseTopBitIsASignOrAValue)
+{
+    constexpr long kHighlight = static_cast<long>(0x8000000D);
+    Variant asUnsigned = Variant::ofLong(kHighlight);
+    asUnsigned.address()->vt = VT_UI4;
+    Variant asDouble = ofType(VT_R8);
+    asDouble.address()->dblVal = 2147483661.0;
+    for (Variant const& written : {Variant::ofLong(kHighlight), asUnsigned, asDouble,
+                                   Variant::ofString(L"2147483661"), Variant::ofString(L"-2147483635")}) {
+        EXPECT_EQ(put(L"BackColor", Variant::ofLong(0)), S_OK);
+        EXPECT_EQ(put(L"BackColor", written), S_OK) << written.type();
+        EXPECT_EQ(get(L"BackColor").toLong(), kHighlight) << written.type();
+    }
+    Variant beyond = ofType(VT_R8);
+    beyond.address()->dblVal = 4294967296.0;
+    EXPECT_EQ(put(L"BackColor", beyond), DISP_E_OVERFLOW);
+}
+
+TEST_F(Automation, takesAPlainValueByReferenceAsAnAssignment)
+{
+    EXPECT_EQ(assign(L"Caption", DISPATCH_PROPERTYPUTREF, Variant::ofString(L"by reference")), S_OK);
+    EXPECT_EQ(get(L"Caption").toString().view(), L"by reference");
+    EXPECT_EQ(assign(L"BackColor", DISPATCH_PROPERTYPUTREF, Variant::ofLong(255)), S_OK);
+    EXPECT_EQ(get(L"BackColor").toLong(), 255);
+    EXPECT_EQ(assign(L"Enabled", DISPATCH_PROPERTYPUTREF, Variant::ofBool(false)), S_OK);
+    EXPECT_FALSE(get(L"Enabled").toBool());
+    EXPECT_EQ(assign(L"BorderWidth", DISPATCH_PROPERTYPUTREF, Variant::ofShort(5)), S_OK);
+    EXPECT_EQ(get(L"BorderWidth").toShort(), 5);
+    constexpr WORD kEither = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+    EXPECT_EQ(assign(L"CaptionIndent", kEither, Variant::ofShort(9)), S_OK);
+    EXPECT_EQ(get(L"CaptionIndent").toShort(), 9);
+    EXPECT_EQ(assign(L"Caption", DISPATCH_PROPERTYPUTREF, Variant::ofDispatch(&form.object())),
+              DISP_E_MEMBERNOTFOUND)
+        << "an object is no plain value";
+}
+
+TEST_F(Automation, takesObjectsByEveryKindOfAssignment)
+{
+    auto const icon = kit::newIconPicture();
+    for (WORD const how : kAssignments) {
+        EXPECT_EQ(assign(L"MouseIcon", how, Variant::ofDispatch(icon.get())), S_OK);
+        EXPECT_EQ(query<IPictureDisp>(get(L"MouseIcon").toObject().get()).get(), icon.get());
+        EXPECT_EQ(assign(L"MouseIcon", how, Variant::ofDispatch(nullptr)), S_OK);
+        EXPECT_FALSE(get(L"MouseIcon").toObject());
+        EXPECT_TRUE(FAILED(assign(L"MouseIcon", how, Variant::ofDispatch(&form.object()))));
+        EXPECT_TRUE(FAILED(assign(L"MouseIcon", how, Variant::ofLong(1))));
+    }
+}
+
+TEST_F(Automation, refusesNullForAValueAsInvalidUseOfNull)
+{
+    for (wchar_t const* const name :
+         {L"BackColor", L"CaptionIndent", L"BorderWidth", L"BorderStyle", L"Enabled", L"Caption"}) {
+        Variant const before = get(name);
+        kit::Called const called = kit::putByName(*dispatch.get(), name, ofType(VT_NULL));
+        EXPECT_EQ(called.result, DISP_E_EXCEPTION) << kit::narrow(name);
+        EXPECT_EQ(called.code, kInvalidUseOfNull) << kit::narrow(name);
+        EXPECT_EQ(called.description, L"Invalid use of Null");
+        EXPECT_EQ(called.source, L"Quillet.qvFlatCommand");
+        EXPECT_EQ(get(name).toString().view(), before.toString().view()) << kit::narrow(name);
+    }
+}
+
+TEST_F(Automation, doesNotFindAReadOnlyMemberThatIsSet)
+{
+    for (wchar_t const* const name : {L"hwnd", L"hdc"})
+        for (WORD const how : kAssignments)
+            EXPECT_EQ(assign(name, how, Variant::ofLong(1)), DISP_E_MEMBERNOTFOUND) << kit::narrow(name);
+}
+
+TEST_F(Automation, doesNotTakeAMemberForOneOfAnotherKind)
+{
+    EXPECT_EQ(assign(L"Refresh", DISPATCH_PROPERTYPUT, Variant::ofLong(1)), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(kit::getByName(*dispatch.get(), L"Refresh").result, DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(kit::callByName(*dispatch.get(), L"Caption").result, DISP_E_MEMBERNOTFOUND);
+    constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET; // hosts that cannot tell them apart
+    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, kEither).result, S_OK);
+    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x60030027, kEither).result, S_OK);
+}
+
+TEST_F(Automation, refusesAWrongNumberOfArguments)
+{
+    auto const one = Variant::ofLong(1);
+    EXPECT_EQ(kit::callByName(*dispatch.get(), L"Refresh", {one}).result, DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(kit::callByName(*dispatch.get(), L"WindowProc", {one, one}).result, DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, DISPATCH_PROPERTYGET, {one}).result,
+              DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, DISPATCH_PROPERTYPUT, {one, one}).result,
+              DISP_E_BADPARAMCOUNT);
+}
+
+TEST_F(Automation, tellsWhichArgumentDoesNotConvert)
+{
+    VARIANTARG arguments[4] = {}; // last first
+    for (VARIANTARG& each : arguments)
+        each.vt = VT_I4;
+    Bstr const text{L"many"};
+    arguments[2].vt = VT_BSTR;
+    arguments[2].bstrVal = text.get();
+    DISPPARAMS parameters{arguments, nullptr, 4, 0};
+    UINT bad = 77;
+    EXPECT_EQ(dispatch->Invoke(0x6003001C, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                               nullptr, nullptr, &bad),
+              DISP_E_TYPEMISMATCH);
+    EXPECT_EQ(bad, 2U);
+}
+
+TEST_F(Automation, sendsAMessageWhoseArgumentsAreInOrderOrNamed)
+{
+    wchar_t const* const names[] = {L"WindowProc", L"LPARAM", L"uMsg", L"wParam", L"hwnd"};
+    DISPID ids[5] = {};
+    ASSERT_EQ(dispatch->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(names), 5, LOCALE_USER_DEFAULT, ids),
+              S_OK);
+    EXPECT_EQ(std::vector<DISPID>(ids, ids + 5), (std::vector<DISPID>{0x6003001C, 3, 1, 2, 0}));
+
+    EXPECT_EQ(put(L"Caption", Variant::ofString(L"four")), S_OK);
+    ::SetWindowTextA(control.window(), "twelve chars");
+    auto const window = static_cast<long>(reinterpret_cast<LONG_PTR>(control.window()));
+    std::vector<Variant> const inOrder{Variant::ofLong(window), Variant::ofLong(WM_GETTEXTLENGTH),
+                                       Variant::ofLong(0), Variant::ofLong(0)};
+    Variant const length = kit::callByName(*dispatch.get(), L"WindowProc", inOrder).value;
+    EXPECT_EQ(length.toLong(), 12);
+
+    VARIANTARG named[4] = {inOrder[3].get(), inOrder[1].get(), inOrder[2].get(), inOrder[0].get()};
+    DISPPARAMS parameters{named, ids + 1, 4, 4};
+    Variant result;
+    EXPECT_EQ(dispatch->Invoke(ids[0], IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                               result.put(), nullptr, nullptr),
+              S_OK);
+    EXPECT_EQ(result.toLong(), 12);
+
+    wchar_t const* const unknown[] = {L"WindowProc", L"color"};
+    EXPECT_EQ(dispatch->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(unknown), 2, LOCALE_USER_DEFAULT, ids),
+              DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(ids[1], DISPID_UNKNOWN);
 }
 
 TEST_F(Automation, callsMethods)

@@ -97,6 +97,39 @@ TEST_F(Script, inVbScriptSetsAndReadsPropertiesAndSeesTheOverflow)
               42U);
 }
 
+TEST_F(Script, inVbScriptReadsColoursAsLongs)
+{
+    EXPECT_EQ(quits("On Error Resume Next\n"
+                    "Dim b\n"
+                    "Set b = WScript.CreateObject(\"Quillet.qvFlatCommand\")\n"
+                    "b.BackColor = &H80000010\n"
+                    "If b.BackColor <> &H80000010 Then WScript.Quit 11\n"
+                    "If VarType(b.BackColor) <> 3 Then WScript.Quit 12\n"
+                    "b.HotForeColor = b.BackColor\n"
+                    "If Err.Number <> 0 Then WScript.Quit 13\n"
+                    "If b.HotForeColor <> b.BackColor Then WScript.Quit 14\n"
+                    "WScript.Quit 42\n",
+                    "colour.vbs"),
+              42U);
+}
+
+TEST_F(Script, inVbScriptSeesAnInvalidUseOfNull)
+{
+    for (char const* const name : {"CaptionIndent", "BorderWidth", "BackColor", "Enabled", "Caption"}) {
+        std::string const text = std::string("On Error Resume Next\n"
+                                             "Dim b\n"
+                                             "Set b = WScript.CreateObject(\"Quillet.qvFlatCommand\")\n"
+                                             "If Err.Number <> 0 Then WScript.Quit 10\n"
+                                             "b.") +
+                                 name +
+                                 " = Null\n"
+                                 "If Err.Number <> 94 Then WScript.Quit 11\n"
+                                 "If Err.Source <> \"Quillet.qvFlatCommand\" Then WScript.Quit 12\n"
+                                 "WScript.Quit 42\n";
+        EXPECT_EQ(quits(text.c_str(), "null.vbs"), 42U) << name;
+    }
+}
+
 TEST_F(Script, inJScriptSetsAndReadsPropertiesAndSeesTheOverflow)
 {
     EXPECT_EQ(

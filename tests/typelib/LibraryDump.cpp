@@ -3,7 +3,7 @@
 
 #include "Borrowed.h"
 #include "DumpWords.h"
-#include "RawNames.h"
+#include "RawLibrary.h"
 
 #include <algorithm>
 
@@ -98,35 +98,25 @@ private:
     {
         noteBase(info);
         ComPtr<ITypeInfo> const members = dual ? vtableView(info) : ComPtr<ITypeInfo>(&info);
-        std::vector<std::string> const lastNames = lastParameterNames(index);
-        auto lastName = lastNames.begin();
+        std::vector<RawFunction> const& raw = m_raw.types[index].functions;
         for (UINT i = 0; i < TypeAttributes(*members.get())->cFuncs; ++i) {
             FunctionDescription const function(*members.get(), i);
-            if (isInherited(*function))
-                continue;
             std::string const slot =
                 dual ? format("%2d ", function->oVft / static_cast<int>(sizeof(void*))) : "";
-            m_lines.push_back("    " + slot + functionText(*members.get(), *function, *lastName++));
+            m_lines.push_back("    " + slot + functionText(*members.get(), *function, raw.at(i)));
             addHelp(helpOf(*members.get(), function->memid));
             noteOtherTopic(topicOf(*members.get(), function->memid));
         }
     }
 
-    /// For late binding, an interface also shows the functions that IUnknown and IDispatch give it.
-    static bool isInherited(FUNCDESC const& function)
-    {
-        return function.wFuncFlags == FUNCFLAG_FRESTRICTED &&
-               function.oVft < 7 * static_cast<int>(sizeof(void*));
-    }
-
-    std::string functionText(ITypeInfo& info, FUNCDESC const& function, std::string const& lastName)
+    std::string functionText(ITypeInfo& info, FUNCDESC const& function, RawFunction const& raw)
     {
         std::string const id = function.memid <= 0 ? format("%ld", function.memid)
                                : function.memid < 100
                                    ? format("%ld", function.memid)
                                    : format("&H%08lX", static_cast<unsigned long>(function.memid));
         return id + " " + kindOf(function) + " " + nameOf(info, function.memid) +
-               parametersOf(info, function, lastName) + functionFlagNames(function.wFuncFlags) +
+               parametersOf(info, function, raw) + functionFlagNames(function.wFuncFlags) +
                oddities(function);
     }
 
@@ -161,12 +151,12 @@ private:
         return result;
     }
 
-    std::string parametersOf(ITypeInfo& info, FUNCDESC const& function, std::string const& lastName)
+    std::string parametersOf(ITypeInfo& info, FUNCDESC const& function, RawFunction const& raw)
     {
         std::vector<std::string> names = parameterNames(info, function);
         bool const isSetter = function.invkind & (INVOKE_PROPERTYPUT | INVOKE_PROPERTYPUTREF);
         if (isSetter)
-            names.back() = lastName;
+            names.back() = raw.parameters.back().name; // the system's interfaces do not tell it
         std::string list;
         std::string result;
         for (SHORT i = 0; i < function.cParams; ++i) {
@@ -332,6 +322,7 @@ private:
 
     ITypeLib& m_library;
     std::string m_ownName;
+    RawLibrary m_raw = rawLibrary();
     std::vector<std::string> m_imports;
     std::vector<std::string> m_lines;
     DWORD m_topic = 0; ///< of the description at hand

@@ -33,7 +33,7 @@ std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM
 
 void Accessibility::propertyChanged(DISPID property) const noexcept
 {
-    for (MemberName const& member : m_surface.controlClass().members)
+    for (Member const& member : m_surface.controlClass().members)
         if (member.id == property)
             for (Telling const& row : kTellings)
                 if (row.property == member.name)

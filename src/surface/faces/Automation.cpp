@@ -1,9 +1,10 @@
-// A control's dual interface: late-bound calls go through the type library.
+// A control's dual interface, for late binding.
 #include "surface/faces/Automation.h"
 
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "surface/Surface.h"
+#include "surface/faces/MemberCall.h"
 
 #include <olectl.h>
 
@@ -13,7 +14,7 @@ namespace quillet {
 
 namespace {
 
-/// The type library in the component's own file. The system keeps one copy while anybody holds it.
+/// The system keeps one copy while anybody holds it.
 ComPtr<ITypeLib> ownTypeLibrary()
 {
     wchar_t path[MAX_PATH];
@@ -25,12 +26,6 @@ ComPtr<ITypeLib> ownTypeLibrary()
     return library;
 }
 
-bool assignsObject(DISPPARAMS const& arguments) noexcept
-{
-    return arguments.cArgs == 1 &&
-           (arguments.rgvarg->vt == VT_DISPATCH || arguments.rgvarg->vt == VT_UNKNOWN);
-}
-
 wchar_t lowered(wchar_t c) noexcept { return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c; }
 
 /// Published names are plain letters.
@@ -39,49 +34,42 @@ bool sameName(std::wstring_view a, std::wstring_view b) noexcept
     return std::ranges::equal(a, b, {}, lowered, lowered);
 }
 
-/// Null for a name that no member has.
-MemberName const* memberNamed(ControlClass const& controlClass, std::wstring_view name) noexcept
+DISPID memberNamed(Members members, std::wstring_view name) noexcept
 {
-    for (MemberName const& member : controlClass.members)
+    for (Member const& member : members)
         if (sameName(member.name, name))
-            return &member;
-    return nullptr;
+            return member.id;
+    return DISPID_UNKNOWN;
+}
+
+DISPID parameterNamed(Members members, DISPID id, std::wstring_view name) noexcept
+{
+    for (Member const& member : members)
+        if (member.id == id && member.kind == MemberKind::WindowProcedure)
+            for (DISPID i = 0; std::wstring_view const parameter : kMessageParameters) {
+                if (sameName(parameter, name))
+                    return i;
+                ++i;
+            }
+    return DISPID_UNKNOWN;
 }
 
 } // namespace
 
 void requireReadable(DISPPARAMS const& arguments)
 {
-    if ((arguments.cArgs && !arguments.rgvarg) || (arguments.cNamedArgs && !arguments.rgdispidNamedArgs))
+    if ((arguments.cArgs && !arguments.rgvarg) || (arguments.cNamedArgs && !arguments.rgdispidNamedArgs) ||
+        arguments.cNamedArgs > arguments.cArgs)
         throw RunTimeError(E_INVALIDARG);
     for (UINT i = 0; i < arguments.cArgs; ++i)
         if (refersToNothing(arguments.rgvarg[i]))
             throw RunTimeError(DISP_E_TYPEMISMATCH);
 }
 
-ITypeInfo& TypeInfos::dispatchInfo(IID const& interfaceId)
-{
-    if (!m_dispatch)
-        check(ownTypeLibrary()->GetTypeInfoOfGuid(interfaceId, m_dispatch.put()));
-    return *m_dispatch.get();
-}
-
-ITypeInfo& TypeInfos::vtableInfo(IID const& interfaceId)
-{
-    if (m_vtable)
-        return *m_vtable.get();
-    // A dual interface is described twice; index -1 leads from the one description to the other.
-    ITypeInfo& dispatch = dispatchInfo(interfaceId);
-    HREFTYPE reference = 0;
-    check(dispatch.GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
-    check(dispatch.GetRefTypeInfo(reference, m_vtable.put()));
-    return *m_vtable.get();
-}
-
-ComPtr<ITypeInfo> TypeInfos::classInfo(CLSID const& classId)
+ComPtr<ITypeInfo> ownTypeInfo(GUID const& id)
 {
     ComPtr<ITypeInfo> info;
-    check(ownTypeLibrary()->GetTypeInfoOfGuid(classId, info.put()));
+    check(ownTypeLibrary()->GetTypeInfoOfGuid(id, info.put()));
     return info;
 }
 
@@ -91,23 +79,28 @@ HRESULT Automation::getTypeInfo(Surface& surface, UINT index, ITypeInfo** info) 
         deref(info) = nullptr;
         if (index != 0)
             throw RunTimeError(DISP_E_BADINDEX);
-        ITypeInfo& found = m_infos.dispatchInfo(surface.controlClass().interfaceId);
-        *info = ComPtr<ITypeInfo>(&found).detach();
+        if (!m_info)
+            m_info = ownTypeInfo(surface.controlClass().interfaceId);
+        *info = m_info.copy();
     });
 }
+
+// Names and calls are answered from the table of members: that needs no type library, which may be missing,
+// and is several times as quick as the system's search.
 
 HRESULT Automation::getIdsOfNames(Surface& surface, LPOLESTR* names, UINT count, DISPID* ids) noexcept
 {
     return comCall([&] {
         deref(names);
         deref(ids);
-        // Most callers ask for one member: that is found here several times faster than in the type library.
-        if (count == 1 && names[0])
-            if (MemberName const* const member = memberNamed(surface.controlClass(), names[0])) {
-                *ids = member->id;
-                return S_OK;
-            }
-        return m_infos.dispatchInfo(surface.controlClass().interfaceId).GetIDsOfNames(names, count, ids);
+        Members const members = surface.controlClass().members;
+        bool allKnown = true;
+        for (UINT i = 0; i < count; ++i) {
+            std::wstring_view const name = &deref(names[i]);
+            ids[i] = i == 0 ? memberNamed(members, name) : parameterNamed(members, ids[0], name);
+            allKnown = allKnown && ids[i] != DISPID_UNKNOWN;
+        }
+        return allKnown ? S_OK : DISP_E_UNKNOWNNAME;
     });
 }
 
@@ -122,12 +115,9 @@ HRESULT Automation::invoke(Surface& surface, IDispatch* dual, DISPID id, WORD ki
             surface.doClick();
             return S_OK;
         }
-        ITypeInfo& info = m_infos.vtableInfo(surface.controlClass().interfaceId);
-        HRESULT const done = info.Invoke(dual, id, kind, arguments, result, exception, badArgument);
-        // Script assigns objects like values; the object properties take references.
-        if (done == DISP_E_MEMBERNOTFOUND && kind == DISPATCH_PROPERTYPUT && assignsObject(*arguments))
-            return info.Invoke(dual, id, DISPATCH_PROPERTYPUTREF, arguments, result, exception, badArgument);
-        return done;
+        ControlClass const& own = surface.controlClass();
+        return callMember(deref(dual), own.members, {id, kind, *arguments, result, exception, badArgument},
+                          {own.progId, own.interfaceId});
     });
 }
 

@@ -1,4 +1,4 @@
-// A control's dual interface: late-bound calls go through the type library.
+// A control's dual interface, for late binding.
 #pragma once
 
 #include "base/ComPtr.h"
@@ -9,23 +9,11 @@
 
 namespace quillet {
 
-/// Type information takes arguments as they come: what cannot be read is refused before.
+/// Whoever converts arguments takes them as they come: what cannot be read is refused before.
 void requireReadable(DISPPARAMS const& arguments);
 
-/// The descriptions that the component's own type library gives of a class, loaded at first need.
-class TypeInfos {
-public:
-    /// The dispatch form of the described interface, as hosts look at it, and the vtable form, as calls go
-    /// through it. Throw when the type library cannot be loaded.
-    ITypeInfo& dispatchInfo(IID const& interfaceId);
-    ITypeInfo& vtableInfo(IID const& interfaceId);
-    /// The description of the class.
-    static ComPtr<ITypeInfo> classInfo(CLSID const& classId);
-
-private:
-    ComPtr<ITypeInfo> m_dispatch;
-    ComPtr<ITypeInfo> m_vtable;
-};
+/// A description from the type library in the component's own file. Throws when that cannot be loaded.
+ComPtr<ITypeInfo> ownTypeInfo(GUID const& id);
 
 /// The part of automation that does not depend on the interface.
 class Automation {
@@ -36,7 +24,7 @@ public:
                    VARIANT* result, EXCEPINFO* exception, UINT* badArgument) noexcept;
 
 private:
-    TypeInfos m_infos;
+    ComPtr<ITypeInfo> m_info; ///< loaded when a host first asks for it
 };
 
 /// Implements IDispatch for a dual interface. A control derives from this and from Surface.

@@ -22,7 +22,7 @@ HRESULT ProvidedClassInfo::GetClassInfo(ITypeInfo** info)
 {
     return comCall([&] {
         deref(info) = nullptr;
-        *info = TypeInfos::classInfo(m_surface.controlClass().classId).detach();
+        *info = ownTypeInfo(m_surface.controlClass().classId).detach();
     });
 }
 
