@@ -181,5 +181,17 @@ TEST_F(SurfaceFont, aTextIsMeasuredInTheFontGivenAndDrawsNothing)
     EXPECT_EQ(bound.target.count(kWhite), 80 * 30);
 }
 
+TEST_F(SurfaceFont, aTextIsMeasuredAsItIsWrittenInTheCodePage)
+{
+    BoundSurface bound(80, 30);
+    auto const font = kit::newFont(L"Arial", 20);
+    bound.surface.Font(font.get());
+    std::wstring const text = L"\x4E2D\x0E01\x0416\x4E2D";
+    SIZE const expected = kit::textSize(kit::handleOf(*font.get()), kit::inCodePage(text));
+    ASSERT_NE(expected.cx, kit::textSize(kit::handleOf(*font.get()), text).cx) << "nothing would be seen";
+    EXPECT_EQ(bound.surface.textExtent(text).cx, expected.cx);
+    EXPECT_EQ(bound.surface.textExtent(text).cy, expected.cy);
+}
+
 } // namespace
 } // namespace quillet
