@@ -297,5 +297,22 @@ TEST_F(Pages, thePicturesPageTakesAPictureAway)
     EXPECT_FALSE(left);
 }
 
+TEST_F(Pages, thePicturesPageClearsOnlyWhatTheControlCanLose)
+{
+    OpenPage page(library(), kPicturesPageClass, 0);
+    auto const button = library().create(kQvImageCommandClass);
+    ASSERT_EQ(page.open(button.get()), S_OK);
+    HWND const clear = page.named(L"Cl&ear");
+    EXPECT_TRUE(::IsWindowEnabled(clear)) << "the first is MouseIcon";
+    for (wchar_t const* const fixed : {L"Image", L"DisabledImage", L"HotImage", L"PressedImage"}) {
+        choose(page.firstOf(L"ListBox"), fixed);
+        EXPECT_FALSE(::IsWindowEnabled(clear)) << fixed;
+        choose(page.firstOf(L"ListBox"), L"MouseIcon");
+        EXPECT_TRUE(::IsWindowEnabled(clear));
+    }
+    EXPECT_EQ(page->EditProperty(dispid::imageButton::HotImage), S_OK);
+    EXPECT_FALSE(::IsWindowEnabled(clear));
+}
+
 } // namespace
 } // namespace quillet::pages
