@@ -118,8 +118,8 @@ HRESULT Persistence::load(IStream& stream)
     m_dirty = values.isIncomplete();
     if (!values.isIncomplete())
         return S_OK;
-    ControlClass const& own = m_surface.controlClass();
-    comCall({own.progId, own.interfaceId}, [] { throw RunTimeError(ErrorNumber::InvalidPicture); });
+    comCall(m_surface.controlClass().errorSource(),
+            [] { throw RunTimeError(ErrorNumber::InvalidPicture); });
     return S_FALSE;
 }
 

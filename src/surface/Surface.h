@@ -58,7 +58,7 @@ public:
     template <class Body> HRESULT call(Body&& body) noexcept
     {
         auto const alive = keepAlive();
-        return comCall({m_class.progId, m_class.interfaceId}, std::forward<Body>(body));
+        return comCall(m_class.errorSource(), std::forward<Body>(body));
     }
 
     // Services for the control and for the faces.

@@ -130,7 +130,7 @@ TEST_F(SurfaceFont, aSecondFontThatFailsLeavesTheFirstSelectedAndTheSecondStored
 TEST_F(SurfaceFont, aFontThatFailsIsReportedWithTheFontInterfaceAsItsSource)
 {
     m_record->answer("font1.get_hFont", E_FAIL);
-    ErrorSource const method{L"Quillet.qvFlatCommand", IID_IDispatch};
+    ErrorSource const method{L"Quillet.qvFlatCommand", IID_IDispatch, 0};
     EXPECT_EQ(comCall(method, [&] { m_surface.Font(m_font1.get()); }), E_FAIL);
     ComPtr<IErrorInfo> info;
     ASSERT_EQ(::GetErrorInfo(0, info.put()), S_OK);
