@@ -62,9 +62,8 @@ bool takeData(Bytes body, size_t& at, FormModel& model)
         unsigned const size = whole(body, at + 2);
         bool const isDamaged = size > 0 && body[at + 6] == kDamaged;
         bool const isHuge = size >= 10 && whole(body, at + 12) > kLargestFont;
-        if (kind == 1 && (isDamaged || isHuge))
-            return false;
-        model.hasDamagedPicture |= kind == 2 && !isWholePicture(body.subspan(at + 6, size));
+        model.hasDamagedObject |= kind == 1 && (isDamaged || isHuge);
+        model.hasDamagedObject |= kind == 2 && !isWholePicture(body.subspan(at + 6, size));
         if (kind == 0) {
             model.written.insert(model.written.end(), 6, 0);
             at += 6 + size;

@@ -12,7 +12,7 @@
 namespace quillet::fuzz {
 
 struct FormModel {
-    bool hasDamagedPicture = false;
+    bool hasDamagedObject = false;
     std::vector<std::wstring> names;
     size_t size = 0; ///< of the form: what stands behind it is not its own
     /// The form as a writer of the same values writes it: True is -1 and nothing else, no object has no

@@ -62,9 +62,9 @@ void read(Bytes const& bytes, Manner manner)
         SavedValues values = SavedValues::fromStream(*stream.get());
         hold(model && !stream->hasFailed(), "what is no form is refused");
         hold(stream->position() == model->size, "the form is read to its end and no further");
-        hold(values.isIncomplete() == model->hasDamagedPicture, "a damaged picture is told");
+        hold(values.loss().has_value() == model->hasDamagedObject, "a damaged font or picture is told");
         holdProperties(values, model->names);
-        if (!values.isIncomplete())
+        if (!values.loss())
             hold(writtenAgain(values) == model->written, "what was read is written as it was");
     } catch (RunTimeError const& refusal) {
         hold(!model || stream->hasFailed(), "a form is read");

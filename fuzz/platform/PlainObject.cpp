@@ -44,6 +44,9 @@ bool isEmptyPicture(IUnknown* picture) noexcept
            static_cast<fuzz::PlainObject*>(reinterpret_cast<IPersistStream*>(picture))->bytes().empty();
 }
 
+/// None has a format of its own.
+bool isMetafile(IUnknown*) noexcept { return false; }
+
 } // namespace quillet
 
 HRESULT WINAPI OleCreatePictureIndirect(PICTDESC*, REFIID, BOOL, void** picture)

@@ -25,15 +25,16 @@ std::wstring systemText(HRESULT result)
     return trimmed.empty() ? L"Automation error" : std::wstring(trimmed);
 }
 
-void publish(wchar_t const* source, IID const& interfaceId, std::wstring const& description) noexcept
+void publish(ErrorSource const& source, IID const& interfaceId, std::wstring const& description)
 {
     ComPtr<ICreateErrorInfo> info;
     if (FAILED(::CreateErrorInfo(info.put())))
         return;
     info->SetGUID(interfaceId);
-    info->SetSource(const_cast<wchar_t*>(source));
+    info->SetSource(const_cast<wchar_t*>(source.name));
     info->SetDescription(const_cast<wchar_t*>(description.c_str()));
-    info->SetHelpFile(const_cast<wchar_t*>(kHelpFile));
+    info->SetHelpFile(helpFilePath().data());
+    info->SetHelpContext(source.helpContext);
     if (auto const error = info.as<IErrorInfo>())
         ::SetErrorInfo(0, error.get());
 }
@@ -61,7 +62,7 @@ HRESULT reportCaught(ErrorSource const& source) noexcept
     RunTimeError const error = caught();
     ignoringErrors([&] {
         wchar_t const* const own = error.description();
-        publish(source.name, error.interfaceId() ? *error.interfaceId() : source.interfaceId,
+        publish(source, error.interfaceId() ? *error.interfaceId() : source.interfaceId,
                 own ? std::wstring(own) : systemText(error.result()));
     });
     return error.result();

@@ -12,9 +12,10 @@ namespace quillet {
 struct ErrorSource {
     wchar_t const* name; ///< programmatic identifier, such as "Quillet.qvFlatCommand"
     IID interfaceId;     ///< the interface whose method failed
+    DWORD helpContext;   ///< the help file's topic about it
 };
 
-/// Call in a catch block: the HRESULT of what was thrown, with error info (source, description) set.
+/// Call in a catch block: the HRESULT of what was thrown, with error info (source, description, help) set.
 HRESULT reportCaught(ErrorSource const& source) noexcept;
 
 /// Call in a catch block: the HRESULT of what was thrown, without error info.

@@ -3,11 +3,16 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace quillet {
 
 /// Windows' handle of the component's image; set once, when the process attaches.
 HINSTANCE moduleInstance() noexcept;
 void setModuleInstance(HINSTANCE instance) noexcept;
+
+/// The component's file with its folder; empty where Windows does not tell it.
+std::wstring modulePath();
 
 /// Objects and locks alive, from every thread. The component may be unloaded at 0.
 long liveObjects() noexcept;

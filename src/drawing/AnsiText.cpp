@@ -28,4 +28,11 @@ AnsiText::AnsiText(std::wstring_view text, unsigned codePage)
     m_count = static_cast<unsigned>(std::min<std::size_t>(text.size(), static_cast<std::size_t>(bytes)));
 }
 
+SIZE AnsiText::extent(HDC dc) const noexcept
+{
+    SIZE size = {};
+    ::GetTextExtentPoint32A(dc, data(), static_cast<int>(m_count), &size);
+    return size;
+}
+
 } // namespace quillet

@@ -19,6 +19,8 @@ public:
     /// How many bytes to write: as many as the caption has characters, which cuts a caption short whose
     /// characters take more than one byte. Never more bytes than there are.
     unsigned count() const noexcept { return m_count; }
+    /// The size of what is written, in a DC's font and in pixels.
+    SIZE extent(HDC dc) const noexcept;
 
 private:
     static constexpr int kStackBytes = 256;

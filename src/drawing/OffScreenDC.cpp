@@ -111,12 +111,7 @@ void OffScreenDC::BlastToScreen(long left, long top) const noexcept
     BlastToScreen(left, top, long{kWholeLength}, long{kWholeLength});
 }
 
-SIZE OffScreenDC::textExtent(std::wstring_view text) const noexcept
-{
-    SIZE extent = {};
-    ::GetTextExtentPoint32W(m_memoryDc.get(), text.data(), static_cast<int>(text.size()), &extent);
-    return extent;
-}
+SIZE OffScreenDC::textExtent(std::wstring_view text) const { return AnsiText(text).extent(m_memoryDc.get()); }
 
 void OffScreenDC::PrintString(long x, long y, std::wstring_view caption)
 {

@@ -55,8 +55,8 @@ public:
     /// For elements that draw themselves; owned by the surface.
     HDC dc() const noexcept { return m_memoryDc.get(); }
 
-    /// Width and height of a text in the selected font, in pixels.
-    SIZE textExtent(std::wstring_view text) const noexcept;
+    /// Width and height of a text in the selected font, in pixels, as it would be written.
+    SIZE textExtent(std::wstring_view text) const;
 
     /// Copies a rectangle to the same place of the control's DC. A width or height of -1 stands for that of
     /// the surface, which the caller's variable then holds.

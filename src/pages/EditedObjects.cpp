@@ -2,8 +2,10 @@
 #include "pages/EditedObjects.h"
 
 #include "base/Bstr.h"
+#include "base/ComCall.h"
 #include "base/LateBound.h"
 #include "base/RunTimeError.h"
+#include "typelib/HelpContexts.h"
 
 #include <algorithm>
 
@@ -78,19 +80,35 @@ void EditedObjects::set(IUnknown* const* objects, ULONG count)
     m_objects = std::move(taken);
 }
 
+ComPtr<ITypeInfo> EditedObjects::description() const
+{
+    ComPtr<ITypeInfo> description;
+    check(m_objects.front()->GetTypeInfo(0, LOCALE_NEUTRAL, description.put()));
+    return description;
+}
+
 std::vector<DescribedProperty> EditedObjects::properties() const
 {
     if (m_objects.empty())
         return {};
-    ComPtr<ITypeInfo> description;
-    check(m_objects.front()->GetTypeInfo(0, LOCALE_NEUTRAL, description.put()));
-    auto properties = describedProperties(*description.get());
+    auto properties = describedProperties(*description().get());
     std::erase_if(properties, [this](DescribedProperty const& each) {
         return !each.writable || std::ranges::any_of(m_objects, [&](ComPtr<IDispatch> const& object) {
             return !hasProperty(*object.get(), each.name);
         });
     });
     return properties;
+}
+
+DWORD EditedObjects::helpContext() const noexcept
+{
+    if (m_objects.empty())
+        return kHelpManual;
+    return orFallback(kHelpManual, [&] {
+        DWORD topic = kHelpManual;
+        check(description()->GetDocumentation(MEMBERID_NIL, nullptr, nullptr, &topic, nullptr));
+        return topic;
+    });
 }
 
 Variant EditedObjects::get(std::wstring const& property) const

@@ -25,6 +25,8 @@ public:
 
     /// The properties that can be changed and that all objects have, as the first one describes them.
     std::vector<DescribedProperty> properties() const;
+    /// The help file's topic about the first object's class; the manual's for no object.
+    DWORD helpContext() const noexcept;
     /// The first object's value. Throws the object's error.
     Variant get(std::wstring const& property) const;
     /// Assigns to every object; objects are assigned by reference. Stops at the first that refuses, and
@@ -32,6 +34,9 @@ public:
     std::wstring put(std::wstring const& property, Variant const& value) const;
 
 private:
+    /// Of the first object.
+    ComPtr<ITypeInfo> description() const;
+
     std::vector<ComPtr<IDispatch>> m_objects;
 };
 

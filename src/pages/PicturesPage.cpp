@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace quillet {
 
@@ -17,12 +18,16 @@ constexpr WORD kLoad = 110;
 constexpr WORD kClear = 111;
 constexpr wchar_t kFilter[] = L"Pictures\0*.bmp;*.gif;*.jpg;*.ico;*.cur;*.wmf;*.emf\0All files\0*.*\0";
 
+/// A look's image can be exchanged, but its button refuses an empty one.
+bool canBeCleared(std::wstring_view property) noexcept { return !property.ends_with(L"Image"); }
+
 class PicturesPage final : public ListPage {
 public:
     PicturesPage() noexcept : ListPage(L"Pictures", ValueKind::Picture) {}
 
 protected:
     void fillBeside(PageWindow& window) override;
+    void showValue() override;
     void onOtherCommand(WORD control, WORD notification) override;
     void drawSample(HDC dc, RECT const& place) override;
 
@@ -35,6 +40,12 @@ void PicturesPage::fillBeside(PageWindow& window)
     addSample(window, {kBeside, 4, 134, 80});
     window.add(L"BUTTON", L"&Load...", WS_TABSTOP | BS_PUSHBUTTON, kLoad, {kBeside, 90, 60, 14});
     window.add(L"BUTTON", L"Cl&ear", WS_TABSTOP | BS_PUSHBUTTON, kClear, {kBeside + 64, 90, 60, 14});
+}
+
+void PicturesPage::showValue()
+{
+    if (!properties().empty())
+        ::EnableWindow(window().control(kClear), canBeCleared(properties()[chosen()].name));
 }
 
 void PicturesPage::onOtherCommand(WORD control, WORD notification)

@@ -3,6 +3,7 @@
 
 #include "base/HelpFile.h"
 #include "base/TaskMemory.h"
+#include "pages/HelpViewer.h"
 
 #include <olectl.h>
 
@@ -65,9 +66,10 @@ HRESULT PropertyPage::GetPageInfo(PROPPAGEINFO* info)
         info->size = {size.right, size.bottom};
         TaskArray<LPOLESTR> texts(2);
         texts[0] = taskString(m_title);
-        texts[1] = taskString(kHelpFile);
+        texts[1] = taskString(helpFilePath().c_str());
         info->pszTitle = std::exchange(texts[0], nullptr);
         info->pszHelpFile = std::exchange(texts[1], nullptr);
+        info->dwHelpContext = m_objects.helpContext();
     });
 }
 
@@ -124,7 +126,15 @@ void PropertyPage::apply()
     }
 }
 
-HRESULT PropertyPage::Help(LPCOLESTR) { return E_NOTIMPL; } // the frame opens the help file
+/// The folder is the frame's guess where the help file is. Where it does not open here, the frame may try.
+HRESULT PropertyPage::Help(LPCOLESTR)
+{
+    return comCall([&] {
+        HWND const frame = m_window ? ::GetAncestor(m_window->handle(), GA_ROOT) : nullptr;
+        if (!showHelpTopic(frame, m_objects.helpContext()))
+            throw RunTimeError(E_FAIL);
+    });
+}
 
 HRESULT PropertyPage::TranslateAccelerator(MSG* message)
 {

@@ -64,16 +64,15 @@ SavedObject::Kind kindOf(IUnknown* object)
     throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
-/// No honest form has letters of more than 2,160 points; drawing those of a forged size takes some systems
-/// minutes. A saved font has its size in ten thousandths of a point behind version, character set, style and
-/// weight; one that is shorter the font object refuses itself.
+/// A saved font has its size behind version, character set, style and weight; one that is shorter the font
+/// object refuses itself.
 bool hasHonestSize(std::vector<BYTE> const& font) noexcept
 {
     constexpr size_t kSize = 6;
     DWORD size = 0;
     if (font.size() >= kSize + sizeof size)
         std::memcpy(&size, font.data() + kSize, sizeof size);
-    return size <= 2160 * 10000;
+    return isHonestFontSize(size);
 }
 
 /// Whether the system's own objects can be given these bytes.

@@ -5,6 +5,7 @@
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
 #include "saving/SavedObject.h"
+#include "saving/StandardPicture.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -105,15 +106,34 @@ void putValue(Writer& out, Variant const& value)
     }
 }
 
-/// A damaged picture comes back as no value at all.
-Variant loadedObject(SavedObject const& saved)
+/// What is told where an object of the kind is left out; nothing for a kind that there is not.
+std::optional<ErrorNumber> lossOf(SavedObject::Kind kind) noexcept
 {
-    if (saved.kind != SavedObject::Kind::Picture)
-        return Variant::ofUnknown(objectOf(saved).get());
-    return orFallback(Variant(), [&] { return Variant::ofUnknown(objectOf(saved).get()); });
+    switch (kind) {
+    case SavedObject::Kind::Font:
+        return ErrorNumber::InvalidPropertyValue;
+    case SavedObject::Kind::Picture:
+        return ErrorNumber::InvalidPicture;
+    case SavedObject::Kind::None:
+        break;
+    }
+    return std::nullopt;
 }
 
-Variant takeValue(Reader& in)
+/// A damaged font or picture comes back as no value at all.
+Variant loadedObject(SavedObject const& saved, std::optional<ErrorNumber>& loss)
+{
+    auto const load = [&] { return Variant::ofUnknown(objectOf(saved).get()); };
+    auto const possible = lossOf(saved.kind);
+    if (!possible)
+        return load();
+    Variant object = orFallback(Variant(), load);
+    if (object.type() == VT_EMPTY)
+        loss = possible;
+    return object;
+}
+
+Variant takeValue(Reader& in, std::optional<ErrorNumber>& loss)
 {
     switch (in.take<WORD>()) {
     case VT_I2:
@@ -129,7 +149,7 @@ Variant takeValue(Reader& in)
     case VT_UNKNOWN: {
         auto const kind = static_cast<SavedObject::Kind>(in.take<WORD>());
         auto const size = in.take<DWORD>();
-        return loadedObject({kind, in.takeBytes(size)});
+        return loadedObject({kind, in.takeBytes(size)}, loss);
     }
     default:
         throw RunTimeError(E_FAIL);
@@ -181,8 +201,7 @@ SavedValues SavedValues::fromStream(IStream& stream)
     for (WORD i = 0; i < count; ++i) {
         auto const length = in.take<WORD>();
         std::wstring name = in.takeText(length);
-        Variant value = takeValue(in);
-        result.m_isIncomplete |= value.type() == VT_EMPTY;
+        Variant value = takeValue(in, result.m_loss);
         result.m_values.push_back({std::move(name), std::move(value)});
     }
     if (in.rest() != 0)
@@ -232,6 +251,10 @@ Variant SavedValues::read(wchar_t const* name, VARTYPE)
 
 void SavedValues::write(wchar_t const* name, Variant value)
 {
+    if (value.type() == VT_UNKNOWN && isMetafile(value.toObject().get())) {
+        m_loss = ErrorNumber::InvalidPicture;
+        return;
+    }
     for (Named& row : m_values)
         if (row.name == name) {
             row.value = std::move(value);

@@ -1,10 +1,12 @@
 // Named values in memory, and their binary form for streams and storages.
 #pragma once
 
+#include "base/RunTimeError.h"
 #include "saving/PropertyBag.h"
 
 #include <objidl.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,13 +20,15 @@ namespace quillet {
 ///   the object itself wrote.
 class SavedValues final : public PropertyBag {
 public:
-    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read. A picture
-    /// whose own bytes are damaged is left out: it has nothing to do with the values round it.
+    /// Reads the binary form. E_FAIL for anything malformed; nothing outside the form is read. A font or
+    /// picture whose own bytes are damaged is left out: it has nothing to do with the values round it.
     static SavedValues fromStream(IStream& stream);
     void toStream(IStream& stream) const;
 
-    /// Whether a damaged picture was left out.
-    bool isIncomplete() const noexcept { return m_isIncomplete; }
+    /// What is to be told of an object that was left out; nothing where all are there. In reading that is a
+    /// damaged one, in writing a metafile: whoever shows one plays its records and believes them all, so no
+    /// reader could take it from a form.
+    std::optional<ErrorNumber> loss() const noexcept { return m_loss; }
 
     /// The binary form's size in bytes.
     ULONG size() const;
@@ -40,7 +44,7 @@ private:
     std::vector<BYTE> bytes() const;
 
     std::vector<Named> m_values;
-    bool m_isIncomplete = false;
+    std::optional<ErrorNumber> m_loss;
 };
 
 } // namespace quillet

@@ -4,6 +4,7 @@
 #include "base/Handles.h"
 #include "base/RunTimeError.h"
 #include "base/Scale.h"
+#include "drawing/AnsiText.h"
 
 #include <olectl.h>
 
@@ -57,9 +58,7 @@ long textWidth(IFont& font, std::wstring_view text)
     check(font.get_hFont(&handle));
     UniqueMemoryDc const dc(::CreateCompatibleDC(nullptr));
     SelectScope const selected(dc.get(), handle);
-    SIZE extent = {};
-    ::GetTextExtentPoint32W(dc.get(), text.data(), static_cast<int>(text.size()), &extent);
-    return extent.cx;
+    return AnsiText(text).extent(dc.get()).cx;
 }
 
 } // namespace quillet

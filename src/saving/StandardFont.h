@@ -20,7 +20,12 @@ ComPtr<IFont> systemFont();
 /// Whether two fonts look the same.
 bool equalFonts(IFont* a, IFont* b) noexcept;
 
-/// The width of a text in whole pixels of the screen. Throws where the font has no handle to give.
+/// Whether letters of that size, in ten thousandths of a point, are ever meant: drawing those of a forged
+/// size takes some systems minutes.
+constexpr bool isHonestFontSize(LONGLONG size) noexcept { return size >= 0 && size <= 2160 * 10000; }
+
+/// The width of a caption as it is written, in whole pixels of the screen. Throws where the font has no
+/// handle to give.
 long textWidth(IFont& font, std::wstring_view text);
 
 } // namespace quillet

@@ -44,6 +44,12 @@ bool isEmptyPicture(IUnknown* picture) noexcept
     return type == PICTYPE_NONE || type == PICTYPE_UNINITIALIZED;
 }
 
+bool isMetafile(IUnknown* picture) noexcept
+{
+    SHORT const type = pictureType(picture);
+    return type == PICTYPE_METAFILE || type == PICTYPE_ENHMETAFILE;
+}
+
 HANDLE pictureHandle(IPicture& picture) noexcept
 {
     OLE_HANDLE handle = 0;

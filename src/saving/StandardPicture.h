@@ -20,6 +20,9 @@ SHORT pictureType(IUnknown* picture) noexcept;
 /// Whether there is nothing to show: no object, or one without a picture.
 bool isEmptyPicture(IUnknown* picture) noexcept;
 
+/// Of either format.
+bool isMetafile(IUnknown* picture) noexcept;
+
 /// What the picture object holds and keeps: an HBITMAP or an HICON, by its type. Null when there is none.
 HANDLE pictureHandle(IPicture& picture) noexcept;
 

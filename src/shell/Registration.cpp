@@ -7,8 +7,6 @@
 #include "shell/RegistryWriter.h"
 #include "shell/TypeLibraryRegistration.h"
 
-#include <iterator>
-
 namespace quillet {
 
 namespace {
@@ -18,9 +16,8 @@ constexpr REGSAM kOtherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_6
 
 std::wstring componentPath()
 {
-    wchar_t path[MAX_PATH];
-    DWORD const length = ::GetModuleFileNameW(moduleInstance(), path, static_cast<DWORD>(std::size(path)));
-    if (length == 0 || length == std::size(path))
+    std::wstring path = modulePath();
+    if (path.empty())
         throw RunTimeError(HRESULT_FROM_WIN32(ERROR_BUFFER_OVERFLOW));
     return path;
 }

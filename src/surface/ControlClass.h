@@ -1,6 +1,7 @@
 // What the surface needs to know of the class that it serves.
 #pragma once
 
+#include "base/ComCall.h"
 #include "typelib/Members.h"
 
 #include <windows.h>
@@ -16,6 +17,9 @@ struct ControlClass {
     wchar_t const* progId; ///< where its errors come from, such as "Quillet.qvFlatCommand"
     DWORD miscStatus;      ///< OLEMISC flags
     Members members;       ///< of the default interface
+    DWORD helpContext;     ///< the help file's topic about it
+
+    ErrorSource errorSource() const noexcept { return {progId, interfaceId, helpContext}; }
 };
 
 /// The name of the verb that activates a control, as container menus show it.

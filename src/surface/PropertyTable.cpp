@@ -95,6 +95,16 @@ Variant convertedProperty(PropertyKind kind, Variant const& value)
     return convertedObject(kind, value.toObject().get());
 }
 
+Variant assignedProperty(PropertyKind kind, Variant const& value)
+{
+    Variant converted = convertedProperty(kind, value);
+    CY size = {};
+    if (isFont(kind) && SUCCEEDED(query<IFont>(converted.toObject().get())->get_Size(&size)) &&
+        !isHonestFontSize(size.int64))
+        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
+    return converted;
+}
+
 Variant savedProperty(PropertyKind kind, Variant const& kept)
 {
     bool const fits = kind != PropertyKind::Style || kept.get().lVal == static_cast<short>(kept.get().lVal);

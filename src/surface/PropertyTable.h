@@ -43,6 +43,9 @@ VARTYPE savedType(PropertyKind kind) noexcept;
 /// A value in the type in which a kind is kept. Type mismatch or Overflow where it does not convert, or is an
 /// object of another kind.
 Variant convertedProperty(PropertyKind kind, Variant const& value);
+/// The same for what a setter is given: a font, too, has to be one that a form can be loaded with, else it is
+/// an invalid property value.
+Variant assignedProperty(PropertyKind kind, Variant const& value);
 /// A kept value in the type in which the kind is saved.
 Variant savedProperty(PropertyKind kind, Variant const& kept);
 /// The default of a kind that has one value for all controls.
@@ -146,7 +149,7 @@ public:
     /// that does not convert changes nothing.
     void put(Control& control, Row const& row, Variant const& value) const
     {
-        assign(control, row, convertedProperty(row.kind, value));
+        assign(control, row, assignedProperty(row.kind, value));
     }
 
     /// The values of a new control, fonts first; they are the container's.

@@ -58,7 +58,7 @@ public:
     template <class Body> HRESULT call(Body&& body) noexcept
     {
         auto const alive = keepAlive();
-        return comCall({m_class.progId, m_class.interfaceId}, std::forward<Body>(body));
+        return comCall(m_class.errorSource(), std::forward<Body>(body));
     }
 
     // Services for the control and for the faces.
@@ -150,6 +150,8 @@ public:
     virtual void onFontChanged() {}
     /// A container presses the control.
     virtual void doClick() { onClick(); }
+    /// Somebody without a mouse does what a click of it does.
+    virtual void doDefaultAction() { doClick(); }
     /// The control's window (its own, or an inner one that was subclassed) got or lost the keyboard: what it
     /// shows is to change at once.
     virtual void onFocusMessage(bool gained);

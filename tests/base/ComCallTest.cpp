@@ -15,8 +15,8 @@
 namespace quillet {
 namespace {
 
-constexpr ErrorSource kSource{L"Quillet.qvFlatCommand",
-                              {0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}}};
+constexpr ErrorSource kSource{
+    L"Quillet.qvFlatCommand", {0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}}, 77};
 constexpr HRESULT kOverflow = runTimeError(6);
 
 /// What was left as error info; taking it clears it, as a host does.
@@ -32,6 +32,7 @@ struct Report {
         info->GetSource(report.source.put());
         info->GetDescription(report.description.put());
         info->GetHelpFile(report.helpFile.put());
+        info->GetHelpContext(&report.helpContext);
         return report;
     }
 
@@ -40,7 +41,17 @@ struct Report {
     Bstr source;
     Bstr description;
     Bstr helpFile;
+    DWORD helpContext = 0;
 };
+
+/// Beside whoever holds the library's code: here the program.
+std::wstring besideTheProgram(wchar_t const* file)
+{
+    wchar_t program[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+    std::wstring const whole(program);
+    return whole.substr(0, whole.rfind(L'\\') + 1) + file;
+}
 
 class Boundary : public testing::Test {
 protected:
@@ -62,14 +73,15 @@ TEST_F(Boundary, aBodyThatAnswersAResultAnswersForTheCall)
     EXPECT_FALSE(Report::take().present);
 }
 
-TEST_F(Boundary, aRunTimeErrorIsItsNumberWithSourceTextInterfaceAndHelpFile)
+TEST_F(Boundary, aRunTimeErrorIsItsNumberWithSourceTextInterfaceAndHelp)
 {
     EXPECT_EQ(comCall(kSource, [] { throw RunTimeError(ErrorNumber::Overflow); }), kOverflow);
     Report const report = Report::take();
     ASSERT_TRUE(report.present);
     EXPECT_EQ(report.source.view(), L"Quillet.qvFlatCommand");
     EXPECT_EQ(report.description.view(), L"Overflow");
-    EXPECT_EQ(report.helpFile.view(), L"quillet.chm");
+    EXPECT_EQ(report.helpFile.view(), besideTheProgram(L"quillet.chm"));
+    EXPECT_EQ(report.helpContext, 77U);
     EXPECT_TRUE(report.interfaceId == kSource.interfaceId);
 }
 

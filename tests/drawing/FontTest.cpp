@@ -130,7 +130,7 @@ TEST_F(SurfaceFont, aSecondFontThatFailsLeavesTheFirstSelectedAndTheSecondStored
 TEST_F(SurfaceFont, aFontThatFailsIsReportedWithTheFontInterfaceAsItsSource)
 {
     m_record->answer("font1.get_hFont", E_FAIL);
-    ErrorSource const method{L"Quillet.qvFlatCommand", IID_IDispatch};
+    ErrorSource const method{L"Quillet.qvFlatCommand", IID_IDispatch, 0};
     EXPECT_EQ(comCall(method, [&] { m_surface.Font(m_font1.get()); }), E_FAIL);
     ComPtr<IErrorInfo> info;
     ASSERT_EQ(::GetErrorInfo(0, info.put()), S_OK);
@@ -179,6 +179,18 @@ TEST_F(SurfaceFont, aTextIsMeasuredInTheFontGivenAndDrawsNothing)
     }
     bound.surface.BlastToScreen();
     EXPECT_EQ(bound.target.count(kWhite), 80 * 30);
+}
+
+TEST_F(SurfaceFont, aTextIsMeasuredAsItIsWrittenInTheCodePage)
+{
+    BoundSurface bound(80, 30);
+    auto const font = kit::newFont(L"Arial", 20);
+    bound.surface.Font(font.get());
+    std::wstring const text = L"\x4E2D\x0E01\x0416\x4E2D";
+    SIZE const expected = kit::textSize(kit::handleOf(*font.get()), kit::inCodePage(text));
+    ASSERT_NE(expected.cx, kit::textSize(kit::handleOf(*font.get()), text).cx) << "nothing would be seen";
+    EXPECT_EQ(bound.surface.textExtent(text).cx, expected.cx);
+    EXPECT_EQ(bound.surface.textExtent(text).cy, expected.cy);
 }
 
 } // namespace

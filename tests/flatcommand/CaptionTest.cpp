@@ -178,6 +178,20 @@ TEST_F(FlatCaption, centredIgnoresTheIndent)
     EXPECT_EQ(button.differencesFrom(face), "");
 }
 
+// What the code page has no place for is drawn as something else, which has another width.
+TEST_F(FlatCaption, standsWhereItStandsWhenItIsWrittenInTheCodePage)
+{
+    for (wchar_t const* const caption : {L"\x4E2D\x0E01 &Save", L"S&\x4E2D\x0E01ve", L"\x4E2D\x0416\x4E2D"})
+        for (bool const centred : {false, true}) {
+            button.setCaption(caption);
+            EXPECT_EQ(button->put_CentreCaption(centred ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
+            Face face = normalFace();
+            face.caption = kit::inCodePage(caption);
+            face.centred = centred;
+            EXPECT_EQ(button.differencesFrom(face), "") << kit::narrow(caption) << centred;
+        }
+}
+
 TEST_F(FlatCaption, followsTheFont)
 {
     button.setFont(kit::newFont(L"Tahoma", 16, true).get());

@@ -255,6 +255,19 @@ TEST_F(FlatProperties, fontRefusesNothingAndWhatIsNoFont)
     EXPECT_THAT(button.changes().take(), IsEmpty());
 }
 
+// Sizes are rounded to whole pixels.
+TEST_F(FlatProperties, fontIsOf2160PointsAtMost)
+{
+    FlatButton button(library(), form);
+    button.start();
+    button.changes().take();
+    EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2170).get()).get()),
+              static_cast<HRESULT>(0x800A017C)); // 380
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "the old font is gone";
+    EXPECT_THAT(button.changes().take(), IsEmpty());
+    EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2160).get()).get()), S_OK);
+}
+
 TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
 {
     FlatButton button(library(), form);

@@ -5,6 +5,7 @@
 #include "kit/Fonts.h"
 #include "kit/Memory.h"
 
+#include <algorithm>
 #include <optional>
 #include <random>
 
@@ -44,6 +45,15 @@ protected:
     static HRESULT load(FlatButton& into, Bytes const& bytes)
     {
         return into.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+    }
+    /// The text of the error info that the last call left; empty for none.
+    static std::wstring reason()
+    {
+        ComPtr<IErrorInfo> info;
+        Bstr text;
+        if (::GetErrorInfo(0, info.put()) == S_OK)
+            info->GetDescription(text.put());
+        return std::wstring(text.view());
     }
     /// Bytes that a button with a value in every property saves.
     Bytes fullBytes()
@@ -192,6 +202,62 @@ TEST_F(FlatStream, thatTakesNoMoreFailsTheSaveWhichStaysDirty)
                   STG_E_MEDIUMFULL)
             << taken;
     EXPECT_EQ(persistent->IsDirty(), S_OK);
+}
+
+TEST_F(FlatStream, withAFontThatGrewTooLargeIsLoadedInTheFormsFontAndSaysSo)
+{
+    button.setCaption(L"&Large");
+    button.setFont(kit::newFont(L"Tahoma", 33).get());
+    ASSERT_EQ(button.font()->put_Size(CY{.int64 = 3000 * 10000}), S_OK); // no setter of the button's own
+    Bytes const bytes = saved(button);
+    FlatButton other(library(), form);
+    ASSERT_EQ(other.setSite(), S_OK);
+    other.setFont(kit::newFont(L"Tahoma", 7).get());
+    EXPECT_EQ(load(other, bytes), S_FALSE);
+    EXPECT_EQ(reason(), L"Invalid property value");
+    EXPECT_EQ(other.caption(), L"&Large");
+    EXPECT_TRUE(kit::equalFonts(*other.font().get(), *formFont().get()));
+    EXPECT_EQ(other.as<IPersistStreamInit>()->IsDirty(), S_OK) << "what it would save is something else";
+}
+
+TEST_F(FlatStream, withAFontOfDamagedBytesIsLoadedInTheFormsFont)
+{
+    Bytes bytes = fullBytes();
+    // Its name, an object, a font, and the length of its own bytes, which begin with their version.
+    std::wstring const head = L"Font\xD\x1";
+    auto const* const first = reinterpret_cast<BYTE const*>(head.data());
+    auto const found = std::search(bytes.begin(), bytes.end(), first, first + head.size() * sizeof(wchar_t));
+    ASSERT_NE(found, bytes.end());
+    BYTE& version = *(found + static_cast<ptrdiff_t>(head.size() * sizeof(wchar_t)) + 4);
+    ASSERT_EQ(version, 1);
+    version = 0xEE;
+    EXPECT_EQ(load(button, bytes), S_FALSE);
+    EXPECT_EQ(reason(), L"Invalid property value");
+    EXPECT_EQ(button.caption(), L"&Save");
+    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get()));
+}
+
+// Only a metafile's player can tell whether its records are whole: a stream takes none.
+TEST_F(FlatStream, takesNoMetafileAndSaysSo)
+{
+    button.setCaption(L"&Played");
+    PICTDESC description{};
+    description.picType = PICTYPE_ENHMETAFILE;
+    description.emf.hemf = ::CloseEnhMetaFile(::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr));
+    ASSERT_EQ(button->putref_MouseIcon(kit::newPicture(description).get()), S_OK);
+    ::SetErrorInfo(0, nullptr);
+    auto const stream = kit::streamOf();
+    EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_FALSE);
+    EXPECT_EQ(reason(), L"Invalid picture");
+    FlatButton other(library(), form);
+    EXPECT_EQ(load(other, kit::bytesOf(*stream.get())), S_OK);
+    EXPECT_EQ(other.caption(), L"&Played");
+    ULARGE_INTEGER size{};
+    EXPECT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(&size), S_OK);
+    EXPECT_EQ(size.QuadPart, kit::bytesOf(*stream.get()).size());
+    EXPECT_EQ(button.as<IPersistStorage>()->Save(kit::newStorage().get(), FALSE), S_FALSE);
+    EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
+    EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
 }
 
 TEST_F(FlatStream, damagedAtRandomIsLoadedOrRefusedAndChangesNothingWhenRefused)

@@ -43,7 +43,7 @@ protected:
         EXPECT_EQ(button->DrawButton(), S_OK);
         Face face{kFore, kBack, kLight, kDark, emphasis ? 2 : 1};
         face.caption = L"&Default";
-        face.captionLeft = 1 + 4; // whatever the emphasis
+        face.captionLeft = face.border + 4;
         return differencesFrom(button, face);
     }
     void checkSibling(CLSID const& classId, bool emphasis)
@@ -76,10 +76,12 @@ TEST_P(ImageEmphasis, theFocusedButtonHasItAndItShowsWhenTheFocusComesAndGoes)
     kit::pumpPending();
     Face face{kFore, kBack, kLight, kDark, 2};
     face.caption = L"&Default";
+    face.captionLeft = 2 + 4;
     EXPECT_EQ(differencesFrom(button, face), "") << "the focus repaints";
     ASSERT_TRUE(kit::focus(edit.get()));
     kit::pumpPending();
     face.border = 1;
+    face.captionLeft = 1 + 4;
     EXPECT_EQ(differencesFrom(button, face), "") << "and its loss, too";
 }
 
@@ -136,20 +138,37 @@ TEST_P(ImageEmphasis, isTheSameInTheTaskPaneLookAndChangesNoColour)
     COLORREF const edge = ::GetSysColor(kind().isTool ? COLOR_BTNFACE : COLOR_BTNSHADOW);
     Face face{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 2};
     face.caption = L"&Default";
+    face.captionLeft = 2 + 4;
     EXPECT_EQ(differencesFrom(button, face), "");
     button.makeHot();
     COLORREF const selection = ::GetSysColor(COLOR_HIGHLIGHT);
     face = {::GetSysColor(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 2};
     face.caption = L"&Default";
+    face.captionLeft = 2 + 4;
     EXPECT_EQ(differencesFrom(button, face), "");
 }
 
 TEST_P(ImageEmphasis, needsABorder)
 {
+    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
     Face face{kFore, kBack, kLight, kDark, 0};
     face.caption = L"&Default";
+    face.captionLeft = 3 + 4; // the look's border counts, drawn or not
+    EXPECT_EQ(differencesFrom(button, face), "");
+}
+
+TEST_P(ImageEmphasis, movesNoCentredCaptionAndNoneBesideAPicture)
+{
+    ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+    Face face{kFore, kBack, kLight, kDark, 2};
+    face.caption = L"&Default";
+    face.captionLeft = 1 + 4 + kImage.width + 1; // by the border without its emphasis, like the picture
+    face.shown = Shown{kImage, 1 + 4, (40 - kImage.height) / 2};
+    EXPECT_EQ(differencesFrom(button, face), "");
+    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+    face.centred = true;
     EXPECT_EQ(differencesFrom(button, face), "");
 }
 

@@ -307,6 +307,14 @@ TEST_P(ImageProperties, widthsBeyond16BitsOverflowAndChangeNothing)
     }
 }
 
+TEST_P(ImageProperties, checkedFontIsOf2160PointsAtMost)
+{
+    ImageButton button(library(), form, kind());
+    button.load();
+    auto const large = query<IFontDisp>(kit::newFont(L"Tahoma", 2170).get());
+    EXPECT_EQ(button->putref_CheckedFont(large.get()), static_cast<HRESULT>(0x800A017C)); // 380
+}
+
 TEST_P(ImageProperties, checkedFontIsTheVeryObjectThatWasAssigned)
 {
     ImageButton button(library(), form, kind());

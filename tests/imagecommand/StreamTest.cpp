@@ -78,6 +78,19 @@ TEST_P(ImageStream, inAStorageIsTheSame)
     EXPECT_EQ(stateOf(other), before);
 }
 
+TEST_P(ImageStream, takesNoMetafileThatABagGaveAndSaysSo)
+{
+    auto const bag = kit::make<kit::FakeBag>();
+    bag->put(L"Image", Variant::ofDispatch(metafilePicture().get()));
+    bag->put(L"HotImage", Variant::ofDispatch(pictureOf(kHot).get()));
+    ASSERT_EQ(button.Hosted::load(*bag.get()), S_OK);
+    auto const stream = kit::streamOf();
+    EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_FALSE);
+    ASSERT_EQ(button.as<IPersistStreamInit>()->Load(kit::streamOf(kit::bytesOf(*stream.get())).get()), S_OK);
+    EXPECT_EQ(valueOf(button, L"Image"), "none");
+    EXPECT_NE(valueOf(button, L"HotImage"), "none");
+}
+
 TEST_P(ImageStream, ofTheOtherClassIsReadWithTheOwnDefaults)
 {
     kit::Bytes const nothing = saved();

@@ -44,6 +44,13 @@ TEST_P(ImageWidth, ofACaptionIsIndentTextThreePixelsAndBothBorders)
     EXPECT_EQ(width(), twips(4 + textWidth(L"Save as") + 3 + 10));
 }
 
+TEST_P(ImageWidth, isOfTheCaptionAsItIsWrittenInTheCodePage)
+{
+    wchar_t const* const text = L"\x4E2D\x0E01\x0416\x4E2D";
+    button.setCaption(text);
+    EXPECT_EQ(width(), twips(4 + textWidth(kit::inCodePage(text).c_str()) + 3 + 2));
+}
+
 TEST_P(ImageWidth, losesOnlyTheFirstMarker)
 {
     button.setCaption(L"A&B&C");

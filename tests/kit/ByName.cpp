@@ -51,7 +51,8 @@ Called invoke(IDispatch& object, DISPID id, WORD kind, std::vector<Variant> cons
     called.code = exception.scode;
     called.source = taken(exception.bstrSource);
     called.description = taken(exception.bstrDescription);
-    taken(exception.bstrHelpFile);
+    called.helpFile = taken(exception.bstrHelpFile);
+    called.helpContext = exception.dwHelpContext;
     return called;
 }
 

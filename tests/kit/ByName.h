@@ -17,6 +17,8 @@ struct Called {
     HRESULT code = S_OK;   ///< the exception's own error, where result is DISP_E_EXCEPTION
     std::wstring source;
     std::wstring description;
+    std::wstring helpFile;
+    DWORD helpContext = 0;
     Variant value;
 };
 

@@ -12,12 +12,14 @@ using CanUnloadNow = HRESULT STDMETHODCALLTYPE();
 
 } // namespace
 
-std::wstring Library::path()
+std::wstring Library::path() { return folder() + L"quilbt.ocx"; }
+
+std::wstring Library::folder()
 {
     wchar_t program[MAX_PATH];
     ::GetModuleFileNameW(nullptr, program, static_cast<DWORD>(std::size(program)));
     std::wstring const whole(program);
-    return whole.substr(0, whole.rfind(L'\\') + 1) + L"quilbt.ocx";
+    return whole.substr(0, whole.rfind(L'\\') + 1);
 }
 
 Library::Library(std::wstring const& file) : m_module(::LoadLibraryW(file.c_str())) {}

@@ -18,6 +18,8 @@ public:
     Library& operator=(Library const&) = delete;
 
     static std::wstring path();
+    /// With the backslash at its end.
+    static std::wstring folder();
 
     bool loaded() const noexcept { return m_module != nullptr; }
     HMODULE module() const noexcept { return m_module; }

@@ -37,6 +37,15 @@ SIZE textSize(HFONT font, std::wstring const& text)
     return size;
 }
 
+std::wstring inCodePage(std::wstring const& text)
+{
+    char bytes[256];
+    int const written = ::WideCharToMultiByte(CP_ACP, 0, text.data(), static_cast<int>(text.size()), bytes,
+                                              sizeof bytes, nullptr, nullptr);
+    wchar_t back[256];
+    return {back, static_cast<size_t>(::MultiByteToWideChar(CP_ACP, 0, bytes, written, back, 256))};
+}
+
 void paintText(Canvas& canvas, RECT const& box, POINT at, std::wstring const& text, HFONT font, COLORREF fore,
                COLORREF back)
 {

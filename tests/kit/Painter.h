@@ -12,6 +12,9 @@ namespace quillet::kit {
 /// The size of a text in whole pixels.
 SIZE textSize(HFONT font, std::wstring const& text);
 
+/// A text as the system's code page has it: what it has no place for becomes something else.
+std::wstring inCodePage(std::wstring const& text);
+
 /// Writes a text with its top left corner at a point: only the box changes, which is filled first.
 void paintText(Canvas& canvas, RECT const& box, POINT at, std::wstring const& text, HFONT font, COLORREF fore,
                COLORREF back);

@@ -34,6 +34,17 @@ void OpenPage::setObjects()
 HRESULT OpenPage::open()
 {
     setObjects();
+    return show();
+}
+
+HRESULT OpenPage::open(IUnknown* control)
+{
+    EXPECT_EQ(m_page->SetObjects(1, &control), S_OK);
+    return show();
+}
+
+HRESULT OpenPage::show()
+{
     RECT const place{10, 20, 450, 260};
     HRESULT const result = m_page->Activate(parent(), &place, FALSE);
     if (SUCCEEDED(result))

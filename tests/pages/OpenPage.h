@@ -50,6 +50,8 @@ public:
 
     void setObjects();
     HRESULT open();
+    /// For one control of any class, which is edited instead of the buttons.
+    HRESULT open(IUnknown* control);
 
     /// The page's window, and its controls: the field of a property, a button by its text, the list.
     HWND window() const;
@@ -58,6 +60,8 @@ public:
     HWND firstOf(wchar_t const* windowClass) const;
 
 private:
+    HRESULT show();
+
     kit::HostWindow m_window{40, 40, 500, 300};
     ComPtr<PageSite> m_site = kit::make<PageSite>();
     ComPtr<IPropertyPage2> m_page;

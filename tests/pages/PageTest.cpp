@@ -1,4 +1,5 @@
 // Pages opened, changed and applied under a real window.
+#include "FakeHelp.h"
 #include "OpenPage.h"
 #include "base/Bstr.h"
 #include "base/Variant.h"
@@ -49,6 +50,8 @@ private:
     UINT_PTR m_timer;
 };
 
+std::wstring helpFile() { return kit::Library::folder() + L"quillet.chm"; }
+
 TEST_F(Pages, tellTheirTitleSizeAndHelpFile)
 {
     struct Row {
@@ -62,13 +65,49 @@ TEST_F(Pages, tellTheirTitleSizeAndHelpFile)
         info.cb = sizeof(info);
         ASSERT_EQ(page->GetPageInfo(&info), S_OK);
         EXPECT_STREQ(info.pszTitle, row.title);
-        EXPECT_STREQ(info.pszHelpFile, L"quillet.chm");
+        EXPECT_EQ(info.pszHelpFile, helpFile());
+        EXPECT_EQ(info.dwHelpContext, 1U) << "the manual, while there is no control";
         EXPECT_GT(info.size.cx, 250);
         EXPECT_GT(info.size.cy, 110);
         ::CoTaskMemFree(info.pszTitle);
         ::CoTaskMemFree(info.pszHelpFile);
         EXPECT_EQ(page->GetPageInfo(nullptr), E_POINTER);
     }
+}
+
+TEST_F(Pages, openTheTopicOfTheirControl)
+{
+    struct Row {
+        CLSID const& control;
+        DWORD topic;
+    };
+    FakeHelp const help;
+    for (Row const& row : {Row{kQvFlatCommandClass, 10}, Row{kQvFlatCheckClass, 50}}) {
+        OpenPage page(library(), kGeneralPageClass);
+        auto const control = library().create(row.control);
+        ASSERT_EQ(page.open(control.get()), S_OK);
+        PROPPAGEINFO info{};
+        info.cb = sizeof(info);
+        ASSERT_EQ(page->GetPageInfo(&info), S_OK);
+        EXPECT_EQ(info.dwHelpContext, row.topic);
+        ::CoTaskMemFree(info.pszTitle);
+        ::CoTaskMemFree(info.pszHelpFile);
+        EXPECT_EQ(page->Help(L"C:\\Elsewhere"), S_OK);
+        HelpCall const asked = help.takeLast();
+        EXPECT_EQ(asked.caller, page.parent());
+        EXPECT_EQ(asked.file, helpFile());
+        EXPECT_EQ(asked.command, 0xFU) << "a topic by its number";
+        EXPECT_EQ(asked.topic, row.topic);
+    }
+}
+
+TEST_F(Pages, letTheFrameHelpWhereTheHelpFileDoesNotOpen)
+{
+    FakeHelp const help;
+    help.fail();
+    OpenPage page(library(), kGeneralPageClass);
+    EXPECT_TRUE(FAILED(page->Help(nullptr)));
+    EXPECT_EQ(help.takeLast().topic, 1U) << "the manual, while there is no control";
 }
 
 TEST_F(Pages, openInTheirPlaceAndCloseAgain)
@@ -295,6 +334,23 @@ TEST_F(Pages, thePicturesPageTakesAPictureAway)
     ComPtr<IPictureDisp> left;
     page.button().get_MouseIcon(left.put());
     EXPECT_FALSE(left);
+}
+
+TEST_F(Pages, thePicturesPageClearsOnlyWhatTheControlCanLose)
+{
+    OpenPage page(library(), kPicturesPageClass, 0);
+    auto const button = library().create(kQvImageCommandClass);
+    ASSERT_EQ(page.open(button.get()), S_OK);
+    HWND const clear = page.named(L"Cl&ear");
+    EXPECT_TRUE(::IsWindowEnabled(clear)) << "the first is MouseIcon";
+    for (wchar_t const* const fixed : {L"Image", L"DisabledImage", L"HotImage", L"PressedImage"}) {
+        choose(page.firstOf(L"ListBox"), fixed);
+        EXPECT_FALSE(::IsWindowEnabled(clear)) << fixed;
+        choose(page.firstOf(L"ListBox"), L"MouseIcon");
+        EXPECT_TRUE(::IsWindowEnabled(clear));
+    }
+    EXPECT_EQ(page->EditProperty(dispid::imageButton::HotImage), S_OK);
+    EXPECT_FALSE(::IsWindowEnabled(clear));
 }
 
 } // namespace

@@ -238,6 +238,27 @@ TEST_P(Accessible, isClickedByItsAction)
     EXPECT_EQ(events->count(click), 1);
 }
 
+TEST_P(Accessible, turnsACheckButtonOverByItsActionAsTheMouseDoes)
+{
+    if (!isImage())
+        return;
+    auto const events = kit::make<kit::EventRecorder>(GetParam().eventsId);
+    kit::Connection const joined(control.object(), GetParam().eventsId, events->unknown());
+    put(L"CheckButton", Variant::ofBool(true));
+    EXPECT_EQ(text(&IAccessible::get_accDefaultAction), L"Check");
+    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_TRUE(is(STATE_SYSTEM_CHECKED));
+    EXPECT_EQ(text(&IAccessible::get_accDefaultAction), L"Uncheck");
+    EXPECT_EQ(events->count(kClick), 1);
+    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_FALSE(is(STATE_SYSTEM_CHECKED));
+    EXPECT_EQ(events->count(kClick), 2);
+    put(L"Active", Variant::ofBool(false));
+    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_FALSE(is(STATE_SYSTEM_CHECKED)) << "the mouse does nothing to it either";
+    EXPECT_EQ(events->count(kClick), 2);
+}
+
 TEST_P(Accessible, knowsItsPlaceOnTheScreenAndItsWindow)
 {
     RECT place{};

@@ -118,6 +118,24 @@ TEST_F(Automation, refusesWhatDoesNotConvertAndKeepsTheOldValue)
     EXPECT_EQ(get(L"BorderWidth").toShort(), 1);
 }
 
+TEST_F(Automation, namesTheHelpFileWithItsFolderAndTheControlsTopicInAnError)
+{
+    struct Row {
+        CLSID const& control;
+        DWORD topic;
+    };
+    for (Row const& row :
+         {Row{kQvFlatCommandClass, 10}, Row{kQvImageCommandClass, 20}, Row{kFlatToolButtonClass, 30},
+          Row{kQvFlatOptionClass, 40}, Row{kQvFlatCheckClass, 50}}) {
+        auto const failing = query<IDispatch>(library().create(row.control).get());
+        ASSERT_TRUE(failing);
+        kit::Called const called = kit::setByName(*failing.get(), L"Font", nullptr);
+        EXPECT_EQ(called.result, DISP_E_EXCEPTION);
+        EXPECT_EQ(called.helpFile, kit::Library::folder() + L"quillet.chm");
+        EXPECT_EQ(called.helpContext, row.topic);
+    }
+}
+
 TEST_F(Automation, takesObjectsByReferenceAssignment)
 {
     EXPECT_EQ(kit::setByName(*dispatch.get(), L"Font", kit::newFont(L"Tahoma", 19).get()).result, S_OK);

@@ -8,7 +8,7 @@ namespace quillet::winsvc {
 namespace {
 
 constexpr GUID kAnyId = {0x2D5AB1F3, 0x7C11, 0x4E0B, {0x9A, 0x52, 0x6B, 0x0D, 0x3C, 0x77, 0x18, 0x40}};
-constexpr ControlClass kPlainClass = {kAnyId, kAnyId, kAnyId, L"plain", L"Test.plain", 0, {}};
+constexpr ControlClass kPlainClass = {kAnyId, kAnyId, kAnyId, L"plain", L"Test.plain", 0, {}, 0};
 
 } // namespace
 

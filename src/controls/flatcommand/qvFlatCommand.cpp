@@ -6,6 +6,7 @@
 #include "surface/MessageBoxes.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 
 namespace quillet {
 
@@ -20,6 +21,7 @@ constexpr ControlClass kClass = {
     OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
         OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON,
     kQvFlatCommandMembers,
+    kHelpQvFlatCommand,
 };
 
 using Row = PropertyRow<qvFlatCommand>;

@@ -82,6 +82,7 @@ public:
     void onMouseMove(MouseArguments const& mouse) override;
     void onResize() override { repaint(); }
     void onMeasure() override;
+    void doDefaultAction() override;
     AccessibleLook accessibleLook() const override;
 
     ImageLooks& looks() noexcept { return m_looks; }

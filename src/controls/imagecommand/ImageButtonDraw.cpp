@@ -43,7 +43,7 @@ struct ImageButton::Palette {
     COLORREF back;
     COLORREF light;
     COLORREF dark;
-    long borderWidth; ///< pixels
+    long borderWidth; ///< pixels, of a drawn border with its emphasis
 };
 
 /// A paint in progress.
@@ -188,15 +188,16 @@ long ImageButton::drawBorder(Painting& painting)
 {
     if (m_looks.borderStyle != kFixedSingle)
         return 0;
-    Palette const& palette = painting.palette;
-    bool const emphasised = window().hasFocus() || isEmphasisedDefault(painting.userMode, kEmphasisTakers);
-    long const width = checkedAdd(palette.borderWidth, emphasised ? 1 : 0);
+    Palette& palette = painting.palette;
+    if (window().hasFocus() || isEmphasisedDefault(painting.userMode, kEmphasisTakers))
+        palette.borderWidth = checkedAdd(palette.borderWidth, 1);
     // Rings beyond the whole surface show nothing, but a saved form may ask for thousands.
-    long const visible = std::min(width, std::max(painting.size.cx, painting.size.cy));
+    long const visible = std::min(palette.borderWidth, std::max(painting.size.cx, painting.size.cy));
     painting.canvas.Draw3DBorder(palette.light, palette.dark, visible);
-    return width;
+    return palette.borderWidth;
 }
 
+/// Without a border it goes by the look's width all the same.
 long ImageButton::captionLeft(Painting const& painting, std::wstring_view caption) const
 {
     if (m_looks.centreCaption)

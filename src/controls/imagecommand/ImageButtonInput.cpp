@@ -32,8 +32,10 @@ void ImageButton::onMouseMove(MouseArguments const& mouse)
 AccessibleLook ImageButton::accessibleLook() const
 {
     AccessibleLook look = CommandButton::accessibleLook();
-    if (m_looks.checkButton)
+    if (m_looks.checkButton) {
         look.role = ROLE_SYSTEM_CHECKBUTTON;
+        look.action = m_looks.checked ? L"Uncheck" : L"Check";
+    }
     if (isChecked())
         look.state |= STATE_SYSTEM_CHECKED;
     return look;
@@ -44,6 +46,16 @@ void ImageButton::onReleased(MouseArguments const& mouse)
 {
     if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel()))
         m_looks.checked = !m_looks.checked;
+}
+
+void ImageButton::doDefaultAction()
+{
+    if (reacts() && m_looks.checkButton) {
+        m_looks.checked = !m_looks.checked;
+        repaint();
+        accessibility().stateChanged();
+    }
+    onClick();
 }
 
 } // namespace quillet

@@ -6,6 +6,7 @@
 #include "surface/MessageBoxes.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 
 #include <olectl.h>
 
@@ -21,11 +22,11 @@ constexpr DWORD kMiscStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | O
 constexpr ControlClass kImageCommandClass = {kQvImageCommandClass,      kQvImageCommandInterface,
                                              kQvImageCommandEvents,     L"qvImageCommand",
                                              L"Quillet.qvImageCommand", kMiscStatus,
-                                             kImageButtonMembers};
+                                             kImageButtonMembers,       kHelpQvImageCommand};
 constexpr ControlClass kToolButtonClass = {kFlatToolButtonClass,      kFlatToolButtonInterface,
                                            kFlatToolButtonEvents,     L"FlatToolButton",
                                            L"Quillet.FlatToolButton", kMiscStatus,
-                                           kImageButtonMembers};
+                                           kImageButtonMembers,       kHelpFlatToolButton};
 
 using Row = PropertyRow<ImageButton>;
 using Kind = PropertyKind;

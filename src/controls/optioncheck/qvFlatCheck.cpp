@@ -4,6 +4,7 @@
 #include "controls/optioncheck/Create.h"
 #include "controls/optioncheck/OptionCheckRows.h"
 #include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 
 namespace quillet {
 
@@ -11,7 +12,7 @@ namespace {
 
 constexpr ControlClass kClass = {
     kQvFlatCheckClass,      kQvFlatCheckInterface, kQvFlatCheckEvents,  L"qvFlatCheck",
-    L"Quillet.qvFlatCheck", kOptionCheckStatus,    kQvFlatCheckMembers,
+    L"Quillet.qvFlatCheck", kOptionCheckStatus,    kQvFlatCheckMembers, kHelpQvFlatCheck,
 };
 
 namespace id = dispid::qvFlatCheck;

@@ -6,6 +6,7 @@
 #include "controls/optioncheck/OptionCheckRows.h"
 #include "surface/window/Cursor.h"
 #include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 
 #include <utility>
 
@@ -15,7 +16,7 @@ namespace {
 
 constexpr ControlClass kClass = {
     kQvFlatOptionClass,      kQvFlatOptionInterface, kQvFlatOptionEvents,  L"qvFlatOption",
-    L"Quillet.qvFlatOption", kOptionCheckStatus,     kQvFlatOptionMembers,
+    L"Quillet.qvFlatOption", kOptionCheckStatus,     kQvFlatOptionMembers, kHelpQvFlatOption,
 };
 
 namespace id = dispid::qvFlatOption;

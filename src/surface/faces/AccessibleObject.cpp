@@ -279,7 +279,7 @@ HRESULT AccessibleObject::accDoDefaultAction(VARIANT child)
     return call(child, [&](Surface& surface) {
         if (!surface.enabled())
             return DISP_E_MEMBERNOTFOUND;
-        surface.doClick();
+        surface.doDefaultAction();
         return S_OK;
     });
 }

@@ -29,10 +29,11 @@ HRESULT Persistence::Load(IStream* stream)
 HRESULT Persistence::Save(IStream* stream, WINBOOL clearDirty)
 {
     return m_surface.call([&] {
-        save(deref(stream));
+        HRESULT const saved = save(deref(stream));
         if (clearDirty)
             m_dirty = false;
         m_surface.oleObject().notifySaved();
+        return saved;
     });
 }
 
@@ -67,7 +68,7 @@ HRESULT Persistence::Save(IStorage* storage, WINBOOL)
         ComPtr<IStream> stream;
         check(deref(storage).CreateStream(kStreamName, STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                           stream.put()));
-        save(deref(stream.get()));
+        return save(deref(stream.get()));
     });
 }
 
@@ -109,20 +110,28 @@ SavedValues Persistence::savedValues()
     return values;
 }
 
-/// S_FALSE, with error info, for a control that was loaded without a damaged picture.
 HRESULT Persistence::load(IStream& stream)
 {
     // The whole form is read before the control sees any of it: a broken one changes nothing.
     SavedValues values = SavedValues::fromStream(stream);
     m_surface.onReadProperties(values);
-    m_dirty = values.isIncomplete();
-    if (!values.isIncomplete())
-        return S_OK;
-    ControlClass const& own = m_surface.controlClass();
-    comCall({own.progId, own.interfaceId}, [] { throw RunTimeError(ErrorNumber::InvalidPicture); });
-    return S_FALSE;
+    m_dirty = values.loss().has_value();
+    return tell(values.loss());
 }
 
-void Persistence::save(IStream& stream) { savedValues().toStream(stream); }
+HRESULT Persistence::save(IStream& stream)
+{
+    SavedValues const values = savedValues();
+    values.toStream(stream);
+    return tell(values.loss());
+}
+
+HRESULT Persistence::tell(std::optional<ErrorNumber> loss)
+{
+    if (!loss)
+        return S_OK;
+    comCall(m_surface.controlClass().errorSource(), [&] { throw RunTimeError(*loss); });
+    return S_FALSE;
+}
 
 } // namespace quillet

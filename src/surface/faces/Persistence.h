@@ -1,10 +1,13 @@
 // IPersistStreamInit, IPersistStorage, IPersistPropertyBag: one set of values, three carriers.
 #pragma once
 
+#include "base/RunTimeError.h"
 #include "surface/faces/Face.h"
 
 #include <ocidl.h>
 #include <windows.h>
+
+#include <optional>
 
 namespace quillet {
 
@@ -40,7 +43,9 @@ public:
 private:
     SavedValues savedValues();
     HRESULT load(IStream& stream);
-    void save(IStream& stream);
+    HRESULT save(IStream& stream);
+    /// The answer of a load or a save that left an object out: S_FALSE, with error info.
+    HRESULT tell(std::optional<ErrorNumber> loss);
 
     bool m_dirty = false;
 };
