@@ -2,6 +2,7 @@
 #include "kit/ByName.h"
 #include "kit/Fonts.h"
 #include "kit/Library.h"
+#include "kit/NamedObject.h"
 #include "typelib/Guids.h"
 #include "typelib/Members.h"
 
@@ -10,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace quillet::hosting {
 namespace {
@@ -75,8 +77,9 @@ TEST_F(DamagedLibrary, leavesEveryMemberToBeFoundAndReadByName)
         for (Member const& member : control.members) {
             std::wstring const name(member.name);
             EXPECT_EQ(kit::idOf(*object.get(), name.c_str()), member.id) << kit::narrow(name);
-            if (member.kind == MemberKind::Value || member.kind == MemberKind::Object)
+            if (member.kind == MemberKind::Value || member.kind == MemberKind::Object) {
                 EXPECT_EQ(kit::getByName(*object.get(), name.c_str()).result, S_OK) << kit::narrow(name);
+            }
         }
     }
 }
