@@ -117,7 +117,7 @@ HRESULT Automation::invoke(Surface& surface, IDispatch* dual, DISPID id, WORD ki
         }
         ControlClass const& own = surface.controlClass();
         return callMember(deref(dual), own.members, {id, kind, *arguments, result, exception, badArgument},
-                          {own.progId, own.interfaceId});
+                          own.errorSource());
     });
 }
 
