@@ -78,10 +78,11 @@ protected:
         return result;
     }
     void expect(Face const& expected) { EXPECT_EQ(differencesFrom(button, expected), ""); }
-    /// Pressed, the button has the focus: its border is one pixel wider and its caption stays.
+    /// Pressed, the button has the focus: its border is one pixel wider and its caption stands further in.
     static Face focused(Face face)
     {
         ++face.border;
+        ++face.captionLeft;
         return face;
     }
 };

@@ -1,32 +1,57 @@
 // A help viewer that records what it is asked to show, in the place of the system's.
 #include "FakeHelp.h"
 
-#include "FakeViewer.h"
+#include "drawing/ImportTable.h"
 
-#include <gtest/gtest.h>
-
-#include <utility>
+#include <string_view>
 
 namespace quillet::pages {
 
-FakeHelp::FakeHelp() : m_viewer(::LoadLibraryW(QUILLET_FAKE_VIEWER))
+namespace {
+
+FakeHelp* s_viewer = nullptr;
+
+HWND WINAPI show(HWND caller, LPCWSTR file, UINT command, DWORD_PTR topic)
 {
-    EXPECT_TRUE(m_viewer) << "the viewer is not where it is built";
+    s_viewer->last = {caller, file, command, topic};
+    return s_viewer->shows ? ::GetDesktopWindow() : nullptr;
 }
 
-HelpCall FakeHelp::takeLast() const
+HMODULE WINAPI loadLibrary(LPCWSTR name)
 {
-    auto const last = functionOf<ViewerCall&()>(m_viewer.get(), "lastCall");
-    if (!last)
-        return {};
-    ViewerCall const call = std::exchange(last(), {});
-    return {call.caller, call.file, call.command, call.topic};
+    return std::wstring_view(name) == L"hhctrl.ocx" ? ::GetModuleHandleW(nullptr) : ::LoadLibraryW(name);
 }
 
-void FakeHelp::fail() const
+FARPROC WINAPI procAddress(HMODULE library, LPCSTR name)
 {
-    if (auto const last = functionOf<ViewerCall&()>(m_viewer.get(), "lastCall"))
-        last().fails = true;
+    if (library != ::GetModuleHandleW(nullptr) || std::string_view(name) != "HtmlHelpW")
+        return ::GetProcAddress(library, name);
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&show));
+}
+
+void exchange(HMODULE component, void* load, void* find)
+{
+    forEachImport(component, [&](char const* name, void** slot) {
+        if (std::string_view(name) == "LoadLibraryW")
+            exchangeImport(slot, load);
+        if (std::string_view(name) == "GetProcAddress")
+            exchangeImport(slot, find);
+    });
+}
+
+} // namespace
+
+FakeHelp::FakeHelp(HMODULE component) : m_component(component)
+{
+    s_viewer = this;
+    exchange(component, reinterpret_cast<void*>(&loadLibrary), reinterpret_cast<void*>(&procAddress));
+}
+
+FakeHelp::~FakeHelp()
+{
+    exchange(m_component, reinterpret_cast<void*>(&::LoadLibraryW),
+             reinterpret_cast<void*>(&::GetProcAddress));
+    s_viewer = nullptr;
 }
 
 } // namespace quillet::pages

@@ -1,8 +1,6 @@
 // A help viewer that records what it is asked to show, in the place of the system's.
 #pragma once
 
-#include "base/Handles.h"
-
 #include <windows.h>
 
 #include <string>
@@ -16,20 +14,19 @@ struct HelpCall {
     DWORD_PTR topic = 0;
 };
 
-/// While one lives, whoever loads the system's help viewer by its name gets this one.
+/// While it lives, the component that loads the system's help viewer gets this one. One at a time.
 class FakeHelp {
 public:
-    FakeHelp();
+    explicit FakeHelp(HMODULE component);
+    ~FakeHelp();
     FakeHelp(FakeHelp const&) = delete;
     FakeHelp& operator=(FakeHelp const&) = delete;
 
-    /// What was asked since the last time.
-    HelpCall takeLast() const;
-    /// The next call shows nothing.
-    void fail() const;
+    HelpCall last;
+    bool shows = true; ///< whether it opens its window
 
 private:
-    UniqueLibrary m_viewer;
+    HMODULE m_component;
 };
 
 } // namespace quillet::pages

@@ -81,7 +81,7 @@ TEST_F(Pages, openTheTopicOfTheirControl)
         CLSID const& control;
         DWORD topic;
     };
-    FakeHelp const help;
+    FakeHelp help(library().module());
     for (Row const& row : {Row{kQvFlatCommandClass, 10}, Row{kQvFlatCheckClass, 50}}) {
         OpenPage page(library(), kGeneralPageClass);
         auto const control = library().create(row.control);
@@ -93,21 +93,20 @@ TEST_F(Pages, openTheTopicOfTheirControl)
         ::CoTaskMemFree(info.pszTitle);
         ::CoTaskMemFree(info.pszHelpFile);
         EXPECT_EQ(page->Help(L"C:\\Elsewhere"), S_OK);
-        HelpCall const asked = help.takeLast();
-        EXPECT_EQ(asked.caller, page.parent());
-        EXPECT_EQ(asked.file, helpFile());
-        EXPECT_EQ(asked.command, 0xFU) << "a topic by its number";
-        EXPECT_EQ(asked.topic, row.topic);
+        EXPECT_EQ(help.last.caller, page.parent());
+        EXPECT_EQ(help.last.file, helpFile());
+        EXPECT_EQ(help.last.command, 0xFU) << "a topic by its number";
+        EXPECT_EQ(help.last.topic, row.topic);
     }
 }
 
 TEST_F(Pages, letTheFrameHelpWhereTheHelpFileDoesNotOpen)
 {
-    FakeHelp const help;
-    help.fail();
+    FakeHelp help(library().module());
+    help.shows = false;
     OpenPage page(library(), kGeneralPageClass);
     EXPECT_TRUE(FAILED(page->Help(nullptr)));
-    EXPECT_EQ(help.takeLast().topic, 1U) << "the manual, while there is no control";
+    EXPECT_EQ(help.last.topic, 1U) << "the manual, while there is no control";
 }
 
 TEST_F(Pages, openInTheirPlaceAndCloseAgain)
