@@ -198,11 +198,11 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
     return usedUp ? 0 : passOn(message, wParam, lParam);
 }
 
-/// An option that gets the keyboard by a key or by code becomes the chosen one, as in the system's own
-/// groups.
+/// While the form runs, an option that gets the keyboard by a key or by code becomes the chosen one, as in
+/// the system's own groups.
 bool InnerButton::isClickedByFocus() const noexcept
 {
-    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing;
+    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing && m_surface.userMode();
 }
 
 LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
