@@ -159,13 +159,9 @@ LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPar
     case ButtonMessage::What::Down:
         tell([&] { m_surface.onMouseDown(mouse); });
         break;
-    case ButtonMessage::What::Up: {
+    case ButtonMessage::What::Up:
         tell([&] { m_surface.onMouseUp(mouse); });
-        LRESULT const result = passOn(row.message, wParam, lParam);
-        if (left)
-            tell([&] { m_surface.onInnerReleased(); });
-        return result;
-    }
+        return passOn(row.message, wParam, lParam);
     case ButtonMessage::What::Double:
         break;
     }

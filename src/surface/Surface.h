@@ -161,8 +161,6 @@ public:
     virtual void onKeyDown(short& /*keyCode*/, short /*shift*/) {}
     virtual void onKeyUp(short& /*keyCode*/, short /*shift*/) {}
     virtual void onCharacter(short& /*keyAscii*/) {}
-    /// The left button came up and the inner button has made of it what it had to.
-    virtual void onInnerReleased() {}
     virtual void onInnerPainted() {}
     /// Its window was made, or made anew.
     virtual void onInnerMade() {}

@@ -30,7 +30,6 @@ public:
     void onInnerPainted() override;
     void onMouseDown(MouseArguments const& mouse) override;
     void onMouseUp(MouseArguments const& mouse) override;
-    void onInnerReleased() override { followHover(); }
     void onInnerMade() override { m_toolTip.windowMade(m_inner.existing()); }
     void onWindowMade() override { m_inner.handle(); }
     void onKeyDown(short& keyCode, short shift) override;
@@ -72,7 +71,6 @@ protected:
     Table const& properties() const noexcept { return m_properties; }
 
 private:
-    void followHover();
     void showCaption(OLE_COLOR colour);
     void showState(bool hot);
     void drawElsewhere();
