@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace quillet::kit {
 
@@ -30,6 +31,23 @@ int windowsOfThread()
     int count = 0;
     ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
     return count;
+}
+
+/// Some systems serve a size of block from groups of many once a few thousand of that size were asked for,
+/// each thread from its own, and count a whole group as in use: a heap then grows where nothing is kept.
+/// Afterwards the calling thread has its groups.
+void settleHeap()
+{
+    thread_local bool settled = false;
+    if (std::exchange(settled, true))
+        return;
+    constexpr std::size_t kStep = 2 * sizeof(void*); // from one size to the next
+    constexpr std::size_t kLargestOfAGroup = 2048;
+    constexpr int kEnough = 4096;
+    HANDLE const heap = ::GetProcessHeap();
+    for (std::size_t size = kStep; size <= kLargestOfAGroup; size += kStep)
+        for (int i = 0; i < kEnough; ++i)
+            ::HeapFree(heap, 0, ::HeapAlloc(heap, 0, size));
 }
 
 /// Bytes in use on all heaps of the process.
@@ -70,6 +88,10 @@ int placeOfNewWindow()
 
 } // namespace
 
-Usage Usage::now() { return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()}; }
+Usage Usage::now()
+{
+    settleHeap();
+    return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()};
+}
 
 } // namespace quillet::kit

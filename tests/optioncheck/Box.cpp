@@ -166,7 +166,7 @@ Names Box::letGo(kit::MouseButton which)
 
 void Box::click()
 {
-    enter();
+    moveTo(kInside); // where it may be already: no move comes then
     press();
     letGo();
 }

@@ -1,5 +1,6 @@
 // In design mode: no capture, no hot look, no tooltip, and the events that are left.
 #include "Box.h"
+#include "kit/Painter.h"
 #include "kit/UiThread.h"
 #include "winsvc/ToolTips.h"
 
@@ -50,6 +51,24 @@ TEST_P(Design, pressesAndKeysDoWhatTheyDoAtRunTime)
     order = box.during([] { kit::typeKey(VK_SPACE); }, "KeyUp");
     std::erase(order, "MouseMove"); // the system tells of the place when a press of space ends
     EXPECT_THAT(order, testing::ElementsAre("KeyDown", "KeyPress", "KeyUp", "Click"));
+}
+
+TEST_P(Design, theFocusOnlyPaints)
+{
+    kit::Canvas before(120, 20);
+    kit::readWindow(box.inner(), before);
+    ::SetForegroundWindow(form.window());
+    for (HWND const window : {box.inner(), box.outer()}) {
+        ::SetFocus(form.window());
+        ::SetFocus(window);
+        EXPECT_TRUE(kit::pumpUntil([&] { return ::GetFocus() == box.inner(); }));
+        kit::pumpPending();
+        EXPECT_EQ(box.value(), 0);
+        EXPECT_EQ(box.count("Click"), 0);
+        kit::Canvas focused(120, 20);
+        kit::readWindow(box.inner(), focused);
+        EXPECT_NE(kit::differences(before, focused), "") << "the focus is not shown";
+    }
 }
 
 TEST_P(Design, theToolTipTextIsNotAskedFor)

@@ -3,6 +3,10 @@
 #include "kit/Fonts.h"
 #include "kit/Painter.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
 namespace quillet::box {
 namespace {
 
@@ -96,6 +100,32 @@ std::string glyphOf(Box const& box, int top)
     return canvas.picture(kLetters, 0, top, 13, top + 13);
 }
 
+std::span<std::uint32_t> pixelsOf(kit::Canvas const& canvas)
+{
+    DIBSECTION section{};
+    ::GetObjectW(canvas.bitmap(), sizeof(section), &section);
+    ::GdiFlush();
+    return {static_cast<std::uint32_t*>(section.dsBm.bmBits),
+            static_cast<size_t>(canvas.width() * canvas.height())};
+}
+
+/// Some systems do this to a picture that reaches the screen: its pixels get other bits above their colour.
+/// They look the same and are not equal any more.
+void changeBitsAboveTheColours(HWND window)
+{
+    RECT client;
+    ::GetClientRect(window, &client);
+    kit::Canvas picture(client.right, client.bottom);
+    kit::readWindow(window, picture);
+    for (std::uint32_t& pixel : pixelsOf(picture))
+        pixel |= 0xFF000000U;
+    WindowDc const dc(window);
+    ::BitBlt(dc.get(), 0, 0, client.right, client.bottom, picture.dc(), 0, 0, SRCCOPY);
+    kit::readWindow(window, picture);
+    EXPECT_TRUE(std::ranges::all_of(pixelsOf(picture), [](std::uint32_t pixel) { return pixel >> 24; }))
+        << "this system keeps colours alone";
+}
+
 class Glyph : public BoxTest {
 protected:
     /// 20 pixels high: the fill's point is in row 20 / 2 - 2 = 8, the glyph begins 4 rows above it.
@@ -165,6 +195,73 @@ TEST_F(Glyph, isRepaintedShadedWhileItIsHot)
     EXPECT_EQ(glyphOf(*check, kTop), with(kClearSquare, ' ', 'g'));
 }
 
+TEST_F(Glyph, isShadedAloneWhateverHappenedToThePictureBefore)
+{
+    for (Kind const* kind : {&kOption, &kCheck})
+        for (long value = 0; value <= (kind == &kCheck ? 2 : 1); ++value) {
+            auto const box = shown(*kind, value);
+            std::string const atRest = glyphOf(*box, kTop);
+            auto const expect = [&](std::string const& picture) {
+                EXPECT_EQ(glyphOf(*box, kTop), picture) << kind->name << ' ' << value;
+                EXPECT_EQ(box->pixel({60, 10}), kFace) << "the fill ran out: " << kind->name << ' ' << value;
+            };
+            changeBitsAboveTheColours(box->inner());
+            box->enter();
+            expect(with(atRest, ' ', 'g'));
+            changeBitsAboveTheColours(box->inner());
+            kit::callByName(box->dispatch(), L"Refresh");
+            expect(with(atRest, ' ', 'g'));
+            changeBitsAboveTheColours(box->inner());
+            box->leave();
+            expect(atRest);
+            changeBitsAboveTheColours(box->inner());
+            ::RedrawWindow(form.window(), nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+            expect(atRest);
+            changeBitsAboveTheColours(box->inner());
+            ::RedrawWindow(box->outer(), nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN | RDW_UPDATENOW);
+            expect(atRest);
+            changeBitsAboveTheColours(box->inner());
+            box->put(L"HotForeColor", Variant::ofLong(static_cast<long>(0x80000012)));
+            expect(atRest);
+        }
+}
+
+TEST_F(Glyph, ofADisabledBoxIsShadedAloneWhateverRanBetween)
+{
+    struct Changer {
+        static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+        {
+            if (message == WM_APP)
+                changeBitsAboveTheColours(reinterpret_cast<HWND>(lParam));
+            return ::DefWindowProcW(window, message, wParam, lParam);
+        }
+    };
+    UniqueWindow const other(
+        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+    ::SetWindowLongPtrW(other.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Changer::procedure));
+    for (Kind const* kind : {&kOption, &kCheck}) {
+        auto const box = shown(*kind, 1);
+        std::string const shaded = with(glyphOf(*box, kTop), ' ', 'g');
+        ::PostMessageW(other.get(), WM_APP, 0, reinterpret_cast<LPARAM>(box->inner()));
+        box->put(L"Enabled", Variant::ofBool(false));
+        EXPECT_EQ(glyphOf(*box, kTop), shaded) << kind->name;
+        EXPECT_EQ(box->pixel({60, 10}), kFace) << "the fill ran out: " << kind->name;
+    }
+}
+
+/// A picture may reach the screen between any two calls, and does so where much is painted at once.
+TEST_F(Glyph, isFilledAloneInEachOfManyPaints)
+{
+    auto const option = shown(kOption, 0);
+    constexpr ULONGLONG kDuration = 500; // milliseconds
+    for (ULONGLONG const end = ::GetTickCount64() + kDuration; ::GetTickCount64() < end;) {
+        ::RedrawWindow(option->outer(), nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN | RDW_UPDATENOW);
+        ASSERT_EQ(option->pixel({60, 10}), kFace) << "the fill ran out";
+        ASSERT_EQ(option->pixel({0, 8}), kBlack) << "the outline is gone";
+    }
+}
+
 /// The documented point of the fill: half the height less two, halves to the even neighbour.
 int fillRow(int height)
 {
@@ -193,6 +290,11 @@ TEST_F(Glyph, isShadedAtEveryHeight)
             }
             EXPECT_EQ(canvas.at(14, height / 2), kFace)
                 << "the fill ran out: " << kind->name << ' ' << height;
+            changeBitsAboveTheColours(box.inner());
+            box.put(L"HotForeColor", Variant::ofLong(0)); // fills once more
+            kit::Canvas again(120, height);
+            kit::readWindow(box.inner(), again);
+            EXPECT_EQ(kit::differences(canvas, again), "") << kind->name << ' ' << height;
         }
 }
 

@@ -166,7 +166,7 @@ TEST_P(Mouse, clickRaisesDownUpAndClick)
 TEST_P(Mouse, clickOnAChosenOptionRaisesClickAgain)
 {
     box.click();
-    box.leave();
+    box.moveTo(kBeside);
     box.enter();
     box.press();
     Names const released = box.letGo();
@@ -210,11 +210,48 @@ TEST_P(Mouse, draggedOffAndBackRepaintsAtEachEdge)
     EXPECT_EQ(box.value(), 1);
 }
 
-TEST_P(Mouse, staysHotAndHeldAfterAClick)
+TEST_P(Mouse, isNotTakenByAReleaseButByTheNextMove)
+{
+    // The release alone: real input has a move on its heels.
+    box.enter();
+    ::SendMessageW(box.inner(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_EQ(::GetCapture(), box.inner());
+    ::SendMessageW(box.inner(), WM_LBUTTONUP, 0, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_EQ(::GetCapture(), nullptr);
+    ::SendMessageW(box.inner(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    EXPECT_EQ(::GetCapture(), box.inner());
+}
+
+TEST_P(Mouse, staysWithWhomAnEventGaveItTo)
+{
+    UniqueWindow const other(::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 300, 30, 40, 20,
+                                               form.window(), nullptr, nullptr, nullptr));
+    for (char const* event : {"Click", "MouseUp"}) {
+        box.events().action = [&](auto const& each) {
+            if (nameOfEvent(each.id) == event)
+                ::SetCapture(other.get());
+        };
+        box.enter();
+        box.press();
+        box.letGo();
+        EXPECT_EQ(::GetCapture(), other.get()) << event;
+        box.moveTo(kInsideToo);
+        kit::pumpPending();
+        EXPECT_EQ(::GetCapture(), other.get()) << event;
+        box.events().action = nullptr;
+        ::ReleaseCapture();
+        box.moveTo(kBeside);
+        kit::pumpPending();
+    }
+}
+
+TEST_P(Mouse, leavesABoxHotAfterAClickUntilItGoesAway)
 {
     box.setColours(kFore, kFore);
     box.click();
     kit::pumpPending();
+    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
+    box.during([&] { box.moveTo(kInsideToo); }, "MouseMove");
     EXPECT_EQ(::GetCapture(), box.inner());
     EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
     box.leave();

@@ -264,7 +264,7 @@ TEST_F(CheckValue, goesBetweenClearAndSetByClicks)
     for (int i = 0; i < 3; ++i) {
         box.click();
         states.push_back(box.value());
-        box.leave();
+        box.moveTo(kBeside);
     }
     EXPECT_THAT(states, ElementsAre(1, 0, 1));
     box.setValue(2);

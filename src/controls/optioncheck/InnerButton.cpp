@@ -220,11 +220,21 @@ void InnerButton::refresh() noexcept
 
 void InnerButton::takeFocus() { ::SetFocus(handle()); }
 
+GlyphLook InnerButton::glyphLook(COLORREF inside) const
+{
+    return {m_kind, m_value, resolvedColour(m_backColor), inside};
+}
+
 void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) const
 {
     drawInnerButton(dc, size,
-                    {m_kind, m_value, resolvedColour(foreColor), resolvedColour(m_backColor), inside,
-                     m_focused, m_caption.view(), handleOf(m_surface.font()), m_place});
+                    {glyphLook(inside), resolvedColour(foreColor), m_focused, m_caption.view(),
+                     handleOf(m_surface.font()), m_place});
+}
+
+void InnerButton::drawFilledGlyph(HDC dc, SIZE size, HBRUSH brush) const
+{
+    quillet::drawFilledGlyph(dc, size, glyphLook(kWhite), brush);
 }
 
 void InnerButton::paint()

@@ -63,6 +63,8 @@ public:
 
     /// Paints into any DC.
     void draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) const;
+    /// Paints the circle or square alone into any DC, its inside filled with the brush.
+    void drawFilledGlyph(HDC dc, SIZE size, HBRUSH brush) const;
 
     /// For the entry point, when the component goes.
     static void unregisterClass() noexcept;
@@ -73,6 +75,7 @@ private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     static void registerClass(WNDCLASSEXW description);
 
+    GlyphLook glyphLook(COLORREF inside) const;
     void create(HWND parent);
     HWND forget() noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);

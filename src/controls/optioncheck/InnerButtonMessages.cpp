@@ -159,13 +159,9 @@ LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPar
     case ButtonMessage::What::Down:
         tell([&] { m_surface.onMouseDown(mouse); });
         break;
-    case ButtonMessage::What::Up: {
+    case ButtonMessage::What::Up:
         tell([&] { m_surface.onMouseUp(mouse); });
-        LRESULT const result = passOn(row.message, wParam, lParam);
-        if (left)
-            tell([&] { m_surface.onInnerReleased(); });
-        return result;
-    }
+        return passOn(row.message, wParam, lParam);
     case ButtonMessage::What::Double:
         break;
     }
@@ -198,11 +194,11 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
     return usedUp ? 0 : passOn(message, wParam, lParam);
 }
 
-/// An option that gets the keyboard by a key or by code becomes the chosen one, as in the system's own
-/// groups.
+/// While the form runs, an option that gets the keyboard by a key or by code becomes the chosen one, as in
+/// the system's own groups.
 bool InnerButton::isClickedByFocus() const noexcept
 {
-    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing;
+    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing && m_surface.userMode();
 }
 
 LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)

@@ -78,20 +78,28 @@ constexpr GlyphBits bitsOf(Glyph const& glyph)
 constexpr GlyphBits kOptionBits = bitsOf(kOption);
 constexpr GlyphBits kCheckBits = bitsOf(kCheck);
 
-COLORREF markColour(InnerLook const& look) noexcept
+COLORREF markColour(GlyphLook const& look) noexcept
 {
     if (look.value == 0)
         return look.inside;
     return look.value == 1 ? kBlack : kGrey;
 }
 
+/// Where the fill of a button of that height in pixels begins: inside the outline, clear of the mark. The
+/// picture is placed round it.
+POINT fillPointAt(long height)
+{
+    constexpr double kAboveMiddle = 2.0;
+    return {kFillPoint.x, roundedToEven(height / 2.0 - kAboveMiddle)};
+}
+
 POINT glyphAt(long height)
 {
-    POINT const inside = pointInsideGlyph(height);
+    POINT const inside = fillPointAt(height);
     return {inside.x - kFillPoint.x, inside.y - kFillPoint.y};
 }
 
-void drawGlyph(HDC dc, long height, InnerLook const& look)
+void drawGlyph(HDC dc, long height, GlyphLook const& look)
 {
     struct {
         BITMAPINFOHEADER header;
@@ -109,6 +117,16 @@ void drawGlyph(HDC dc, long height, InnerLook const& look)
     GlyphBits const& bits = look.kind == InnerKind::Option ? kOptionBits : kCheckBits;
     ::SetDIBitsToDevice(dc, at.x, at.y, kGlyphSize, kGlyphSize, 0, 0, 0, kGlyphSize, bits.data(),
                         reinterpret_cast<BITMAPINFO const*>(&info), DIB_RGB_COLORS);
+}
+
+/// Once more: only black stops a fill, which has gone over it.
+void drawThirdStateMark(HDC dc, long height)
+{
+    POINT const at = glyphAt(height);
+    for (long y = 0; y < kGlyphSize; ++y)
+        for (long x = 0; x < kGlyphSize; ++x)
+            if (kCheck[static_cast<size_t>(y)][static_cast<size_t>(x)] == 'x')
+                ::SetPixelV(dc, at.x + x, at.y + y, kGrey);
 }
 
 constexpr UINT kCaptionFormat = DT_LEFT | DT_TOP | DT_WORDBREAK;
@@ -147,12 +165,6 @@ void drawCaption(HDC dc, SIZE size, InnerLook const& look)
 
 } // namespace
 
-POINT pointInsideGlyph(long height)
-{
-    constexpr double kAboveMiddle = 2.0;
-    return {kFillPoint.x, roundedToEven(height / 2.0 - kAboveMiddle)};
-}
-
 void drawInnerButton(HDC dc, SIZE size, InnerLook const& look)
 {
     UniqueMemoryDc const memory(::CreateCompatibleDC(dc));
@@ -160,20 +172,30 @@ void drawInnerButton(HDC dc, SIZE size, InnerLook const& look)
     SelectScope const selectedBitmap(memory.get(), bitmap.get());
     SelectScope const selectedFont(memory.get(), look.font);
     RECT const all = {0, 0, size.cx, size.cy};
-    ::SetBkColor(memory.get(), look.back);
+    ::SetBkColor(memory.get(), look.glyph.back);
     ::ExtTextOutW(memory.get(), 0, 0, ETO_OPAQUE, &all, nullptr, 0, nullptr);
-    drawGlyph(memory.get(), size.cy, look);
+    drawGlyph(memory.get(), size.cy, look.glyph);
     drawCaption(memory.get(), size, look);
     ::BitBlt(dc, 0, 0, size.cx, size.cy, memory.get(), 0, 0, SRCCOPY);
 }
 
-void drawThirdStateMark(HDC dc, long height)
+void drawFilledGlyph(HDC dc, SIZE size, GlyphLook const& look, HBRUSH brush)
 {
-    POINT const at = glyphAt(height);
-    for (long y = 0; y < kGlyphSize; ++y)
-        for (long x = 0; x < kGlyphSize; ++x)
-            if (kCheck[static_cast<size_t>(y)][static_cast<size_t>(x)] == 'x')
-                ::SetPixelV(dc, at.x + x, at.y + y, kGrey);
+    // The fill compares whole pixels, and some systems change bits above the colours when a window's picture
+    // reaches the screen, which may be between any two calls: on the window no pixel would be sure to equal
+    // black, and the fill would run over everything.
+    long const width = std::min(size.cx, kGlyphSize);
+    UniqueMemoryDc const memory(::CreateCompatibleDC(dc));
+    UniqueBitmap const bitmap(::CreateCompatibleBitmap(dc, width, size.cy));
+    SelectScope const selectedBitmap(memory.get(), bitmap.get());
+    SelectScope const selectedBrush(memory.get(), brush);
+    drawGlyph(memory.get(), size.cy, look);
+    POINT const inside = fillPointAt(size.cy);
+    ::ExtFloodFill(memory.get(), inside.x, inside.y, kBlack, FLOODFILLBORDER);
+    if (look.value == 2)
+        drawThirdStateMark(memory.get(), size.cy);
+    long const top = glyphAt(size.cy).y;
+    ::BitBlt(dc, 0, top, width, kGlyphSize, memory.get(), 0, top, SRCCOPY);
 }
 
 } // namespace quillet

@@ -16,27 +16,28 @@ struct CaptionPlace {
     RECT text;
 };
 
-/// Everything that the picture shows. Colours are as GDI draws them.
-struct InnerLook {
+/// What the circle or square shows. Colours are as GDI draws them.
+struct GlyphLook {
     InnerKind kind;
-    long value; ///< 0 clear, 1 set, 2 the third state
+    long value;      ///< 0 clear, 1 set, 2 the third state
+    COLORREF back;   ///< round a circle
+    COLORREF inside; ///< within its black outline
+};
+
+/// Everything that the picture shows.
+struct InnerLook {
+    GlyphLook glyph;
     COLORREF fore;
-    COLORREF back;
-    COLORREF inside; ///< of the circle or square
     bool focused;
     std::wstring_view caption; ///< with its access-key mark
     HFONT font;
     CaptionPlace& place;
 };
 
-/// A point inside the circle or square of a button of that height in pixels, clear of its mark. The picture
-/// is placed round it.
-POINT pointInsideGlyph(long height);
-
 /// Paints everything in a rectangle of that size at the DC's origin, without flicker.
 void drawInnerButton(HDC dc, SIZE size, InnerLook const& look);
 
-/// Writes the mark of the third state once more: a flood fill that stops at black has gone over it.
-void drawThirdStateMark(HDC dc, long height);
+/// Paints the circle or square alone, where that picture has it, its inside filled with the brush.
+void drawFilledGlyph(HDC dc, SIZE size, GlyphLook const& look, HBRUSH brush);
 
 } // namespace quillet

@@ -87,22 +87,19 @@ bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
     return true;
 }
 
-/// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
-void OptionCheckButton::followHover()
-{
-    HWND const window = m_inner.existing();
-    if (window && userMode() && setMouseCapture(window, isMouseOver()))
-        repaint();
-}
-
 void OptionCheckButton::followMouse(MouseArguments const& mouse)
 {
     ignoringErrors([&] { m_toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
-    if (mouse.button == MouseButtons::kLeft && ::GetCapture() == m_inner.existing() &&
-        m_lastHover != isMouseOver())
+    HWND const window = m_inner.existing();
+    if (!window)
+        return;
+    bool const over = isMouseOver();
+    bool const draggedOverEdge =
+        mouse.button == MouseButtons::kLeft && ::GetCapture() == window && m_lastHover != over;
+    // While the cursor is over the button its window holds the capture, so the move that leaves comes here,
+    // too.
+    if (draggedOverEdge || (mouse.button == 0 && setMouseCapture(window, over)))
         repaint();
-    else if (mouse.button == 0)
-        followHover();
 }
 
 AccessibleLook OptionCheckButton::accessibleLook() const

@@ -46,8 +46,6 @@ public:
     void onKeyDown(short& keyCode, short shift);
     void onKeyUp(short& keyCode, short shift);
     void onCharacter(short& keyAscii);
-    /// The left button came up and the button inside has made of it what it had to.
-    void onInnerReleased() { followHover(); }
     void onInnerPainted();
     /// Its window was made, or made anew.
     void onInnerMade() { m_toolTip.windowMade(m_inner.existing()); }
@@ -76,7 +74,6 @@ protected:
     Table const& properties() const noexcept { return m_properties; }
 
 private:
-    void followHover();
     void showCaption(OLE_COLOR colour);
     void showState(bool hot);
     void drawElsewhere();

@@ -9,8 +9,6 @@ namespace quillet {
 
 namespace {
 
-constexpr COLORREF kBlack = RGB(0, 0, 0);
-
 constexpr COLORREF kLightGrey = RGB(192, 192, 192); // of the stock brush
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
@@ -66,12 +64,8 @@ void OptionCheckButton::FillOptionGlyph(bool hot)
     HDC const dc = ::GetDC(window);
     RECT client = {};
     ::GetClientRect(window, &client);
-    HGDIOBJ const previous = ::SelectObject(dc, ::GetStockObject(hot ? LTGRAY_BRUSH : WHITE_BRUSH));
-    POINT const at = pointInsideGlyph(client.bottom);
-    ::ExtFloodFill(dc, at.x, at.y, kBlack, FLOODFILLBORDER);
-    ::SelectObject(dc, previous);
-    if (m_inner.value() == triGray)
-        drawThirdStateMark(dc, client.bottom);
+    m_inner.drawFilledGlyph(dc, {client.right, client.bottom},
+                            static_cast<HBRUSH>(::GetStockObject(hot ? LTGRAY_BRUSH : WHITE_BRUSH)));
 }
 
 void OptionCheckButton::drawElsewhere()
