@@ -102,7 +102,7 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.inPlace().focusLost();
         return 0;
     case WM_SIZE:
-        m_surface.onResize();
+        sized();
         return 0;
     case WM_WINDOWPOSCHANGED: {
         LRESULT const result = passOn(message, wParam, lParam);

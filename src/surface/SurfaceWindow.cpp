@@ -55,7 +55,9 @@ void SurfaceWindow::create(HWND parent)
 {
     registerClass(&SurfaceWindow::procedure);
     HWND const parking = enterParking();
-    RECT const& place = m_surface.inPlace().position();
+    // The rectangle counts in the container's window: whoever lays out at the first size has to hear of it
+    // there.
+    RECT const place = parent ? m_surface.inPlace().position() : RECT{0, 0, m_size.cx, m_size.cy};
     m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName().text, nullptr,
                                  WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
                                      (m_surface.enabled() ? 0 : WS_DISABLED),
@@ -73,6 +75,17 @@ void SurfaceWindow::create(HWND parent)
         ::SetWindowLongA(m_window, GWL_EXSTYLE, style & ~WS_EX_LAYOUTRTL);
     ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
     m_surface.onWindowMade();
+    ignoringErrors([&] { sized(); }); // Windows told of it before the surface could be found
+}
+
+/// Tells the surface of a change of its size: Windows may tell of the same one more than once.
+void SurfaceWindow::sized()
+{
+    SIZE const size = clientSize();
+    if (size.cx == m_size.cx && size.cy == m_size.cy)
+        return;
+    m_size = size;
+    m_surface.onResize();
 }
 
 HWND SurfaceWindow::handle()
