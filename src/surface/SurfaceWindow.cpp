@@ -130,7 +130,10 @@ void SurfaceWindow::park() noexcept
     if (m_surface.inPlace().isActive()) // again, by what hiding led to
         ignoringErrors([&] { show(); });
     else if (m_window)
-        ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
+        ignoringErrors([&] {
+            giveUpCapture();
+            ::SetParent(m_window, parkingWindow());
+        });
 }
 
 void SurfaceWindow::move(RECT const* clip)
@@ -164,8 +167,18 @@ void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
 
 void SurfaceWindow::hide() noexcept
 {
-    if (m_window)
-        ::ShowWindow(m_window, SW_HIDE);
+    if (!m_window)
+        return;
+    ::ShowWindow(m_window, SW_HIDE);
+    giveUpCapture();
+}
+
+/// Lets go of the mouse where this window or one inside has it. Nobody is told: no mouse has left.
+void SurfaceWindow::giveUpCapture() noexcept
+{
+    HWND const captured = ::GetCapture();
+    if (captured && (captured == m_window || ::IsChild(m_window, captured)))
+        ::ReleaseCapture();
 }
 
 void SurfaceWindow::takeFocus()
@@ -186,8 +199,7 @@ void SurfaceWindow::enable(bool enabled) noexcept
     // Windows takes keyboard and mouse from a disabled window, but not from the windows inside it.
     if (::IsChild(m_window, ::GetFocus()))
         ::SetFocus(nullptr);
-    if (HWND const captured = ::GetCapture(); captured && ::IsChild(m_window, captured))
-        ::ReleaseCapture();
+    giveUpCapture();
 }
 
 void SurfaceWindow::destroy() noexcept

@@ -49,6 +49,7 @@ private:
     void create(HWND parent);
     void clipTo(RECT const* clip);
     void sized();
+    void giveUpCapture() noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
