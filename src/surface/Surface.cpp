@@ -87,9 +87,17 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
     return nullptr;
 }
 
+void Surface::close() noexcept
+{
+    m_events.end(); // first: the end of a window is full of messages
+    m_inPlace.leave(InPlace::WindowThen::Destroyed);
+    if (!m_inPlace.isActive()) // again, by what its end led to
+        m_window.destroy();
+}
+
 void Surface::terminate() noexcept
 {
-    m_inPlace.leave(InPlace::WindowThen::Destroyed);
+    close();
     ignoringErrors([&] { onTerminate(); });
     m_window.destroy();
     m_accessibility.disconnect();

@@ -116,6 +116,10 @@ public:
     /// Marks the control as changed since it was saved and tells the container which property it was.
     void propertyChanged(DISPID property, ViewChange view);
 
+    /// The container has done with the control: activation and window end, shown or parked, and nothing is
+    /// raised any more.
+    void close() noexcept;
+
     /// Runs the Paint handler onto the window at once.
     void repaint() { onPaint(); }
     /// Whether the Paint handler is to paint for a container instead of on the window.

@@ -23,8 +23,19 @@ void setSite(World& world, Slot& slot)
 {
     IOleClientSite* const sites[] = {&slot.control->site(), &slot.control->site(), nullptr,
                                      world.otherSite.get()};
-    if (auto const own = slot.as<IOleObject>())
-        own->SetClientSite(oneOf(world.random, sites));
+    auto const own = slot.as<IOleObject>();
+    if (!own)
+        return;
+    ComPtr<IOleClientSite> current;
+    own->GetClientSite(current.put());
+    IOleClientSite* const next = oneOf(world.random, sites);
+    auto const set = [&] { own->SetClientSite(next); };
+    if (next)
+        world.begin(slot, set);
+    else if (current)
+        world.end(slot, World::Afterwards::Over, set);
+    else
+        set();
 }
 
 void doVerb(World& world, Slot& slot)
@@ -34,9 +45,24 @@ void doVerb(World& world, Slot& slot)
                             reinterpret_cast<HWND>(0x7FF0)};
     RECT const position = anyRectangle(world.random);
     MSG message{world.form.window(), WM_LBUTTONDOWN, MK_LBUTTON, 0, 0, {30, 40}};
-    if (auto const own = slot.as<IOleObject>())
-        own->DoVerb(oneOf(world.random, kVerbs), world.random() % 4 ? nullptr : &message, nullptr, 0,
-                    oneOf(world.random, parents), world.random() % 2 ? &position : nullptr);
+    auto const own = slot.as<IOleObject>();
+    if (!own)
+        return;
+    RECT const* const place = world.random() % 2 ? &position : nullptr;
+    HWND const parent = oneOf(world.random, parents);
+    MSG* const given = world.random() % 4 ? nullptr : &message;
+    LONG const verb = oneOf(world.random, kVerbs);
+    auto const run = [&] { own->DoVerb(verb, given, nullptr, 0, parent, place); };
+    if (verb == OLEIVERB_HIDE)
+        world.end(slot, World::Afterwards::Parked, run);
+    else
+        world.begin(slot, run);
+}
+
+void deactivate(World& world, Slot& slot)
+{
+    if (auto const own = slot.as<IOleInPlaceObject>())
+        world.end(slot, World::Afterwards::Parked, [&] { own->InPlaceDeactivate(); });
 }
 
 void setRectangles(World& world, Slot& slot)
@@ -149,13 +175,16 @@ void quickActivate(World& world, Slot& slot)
     QACONTROL answer{};
     answer.cbSize = sizeof(answer);
     if (auto const own = slot.as<IQuickActivate>())
-        own->QuickActivate(&container, &answer);
+        world.begin(slot, [&] { own->QuickActivate(&container, &answer); });
 }
 
 void close(World& world, Slot& slot)
 {
-    if (auto const own = slot.as<IOleObject>())
-        own->Close(static_cast<DWORD>(below(world.random, 4)));
+    auto const own = slot.as<IOleObject>();
+    if (!own)
+        return;
+    auto const option = static_cast<DWORD>(below(world.random, 4));
+    world.end(slot, World::Afterwards::Over, [&] { own->Close(option); });
 }
 
 void useKey(World& world, Slot& slot)
@@ -199,7 +228,7 @@ std::vector<Step> const& containerSteps()
         {"verb", 14, doVerb},
         {"rectangles", 6, setRectangles},
         {"without keyboard", 2, plainCall<IOleInPlaceObject, &IOleInPlaceObject::UIDeactivate>},
-        {"deactivate", 3, plainCall<IOleInPlaceObject, &IOleInPlaceObject::InPlaceDeactivate>},
+        {"deactivate", 3, deactivate},
         {"undo", 1, plainCall<IOleInPlaceObject, &IOleInPlaceObject::ReactivateAndUndo>},
         {"update", 1, plainCall<IOleObject, &IOleObject::Update>},
         {"close", 2, close},

@@ -79,7 +79,12 @@ void World::create(Slot& slot)
     slot.events = kit::make<kit::EventRecorder>(slot.kind->eventsId);
     slot.changes = kit::make<kit::ChangeRecorder>();
     slot.views = kit::make<kit::ViewRecorder>();
-    slot.events->action = [this](auto const&) { called(); };
+    slot.isOver = false;
+    slot.events->action = [this, &slot](auto const& event) {
+        EXPECT_FALSE(slot.isOver) << "event " << event.id << " of a control that has ended, after\n"
+                                  << Journal::text();
+        called();
+    };
     slot.changes->action = [this](DISPID) { called(); };
     slot.views->action = [this](std::string const&) { called(); };
 }
@@ -92,8 +97,36 @@ void World::drop(Slot& slot)
     std::exchange(slot.connections, {}).clear();
 }
 
+void World::begin(Slot& slot, std::function<void()> const& call)
+{
+    slot.isOver = false;
+    ++slot.beginning;
+    call();
+    --slot.beginning;
+}
+
+void World::end(Slot& slot, Afterwards what, std::function<void()> const& call)
+{
+    HWND window = nullptr;
+    if (auto const own = slot.as<IOleWindow>(); own && m_steps % 2) // asking makes one
+        own->GetWindow(&window);
+    unsigned const before = m_steps;
+    call();
+    if (before != m_steps || slot.beginning) // another step has come between
+        return;
+    HWND const captured = ::GetCapture();
+    EXPECT_FALSE(captured && (captured == window || ::IsChild(window, captured)))
+        << "the mouse is kept after\n"
+        << Journal::text();
+    if (what == Afterwards::Parked)
+        return;
+    slot.isOver = true;
+    EXPECT_FALSE(::IsWindow(window)) << "the window lives on after\n" << Journal::text();
+}
+
 void World::step()
 {
+    ++m_steps;
     Slot& slot = slots[random() % slots.size()];
     Step const& next = anyStep(random);
     Journal::step(std::string(static_cast<size_t>(m_depth) * 2, ' ') + "control " +

@@ -31,6 +31,8 @@ struct Slot {
     ComPtr<kit::ChangeRecorder> changes;
     ComPtr<kit::ViewRecorder> views;
     std::vector<std::unique_ptr<kit::Connection>> connections;
+    bool isOver = false; ///< closed, or without the site that it had: no event may come
+    int beginning = 0;   ///< calls under way that may begin it anew
 
     template <class T> ComPtr<T> as() const { return control ? control->as<T>() : ComPtr<T>(); }
     /// The control's window in the form or the one inside it, whatever there is.
@@ -58,9 +60,16 @@ public:
     void create(Slot& slot);
     void drop(Slot& slot);
 
+    /// Runs a call that may begin the control anew.
+    void begin(Slot& slot, std::function<void()> const& call);
+    /// Runs a call that puts the control away or ends it, and looks at what it leaves behind.
+    enum class Afterwards { Parked, Over };
+    void end(Slot& slot, Afterwards what, std::function<void()> const& call);
+
 private:
     std::vector<std::unique_ptr<kit::Hosted>> m_former; ///< one of their steps may still be running
     int m_depth = 0;
+    unsigned m_steps = 0;
 };
 
 struct Step {

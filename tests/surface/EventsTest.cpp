@@ -1,5 +1,6 @@
 // Connection points, and events to sinks of every behaviour.
 #include "SurfaceTest.h"
+#include "kit/ByName.h"
 #include "kit/Pump.h"
 
 namespace quillet::hosting {
@@ -145,6 +146,18 @@ TEST_F(Points, letGoOfTheirSinksWithTheControl)
     EXPECT_EQ(sink->references(), 1U);
 }
 
+// Scripts make controls that no container ever shows.
+TEST_F(Points, raiseTheEventsOfAControlThatNeverHadASite)
+{
+    auto const sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
+    kit::Connection const joined(control.object(), kQvFlatCommandEvents, sink->unknown());
+    repaint();
+    EXPECT_EQ(sink->count(kPaint), 1);
+    EXPECT_EQ(control.as<IOleObject>()->SetClientSite(nullptr), S_OK);
+    repaint();
+    EXPECT_EQ(sink->count(kPaint), 2) << "a site that was never there cannot go";
+}
+
 /// Events to several sinks of which one misbehaves.
 class Sinks : public SurfaceTest {
 protected:
@@ -230,6 +243,38 @@ TEST_F(Sinks, mayCloseTheControlInsideAnEvent)
     });
     repaint();
     EXPECT_FALSE(isShown());
+}
+
+TEST_F(Sinks, hearNothingOfAControlThatOneOfThemClosed)
+{
+    inEvent([this] { control.as<IOleObject>()->Close(OLECLOSE_NOSAVE); });
+    repaint();
+    EXPECT_EQ(first->count(kPaint), 1);
+    EXPECT_EQ(second->count(kPaint), 0);
+}
+
+TEST_F(Sinks, hearNothingOfAClosedControlUntilItIsActivatedAgain)
+{
+    EXPECT_EQ(control.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+    first->forget();
+    repaint();
+    EXPECT_EQ(kit::invoke(*as<IDispatch>().get(), DISPID_DOCLICK, DISPATCH_METHOD).result, S_OK);
+    EXPECT_THAT(first->ids(), testing::IsEmpty());
+    EXPECT_EQ(control.activate(), S_OK);
+    first->forget();
+    repaint();
+    EXPECT_EQ(first->count(kPaint), 1);
+}
+
+TEST_F(Sinks, hearNothingOfAControlWithoutItsSiteUntilItHasOne)
+{
+    EXPECT_EQ(control.as<IOleObject>()->SetClientSite(nullptr), S_OK);
+    first->forget();
+    repaint();
+    EXPECT_THAT(first->ids(), testing::IsEmpty());
+    EXPECT_EQ(control.setSite(), S_OK);
+    repaint();
+    EXPECT_EQ(first->count(kPaint), 1);
 }
 
 TEST_F(Sinks, mayReleaseTheControlInsideAnEventOfACallByTheHost)

@@ -122,6 +122,41 @@ TEST_F(InPlace, deactivatedTheWindowIsHiddenUnderAnotherParentAndStaysTheSame)
     EXPECT_TRUE(isShown());
 }
 
+TEST_F(InPlace, closedAfterDeactivationTheWindowIsGone)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    HWND const window = control.window();
+    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    ASSERT_EQ(as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(InPlace, neverActiveAndClosedTheWindowIsGone)
+{
+    begin();
+    HWND const window = ownWindow();
+    ASSERT_EQ(as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
+    EXPECT_FALSE(::IsWindow(window));
+    HWND const next = ownWindow();
+    EXPECT_TRUE(::IsWindow(next)) << "asked for again, it is made anew";
+    ASSERT_EQ(as<IOleObject>()->SetClientSite(nullptr), S_OK);
+    EXPECT_FALSE(::IsWindow(next));
+}
+
+TEST_F(InPlace, anotherSiteKeepsTheWindow)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    HWND const window = control.window();
+    kit::FakeForm other;
+    auto const site = kit::make<kit::FakeSite>(other, kPlace, L"Moved");
+    ASSERT_EQ(as<IOleObject>()->SetClientSite(site.get()), S_OK);
+    EXPECT_EQ(ownWindow(), window);
+    control.remove();
+    site->dismantle();
+}
+
 TEST_F(InPlace, theWindowExistsFromTheSiteOnAndIsNotSeenBeforeActivation)
 {
     ASSERT_EQ(control.setSite(), S_OK);

@@ -36,12 +36,12 @@ bool CommandButton::isOver()
 /// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
 bool CommandButton::enterOrExit(bool over)
 {
-    HWND const window = hWnd();
-    bool const captured = ::GetCapture() == window;
+    HWND const own = window().existing();
+    bool const captured = own && ::GetCapture() == own;
     if (over == captured)
         return false;
     if (over)
-        ::SetCapture(window);
+        ::SetCapture(own);
     else
         ::ReleaseCapture();
     raiseEvent(over ? event::MouseEnter : event::MouseExit);

@@ -19,8 +19,9 @@ void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
     if (userMode()) {
         ignoringErrors(
             [&] { m_looks.toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
+        HWND const own = window().existing(); // the container may have closed the button meanwhile
         bool const dragged =
-            mouse.button == kLeftButton && ::GetCapture() == hWnd() && isOver() != m_lastOver;
+            own && mouse.button == kLeftButton && ::GetCapture() == own && isOver() != m_lastOver;
         if (dragged)
             setPressed(true); // painting takes it back when the cursor is not over the button
         else if (mouse.button == 0 && enterOrExit(isOver()))

@@ -81,6 +81,7 @@ private:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOnUnseen(UINT message, WPARAM wParam, LPARAM lParam);
+    template <class Handler> bool tellAndStay(Handler&& handler) noexcept;
     LRESULT button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam);
     LRESULT pressed(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT key(UINT message, WPARAM wParam, LPARAM lParam);

@@ -75,6 +75,16 @@ LRESULT CALLBACK InnerButton::procedure(HWND window, UINT message, WPARAM wParam
     return result;
 }
 
+/// Runs a handler. False when the button was put away meanwhile: the system would take the keyboard and the
+/// mouse for a button that nobody sees any more.
+template <class Handler> bool InnerButton::tellAndStay(Handler&& handler) noexcept
+{
+    HWND const window = m_window;
+    bool const shown = ::IsWindowVisible(window) != FALSE;
+    tell(handler);
+    return m_window == window && (!shown || ::IsWindowVisible(window));
+}
+
 LRESULT InnerButton::passOn(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return m_window ? ::CallWindowProcW(m_system, m_window, message, wParam, lParam) : 0;
@@ -157,7 +167,8 @@ LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPar
     MouseArguments const mouse = mouseArguments(row.button, wParam, lParam);
     switch (row.what) {
     case ButtonMessage::What::Down:
-        tell([&] { m_surface.onMouseDown(mouse); });
+        if (!tellAndStay([&] { m_surface.onMouseDown(mouse); }))
+            return 0;
         break;
     case ButtonMessage::What::Up:
         tell([&] { m_surface.onMouseUp(mouse); });
@@ -182,7 +193,7 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_CHAR)
         code = characterOf(wParam);
     short const before = code;
-    tell([&] {
+    bool const stays = tellAndStay([&] {
         if (message == WM_CHAR)
             m_surface.onCharacter(code);
         else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
@@ -191,7 +202,7 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
             m_surface.onKeyUp(code, shiftOfKeys());
     });
     bool const usedUp = before != 0 && code == 0;
-    return usedUp ? 0 : passOn(message, wParam, lParam);
+    return usedUp || !stays ? 0 : passOn(message, wParam, lParam);
 }
 
 /// While the form runs, an option that gets the keyboard by a key or by code becomes the chosen one, as in

@@ -101,13 +101,15 @@ HRESULT Events::FindConnectionPoint(REFIID iid, IConnectionPoint** point)
 
 void Events::raise(DISPID event, std::initializer_list<Variant> arguments)
 {
-    if (m_frozen || m_eventPoint.empty())
+    if (m_frozen || m_ended || m_eventPoint.empty())
         return;
     auto const alive = m_surface.keepAlive();
     std::vector<VARIANT> reversed; // borrowed values, last argument first as automation wants them
     std::for_each(std::rbegin(arguments), std::rend(arguments),
                   [&](Variant const& argument) { reversed.push_back(argument.get()); });
     for (auto const& [sink, cookie] : m_eventPoint.snapshot()) {
+        if (m_ended) // by the sink before
+            return;
         DISPPARAMS parameters = {reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
         Variant result;
         // Connected as the event interface, which is a dispatch interface and so begins like IDispatch.

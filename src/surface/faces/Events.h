@@ -54,6 +54,10 @@ public:
 
     /// A flag, not a count: containers freeze twice and thaw once.
     void freeze(bool frozen) noexcept { m_frozen = frozen; }
+    /// The container has done with the control, and its sinks may expect nothing any more: no event, not even
+    /// the rest of what the message that led here would raise, until a site or an activation begins it anew.
+    void end() noexcept { m_ended = true; }
+    void begin() noexcept { m_ended = false; }
     void disconnect() noexcept;
 
     ConnectionPoint& eventPoint() noexcept { return m_eventPoint; }
@@ -63,6 +67,7 @@ private:
     ConnectionPoint m_eventPoint;
     ConnectionPoint m_notifyPoint;
     bool m_frozen = false;
+    bool m_ended = false;
 };
 
 } // namespace quillet

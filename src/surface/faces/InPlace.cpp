@@ -117,6 +117,7 @@ void InPlace::activateVisibly(Offer const& offer)
     m_active = true;
     ++m_activation;
     m_site = site;
+    m_surface.events().begin();
     site->OnInPlaceActivate();
 
     RECT given = m_position;

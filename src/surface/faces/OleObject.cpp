@@ -41,9 +41,17 @@ template <> struct Handed<OLEVERB> {
 HRESULT OleObject::SetClientSite(IOleClientSite* site)
 {
     return m_surface.call([&] {
-        if (!site || site != m_surface.container().site())
+        IOleClientSite const* const current = m_surface.container().site();
+        bool const isLost = current && !site;
+        if (isLost)
+            m_surface.close();
+        else if (site != current)
             m_surface.inPlace().leave(InPlace::WindowThen::Parked);
         m_surface.container().setSite(site);
+        if (site)
+            m_surface.events().begin();
+        else if (isLost)
+            m_surface.events().end(); // also where closing led to another activation
     });
 }
 
@@ -63,7 +71,7 @@ HRESULT OleObject::Close(DWORD saveOption)
         ComPtr<IOleClientSite> const site = m_surface.container().site();
         if (saveOption != OLECLOSE_NOSAVE && m_surface.persistence().isDirty() && site)
             site->SaveObject();
-        m_surface.inPlace().leave(InPlace::WindowThen::Destroyed);
+        m_surface.close();
         if (ComPtr<IOleAdviseHolder> const holder = m_adviseHolder)
             holder->SendOnClose();
     });

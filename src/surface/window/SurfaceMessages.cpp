@@ -102,12 +102,15 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.inPlace().focusLost();
         return 0;
     case WM_SIZE:
-        m_surface.onResize();
+        sized();
         return 0;
     case WM_WINDOWPOSCHANGED: {
         LRESULT const result = passOn(message, wParam, lParam);
-        if (reinterpret_cast<WINDOWPOS const*>(lParam)->flags & SWP_SHOWWINDOW)
+        UINT const flags = reinterpret_cast<WINDOWPOS const*>(lParam)->flags;
+        if (flags & SWP_SHOWWINDOW)
             m_surface.onShow();
+        if (flags & SWP_HIDEWINDOW)
+            giveUpCapture();
         return result;
     }
     case WM_NCDESTROY: { // somebody destroyed a window above this one

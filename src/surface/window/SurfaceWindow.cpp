@@ -55,7 +55,9 @@ void SurfaceWindow::create(HWND parent)
 {
     registerClass(&SurfaceWindow::procedure);
     HWND const parking = enterParking();
-    RECT const& place = m_surface.inPlace().position();
+    // The rectangle counts in the container's window: whoever lays out at the first size has to hear of it
+    // there.
+    RECT const place = parent ? m_surface.inPlace().position() : RECT{0, 0, m_size.cx, m_size.cy};
     m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName().text, nullptr,
                                  WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
                                      (m_surface.enabled() ? 0 : WS_DISABLED),
@@ -73,6 +75,17 @@ void SurfaceWindow::create(HWND parent)
         ::SetWindowLongA(m_window, GWL_EXSTYLE, style & ~WS_EX_LAYOUTRTL);
     ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
     m_surface.onWindowMade();
+    ignoringErrors([&] { sized(); }); // Windows told of it before the surface could be found
+}
+
+/// Tells the surface of a change of its size: Windows may tell of the same one more than once.
+void SurfaceWindow::sized()
+{
+    SIZE const size = clientSize();
+    if (size.cx == m_size.cx && size.cy == m_size.cy)
+        return;
+    m_size = size;
+    m_surface.onResize();
 }
 
 HWND SurfaceWindow::handle()
@@ -117,7 +130,10 @@ void SurfaceWindow::park() noexcept
     if (m_surface.inPlace().isActive()) // again, by what hiding led to
         ignoringErrors([&] { show(); });
     else if (m_window)
-        ignoringErrors([&] { ::SetParent(m_window, parkingWindow()); });
+        ignoringErrors([&] {
+            giveUpCapture();
+            ::SetParent(m_window, parkingWindow());
+        });
 }
 
 void SurfaceWindow::move(RECT const* clip)
@@ -151,8 +167,18 @@ void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
 
 void SurfaceWindow::hide() noexcept
 {
-    if (m_window)
-        ::ShowWindow(m_window, SW_HIDE);
+    if (!m_window)
+        return;
+    ::ShowWindow(m_window, SW_HIDE);
+    giveUpCapture();
+}
+
+/// Lets go of the mouse where this window or one inside has it. Nobody is told: no mouse has left.
+void SurfaceWindow::giveUpCapture() noexcept
+{
+    HWND const captured = ::GetCapture();
+    if (captured && (captured == m_window || ::IsChild(m_window, captured)))
+        ::ReleaseCapture();
 }
 
 void SurfaceWindow::takeFocus()
@@ -173,8 +199,7 @@ void SurfaceWindow::enable(bool enabled) noexcept
     // Windows takes keyboard and mouse from a disabled window, but not from the windows inside it.
     if (::IsChild(m_window, ::GetFocus()))
         ::SetFocus(nullptr);
-    if (HWND const captured = ::GetCapture(); captured && ::IsChild(m_window, captured))
-        ::ReleaseCapture();
+    giveUpCapture();
 }
 
 void SurfaceWindow::destroy() noexcept

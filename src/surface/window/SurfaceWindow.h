@@ -48,6 +48,8 @@ private:
 
     void create(HWND parent);
     void clipTo(RECT const* clip);
+    void sized();
+    void giveUpCapture() noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
@@ -60,6 +62,7 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
+    SIZE m_size = {}; ///< the surface's, as it was last told; the next window begins with it
     bool m_focusTold = false;
     bool m_clipped = false;    ///< a region cuts off what the container does not show
     bool m_clickBegun = false; ///< the left button went down here and has not come up
