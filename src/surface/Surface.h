@@ -54,6 +54,11 @@ public:
     /// Keeps the control alive while one of its own calls runs: a sink may release it inside any event.
     ComPtr<IUnknown> keepAlive() const noexcept { return m_outer; }
 
+    /// The control's dual interface, uncounted.
+    virtual IDispatch* dual() noexcept = 0;
+    /// Where the messages of a subclassed window go, uncounted; null where none is ever subclassed.
+    virtual IUnknown* windowMessages() noexcept { return nullptr; }
+
     /// Runs the body of a method that a host called: alive to its end, errors reported at the boundary.
     template <class Body> HRESULT call(Body&& body) noexcept
     {
@@ -178,9 +183,6 @@ protected:
     /// Aggregated when there is an outer object. The dual interface is the control's own.
     Surface(ControlClass const& controlClass, IUnknown* outer);
     virtual ~Surface();
-
-    /// The control's dual interface, uncounted.
-    virtual IDispatch* dual() noexcept = 0;
 
 private:
     /// The identity: counts references and answers which faces there are.

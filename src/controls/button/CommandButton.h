@@ -35,6 +35,7 @@ public:
     void onWindowMade() override { m_toolTip.windowMade(hWnd()); }
     void onFontChanged() override { repaint(); }
     AccessibleLook accessibleLook() const override;
+    IUnknown* windowMessages() noexcept override { return &m_toolTip; }
 
 protected:
     using Surface::Surface;

@@ -47,6 +47,7 @@ public:
     void onTerminate() override;
     AccessibleLook accessibleLook() const override;
     HWND accessibleWindow() const noexcept override { return m_inner.existing(); }
+    IUnknown* windowMessages() noexcept override { return &m_toolTip; }
 
 protected:
     OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
