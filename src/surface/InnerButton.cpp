@@ -108,7 +108,6 @@ void InnerButton::destroy() noexcept
 HWND InnerButton::forget() noexcept
 {
     HWND const window = std::exchange(m_window, nullptr);
-    m_focused = false;
     ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
                         0);
     return window;
@@ -224,7 +223,8 @@ void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) 
 {
     drawInnerButton(dc, size,
                     {m_kind, m_value, resolvedColour(foreColor), resolvedColour(m_backColor), inside,
-                     m_focused, m_caption.view(), handleOf(m_surface.font()), m_place});
+                     m_window && ::GetFocus() == m_window, m_caption.view(), handleOf(m_surface.font()),
+                     m_place});
 }
 
 void InnerButton::paint()

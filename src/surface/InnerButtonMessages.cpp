@@ -207,7 +207,6 @@ bool InnerButton::isClickedByFocus() const noexcept
 
 LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
 {
-    m_focused = true;
     bool const pressing = std::exchange(m_pressing, true); // the system's own click by focus does not count
     LRESULT const result = passOnUnseen(WM_SETFOCUS, wParam, lParam);
     m_pressing = pressing;
@@ -221,7 +220,6 @@ LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
 
 LRESULT InnerButton::lostFocus(WPARAM wParam, LPARAM lParam)
 {
-    m_focused = false;
     LRESULT const result = passOnUnseen(WM_KILLFOCUS, wParam, lParam);
     refresh();
     if (reinterpret_cast<HWND>(wParam) == m_surface.window().existing())

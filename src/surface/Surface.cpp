@@ -138,9 +138,8 @@ void Surface::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
                     Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
 }
 
-void Surface::onFocusMessage(bool gained)
+void Surface::onFocusMessage()
 {
-    m_window.tellFocus(gained);
     if (HWND const window = m_window.existing()) {
         ::InvalidateRect(window, nullptr, FALSE);
         ::UpdateWindow(window);

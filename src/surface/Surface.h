@@ -157,7 +157,9 @@ public:
     virtual void doClick() { onClick(); }
     /// The control's window (its own, or an inner one that was subclassed) got or lost the keyboard: what it
     /// shows is to change at once.
-    virtual void onFocusMessage(bool gained);
+    virtual void onFocusMessage();
+    /// Whether nobody else sees the window's focus messages, so that the window itself has to tell of them.
+    virtual bool watchesFocus() const noexcept { return false; }
     /// A window inside the control's tells something about itself.
     virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
 

@@ -90,12 +90,14 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         setCursor();
         return TRUE;
     case WM_SETFOCUS:
-        tellFocus(true);
+        if (m_surface.watchesFocus())
+            m_surface.onFocusMessage();
         m_surface.inPlace().focusGained();
         m_surface.onGotFocus();
         return 0;
     case WM_KILLFOCUS:
-        tellFocus(false);
+        if (m_surface.watchesFocus())
+            m_surface.onFocusMessage();
         if (::IsChild(m_window, reinterpret_cast<HWND>(wParam)))
             return 0; // to the control's own inner button: the control keeps the keyboard
         m_surface.onLostFocus();

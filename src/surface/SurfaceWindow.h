@@ -32,11 +32,8 @@ public:
     void show();
     void hide() noexcept;
     void takeFocus();
-    /// Whether the window has the keyboard, as its last message said: asking Windows at each paint costs some
-    /// systems as much as a fill.
-    bool hasFocus() const noexcept { return m_focusTold; }
-    /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
-    void tellFocus(bool gained) noexcept { m_focusTold = gained; }
+    /// Whether the window has the keyboard. What its messages said is no answer: hosts forge and swallow them.
+    bool hasFocus() const noexcept { return m_window && ::GetFocus() == m_window; }
     void enable(bool enabled) noexcept;
     void destroy() noexcept;
 
@@ -60,7 +57,6 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
-    bool m_focusTold = false;
     bool m_clipped = false;    ///< a region cuts off what the container does not show
     bool m_clickBegun = false; ///< the left button went down here and has not come up
 };

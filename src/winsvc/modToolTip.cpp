@@ -170,7 +170,7 @@ LRESULT ToolTipUser::handleMessage(HWND window, UINT message, WPARAM wParam, LPA
     WNDPROC const previous = m_previous; // handling a message may end the subclassing
     ignoringErrors([&] {
         if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
-            m_surface.onFocusMessage(message == WM_SETFOCUS);
+            m_surface.onFocusMessage();
         else if (isRelayed(message))
             relay(threadState().toolTip, window, message, wParam, lParam);
         else if (message == WM_NOTIFY)

@@ -37,6 +37,9 @@ public:
     /// The same with a published member's arguments: 32 bits of a handle are significant on every Windows.
     LONG WindowProc(LONG window, LONG message, LONG wParam, LONG lParam) noexcept;
 
+    /// Whether the tool's window is subclassed, or will be as soon as it is there.
+    bool isRunning() const noexcept { return m_running; }
+
 private:
     static void AddTool(HWND toolTip, HWND window) noexcept;
     void removeTool(HWND toolTip) const noexcept;

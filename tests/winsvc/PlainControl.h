@@ -23,7 +23,7 @@ public:
     bool failing = false; ///< whether a change of the focus fails
 
     void onPaint() override;
-    void onFocusMessage(bool gained) override;
+    void onFocusMessage() override;
     IUnknown* windowMessages() noexcept override { return &toolTip; }
     IDispatch* dual() noexcept override { return &m_dual; }
     void onTerminate() override { toolTip.Terminate(); }

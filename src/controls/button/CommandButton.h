@@ -33,6 +33,7 @@ public:
     void onShow() override { repaint(); }
     void onTerminate() override { m_toolTip.Terminate(); }
     void onWindowMade() override { m_toolTip.windowMade(hWnd()); }
+    bool watchesFocus() const noexcept override { return !m_toolTip.isRunning(); }
     void onFontChanged() override { repaint(); }
     AccessibleLook accessibleLook() const override;
     IUnknown* windowMessages() noexcept override { return &m_toolTip; }

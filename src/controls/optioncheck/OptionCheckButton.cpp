@@ -50,12 +50,6 @@ void OptionCheckButton::onCommand(WORD code, HWND from)
         m_inner.notified(code);
 }
 
-void OptionCheckButton::onFocusMessage(bool gained)
-{
-    m_inner.tellFocus(gained);
-    refresh();
-}
-
 void OptionCheckButton::onMouseDown(MouseArguments const& mouse) { raiseMouseEvent(event::MouseDown, mouse); }
 
 void OptionCheckButton::onMouseUp(MouseArguments const& mouse) { raiseMouseEvent(event::MouseUp, mouse); }

@@ -38,7 +38,7 @@ public:
     void onCharacter(short& keyAscii) override;
     void onCommand(WORD code, HWND from) override;
     void onGotFocus() override { m_inner.takeFocus(); }
-    void onFocusMessage(bool gained) override;
+    void onFocusMessage() override { refresh(); }
     void onResize() override;
     void onAmbientChanged(DISPID) override { onResize(); }
     void onFontChanged() override { m_inner.fontChanged(); }
