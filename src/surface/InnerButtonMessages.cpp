@@ -115,6 +115,18 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
         return button(buttonMessage(message), wParam, lParam);
+    case WM_CAPTURECHANGED: {
+        LRESULT const result = passOn(message, wParam, lParam);
+        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
+            tell([&] { m_surface.onCaptureLost(); });
+        return result;
+    }
+    case WM_MOUSELEAVE: {
+        LRESULT const result = passOn(message, wParam, lParam);
+        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
+            tell([&] { m_surface.onMouseLeft(); });
+        return result;
+    }
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_KEYUP:

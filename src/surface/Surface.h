@@ -160,6 +160,10 @@ public:
     virtual void onFocusMessage();
     /// Whether nobody else sees the window's focus messages, so that the window itself has to tell of them.
     virtual bool watchesFocus() const noexcept { return false; }
+    /// Somebody else, or nobody, has the mouse capture that the control's window had.
+    virtual void onCaptureLost() {}
+    /// The cursor is not over the window any more, and nothing but this tells of it.
+    virtual void onMouseLeft() {}
     /// A window inside the control's tells something about itself.
     virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
 

@@ -1,5 +1,6 @@
 // The surface's window: its procedure, and what mouse and keyboard messages become.
 #include "base/ComCall.h"
+#include "surface/Cursor.h"
 #include "surface/MouseMessage.h"
 #include "surface/StandardPicture.h"
 #include "surface/Surface.h"
@@ -59,6 +60,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
         return 0;
     case WM_MOUSEMOVE:
+        if (!(wParam & MK_LBUTTON))
+            m_clickBegun = false; // it came up somewhere else
         m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_LBUTTONDOWN:
@@ -71,6 +74,17 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
         button(message, wParam, lParam);
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
+            captureLost();
+        return 0;
+    case WM_CANCELMODE:
+        m_clickBegun = false;
+        return passOn(message, wParam, lParam);
+    case WM_MOUSELEAVE:
+        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
+            mouseLeft();
         return 0;
     case WM_COMMAND:
         m_surface.onCommand(HIWORD(wParam), reinterpret_cast<HWND>(lParam));
@@ -134,22 +148,44 @@ void SurfaceWindow::paint()
 void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
 {
     ButtonMessage const& row = buttonMessage(message);
+    bool const left = row.button == MouseButtons::kLeft;
     switch (row.what) {
-    case ButtonMessage::What::Down:
-        if (row.button == MouseButtons::kLeft) {
-            m_clickBegun = true;
-            takeFocus();
-        }
-        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
-        return;
-    case ButtonMessage::What::Double:
-        if (row.button == MouseButtons::kLeft)
+    case ButtonMessage::What::Double: // of the others only a second press
+        if (left) {
             m_surface.onDblClick();
+            return;
+        }
+        [[fallthrough]];
+    case ButtonMessage::What::Down:
+        if (left)
+            beginClick();
+        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
         return;
     case ButtonMessage::What::Up:
         release(row.button, wParam, lParam);
         return;
     }
+}
+
+/// A press is over as soon as its release can go elsewhere.
+void SurfaceWindow::beginClick()
+{
+    m_clickBegun = true;
+    if (::GetCapture() != m_window && isUnderCursor(m_window))
+        awaitLeaving(m_window);
+    takeFocus();
+}
+
+void SurfaceWindow::captureLost()
+{
+    m_clickBegun = false;
+    m_surface.onCaptureLost();
+}
+
+void SurfaceWindow::mouseLeft()
+{
+    m_clickBegun = false;
+    m_surface.onMouseLeft();
 }
 
 void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)

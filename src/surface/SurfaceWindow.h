@@ -32,7 +32,8 @@ public:
     void show();
     void hide() noexcept;
     void takeFocus();
-    /// Whether the window has the keyboard. What its messages said is no answer: hosts forge and swallow them.
+    /// Whether the window has the keyboard. What its messages said is no answer: hosts forge and swallow
+    /// them.
     bool hasFocus() const noexcept { return m_window && ::GetFocus() == m_window; }
     void enable(bool enabled) noexcept;
     void destroy() noexcept;
@@ -49,7 +50,10 @@ private:
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
     void button(UINT message, WPARAM wParam, LPARAM lParam);
+    void beginClick();
     void release(short button, WPARAM wParam, LPARAM lParam);
+    void captureLost();
+    void mouseLeft();
     void setCursor() const;
     void lost() noexcept;
     HWND forget() noexcept;
@@ -58,7 +62,7 @@ private:
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
     bool m_clipped = false;    ///< a region cuts off what the container does not show
-    bool m_clickBegun = false; ///< the left button went down here and has not come up
+    bool m_clickBegun = false; ///< the left button went down here, and its release is to come here
 };
 
 } // namespace quillet

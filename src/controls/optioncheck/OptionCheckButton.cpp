@@ -89,6 +89,19 @@ void OptionCheckButton::followHover()
         repaint();
 }
 
+/// No move tells any more that the mouse leaves a hot button.
+void OptionCheckButton::onCaptureLost()
+{
+    if (m_hot)
+        awaitLeaving(m_inner.existing());
+}
+
+void OptionCheckButton::onMouseLeft()
+{
+    if (m_hot)
+        repaint();
+}
+
 void OptionCheckButton::followMouse(MouseArguments const& mouse)
 {
     ignoringErrors([&] { m_toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });

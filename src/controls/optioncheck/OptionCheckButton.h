@@ -39,6 +39,8 @@ public:
     void onCommand(WORD code, HWND from) override;
     void onGotFocus() override { m_inner.takeFocus(); }
     void onFocusMessage() override { refresh(); }
+    void onCaptureLost() override;
+    void onMouseLeft() override;
     void onResize() override;
     void onAmbientChanged(DISPID) override { onResize(); }
     void onFontChanged() override { m_inner.fontChanged(); }
@@ -84,6 +86,7 @@ private:
     Bstr m_toolTipText; ///< the extender's, as it was at the last mouse move
     OLE_COLOR m_hotForeColor = 0x80000012;
     bool m_lastHover = false;   ///< whether the cursor was over the button at the last mouse move
+    bool m_hot = false;         ///< the look last shown
     bool m_recolouring = false; ///< the caption takes its colour within a paint
     ToolTipUser m_toolTip{*this};
 };
