@@ -4,12 +4,19 @@
 #include "base/Checked.h"
 #include "base/RunTimeError.h"
 #include "saving/StandardFont.h"
+#include "surface/window/WindowMessages.h"
 
 #include <algorithm>
 
 namespace quillet {
 
 IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
+
+HRESULT queryFace(Surface& surface, REFIID iid, void** object) noexcept
+{
+    IUnknown* const asked = iid == __uuidof(WindowMessages) ? surface.inner() : surface.outer();
+    return asked->QueryInterface(iid, object);
+}
 
 Surface::Surface(ControlClass const& controlClass, IUnknown* outer)
     : m_class(controlClass), m_outer(outer ? outer : &m_identity)
@@ -80,6 +87,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
         {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(&m_browsing)},
         {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&m_browsing)},
         {__uuidof(ICategorizeProperties), static_cast<ICategorizeProperties*>(&m_browsing)},
+        {__uuidof(WindowMessages), windowMessages()},
     };
     for (Row const& row : rows)
         if (iid == row.iid)
@@ -138,9 +146,8 @@ void Surface::raiseMouseEvent(DISPID id, MouseArguments const& mouse)
                     Variant::ofFloatRef(&own.x), Variant::ofFloatRef(&own.y)});
 }
 
-void Surface::onFocusMessage(bool gained)
+void Surface::onFocusMessage()
 {
-    m_window.tellFocus(gained);
     if (HWND const window = m_window.existing()) {
         ::InvalidateRect(window, nullptr, FALSE);
         ::UpdateWindow(window);

@@ -54,6 +54,11 @@ public:
     /// Keeps the control alive while one of its own calls runs: a sink may release it inside any event.
     ComPtr<IUnknown> keepAlive() const noexcept { return m_outer; }
 
+    /// The control's dual interface, uncounted.
+    virtual IDispatch* dual() noexcept = 0;
+    /// Where the messages of a subclassed window go, uncounted; null where none is ever subclassed.
+    virtual IUnknown* windowMessages() noexcept { return nullptr; }
+
     /// Runs the body of a method that a host called: alive to its end, errors reported at the boundary.
     template <class Body> HRESULT call(Body&& body) noexcept
     {
@@ -158,7 +163,13 @@ public:
     virtual void doDefaultAction() { doClick(); }
     /// The control's window (its own, or an inner one that was subclassed) got or lost the keyboard: what it
     /// shows is to change at once.
-    virtual void onFocusMessage(bool gained);
+    virtual void onFocusMessage();
+    /// Whether nobody else sees the window's focus messages, so that the window itself has to tell of them.
+    virtual bool watchesFocus() const noexcept { return false; }
+    /// Somebody else, or nobody, has the mouse capture that the control's window had.
+    virtual void onCaptureLost() {}
+    /// The cursor is not over the window any more, and nothing but this tells of it.
+    virtual void onMouseLeft() {}
     /// A window inside the control's tells something about itself.
     virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
 
@@ -173,9 +184,6 @@ protected:
     /// Aggregated when there is an outer object. The dual interface is the control's own.
     Surface(ControlClass const& controlClass, IUnknown* outer);
     virtual ~Surface();
-
-    /// The control's dual interface, uncounted.
-    virtual IDispatch* dual() noexcept = 0;
 
 private:
     /// The identity: counts references and answers which faces there are.

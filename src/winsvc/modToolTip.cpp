@@ -73,21 +73,18 @@ TTTOOLINFOA toolOf(HWND window) noexcept
     return tool;
 }
 
-/// The user of a subclassed window; null where the slot holds none.
-ToolTipUser* ControlFromHwnd(HWND window) noexcept
+/// The control of a subclassed window; empty where the slot holds none.
+ComPtr<WindowMessages> ControlFromHwnd(HWND window) noexcept
 {
-    return reinterpret_cast<ToolTipUser*>(::GetWindowLongPtrA(window, GWLP_USERDATA));
+    return query<WindowMessages>(reinterpret_cast<IDispatch*>(::GetWindowLongPtrA(window, GWLP_USERDATA)));
 }
 
 } // namespace
 
 LRESULT CALLBACK SubclassWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
-    ToolTipUser* const user = ControlFromHwnd(window);
-    if (!user)
-        return 0;
-    auto const alive = user->control();
-    return user->WindowProc(window, message, wParam, lParam);
+    auto const control = ControlFromHwnd(window);
+    return control ? control->handleMessage(window, message, wParam, lParam) : 0;
 }
 
 void ToolTipUser::CreateToolTip(HWND window)
@@ -156,8 +153,8 @@ void ToolTipUser::Subclass(HWND window) noexcept
     if (!m_previous)
         return;
     m_subclassed = window;
-    // Uncounted: the window never keeps its control alive.
-    ::SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // Programs copy it into object variables. Uncounted: the window never keeps its control alive.
+    ::SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(m_surface.dual()));
 }
 
 void ToolTipUser::Unsubclass() noexcept
@@ -168,14 +165,12 @@ void ToolTipUser::Unsubclass() noexcept
     m_previous = nullptr;
 }
 
-ComPtr<IUnknown> ToolTipUser::control() const noexcept { return m_surface.keepAlive(); }
-
-LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+LRESULT ToolTipUser::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     WNDPROC const previous = m_previous; // handling a message may end the subclassing
     ignoringErrors([&] {
         if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
-            m_surface.onFocusMessage(message == WM_SETFOCUS);
+            m_surface.onFocusMessage();
         else if (isRelayed(message))
             relay(threadState().toolTip, window, message, wParam, lParam);
         else if (message == WM_NOTIFY)
@@ -190,8 +185,9 @@ LRESULT ToolTipUser::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM
 
 LONG ToolTipUser::WindowProc(LONG window, LONG message, LONG wParam, LONG lParam) noexcept
 {
-    return static_cast<LONG>(WindowProc(static_cast<HWND>(LongToHandle(window)), static_cast<UINT>(message),
-                                        static_cast<WPARAM>(wParam), LPARAM{lParam}));
+    return static_cast<LONG>(handleMessage(static_cast<HWND>(LongToHandle(window)),
+                                           static_cast<UINT>(message), static_cast<WPARAM>(wParam),
+                                           LPARAM{lParam}));
 }
 
 void ToolTipUser::answerText(LPARAM request) noexcept

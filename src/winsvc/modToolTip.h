@@ -1,7 +1,8 @@
 // Window services of every control: its window's messages seen first, and the thread's shared tooltip.
 #pragma once
 
-#include "base/ComPtr.h"
+#include "surface/faces/Face.h"
+#include "surface/window/WindowMessages.h"
 
 #include <windows.h>
 
@@ -9,15 +10,11 @@
 
 namespace quillet {
 
-class Surface;
-
 /// A control's share of the window services. A control owns one, tells it once which window is its tool's
 /// (its own or an inner one), and hands its published WindowProc on to it.
-class ToolTipUser {
+class ToolTipUser final : public Face<WindowMessages> {
 public:
-    explicit ToolTipUser(Surface& surface) noexcept : m_surface(surface) {}
-    ToolTipUser(ToolTipUser const&) = delete;
-    ToolTipUser& operator=(ToolTipUser const&) = delete;
+    using Face::Face;
 
     /// Called when the saved properties have been read. Counts the control as a user; at run time makes the
     /// thread's tooltip window unless it was ever made, subclasses the window and registers it as a tool; a
@@ -36,19 +33,18 @@ public:
     /// What SubclassWndProc does for a control: repaints on focus changes, relays the mouse to the tooltip,
     /// answers its question for text, and always passes the message on. Answers what the previous procedure
     /// answered.
-    LRESULT WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept override;
     /// The same with a published member's arguments: 32 bits of a handle are significant on every Windows.
     LONG WindowProc(LONG window, LONG message, LONG wParam, LONG lParam) noexcept;
 
-    /// The control itself, counted.
-    ComPtr<IUnknown> control() const noexcept;
+    /// Whether the tool's window is subclassed, or will be as soon as it is there.
+    bool isRunning() const noexcept { return m_running; }
 
 private:
     static void AddTool(HWND toolTip, HWND window) noexcept;
     void removeTool(HWND toolTip) const noexcept;
     void answerText(LPARAM request) noexcept;
 
-    Surface& m_surface;
     bool m_counted = false;
     bool m_running = false;       ///< has a tooltip, or will have it with its window
     WNDPROC m_previous = nullptr; ///< null while no window is subclassed

@@ -2,6 +2,7 @@
 #include "ShownButton.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
+#include "kit/SwallowedMessage.h"
 
 namespace quillet::flat {
 namespace {
@@ -111,6 +112,66 @@ TEST_F(FlatEmphasis, aFocusedButtonLosesItAgainWithTheFocus)
     EXPECT_EQ(repaintedAgainst(focused(normalFace())), "");
     ASSERT_TRUE(kit::focus(edit.get()));
     EXPECT_EQ(repaintedAgainst(normalFace()), "");
+}
+
+TEST_F(FlatEmphasis, aFocusedButtonKeepsItWhateverMessagesSay)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ASSERT_TRUE(kit::focus(button.window()));
+    ::SendMessageA(button.window(), WM_KILLFOCUS, 0, 0);
+    EXPECT_EQ(button.differencesFrom(focused(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "");
+    LONG result = 0;
+    EXPECT_EQ(button->WindowProc(HandleToLong(button.window()), WM_KILLFOCUS, 0, 0, &result), S_OK);
+    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "") << "published";
+}
+
+TEST_F(FlatEmphasis, ofTheButtonThatTheFocusLeavesIsGoneWhoeverSwallowedTheMessage)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ShownButton next(library(), form, {20, 80, 140, 120});
+    ASSERT_TRUE(kit::focus(button.window()));
+    kit::SwallowedMessage const swallowed(button.window(), WM_KILLFOCUS);
+    ASSERT_TRUE(kit::focus(next.window()));
+    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(next.differencesFrom(focused(normalFace())), "");
+}
+
+TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
+{
+    ShownButton next(library(), form, {20, 80, 140, 120});
+    ASSERT_TRUE(kit::focus(button.window()));
+    int paints = 0;
+    next.events().action = [&](auto const& event) {
+        if (event.id == kPaint && ++paints == 1) {
+            EXPECT_EQ(next.differencesFrom(focused(normalFace())), "");
+        }
+    };
+    ASSERT_TRUE(kit::focus(next.window()));
+    next.events().action = nullptr;
+    EXPECT_GT(paints, 0);
+}
+
+// Neither a window service nor a sibling repaints a button that nobody loaded and that stands alone.
+TEST_F(FlatEmphasis, ofAButtonThatWasOnlyInitialisedComesAndGoesWithTheFocus)
+{
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    FlatButton fresh(library(), form, {20, 80, 140, 120}, L"Fresh");
+    fresh.site().extender().remove(L"Parent");
+    fresh.start();
+    fresh->put_BorderColor(kBorder);
+    auto const inner = [&] { // where the border of a focused button is two pixels wide
+        WindowDc const dc(fresh.window());
+        return ::GetPixel(dc.get(), 1, 20);
+    };
+    fresh.events().forget();
+    ASSERT_NE(inner(), kBorder);
+    ASSERT_TRUE(kit::focus(fresh.window()));
+    EXPECT_EQ(inner(), kBorder);
+    EXPECT_EQ(fresh.events().count(kPaint), 1);
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_NE(inner(), kBorder);
+    EXPECT_EQ(fresh.events().count(kPaint), 2);
 }
 
 TEST_F(FlatEmphasis, withoutShowFocusRectangleAFocusedButtonHasTheBorderAndNoFrame)

@@ -119,7 +119,7 @@ void sendText(World& world, Slot& slot)
 void treatWindow(World& world, Slot& slot)
 {
     HWND const window = slot.anyWindow(world.random);
-    switch (below(world.random, 9)) {
+    switch (below(world.random, 11)) {
     case 0:
         ::DestroyWindow(window);
         break;
@@ -142,6 +142,12 @@ void treatWindow(World& world, Slot& slot)
         ::SetCapture(window);
         break;
     case 7:
+        ::SetCapture(world.form.window()); // which the window may have had
+        break;
+    case 8:
+        ::ReleaseCapture();
+        break;
+    case 9:
         ::ShowWindow(world.form.window(), SW_HIDE);
         ::ShowWindow(world.form.window(), SW_SHOWNOACTIVATE);
         break;

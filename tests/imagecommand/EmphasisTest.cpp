@@ -2,6 +2,7 @@
 #include "Face.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
+#include "kit/SwallowedMessage.h"
 
 namespace quillet::image {
 namespace {
@@ -83,6 +84,66 @@ TEST_P(ImageEmphasis, theFocusedButtonHasItAndItShowsWhenTheFocusComesAndGoes)
     face.border = 1;
     face.captionLeft = 1 + 4;
     EXPECT_EQ(differencesFrom(button, face), "") << "and its loss, too";
+}
+
+TEST_P(ImageEmphasis, theFocusedButtonKeepsItWhateverMessagesSay)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ASSERT_TRUE(kit::focus(button.window()));
+    ::SendMessageA(button.window(), WM_KILLFOCUS, 0, 0);
+    EXPECT_EQ(shows(true), "");
+    LONG result = 0;
+    EXPECT_EQ(button->WindowProc(HandleToLong(button.window()), WM_KILLFOCUS, 0, 0, &result), S_OK);
+    EXPECT_EQ(shows(true), "") << "published";
+    ASSERT_TRUE(kit::focus(edit.get()));
+    ::SendMessageA(button.window(), WM_SETFOCUS, 0, 0);
+    if (::GetFocus() == edit.get()) { // a message that says so may bring it
+        EXPECT_EQ(shows(false), "");
+    }
+}
+
+TEST_P(ImageEmphasis, isGoneWithTheFocusWhoeverSwallowedTheMessage)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    ASSERT_TRUE(kit::focus(button.window()));
+    kit::SwallowedMessage const swallowed(button.window(), WM_KILLFOCUS);
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(shows(false), "");
+}
+
+TEST_P(ImageEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
+{
+    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    Face face{kFore, kBack, kLight, kDark, 2};
+    face.caption = L"&Default";
+    int paints = 0;
+    button.events().action = [&](auto const& event) {
+        if (event.id == kPaint && ++paints == 1) {
+            EXPECT_EQ(differencesFrom(button, face), "");
+        }
+    };
+    ASSERT_TRUE(kit::focus(button.window()));
+    button.events().action = nullptr;
+    EXPECT_EQ(paints, 1);
+}
+
+// No window service repaints a button that nobody loaded.
+TEST_P(ImageEmphasis, ofAButtonThatWasOnlyInitialisedComesAndGoesWithTheFocus)
+{
+    ImageButton fresh(library(), form, kind(), {20, 80, 140, 120}, L"Fresh");
+    fresh.start();
+    fresh->put_ForeColor(kFore);
+    fresh->put_BackColor(kBack);
+    fresh->put_LightBorderColor(kLight);
+    fresh->put_DarkBorderColor(kDark);
+    fresh.setCaption(L"");
+    fresh.forget();
+    ASSERT_TRUE(kit::focus(fresh.window()));
+    EXPECT_EQ(fresh.paints(), 1);
+    EXPECT_EQ(differencesFrom(fresh, {kFore, kBack, kLight, kDark, 2}), "");
+    ASSERT_TRUE(kit::focus(edit.get()));
+    EXPECT_EQ(fresh.paints(), 2);
+    EXPECT_EQ(differencesFrom(fresh, {kFore, kBack, kLight, kDark, 1}), "");
 }
 
 TEST_P(ImageEmphasis, theDefaultButtonLosesItToAFlatCommand) { checkSibling(kQvFlatCommandClass, false); }

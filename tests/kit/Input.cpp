@@ -51,6 +51,16 @@ void press(MouseButton button) { ::mouse_event(flagsOf(button).down, 0, 0, 0, 0)
 
 void release(MouseButton button) { ::mouse_event(flagsOf(button).up, 0, 0, 0, 0); }
 
+bool dragFrom(HWND window, POINT from, POINT to)
+{
+    if (!moveCursorTo(window, from.x, from.y))
+        return false;
+    pumpPending();
+    press(MouseButton::Left);
+    bool const heard = pumpUntil([] { return ::GetKeyState(VK_LBUTTON) < 0; });
+    return moveCursorTo(window, to.x, to.y) && heard;
+}
+
 void typeKey(BYTE virtualKey)
 {
     auto const scanCode = static_cast<BYTE>(::MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));

@@ -106,6 +106,34 @@ TEST_P(Mouse, isHeldOutsideAsLongAsAButtonIsDown)
     }
 }
 
+TEST_P(Mouse, thatSomebodyElseTookEndsTheHotLookAsSoonAsItIsGone)
+{
+    box.setColours(kFore, kFore);
+    box.enter();
+    ::SetCapture(form.window());
+    kit::pumpPending();
+    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey) << "it is still there";
+    box.moveTo(kBeside);
+    EXPECT_TRUE(kit::pumpUntil([&] { return box.pixel(kInGlyph) == kWhite; }));
+    EXPECT_EQ(::GetCapture(), form.window());
+    ::ReleaseCapture();
+}
+
+TEST_P(Mouse, releasedAfterAPressElsewhereDoesNotClickWhateverWasBefore)
+{
+    box.enter();
+    box.press();
+    ::SetCapture(form.window());
+    box.moveTo(kBeside);
+    kit::release(MouseButton::Left);
+    EXPECT_TRUE(kit::pumpUntil([] { return ::GetKeyState(VK_LBUTTON) >= 0; }));
+    ::ReleaseCapture();
+    box.events().forget();
+    EXPECT_TRUE(kit::dragFrom(box.inner(), kBeside, kInside));
+    EXPECT_THAT(box.letGo(), testing::Not(testing::Contains("Click")));
+    EXPECT_EQ(box.value(), 0);
+}
+
 TEST_P(Mouse, isNotOverTheBoxUnderAnotherWindow)
 {
     UniqueWindow const cover(::CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 400, 100,

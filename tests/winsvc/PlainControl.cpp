@@ -20,11 +20,11 @@ void PlainControl::onPaint()
         log->emplace_back("paint");
 }
 
-void PlainControl::onFocusMessage(bool gained)
+void PlainControl::onFocusMessage()
 {
     if (failing)
         throw RunTimeError(E_FAIL);
-    Surface::onFocusMessage(gained);
+    Surface::onFocusMessage();
 }
 
 void RoomTest::SetUpTestSuite()

@@ -23,11 +23,13 @@ public:
     bool failing = false; ///< whether a change of the focus fails
 
     void onPaint() override;
-    void onFocusMessage(bool gained) override;
+    void onFocusMessage() override;
+    IUnknown* windowMessages() noexcept override { return &toolTip; }
+    IDispatch* dual() noexcept override { return &m_dual; }
     void onTerminate() override { toolTip.Terminate(); }
 
-protected:
-    IDispatch* dual() noexcept override { return nullptr; }
+private:
+    Dual<IDispatch> m_dual{*this}; ///< of an interface that has nothing of its own
 };
 
 /// Owns a control by its only reference.

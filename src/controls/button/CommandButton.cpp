@@ -40,12 +40,39 @@ bool CommandButton::enterOrExit(bool over)
     bool const captured = own && ::GetCapture() == own;
     if (over == captured)
         return false;
+    bool const exitIsDue = std::exchange(m_entered, over) && over; // somebody took the mouse meanwhile
     if (over)
         ::SetCapture(own);
     else
         ::ReleaseCapture();
+    if (exitIsDue)
+        raiseEvent(event::MouseExit);
     raiseEvent(over ? event::MouseEnter : event::MouseExit);
     return true;
+}
+
+void CommandButton::onWindowMade()
+{
+    m_entered = false;
+    m_toolTip.windowMade(hWnd());
+}
+
+/// No move tells any more that the mouse leaves a hot button.
+void CommandButton::onCaptureLost()
+{
+    if (!reacts())
+        m_entered = false;
+    if (m_entered)
+        awaitLeaving(hWnd());
+}
+
+void CommandButton::onMouseLeft()
+{
+    // A button that was taken from its form has ended its hover in silence.
+    if (!std::exchange(m_entered, false) || !reacts() || !::IsWindowVisible(hWnd()))
+        return;
+    raiseEvent(event::MouseExit);
+    repaint();
 }
 
 void CommandButton::onMouseDown(MouseArguments const& mouse)

@@ -32,9 +32,13 @@ public:
     void onAccessKeyPress(short keyAscii) override;
     void onShow() override { repaint(); }
     void onTerminate() override { m_toolTip.Terminate(); }
-    void onWindowMade() override { m_toolTip.windowMade(hWnd()); }
+    void onWindowMade() override;
+    bool watchesFocus() const noexcept override { return !m_toolTip.isRunning(); }
+    void onCaptureLost() override;
+    void onMouseLeft() override;
     void onFontChanged() override { repaint(); }
     AccessibleLook accessibleLook() const override;
+    IUnknown* windowMessages() noexcept override { return &m_toolTip; }
 
 protected:
     using Surface::Surface;
@@ -74,6 +78,7 @@ private:
 
     VisualState m_state = VisualState::Normal;
     bool m_pressed = false; ///< between a press of the left button and its release
+    bool m_entered = false; ///< MouseEnter was raised, and its MouseExit was not
     ToolTipUser m_toolTip{*this};
 };
 

@@ -108,7 +108,6 @@ void InnerButton::destroy() noexcept
 HWND InnerButton::forget() noexcept
 {
     HWND const window = std::exchange(m_window, nullptr);
-    m_focused = false;
     ::SetWindowLongPtrW(window, static_cast<int>(::GetClassLongPtrW(window, GCL_CBWNDEXTRA) - sizeof(void*)),
                         0);
     return window;
@@ -228,8 +227,8 @@ GlyphLook InnerButton::glyphLook(COLORREF inside) const
 void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) const
 {
     drawInnerButton(dc, size,
-                    {glyphLook(inside), resolvedColour(foreColor), m_focused, m_caption.view(),
-                     handleOf(m_surface.font()), m_place});
+                    {glyphLook(inside), resolvedColour(foreColor), m_window && ::GetFocus() == m_window,
+                     m_caption.view(), handleOf(m_surface.font()), m_place});
 }
 
 void InnerButton::drawFilledGlyph(HDC dc, SIZE size, HBRUSH brush) const

@@ -56,8 +56,6 @@ public:
     /// Paints at once what is shown.
     void refresh() noexcept;
     void takeFocus();
-    /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
-    void tellFocus(bool gained) noexcept { m_focused = gained; }
     /// Takes a notification of the window to its parent.
     void notified(WORD code);
 
@@ -100,8 +98,7 @@ private:
     long m_value = 0;
     HWND m_window = nullptr;
     WNDPROC m_system = nullptr; ///< the procedure of the system's button class
-    bool m_focused = false;
-    bool m_pressing = false; ///< the system handles a press of the left button
+    bool m_pressing = false;    ///< the system handles a press of the left button
 };
 
 } // namespace quillet

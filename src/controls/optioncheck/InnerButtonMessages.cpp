@@ -125,6 +125,18 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
         return button(buttonMessage(message), wParam, lParam);
+    case WM_CAPTURECHANGED: {
+        LRESULT const result = passOn(message, wParam, lParam);
+        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
+            tell([&] { m_surface.onCaptureLost(); });
+        return result;
+    }
+    case WM_MOUSELEAVE: {
+        LRESULT const result = passOn(message, wParam, lParam);
+        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
+            tell([&] { m_surface.onMouseLeft(); });
+        return result;
+    }
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_KEYUP:
@@ -214,7 +226,6 @@ bool InnerButton::isClickedByFocus() const noexcept
 
 LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
 {
-    m_focused = true;
     bool const pressing = std::exchange(m_pressing, true); // the system's own click by focus does not count
     LRESULT const result = passOnUnseen(WM_SETFOCUS, wParam, lParam);
     m_pressing = pressing;
@@ -228,7 +239,6 @@ LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
 
 LRESULT InnerButton::lostFocus(WPARAM wParam, LPARAM lParam)
 {
-    m_focused = false;
     LRESULT const result = passOnUnseen(WM_KILLFOCUS, wParam, lParam);
     refresh();
     if (reinterpret_cast<HWND>(wParam) == m_surface.window().existing())

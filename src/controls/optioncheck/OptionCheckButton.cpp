@@ -50,12 +50,6 @@ void OptionCheckButton::onCommand(WORD code, HWND from)
         m_inner.notified(code);
 }
 
-void OptionCheckButton::onFocusMessage(bool gained)
-{
-    m_inner.tellFocus(gained);
-    refresh();
-}
-
 void OptionCheckButton::onMouseDown(MouseArguments const& mouse) { raiseMouseEvent(event::MouseDown, mouse); }
 
 void OptionCheckButton::onMouseUp(MouseArguments const& mouse) { raiseMouseEvent(event::MouseUp, mouse); }
@@ -85,6 +79,19 @@ bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
     else
         ::ReleaseCapture();
     return true;
+}
+
+/// No move tells any more that the mouse leaves a hot button.
+void OptionCheckButton::onCaptureLost()
+{
+    if (m_hot)
+        awaitLeaving(m_inner.existing());
+}
+
+void OptionCheckButton::onMouseLeft()
+{
+    if (m_hot)
+        repaint();
 }
 
 void OptionCheckButton::followMouse(MouseArguments const& mouse)

@@ -32,7 +32,9 @@ public:
     void onWindowMade() override { m_inner.handle(); }
     void onCommand(WORD code, HWND from) override;
     void onGotFocus() override { m_inner.takeFocus(); }
-    void onFocusMessage(bool gained) override;
+    void onFocusMessage() override { refresh(); }
+    void onCaptureLost() override;
+    void onMouseLeft() override;
     void onResize() override;
     void onAmbientChanged(DISPID) override { onResize(); }
     void onFontChanged() override { m_inner.fontChanged(); }
@@ -41,6 +43,7 @@ public:
     void onTerminate() override;
     AccessibleLook accessibleLook() const override;
     HWND accessibleWindow() const noexcept override { return m_inner.existing(); }
+    IUnknown* windowMessages() noexcept override { return &m_toolTip; }
 
     // What the button inside tells; its mouse goes to the handlers above. A key set to 0 is used up.
     void onKeyDown(short& keyCode, short shift);
@@ -84,6 +87,7 @@ private:
     Bstr m_toolTipText; ///< the extender's, as it was at the last mouse move
     OLE_COLOR m_hotForeColor = 0x80000012;
     bool m_lastHover = false;   ///< whether the cursor was over the button at the last mouse move
+    bool m_hot = false;         ///< the look last shown
     bool m_recolouring = false; ///< the caption takes its colour within a paint
     ToolTipUser m_toolTip{*this};
 };

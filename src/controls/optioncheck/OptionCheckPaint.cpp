@@ -42,6 +42,7 @@ void OptionCheckButton::onInnerPainted()
 /// Distinct colours make the caption hot; equal ones would show nothing, so the glyph is shaded instead.
 void OptionCheckButton::showState(bool hot)
 {
+    m_hot = hot;
     bool const byColour = foreColor() != m_hotForeColor;
     showCaption(hot && byColour ? m_hotForeColor : foreColor());
     if (!byColour)

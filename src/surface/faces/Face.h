@@ -11,6 +11,8 @@ class Surface;
 
 /// The outer object of a surface: the surface's own identity, or its aggregator's.
 IUnknown* outerOf(Surface const& surface) noexcept;
+/// Asks the outer object for an interface; for what is the component's own the surface itself.
+HRESULT queryFace(Surface& surface, REFIID iid, void** object) noexcept;
 
 /// Implements IUnknown for one or several interfaces of a surface by handing it on to the outer object.
 template <class... Interfaces> class Face : public Interfaces... {
@@ -19,10 +21,7 @@ public:
     Face(Face const&) = delete;
     Face& operator=(Face const&) = delete;
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) final
-    {
-        return outerOf(m_surface)->QueryInterface(iid, object);
-    }
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) final { return queryFace(m_surface, iid, object); }
     STDMETHODIMP_(ULONG) AddRef() final { return outerOf(m_surface)->AddRef(); }
     STDMETHODIMP_(ULONG) Release() final { return outerOf(m_surface)->Release(); }
 

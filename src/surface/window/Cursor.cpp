@@ -40,4 +40,14 @@ bool isUnderCursor(HWND window)
            ::WindowFromPoint(cursor) == window;
 }
 
+void awaitLeaving(HWND window)
+{
+    if (!isUnderCursor(window)) { // some systems say nothing then
+        ::PostMessageA(window, WM_MOUSELEAVE, 0, 0);
+        return;
+    }
+    TRACKMOUSEEVENT request = {sizeof(request), TME_LEAVE, window, 0};
+    ::TrackMouseEvent(&request);
+}
+
 } // namespace quillet

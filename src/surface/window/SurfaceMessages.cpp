@@ -2,6 +2,7 @@
 #include "base/ComCall.h"
 #include "saving/StandardPicture.h"
 #include "surface/Surface.h"
+#include "surface/window/Cursor.h"
 #include "surface/window/MouseMessage.h"
 #include "surface/window/SurfaceWindow.h"
 
@@ -59,6 +60,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         m_surface.paintInto(reinterpret_cast<HDC>(wParam), clientSize());
         return 0;
     case WM_MOUSEMOVE:
+        if (!(wParam & MK_LBUTTON))
+            m_clickBegun = false; // it came up somewhere else
         m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_LBUTTONDOWN:
@@ -71,6 +74,17 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
         button(message, wParam, lParam);
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
+            captureLost();
+        return 0;
+    case WM_CANCELMODE:
+        m_clickBegun = false;
+        return passOn(message, wParam, lParam);
+    case WM_MOUSELEAVE:
+        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
+            mouseLeft();
         return 0;
     case WM_COMMAND:
         m_surface.onCommand(HIWORD(wParam), reinterpret_cast<HWND>(lParam));
@@ -90,12 +104,14 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         setCursor();
         return TRUE;
     case WM_SETFOCUS:
-        tellFocus(true);
+        if (m_surface.watchesFocus())
+            m_surface.onFocusMessage();
         m_surface.inPlace().focusGained();
         m_surface.onGotFocus();
         return 0;
     case WM_KILLFOCUS:
-        tellFocus(false);
+        if (m_surface.watchesFocus())
+            m_surface.onFocusMessage();
         if (::IsChild(m_window, reinterpret_cast<HWND>(wParam)))
             return 0; // to the control's own inner button: the control keeps the keyboard
         m_surface.onLostFocus();
@@ -135,22 +151,44 @@ void SurfaceWindow::paint()
 void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
 {
     ButtonMessage const& row = buttonMessage(message);
+    bool const left = row.button == MouseButtons::kLeft;
     switch (row.what) {
-    case ButtonMessage::What::Down:
-        if (row.button == MouseButtons::kLeft) {
-            m_clickBegun = true;
-            takeFocus();
-        }
-        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
-        return;
-    case ButtonMessage::What::Double:
-        if (row.button == MouseButtons::kLeft)
+    case ButtonMessage::What::Double: // of the others only a second press
+        if (left) {
             m_surface.onDblClick();
+            return;
+        }
+        [[fallthrough]];
+    case ButtonMessage::What::Down:
+        if (left)
+            beginClick();
+        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
         return;
     case ButtonMessage::What::Up:
         release(row.button, wParam, lParam);
         return;
     }
+}
+
+/// A press is over as soon as its release can go elsewhere.
+void SurfaceWindow::beginClick()
+{
+    m_clickBegun = true;
+    if (::GetCapture() != m_window && isUnderCursor(m_window))
+        awaitLeaving(m_window);
+    takeFocus();
+}
+
+void SurfaceWindow::captureLost()
+{
+    m_clickBegun = false;
+    m_surface.onCaptureLost();
+}
+
+void SurfaceWindow::mouseLeft()
+{
+    m_clickBegun = false;
+    m_surface.onMouseLeft();
 }
 
 void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)

@@ -216,7 +216,7 @@ void SurfaceWindow::destroy() noexcept
 HWND SurfaceWindow::forget() noexcept
 {
     m_dc = nullptr;
-    m_clipped = m_clickBegun = m_focusTold = false;
+    m_clipped = m_clickBegun = false;
     return std::exchange(m_window, nullptr);
 }
 

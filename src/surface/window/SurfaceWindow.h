@@ -32,11 +32,9 @@ public:
     void show();
     void hide() noexcept;
     void takeFocus();
-    /// Whether the window has the keyboard, as its last message said: asking Windows at each paint costs some
-    /// systems as much as a fill.
-    bool hasFocus() const noexcept { return m_focusTold; }
-    /// For whoever sees WM_SETFOCUS and WM_KILLFOCUS before the window's own procedure does.
-    void tellFocus(bool gained) noexcept { m_focusTold = gained; }
+    /// Whether the window has the keyboard. What its messages said is no answer: hosts forge and swallow
+    /// them.
+    bool hasFocus() const noexcept { return m_window && ::GetFocus() == m_window; }
     void enable(bool enabled) noexcept;
     void destroy() noexcept;
 
@@ -54,7 +52,10 @@ private:
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
     void button(UINT message, WPARAM wParam, LPARAM lParam);
+    void beginClick();
     void release(short button, WPARAM wParam, LPARAM lParam);
+    void captureLost();
+    void mouseLeft();
     void setCursor() const;
     void lost() noexcept;
     HWND forget() noexcept;
@@ -62,10 +63,9 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
-    SIZE m_size = {}; ///< the surface's, as it was last told; the next window begins with it
-    bool m_focusTold = false;
+    SIZE m_size = {};          ///< the surface's, as it was last told; the next window begins with it
     bool m_clipped = false;    ///< a region cuts off what the container does not show
-    bool m_clickBegun = false; ///< the left button went down here and has not come up
+    bool m_clickBegun = false; ///< the left button went down here, and its release is to come here
 };
 
 } // namespace quillet

@@ -1,0 +1,19 @@
+// How a subclassed window's messages reach the control that its user-data slot names.
+#pragma once
+
+#include <windows.h>
+
+#include <unknwn.h>
+
+namespace quillet {
+
+/// The component's own: no part of what it publishes. A control answers for it whoever aggregates it.
+struct WindowMessages : IUnknown {
+    /// Handles the message and passes it on; answers what the window's previous procedure answered.
+    virtual LRESULT handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept = 0;
+};
+
+} // namespace quillet
+
+__CRT_UUID_DECL(quillet::WindowMessages, 0x6E0B5A0C, 0x3A54, 0x4F0D, 0x9B, 0x1F, 0x52, 0xC7, 0x88, 0x31, 0xD4,
+                0x6A)
