@@ -2,6 +2,7 @@
 #include "bench/BareImagePainter.h"
 
 #include "bench/BarePainter.h"
+#include "bench/Rounds.h"
 
 namespace quillet::bench {
 
@@ -33,6 +34,7 @@ void BareImagePainter::paint(BareImageLook const& look) const
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
     SelectScope const selectedFont(dc.get(), m_plain.get());
     ::SetTextColor(dc.get(), look.fore);
+    require(::GetFocus() != m_window, "the painted button has no focus, which would make its edges thicker");
     fill(dc.get(), {0, 0, m_width, m_height}, look.back);
     edges(dc.get(), look);
     RECT piece = {m_keyAt, kBorder + 1, m_width - kBorder - 1, m_height - kBorder - 1};

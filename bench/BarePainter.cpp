@@ -56,10 +56,13 @@ void BarePainter::paint(BareLook const& look) const
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
     SelectScope const selectedFont(dc.get(), m_plain.get());
     ::SetTextColor(dc.get(), look.fore);
-    int inset = look.focused ? 2 : 1;
+    // The picture depends on it, and whoever paints has to ask: messages may be forged or swallowed. A window
+    // that only stands in for a button is told.
+    bool const focused = ::GetFocus() == m_window || look.focused;
+    int inset = focused ? 2 : 1;
     fill(dc.get(), inside(0), look.border);
     fill(dc.get(), inside(inset), look.back);
-    if (look.focused) {
+    if (focused) {
         inset += 2;
         fill(dc.get(), inside(inset), kFrame);
         fill(dc.get(), inside(inset + 1), look.back);
