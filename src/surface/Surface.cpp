@@ -62,6 +62,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
     auto* const inPlaceObject = static_cast<IOleInPlaceObject*>(&m_inPlace);
     auto* const stream = static_cast<IPersistStreamInit*>(&m_persistence);
     Row const rows[] = {
+        {__uuidof(WindowMessages), windowMessages()}, // first: asked for with each message of its window
         {IID_IDispatch, own},
         {m_class.interfaceId, own},
         {IID_IOleObject, &m_oleObject},
@@ -87,7 +88,6 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
         {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(&m_browsing)},
         {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&m_browsing)},
         {__uuidof(ICategorizeProperties), static_cast<ICategorizeProperties*>(&m_browsing)},
-        {__uuidof(WindowMessages), windowMessages()},
     };
     for (Row const& row : rows)
         if (iid == row.iid)
