@@ -98,7 +98,7 @@ Interface* newControl(wchar_t const* programId, int x, int y, int width, int hei
     return control;
 }
 
-void setCaption(_qvFlatCommand* button, wchar_t const* caption)
+template <class Interface> void setCaption(Interface* button, wchar_t const* caption)
 {
     BSTR const text = ::SysAllocString(caption);
     button->put_Caption(text);
@@ -114,6 +114,7 @@ bool fillWindow()
         return false;
 
     setCaption(save, L"&Save changes");
+    setCaption(check, L"Keep a &backup");
     save->put_CentreCaption(VARIANT_TRUE);
     save->put_HotBackColor(0x00F7DFD6);
     save->put_HotBorderColor(0x00C56A31);

@@ -44,7 +44,7 @@ begin
 
   FCheck := TEvsqvFlatCheck.Create(nil);
   FCheck.OnClick := @CheckClick;
-  FCheck.ComServer.Caption := 'qvFlatCheck';
+  FCheck.ComServer.Caption := 'Keep a &backup';
   Place(FCheck.ComServer, 20, 64, 120, 20);
 end;
 
