@@ -79,7 +79,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
         {IID_IObjectSafety, &m_objectSafety},
         {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(&m_browsing)},
         {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&m_browsing)},
-        {__uuidof(ICategorizeProperties), static_cast<ICategorizeProperties*>(&m_browsing)},
+        {kCategorizeProperties, static_cast<ICategorizeProperties*>(&m_browsing)},
     };
     for (Row const& row : rows)
         if (iid == row.iid)

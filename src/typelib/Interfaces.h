@@ -1,6 +1,7 @@
 // The published interfaces as C++ types, in vtable order, each with its __uuidof.
 #pragma once
 
+#include "base/Compiler.h"
 #include "typelib/Enumerations.h"
 
 #include <ocidl.h>
@@ -43,5 +44,5 @@ struct __qvImageCommand : IDispatch {};
 
 } // namespace quillet
 
-#define QV_INTERFACE_ID(constant, type, ...) __CRT_UUID_DECL(quillet::type, __VA_ARGS__)
+#define QV_INTERFACE_ID(constant, type, ...) QV_INTERFACE_UUID(quillet::type, __VA_ARGS__)
 #include "typelib/Guids.inc"
