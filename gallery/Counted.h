@@ -60,7 +60,8 @@ private:
         if (iid == __uuidof(IUnknown))
             found = static_cast<Identity*>(this);
         else
-            ((iid == __uuidof(Faces) ? (found = static_cast<Faces*>(this), true) : false) || ...);
+            static_cast<void>(
+                ((iid == __uuidof(Faces) ? (found = static_cast<Faces*>(this), true) : false) || ...));
         return found ? found : inheritedFace(iid);
     }
 
