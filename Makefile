@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench soak fuzz hostile schemes dist check clean
+.PHONY: help build test gallery bench soak fuzz hostile schemes dist samples check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -31,7 +31,10 @@ schemes: ## tests and pictures at other resolutions and in a high-contrast schem
 dist: ## out/dist/quillet-*.zip, what is shipped
 	@tools/dist
 
-check: ## format, links, tidy, build, tests, fuzzing, benchmarks and archives in short
+samples: ## the samples for each kind of host, built and used where they can run
+	@tools/samples
+
+check: ## format, links, tidy, build, tests, samples, fuzzing, benchmarks and archives in short
 	@tools/check
 
 clean: ## removes everything that was built

@@ -1,4 +1,8 @@
 # The warnings and code generation of everything that is ours.
+if(MSVC)
+    include(${CMAKE_CURRENT_LIST_DIR}/msvc.cmake)
+    return()
+endif()
 add_library(quillet_options INTERFACE)
 target_compile_features(quillet_options INTERFACE cxx_std_20)
 target_compile_definitions(quillet_options INTERFACE
@@ -8,6 +12,7 @@ target_compile_options(quillet_options INTERFACE
     # (COM interfaces have no virtual destructors; -Wall finds a delete that would need one.)
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Woverloaded-virtual -Werror
     -Wno-array-bounds -Wno-restrict # GCC 12 finds fault with its own string library's appending
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option> # which clang has no word for
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
     -ffunction-sections -fdata-sections)
 # Static run time: only system DLLs are imported. No time stamp: equal sources give equal files.

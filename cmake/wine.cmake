@@ -1,5 +1,9 @@
-# Programs run under Wine in a prefix of this build folder's own.
-set(QUILLET_WINE ${CMAKE_SOURCE_DIR}/tools/wine ${CMAKE_BINARY_DIR}/wineprefix)
+# Programs run under Wine in a prefix of this build folder's own; on Windows they just run.
+if(CMAKE_HOST_WIN32)
+    set(QUILLET_WINE)
+else()
+    set(QUILLET_WINE ${CMAKE_SOURCE_DIR}/tools/wine ${CMAKE_BINARY_DIR}/wineprefix)
+endif()
 
 # Adds one test program of many cases: quillet_test(NAME sources… LIBRARIES libraries…)
 function(quillet_test name)

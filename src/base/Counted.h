@@ -61,7 +61,9 @@ private:
         if (iid == __uuidof(IUnknown))
             found = static_cast<Identity*>(this);
         else
-            ((iid == __uuidof(Interfaces) ? (found = static_cast<Interfaces*>(this), true) : false) || ...);
+            static_cast<void>(
+                ((iid == __uuidof(Interfaces) ? (found = static_cast<Interfaces*>(this), true) : false) ||
+                 ...));
         return found ? found : inheritedInterface(iid);
     }
 

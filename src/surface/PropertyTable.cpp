@@ -1,6 +1,7 @@
 // A control's properties as rows: the types of each kind.
 #include "surface/PropertyTable.h"
 
+#include "base/Compiler.h"
 #include "saving/StandardFont.h"
 
 namespace quillet {
@@ -32,7 +33,7 @@ KindRow const& rowOf(PropertyKind kind) noexcept
     for (KindRow const& row : kKinds)
         if (row.kind == kind)
             return row;
-    __builtin_unreachable();
+    unreachable();
 }
 
 /// Whether an object is what a property of that kind holds and hands out, and can be saved.

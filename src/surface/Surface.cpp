@@ -14,7 +14,7 @@ IUnknown* outerOf(Surface const& surface) noexcept { return surface.outer(); }
 
 HRESULT queryFace(Surface& surface, REFIID iid, void** object) noexcept
 {
-    IUnknown* const asked = iid == __uuidof(WindowMessages) ? surface.inner() : surface.outer();
+    IUnknown* const asked = iid == kWindowMessagesInterface ? surface.inner() : surface.outer();
     return asked->QueryInterface(iid, object);
 }
 
@@ -62,7 +62,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
     auto* const inPlaceObject = static_cast<IOleInPlaceObject*>(&m_inPlace);
     auto* const stream = static_cast<IPersistStreamInit*>(&m_persistence);
     Row const rows[] = {
-        {__uuidof(WindowMessages), windowMessages()}, // first: asked for with each message of its window
+        {kWindowMessagesInterface, windowMessages()}, // first: asked for with each message of its window
         {IID_IDispatch, own},
         {m_class.interfaceId, own},
         {IID_IOleObject, &m_oleObject},
@@ -87,7 +87,7 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
         {IID_IObjectSafety, &m_objectSafety},
         {IID_IPerPropertyBrowsing, static_cast<IPerPropertyBrowsing*>(&m_browsing)},
         {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&m_browsing)},
-        {__uuidof(ICategorizeProperties), static_cast<ICategorizeProperties*>(&m_browsing)},
+        {kCategorizeProperties, static_cast<ICategorizeProperties*>(&m_browsing)},
     };
     for (Row const& row : rows)
         if (iid == row.iid)

@@ -1,6 +1,7 @@
 // The published interfaces as C++ types, in vtable order, each with its __uuidof.
 #pragma once
 
+#include "base/Compiler.h"
 #include "typelib/Enumerations.h"
 
 #include <ocidl.h>
@@ -15,22 +16,18 @@ struct _qvFlatCommand : IDispatch {
 };
 
 struct _qvFlatOption : IDispatch {
-#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvFlatOption.inc"
 };
 
 struct _qvFlatCheck : IDispatch {
-#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvFlatCheck.inc"
 };
 
 struct _FlatToolButton : IDispatch {
-#include "typelib/InterfaceRows.inc"
 #include "typelib/members/FlatToolButton.inc"
 };
 
 struct _qvImageCommand : IDispatch {
-#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvImageCommand.inc"
 };
 
@@ -43,5 +40,5 @@ struct __qvImageCommand : IDispatch {};
 
 } // namespace quillet
 
-#define QV_INTERFACE_ID(constant, type, ...) __CRT_UUID_DECL(quillet::type, __VA_ARGS__)
+#define QV_INTERFACE_ID(constant, type, ...) QV_INTERFACE_UUID(quillet::type, __VA_ARGS__)
 #include "typelib/Guids.inc"

@@ -76,7 +76,8 @@ TTTOOLINFOA toolOf(HWND window) noexcept
 /// The control of a subclassed window; empty where the slot holds none.
 ComPtr<WindowMessages> ControlFromHwnd(HWND window) noexcept
 {
-    return query<WindowMessages>(reinterpret_cast<IDispatch*>(::GetWindowLongPtrA(window, GWLP_USERDATA)));
+    return query<WindowMessages>(reinterpret_cast<IDispatch*>(::GetWindowLongPtrA(window, GWLP_USERDATA)),
+                                 kWindowMessagesInterface);
 }
 
 } // namespace

@@ -20,7 +20,8 @@ constexpr DISPID kNoProperty = 0x6803FFFF;
 class Browsing : public SurfaceTest {
 protected:
     ComPtr<IPerPropertyBrowsing> browsing = as<IPerPropertyBrowsing>();
-    ComPtr<ICategorizeProperties> headings = as<ICategorizeProperties>();
+    ComPtr<ICategorizeProperties> headings =
+        query<ICategorizeProperties>(browsing.get(), kCategorizeProperties);
     ComPtr<_qvFlatCommand> button = as<_qvFlatCommand>();
 
     void SetUp() override

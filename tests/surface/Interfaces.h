@@ -1,6 +1,8 @@
 // The interfaces that a control offers and those that it must not offer.
 #pragma once
 
+#include "base/Compiler.h"
+
 #include <objsafe.h>
 #include <ocidl.h>
 #include <olectl.h>
@@ -9,7 +11,7 @@
 #include <docobj.h>
 
 // The tool chain's header declares the interface without its identifier.
-__CRT_UUID_DECL(IObjectSafety, 0xCB5BDC81, 0x93C1, 0x11CF, 0x8F, 0x20, 0x00, 0x80, 0x5F, 0x2C, 0xD0, 0x64)
+QV_INTERFACE_UUID(IObjectSafety, 0xCB5BDC81, 0x93C1, 0x11CF, 0x8F, 0x20, 0x00, 0x80, 0x5F, 0x2C, 0xD0, 0x64)
 
 namespace quillet::hosting {
 

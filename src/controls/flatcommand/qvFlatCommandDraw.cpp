@@ -7,6 +7,7 @@
 #include "drawing/OffScreenDC.h"
 #include "surface/window/PaintTarget.h"
 #include "typelib/DispatchIds.h"
+#include "typelib/Guids.h"
 
 namespace quillet {
 
@@ -20,7 +21,7 @@ constexpr COLORREF kLightGrey = 0xE0E0E0;
 constexpr long kFixedSingle = 1;
 
 /// The buttons whose focus takes the emphasis from the form's default button. A tool button is not one.
-constexpr IID kEmphasisTakers[] = {__uuidof(_qvFlatCommand), __uuidof(_qvImageCommand), kIntrinsicButton};
+constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kQvImageCommandInterface, kIntrinsicButton};
 
 } // namespace
 

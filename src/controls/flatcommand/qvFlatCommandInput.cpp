@@ -2,6 +2,7 @@
 #include "controls/flatcommand/qvFlatCommand.h"
 #include "surface/window/Cursor.h"
 #include "typelib/DispatchIds.h"
+#include "typelib/Guids.h"
 #include "winsvc/modCmdSupport.h"
 
 namespace quillet {
@@ -52,7 +53,7 @@ void qvFlatCommand::refreshSiblings() noexcept
     ignoringErrors([&] {
         CursorMoment const moment;
         for (auto const& sibling : container().parentControls())
-            if (auto const button = controlInterface(sibling.get(), __uuidof(_qvFlatCommand)))
+            if (auto const button = controlInterface(sibling.get(), kQvFlatCommandInterface))
                 check(static_cast<_qvFlatCommand*>(button.get())->Refresh());
     });
 }

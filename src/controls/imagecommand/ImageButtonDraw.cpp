@@ -10,7 +10,7 @@
 #include "saving/StandardPicture.h"
 #include "surface/window/PaintTarget.h"
 #include "typelib/DispatchIds.h"
-#include "typelib/Interfaces.h"
+#include "typelib/Guids.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,7 +24,7 @@ constexpr long kPictureMargin = 4; // pixels inside the border, whatever the cap
 constexpr long kPictureGap = 1;    // pixels between picture and caption
 
 /// The buttons whose focus takes the emphasis from the form's default button: no image button is one.
-constexpr IID kEmphasisTakers[] = {__uuidof(_qvFlatCommand), kIntrinsicButton};
+constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kIntrinsicButton};
 
 /// The first of the pictures that is one; the last where none is.
 template <class... More> IPictureDisp* firstSet(IPictureDisp* picture, More*... more) noexcept

@@ -114,7 +114,7 @@ void qvFlatOption::clearSiblings() noexcept
         CursorMoment const moment;
         LONG const own = HandleToLong(innerButton().handle());
         for (auto const& control : container().parentControls()) {
-            auto const sibling = controlInterface(control.get(), __uuidof(_qvFlatOption));
+            auto const sibling = controlInterface(control.get(), kQvFlatOptionInterface);
             auto* const option = static_cast<_qvFlatOption*>(sibling.get());
             LONG window = 0;
             if (option && IsSameContainer(control.get()) && SUCCEEDED(option->get_hwnd(&window)) &&

@@ -1,6 +1,7 @@
 // Mouse messages taken apart: which button, what happened to it, and the arguments of a mouse event.
 #include "surface/window/MouseMessage.h"
 
+#include "base/Compiler.h"
 #include "base/Scale.h"
 
 #include <windowsx.h>
@@ -42,7 +43,7 @@ ButtonMessage const& buttonMessage(UINT message) noexcept
     for (ButtonMessage const& row : kMessages)
         if (row.message == message)
             return row;
-    __builtin_unreachable();
+    unreachable();
 }
 
 short heldButtons(WPARAM keys) noexcept

@@ -7,6 +7,9 @@
 
 namespace quillet {
 
+inline constexpr IID kWindowMessagesInterface = {
+    0x6E0B5A0C, 0x3A54, 0x4F0D, {0x9B, 0x1F, 0x52, 0xC7, 0x88, 0x31, 0xD4, 0x6A}};
+
 /// The component's own: no part of what it publishes. A control answers for it whoever aggregates it.
 struct WindowMessages : IUnknown {
     /// Handles the message and passes it on; answers what the window's previous procedure answered.
@@ -14,6 +17,3 @@ struct WindowMessages : IUnknown {
 };
 
 } // namespace quillet
-
-__CRT_UUID_DECL(quillet::WindowMessages, 0x6E0B5A0C, 0x3A54, 0x4F0D, 0x9B, 0x1F, 0x52, 0xC7, 0x88, 0x31, 0xD4,
-                0x6A)

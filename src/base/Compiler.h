@@ -1,0 +1,26 @@
+// What the compilers spell differently: gcc and clang with mingw-w64's headers, and Visual C++.
+#pragma once
+
+#include <windows.h>
+
+namespace quillet {
+
+/// Tells the compiler that control never gets here.
+[[noreturn]] inline void unreachable() noexcept
+{
+#ifdef _MSC_VER
+    __assume(false);
+#else
+    __builtin_unreachable();
+#endif
+}
+
+} // namespace quillet
+
+/// Gives an interface its __uuidof, from the eleven numbers of the identifier; at global scope.
+#ifdef __CRT_UUID_DECL
+#define QV_INTERFACE_UUID(type, ...) __CRT_UUID_DECL(type, __VA_ARGS__)
+#else
+// Visual C++ takes a uuid at a declaration alone, as text: there our own interfaces go by their constants.
+#define QV_INTERFACE_UUID(type, ...)
+#endif
