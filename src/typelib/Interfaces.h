@@ -16,18 +16,22 @@ struct _qvFlatCommand : IDispatch {
 };
 
 struct _qvFlatOption : IDispatch {
+#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvFlatOption.inc"
 };
 
 struct _qvFlatCheck : IDispatch {
+#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvFlatCheck.inc"
 };
 
 struct _FlatToolButton : IDispatch {
+#include "typelib/InterfaceRows.inc"
 #include "typelib/members/FlatToolButton.inc"
 };
 
 struct _qvImageCommand : IDispatch {
+#include "typelib/InterfaceRows.inc"
 #include "typelib/members/qvImageCommand.inc"
 };
 
