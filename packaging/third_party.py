@@ -71,8 +71,8 @@ def notices(rows):
     for *_, packages in rows:
         for package in packages:
             text = pathlib.Path(f"/usr/share/doc/{package}/copyright").read_text(encoding="utf-8", errors="replace")
-            texts.setdefault(text, []).append(package)
+            texts.setdefault(text, set()).add(package)
     parts = [INTRODUCTION.format(table=table)]
-    for text, packages in sorted(texts.items(), key=lambda each: each[1]):
-        parts.append(f"{RULE}\n{', '.join(packages)}\n{RULE}\n\n{text}")
+    for text, packages in sorted(texts.items(), key=lambda each: min(each[1])):
+        parts.append(f"{RULE}\n{', '.join(sorted(packages))}\n{RULE}\n\n{text}")
     return "\n".join(parts)
