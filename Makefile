@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench soak fuzz hostile schemes dist samples check clean
+.PHONY: help build test gallery bench soak fuzz hostile schemes dist msi sign samples check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -28,11 +28,17 @@ hostile: ## the long form of the tests in hostile containers; RUNS=2000 random r
 schemes: ## tests and pictures at other resolutions and in a high-contrast scheme
 	@tools/schemes $(DPI)
 
-dist: ## out/dist/quillet-*.zip, what is shipped
+dist: ## out/dist/quillet-*.zip, what is shipped, and its symbols apart
 	@tools/dist
 
 samples: ## the samples for each kind of host, built and used where they can run
 	@tools/samples
+
+msi: ## out/dist/quillet-*.msi, the installers
+	@tools/msi
+
+sign: ## the same, signed, in out/signed/dist; CERT=chain.pem KEY=key.pem, TIMESTAMP=http://… if wanted
+	@tools/sign "$(CERT)" "$(KEY)" "$(TIMESTAMP)"
 
 check: ## format, links, tidy, build, tests, samples, fuzzing, benchmarks and archives in short
 	@tools/check

@@ -19,7 +19,7 @@ target_compile_options(quillet_options INTERFACE
 target_link_options(quillet_options INTERFACE
     -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
     $<$<STREQUAL:${QUILLET_ARCH},x64>:-Wl,--high-entropy-va>
-    $<$<CONFIG:Release>:-s>)
+    $<$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_SYMBOLS>>>>:-s>)
 if(QUILLET_ARCH STREQUAL x86)
     # Doubles of 64 bits on both architectures; a 32-bit host aligns the stack to 4 bytes only.
     target_compile_options(quillet_options INTERFACE -msse2 -mfpmath=sse -mstackrealign)

@@ -1,6 +1,7 @@
 // What a class's own type description says of its properties.
 #include "browse/DescribedProperties.h"
 
+#include "base/Borrowed.h"
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 #include "base/RunTimeError.h"
@@ -16,28 +17,6 @@ namespace {
 
 /// The standard OLE type library's colour.
 constexpr GUID kOleColor = {0x66504301, 0xBE0F, 0x101A, {0x8B, 0xBB, 0x00, 0xAA, 0x00, 0x30, 0x0C, 0xAB}};
-
-/// Borrows one of a type description's records for a scope.
-template <class Record, void (STDMETHODCALLTYPE ITypeInfo::*release)(Record*)> class Borrowed {
-public:
-    explicit Borrowed(ITypeInfo& owner) noexcept : m_owner(owner) {}
-    ~Borrowed()
-    {
-        if (m_record)
-            (m_owner.*release)(m_record);
-    }
-    Borrowed(Borrowed const&) = delete;
-    Borrowed& operator=(Borrowed const&) = delete;
-    Record** put() noexcept { return &m_record; }
-    Record const* operator->() const noexcept { return m_record; }
-
-private:
-    ITypeInfo& m_owner;
-    Record* m_record = nullptr;
-};
-using TypeRecord = Borrowed<TYPEATTR, &ITypeInfo::ReleaseTypeAttr>;
-using FunctionRecord = Borrowed<FUNCDESC, &ITypeInfo::ReleaseFuncDesc>;
-using VariableRecord = Borrowed<VARDESC, &ITypeInfo::ReleaseVarDesc>;
 
 std::wstring nameOf(ITypeInfo& info, MEMBERID id)
 {

@@ -5,6 +5,7 @@
 #include "base/ComPtr.h"
 #include "kit/Library.h"
 #include "shell/RegistryKey.h"
+#include "shell/TypeLibraryRows.h"
 #include "typelib/Guids.h"
 
 #include <ole2.h>
@@ -241,6 +242,29 @@ TEST_F(Registration, twiceIsTheSameAsOnceAndUnregisteringLeavesTheRegistryAsItWa
     EXPECT_EQ(differences(once, allClasses(HKEY_LOCAL_MACHINE)), kNone);
     ASSERT_EQ(regsvr32(L"/u"), 0u);
     EXPECT_EQ(differences(before, allClasses(HKEY_LOCAL_MACHINE)), kNone);
+}
+
+/// The rows as they would be found; of keys there is none but those with values.
+Snapshot snapshotOf(std::vector<RegistryRow> const& rows)
+{
+    Snapshot values;
+    for (RegistryRow const& row : rows)
+        values[lowered(row.key + L"@" + row.name)] = row.text;
+    return values;
+}
+
+TEST_F(Registration, givesInstallersTheRowsThatTheSystemWritesForTheTypeLibrary)
+{
+    ASSERT_EQ(regsvr32(L""), 0u);
+    ComPtr<ITypeLib> library;
+    ASSERT_EQ(::LoadTypeLibEx(kit::Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
+    Snapshot const rows = snapshotOf(typeLibraryRows(*library.get(), kit::Library::path(), folder()));
+    Snapshot written = ofTypeLibrary(HKEY_LOCAL_MACHINE);
+    // Keys have no text; and some systems write the marshaller a second time, for 16-bit programs.
+    std::erase_if(written, [](auto const& each) {
+        return each.first.ends_with(L'\\') || each.first.ends_with(L"proxystubclsid@");
+    });
+    EXPECT_EQ(differences(rows, written), kNone);
 }
 
 TEST_F(Registration, letsTheSystemFindEachClassByName)
