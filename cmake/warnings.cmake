@@ -10,9 +10,10 @@ target_compile_options(quillet_options INTERFACE
     -Wno-array-bounds -Wno-restrict # GCC 12 finds fault with its own string library's appending
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
     -ffunction-sections -fdata-sections)
-# Static run time: only system DLLs are imported. No time stamp: equal sources give equal files.
+# Static run time: only system DLLs are imported (a target may ask for another). No time stamp: equal sources give equal files.
 target_link_options(quillet_options INTERFACE
-    -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_SHARED_RUN_TIME>>>:-static>
+    -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
     $<$<STREQUAL:${QUILLET_ARCH},x64>:-Wl,--high-entropy-va>
     $<$<CONFIG:Release>:-s>)
 if(QUILLET_ARCH STREQUAL x86)
