@@ -6,8 +6,18 @@
 #include <windows.h>
 
 #include <span>
+#include <string_view>
 
 namespace quillet {
+
+/// The member of that name; DISPID_UNKNOWN where there is none.
+constexpr DISPID idOfMember(std::span<MemberName const> members, std::wstring_view name) noexcept
+{
+    for (MemberName const& member : members)
+        if (member.name == name)
+            return member.id;
+    return DISPID_UNKNOWN;
+}
 
 /// One constant per control; everything else that the surface does is the same for all of them.
 struct ControlClass {
@@ -18,6 +28,11 @@ struct ControlClass {
     wchar_t const* progId;               ///< where its errors come from, such as "Quillet.qvFlatCommand"
     DWORD miscStatus;                    ///< OLEMISC flags
     std::span<MemberName const> members; ///< of the default interface
+
+    // The properties whose changes screen readers hear of: looked for while compiling, not at each change.
+    DISPID caption = idOfMember(members, L"Caption");
+    DISPID enabled = idOfMember(members, L"Enabled");
+    DISPID checked = idOfMember(members, L"Checked");
 };
 
 /// The name of the verb that activates a control, as container menus show it.
