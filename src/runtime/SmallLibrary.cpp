@@ -9,10 +9,9 @@
 #include <new>
 
 // The library's own prints the exception, for which it can take C++ names apart.
-namespace __cxxabiv1 {
-extern std::terminate_handler __terminate_handler; // NOLINT(bugprone-reserved-identifier): the library's name
-std::terminate_handler __terminate_handler = std::abort;
-} // namespace __cxxabiv1
+namespace __gnu_cxx {
+void __verbose_terminate_handler() { std::abort(); }
+} // namespace __gnu_cxx
 
 // What containers and strings throw. The library's own are exceptions with texts, in strings of two kinds;
 // here nobody reads the texts: at the boundary each becomes E_UNEXPECTED, or E_OUTOFMEMORY, either way.
