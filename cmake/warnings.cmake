@@ -15,12 +15,15 @@ target_compile_options(quillet_options INTERFACE
     $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option> # which clang has no word for
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
     -ffunction-sections -fdata-sections)
-# Static run time: only system DLLs are imported. No time stamp: equal sources give equal files.
+# Static run time: only system DLLs are imported (a target may ask for another). No time stamp: equal sources give equal files.
 target_link_options(quillet_options INTERFACE
-    -static -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_SHARED_RUN_TIME>>>:-static>
+    -Wl,--gc-sections -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat
     $<$<STREQUAL:${QUILLET_ARCH},x64>:-Wl,--high-entropy-va>
     $<$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_SYMBOLS>>>>:-s>)
 if(QUILLET_ARCH STREQUAL x86)
-    # Doubles of 64 bits on both architectures; a 32-bit host aligns the stack to 4 bytes only.
-    target_compile_options(quillet_options INTERFACE -msse2 -mfpmath=sse -mstackrealign)
+    # Doubles of 64 bits on both architectures; a 32-bit host aligns the stack to 4 bytes only. GCC is told that this is
+    # enough for us, too, and aligns where something needs more: a thirtieth less code than aligning at every entry.
+    target_compile_options(quillet_options INTERFACE -msse2 -mfpmath=sse
+        $<IF:$<C_COMPILER_ID:GNU>,-mpreferred-stack-boundary=2,-mstackrealign>)
 endif()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Variant.h"
-#include "surface/PropertyTable.h"
+#include "surface/PropertyKinds.h"
 
 namespace quillet::fuzz {
 

@@ -4,6 +4,7 @@
 #include "base/Borrowed.h"
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
+#include "base/DecimalText.h"
 #include "base/RunTimeError.h"
 
 #include <ocidl.h>
@@ -34,7 +35,7 @@ std::vector<Choice> choicesOf(ITypeInfo& enumeration, WORD count)
         if (variable->varkind != VAR_CONST)
             continue;
         long const value = variable->lpvarValue->lVal;
-        choices.push_back({value, std::to_wstring(value) + L" - " + nameOf(enumeration, variable->memid)});
+        choices.push_back({value, decimalText(value) + L" - " + nameOf(enumeration, variable->memid)});
     }
     return choices;
 }
@@ -62,9 +63,9 @@ std::vector<Choice> mousePointers()
     std::vector<Choice> choices;
     for (wchar_t const* const name : kNames) {
         auto const value = static_cast<long>(choices.size());
-        choices.push_back({value, std::to_wstring(value) + L" - " + name});
+        choices.push_back({value, decimalText(value) + L" - " + name});
     }
-    choices.push_back({kCustom, std::to_wstring(kCustom) + L" - Custom"});
+    choices.push_back({kCustom, decimalText(kCustom) + L" - Custom"});
     return choices;
 }
 

@@ -1,6 +1,7 @@
 // What the registry holds about a class: one row for each key or value.
 #include "shell/RegistryRows.h"
 
+#include "base/DecimalText.h"
 #include "typelib/Guids.h"
 
 #include <objbase.h>
@@ -60,7 +61,7 @@ std::wstring versionedProgId(ClassRow const& row) { return currentProgId(row) + 
 std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& componentPath)
 {
     std::wstring const key = classKey(row.controlClass().classId);
-    std::wstring const status = std::to_wstring(row.controlClass().miscStatus);
+    std::wstring const status = decimalText(static_cast<long>(row.controlClass().miscStatus));
     std::vector<RegistryRow> rows = serverRows(key, row.description, componentPath);
     std::vector<RegistryRow> const controlRows{
         {key + L"\\ProgID", L"", versionedProgId(row)},
@@ -69,7 +70,7 @@ std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& c
         keyOnly(key + L"\\Programmable"),
         {key + L"\\MiscStatus", L"", L"0"},
         {key + L"\\MiscStatus\\1", L"", status}, // 1: as content, the aspect of a control on a form
-        {key + L"\\ToolboxBitmap32", L"", componentPath + L", " + std::to_wstring(row.toolboxBitmap)},
+        {key + L"\\ToolboxBitmap32", L"", componentPath + L", " + decimalText(row.toolboxBitmap)},
         {key + L"\\TypeLib", L"", guidText(kLibraryId)},
         {key + L"\\Version", L"", L"1.0"},
         {key + L"\\Verb\\0", L"",

@@ -6,7 +6,18 @@
 
 #include <windows.h>
 
+#include <string_view>
+
 namespace quillet {
+
+/// The member of that name; DISPID_UNKNOWN where there is none.
+constexpr DISPID idOfMember(Members members, std::wstring_view name) noexcept
+{
+    for (Member const& member : members)
+        if (member.name == name)
+            return member.id;
+    return DISPID_UNKNOWN;
+}
 
 /// One constant per control; everything else that the surface does is the same for all of them.
 struct ControlClass {
@@ -18,6 +29,11 @@ struct ControlClass {
     DWORD miscStatus;      ///< OLEMISC flags
     Members members;       ///< of the default interface
     DWORD helpContext;     ///< the help file's topic about it
+
+    // The properties whose changes screen readers hear of: looked for while compiling, not at each change.
+    DISPID caption = idOfMember(members, L"Caption");
+    DISPID enabled = idOfMember(members, L"Enabled");
+    DISPID checked = idOfMember(members, L"Checked");
 
     ErrorSource errorSource() const noexcept { return {progId, interfaceId, helpContext}; }
 };

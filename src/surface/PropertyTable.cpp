@@ -1,130 +1,306 @@
-// A control's properties as rows: the types of each kind.
+// A control's properties as rows: what is done with one of them, and with all.
 #include "surface/PropertyTable.h"
 
 #include "base/Compiler.h"
-#include "saving/StandardFont.h"
+#include "base/RunTimeError.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <vector>
 
 namespace quillet {
 
 namespace {
 
-struct KindRow {
-    PropertyKind kind;
-    VARTYPE kept;
-    VARTYPE saved;
-};
-
-constexpr KindRow kKinds[] = {
-    {PropertyKind::Colour, VT_I4, VT_I4},
-    {PropertyKind::Flag, VT_BOOL, VT_BOOL},
-    {PropertyKind::FlagAsInteger, VT_BOOL, VT_I2},
-    {PropertyKind::Integer, VT_I2, VT_I2},
-    {PropertyKind::Number, VT_I4, VT_I4},
-    {PropertyKind::Style, VT_I4, VT_I2},
-    {PropertyKind::State, VT_I2, VT_I2},
-    {PropertyKind::Text, VT_BSTR, VT_BSTR},
-    {PropertyKind::Font, VT_UNKNOWN, VT_UNKNOWN},
-    {PropertyKind::OwnFont, VT_UNKNOWN, VT_UNKNOWN},
-    {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
-};
-
-KindRow const& rowOf(PropertyKind kind) noexcept
+template <class Field> Field& fieldOf(Surface const& control, PropertyAccess const& access)
 {
-    for (KindRow const& row : kKinds)
-        if (row.kind == kind)
-            return row;
+    return *static_cast<Field*>(access.field(const_cast<Surface&>(control)));
+}
+
+Variant valueOf(Surface const& control, PropertyAccess const& access)
+{
+    if (!access.field)
+        return access.get(control);
+    switch (access.type) {
+    case FieldType::Bool:
+        return fieldValue(fieldOf<bool>(control, access));
+    case FieldType::Short:
+        return fieldValue(fieldOf<short>(control, access));
+    case FieldType::Long:
+        return fieldValue(fieldOf<long>(control, access));
+    case FieldType::Colour:
+        return fieldValue(fieldOf<OLE_COLOR>(control, access));
+    case FieldType::Text:
+        return fieldValue(fieldOf<Bstr>(control, access));
+    case FieldType::Font:
+        return fieldValue(fieldOf<ComPtr<IFontDisp>>(control, access).get());
+    case FieldType::Picture:
+        return fieldValue(fieldOf<ComPtr<IPictureDisp>>(control, access).get());
+    }
     unreachable();
 }
 
-/// Whether an object is what a property of that kind holds and hands out, and can be saved.
-bool isOfKind(PropertyKind kind, IUnknown* object) noexcept
+void store(Surface& control, PropertyAccess const& access, Variant const& value)
 {
-    bool const fits = isFont(kind) ? query<IFont>(object) && query<IFontDisp>(object)
-                                   : query<IPicture>(object) && query<IPictureDisp>(object);
-    return fits && query<IPersistStream>(object);
-}
-
-/// A font or picture as its property keeps it; everything that can go wrong with the object goes wrong here.
-/// A font that is not there is an error; a picture may be missing.
-Variant convertedObject(PropertyKind kind, IUnknown* object)
-{
-    if (!object && isFont(kind))
-        throw RunTimeError(ErrorNumber::ObjectNotSet);
-    if (!object)
-        return Variant::ofUnknown(nullptr);
-    if (!isOfKind(kind, object))
-        throw RunTimeError(ErrorNumber::TypeMismatch);
-    if (kind != PropertyKind::OwnFont)
-        return Variant::ofUnknown(object);
-    auto const own = copyOfFont(object);
-    if (!own)
-        throw RunTimeError(ErrorNumber::TypeMismatch);
-    return Variant::ofUnknown(own.get());
-}
-
-/// Colours with the top bit set come as negative, as unsigned and as text of either.
-Variant convertedColour(Variant const& value)
-{
-    try {
-        return value.convertedTo(VT_I4);
-    } catch (RunTimeError const&) {
-        return Variant::ofLong(static_cast<long>(value.convertedTo(VT_UI4).get().ulVal));
+    if (!access.field)
+        return access.set(control, value);
+    switch (access.type) {
+    case FieldType::Bool:
+        fieldOf<bool>(control, access) = value.toBool();
+        return;
+    case FieldType::Short:
+        fieldOf<short>(control, access) = value.toShort();
+        return;
+    case FieldType::Long:
+        fieldOf<long>(control, access) = value.toLong();
+        return;
+    case FieldType::Colour:
+        fieldOf<OLE_COLOR>(control, access) = colourOf(value);
+        return;
+    case FieldType::Text:
+        fieldOf<Bstr>(control, access) = value.toString();
+        return;
+    case FieldType::Font:
+        fieldOf<ComPtr<IFontDisp>>(control, access) = query<IFontDisp>(value.toObject().get());
+        return;
+    case FieldType::Picture:
+        fieldOf<ComPtr<IPictureDisp>>(control, access) = query<IPictureDisp>(value.toObject().get());
+        return;
     }
 }
 
-Variant convertedState(Variant const& value)
+/// A number through a vtable is of its property's own type and stored as it comes, without a variant. False
+/// where there is no field that takes numbers.
+bool storeNumber(Surface& control, PropertyRow const& row, long number)
 {
-    short const state = value.toShort();
-    if (state < 0 || state > 2)
-        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
-    return Variant::ofShort(state);
+    if (!row.access.field || row.assign)
+        return false;
+    switch (row.access.type) {
+    case FieldType::Bool:
+        fieldOf<bool>(control, row.access) = number != VARIANT_FALSE;
+        return true;
+    case FieldType::Short:
+        fieldOf<short>(control, row.access) = static_cast<short>(number);
+        return true;
+    case FieldType::Long:
+        fieldOf<long>(control, row.access) = number;
+        return true;
+    case FieldType::Colour:
+        fieldOf<OLE_COLOR>(control, row.access) = static_cast<OLE_COLOR>(number);
+        return true;
+    case FieldType::Text:
+    case FieldType::Font:
+    case FieldType::Picture:
+        return false;
+    }
+    return false;
+}
+
+/// Arguments come by their addresses; of their types we know the automation type alone.
+template <class Argument> Argument taken(void const* value) noexcept
+{
+    Argument argument;
+    std::memcpy(&argument, value, sizeof(argument));
+    return argument;
+}
+template <class Argument> void give(void* out, Argument value) noexcept
+{
+    std::memcpy(out, &value, sizeof(value));
+}
+
+/// A member's argument as a variant.
+Variant argumentValue(PropertyKind kind, VARTYPE type, void const* value)
+{
+    switch (type) {
+    case VT_BSTR:
+        return Variant::ofString(Bstr::viewOf(*static_cast<BSTR const*>(value)));
+    case VT_VARIANT:
+        return Variant::copyOf(*static_cast<VARIANT const*>(value));
+    case VT_UNKNOWN:
+        return Variant::ofUnknown(taken<IUnknown*>(value));
+    case VT_I2: {
+        auto const number = taken<short>(value);
+        return keptType(kind) == VT_BOOL ? Variant::ofBool(number != VARIANT_FALSE)
+                                         : Variant::ofShort(number);
+    }
+    default:
+        return Variant::ofLong(taken<long>(value));
+    }
+}
+
+/// A property's value into a caller's out-parameter.
+void answerValue(PropertyKind kind, Variant value, VARTYPE type, void* out)
+{
+    switch (type) {
+    case VT_BSTR:
+        *static_cast<BSTR*>(out) = value.toString().copy();
+        return;
+    case VT_VARIANT:
+        *static_cast<VARIANT*>(out) = value.detach();
+        return;
+    case VT_UNKNOWN: {
+        auto const object = value.toObject();
+        if (isFont(kind))
+            give(out, query<IFontDisp>(object.get()).detach());
+        else
+            give(out, query<IPictureDisp>(object.get()).detach());
+        return;
+    }
+    case VT_I2:
+        give(out, value.get().iVal); // VT_BOOL shares it
+        return;
+    default:
+        give(out, value.get().lVal);
+        return;
+    }
+}
+
+Variant fallbackOf(Surface const& control, PropertyRow const& row)
+{
+    if (isFont(row.kind)) // the container's, already a copy
+        return Variant::ofUnknown(control.container().ambientFont().get());
+    if (row.kind == PropertyKind::Text)
+        return Variant::ofString(row.fallbackText);
+    return plainFallback(row.kind, row.fallback);
+}
+
+Variant savedFallback(Surface const& control, PropertyRow const& row)
+{
+    return savedProperty(row.kind, fallbackOf(control, row));
+}
+
+void setDefaultsOf(Surface& control, std::span<PropertyRow const> rows)
+{
+    for (PropertyRow const& row : rows)
+        if (row.atStart == AtStart::Default)
+            store(control, row.access, fallbackOf(control, row));
+}
+
+/// What every setter ends with.
+void changed(Surface& control, PropertyRow const& row)
+{
+    control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
+    if (row.repaint == Repaint::AfterMeasuring)
+        control.onMeasure();
+    if (row.repaint == Repaint::Yes || row.repaint == Repaint::AfterMeasuring)
+        control.repaint();
 }
 
 } // namespace
 
-VARTYPE keptType(PropertyKind kind) noexcept { return rowOf(kind).kept; }
-VARTYPE savedType(PropertyKind kind) noexcept { return rowOf(kind).saved; }
-
-Variant convertedProperty(PropertyKind kind, Variant const& value)
+PropertyRow const& PropertyTable::rowOf(DISPID id) const
 {
-    if (kind == PropertyKind::Colour)
-        return convertedColour(value);
-    if (kind == PropertyKind::State)
-        return convertedState(value);
-    if (keptType(kind) != VT_UNKNOWN)
-        return value.convertedTo(keptType(kind));
-    return convertedObject(kind, value.toObject().get());
+    std::uint8_t const place = m_places[placeOf(id)];
+    if (place == kNoRow || m_rows[place].id != id)
+        throw RunTimeError(DISP_E_MEMBERNOTFOUND);
+    return m_rows[place];
 }
 
-Variant assignedProperty(PropertyKind kind, Variant const& value)
+void PropertyTable::put(Surface& control, Row const& row, Variant const& value) const
 {
-    Variant converted = convertedProperty(kind, value);
-    CY size = {};
-    if (isFont(kind) && SUCCEEDED(query<IFont>(converted.toObject().get())->get_Size(&size)) &&
-        !isHonestFontSize(size.int64))
-        throw RunTimeError(ErrorNumber::InvalidPropertyValue);
-    return converted;
+    assign(control, row, assignedProperty(row.kind, value));
 }
 
-Variant savedProperty(PropertyKind kind, Variant const& kept)
+HRESULT PropertyTable::getMember(Surface& control, DISPID id, VARTYPE type, void* value) const noexcept
 {
-    bool const fits = kind != PropertyKind::Style || kept.get().lVal == static_cast<short>(kept.get().lVal);
-    // What is too large for its saved type is saved as it is, not lost.
-    return fits ? kept.convertedTo(savedType(kind)) : kept;
+    return control.call([&] {
+        if (!value)
+            throw RunTimeError(E_POINTER);
+        if (type == VT_UNKNOWN)
+            give<IUnknown*>(value, nullptr);
+        Row const& row = rowOf(id);
+        if (type == VT_I4 && row.access.field) // a colour, or an enumeration's value
+            give(value, fieldOf<long>(control, row.access));
+        else
+            answerValue(row.kind, valueOf(control, row.access), type, value);
+    });
 }
 
-Variant plainFallback(PropertyKind kind, long fallback)
+HRESULT PropertyTable::putMember(Surface& control, DISPID id, VARTYPE type, void const* value) const noexcept
 {
-    switch (keptType(kind)) {
-    case VT_BSTR:
-        return Variant::ofString({});
-    case VT_UNKNOWN:
-        return Variant::ofUnknown(nullptr);
-    case VT_BOOL:
-        return Variant::ofBool(fallback != 0);
-    default:
-        return Variant::ofLong(fallback).convertedTo(keptType(kind));
+    return control.call([&] {
+        Row const& row = rowOf(id);
+        bool const isStored = (type == VT_I4 && storeNumber(control, row, taken<long>(value))) ||
+                              (type == VT_I2 && storeNumber(control, row, taken<short>(value)));
+        if (isStored)
+            changed(control, row);
+        else
+            put(control, row, argumentValue(row.kind, type, value));
+    });
+}
+
+void PropertyTable::init(Surface& control) const
+{
+    for (Row const& row : m_rows)
+        if (isFont(row.kind))
+            storeObject(control, row, fallbackOf(control, row));
+    setDefaultsOf(control, m_rows);
+}
+
+void PropertyTable::setPlainDefaults(Surface& control) const
+{
+    for (Row const& row : m_rows)
+        if (row.atStart == AtStart::Default && keptType(row.kind) != VT_UNKNOWN)
+            store(control, row.access, plainFallback(row.kind, row.fallback));
+}
+
+void PropertyTable::setDefaults(Surface& control, Part part, DISPID border) const
+{
+    auto const after = static_cast<size_t>(&rowOf(border) - m_rows.data()) + 1;
+    setDefaultsOf(control, part == Part::Through ? m_rows.first(after) : m_rows.subspan(after));
+}
+
+void PropertyTable::read(Surface& control, PropertyBag& bag) const
+{
+    std::vector<Variant> values;
+    values.reserve(m_rows.size());
+    for (Row const& row : m_rows)
+        if (row.saved == Saved::Yes)
+            values.push_back(
+                convertedProperty(row.kind, bag.readProperty(row.name, savedFallback(control, row))));
+    auto value = values.cbegin();
+    for (Row const& row : m_rows) {
+        if (row.saved != Saved::Yes)
+            continue;
+        if (keptType(row.kind) == VT_UNKNOWN)
+            storeObject(control, row, *value++);
+        else
+            store(control, row.access, *value++);
     }
+}
+
+void PropertyTable::write(Surface const& control, PropertyBag& bag) const
+{
+    std::vector<std::wstring_view> written;
+    for (Row const& row : m_rows) {
+        if (row.saved == Saved::No)
+            continue;
+        // Of a name that stands twice the last value counts, even where it is the default.
+        bool const again = std::ranges::find(written, row.name) != written.end();
+        bool const stored = bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)),
+                                              again ? Variant() : savedFallback(control, row));
+        if (stored)
+            written.push_back(row.name);
+    }
+}
+
+/// What the setter does once its value is converted.
+void PropertyTable::assign(Surface& control, Row const& row, Variant const& converted) const
+{
+    if (!row.assign)
+        store(control, row.access, converted);
+    else if (!row.assign(control, converted))
+        return;
+    changed(control, row);
+}
+
+void PropertyTable::storeObject(Surface& control, Row const& row, Variant const& value) const
+{
+    if (m_objects == LoadedObjects::ThroughSetters)
+        assign(control, row, value);
+    else
+        store(control, row.access, value);
 }
 
 } // namespace quillet

@@ -1,55 +1,24 @@
 // A control's properties as rows: saved name, saved type, default, order and effect of each stand once.
 #pragma once
 
-#include "base/RunTimeError.h"
+#include "base/Bstr.h"
+#include "base/ComPtr.h"
 #include "base/Variant.h"
 #include "saving/PropertyBag.h"
+#include "surface/PropertyKinds.h"
 #include "surface/Surface.h"
 
 #include <ocidl.h>
 #include <olectl.h>
 #include <windows.h>
 
-#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <span>
-#include <string_view>
 #include <type_traits>
-#include <vector>
+#include <utility>
 
 namespace quillet {
-
-/// What a property is: the type in which its control keeps it, and the type in which it is saved.
-enum class PropertyKind {
-    Colour,        ///< 32 bits
-    Flag,          ///< 16-bit boolean
-    FlagAsInteger, ///< a flag that is saved as a 16-bit integer
-    Integer,       ///< 16 bits
-    Number,        ///< 32 bits
-    Style,         ///< kept in 32 bits, saved in 16 where it fits
-    State,         ///< of a check box: 16 bits, and only 0, 1 and 2
-    Text,
-    Font,    ///< the object that was given
-    OwnFont, ///< a copy of it
-    Picture,
-};
-
-constexpr bool isFont(PropertyKind kind) noexcept
-{
-    return kind == PropertyKind::Font || kind == PropertyKind::OwnFont;
-}
-VARTYPE keptType(PropertyKind kind) noexcept;
-VARTYPE savedType(PropertyKind kind) noexcept;
-
-/// A value in the type in which a kind is kept. Type mismatch or Overflow where it does not convert, or is an
-/// object of another kind.
-Variant convertedProperty(PropertyKind kind, Variant const& value);
-/// The same for what a setter is given: a font, too, has to be one that a form can be loaded with, else it is
-/// an invalid property value.
-Variant assignedProperty(PropertyKind kind, Variant const& value);
-/// A kept value in the type in which the kind is saved.
-Variant savedProperty(PropertyKind kind, Variant const& kept);
-/// The default of a kind that has one value for all controls.
-Variant plainFallback(PropertyKind kind, long fallback);
 
 /// A name may stand twice, and be only written the second time.
 enum class Saved { No, Yes, OnlyWritten };
@@ -60,258 +29,156 @@ enum class Repaint { No, Yes, AfterMeasuring, ByItself };
 /// How loading stores fonts and pictures: as their setters do, or like every other value.
 enum class LoadedObjects { ThroughSetters, IntoFields };
 
-/// How a property is read and stored, in the type of its kind. Storing has no further effect.
-template <class Control> struct PropertyAccess {
-    Variant (*get)(Control const&);
-    void (*set)(Control&, Variant const&);
+/// The C++ types of fields that properties are kept in.
+enum class FieldType { Bool, Short, Long, Colour, Text, Font, Picture };
+template <class Field> constexpr FieldType fieldType() = delete;
+template <> constexpr FieldType fieldType<bool>() { return FieldType::Bool; }
+template <> constexpr FieldType fieldType<short>() { return FieldType::Short; }
+template <> constexpr FieldType fieldType<long>() { return FieldType::Long; }
+template <> constexpr FieldType fieldType<OLE_COLOR>() { return FieldType::Colour; }
+template <> constexpr FieldType fieldType<Bstr>() { return FieldType::Text; }
+template <> constexpr FieldType fieldType<ComPtr<IFontDisp>>() { return FieldType::Font; }
+template <> constexpr FieldType fieldType<ComPtr<IPictureDisp>>() { return FieldType::Picture; }
+
+/// How a property is read and stored, in the type of its kind: in a field, or by functions where there is
+/// more to it. Storing has no further effect.
+struct PropertyAccess {
+    Variant (*get)(Surface const&) = nullptr;
+    void (*set)(Surface&, Variant const&) = nullptr;
+    void* (*field)(Surface&) = nullptr;
+    FieldType type = {};
 };
 
-template <class Control> struct PropertyRow {
-    wchar_t const* name; ///< published and saved
-    DISPID id;
-    PropertyKind kind;
-    long fallback; ///< the default of numbers and flags
-    PropertyAccess<Control> access;
-    Saved saved;
-    AtStart atStart;
-    Repaint repaint;
-    /// The setter's own way of storing, where it does more than that. False for a value that it refused with
-    /// a word to the user: the property has not changed then.
-    bool (*assign)(Control&, Variant const&) = nullptr;
-    wchar_t const* fallbackText = L""; ///< the default of texts
-};
+/// A property that the control keeps in a field of its looks.
+template <class Control, auto Field>
+inline constexpr PropertyAccess kFieldOf = {
+    .field = [](Surface& surface) -> void* { return &(static_cast<Control&>(surface).looks().*Field); },
+    .type = fieldType<std::remove_cvref_t<decltype(std::declval<Control&>().looks().*Field)>>()};
 
-/// A field's value as a variant of its property's kind, and back.
+/// Fields as variants of their properties' kinds.
 inline Variant fieldValue(Bstr const& field) { return Variant::ofString(field.view()); }
 inline Variant fieldValue(bool field) { return Variant::ofBool(field); }
 inline Variant fieldValue(short field) { return Variant::ofShort(field); }
 inline Variant fieldValue(long field) { return Variant::ofLong(field); }
 inline Variant fieldValue(OLE_COLOR field) { return Variant::ofLong(static_cast<long>(field)); }
-template <class Object> Variant fieldValue(ComPtr<Object> const& field)
-{
-    return Variant::ofUnknown(field.get());
-}
-inline void storeField(Bstr& field, Variant const& value) { field = value.toString(); }
-inline void storeField(bool& field, Variant const& value) { field = value.toBool(); }
-inline void storeField(short& field, Variant const& value) { field = value.toShort(); }
-inline void storeField(long& field, Variant const& value) { field = value.toLong(); }
-inline void storeField(OLE_COLOR& field, Variant const& value)
-{
-    field = static_cast<OLE_COLOR>(value.toLong());
-}
-
-template <class Object> void storeField(ComPtr<Object>& field, Variant const& value)
-{
-    field = query<Object>(value.toObject().get());
-}
+inline Variant fieldValue(IUnknown* field) { return Variant::ofUnknown(field); }
+inline OLE_COLOR colourOf(Variant const& value) { return static_cast<OLE_COLOR>(value.toLong()); }
 
 /// The properties that the surface itself holds.
-template <class Control> struct SurfaceAccess {
-    static constexpr PropertyAccess<Control> kBackColor = {
-        [](Control const& c) { return fieldValue(c.backColor()); },
-        [](Control& c, Variant const& v) { c.setBackColor(static_cast<OLE_COLOR>(v.toLong())); }};
-    static constexpr PropertyAccess<Control> kForeColor = {
-        [](Control const& c) { return fieldValue(c.foreColor()); },
-        [](Control& c, Variant const& v) { c.setForeColor(static_cast<OLE_COLOR>(v.toLong())); }};
-    static constexpr PropertyAccess<Control> kEnabled = {
-        [](Control const& c) { return fieldValue(c.enabled()); },
-        [](Control& c, Variant const& v) { c.setEnabled(v.toBool()); }};
-    static constexpr PropertyAccess<Control> kFont = {
-        [](Control const& c) { return Variant::ofUnknown(c.font()); },
-        [](Control& c, Variant const& v) { c.setFont(query<IFont>(v.toObject().get())); }};
-    static constexpr PropertyAccess<Control> kMousePointer = {
-        [](Control const& c) { return fieldValue(c.mousePointer()); },
-        [](Control& c, Variant const& v) { c.setMousePointer(v.toShort()); }};
-    static constexpr PropertyAccess<Control> kMouseIcon = {
-        [](Control const& c) { return Variant::ofUnknown(c.mouseIcon()); },
-        [](Control& c, Variant const& v) { c.setMouseIcon(v.toObject().get()); }};
+struct SurfaceAccess {
+    static constexpr PropertyAccess kBackColor = {
+        [](Surface const& s) { return fieldValue(s.backColor()); },
+        [](Surface& s, Variant const& v) { s.setBackColor(colourOf(v)); }};
+    static constexpr PropertyAccess kForeColor = {
+        [](Surface const& s) { return fieldValue(s.foreColor()); },
+        [](Surface& s, Variant const& v) { s.setForeColor(colourOf(v)); }};
+    static constexpr PropertyAccess kEnabled = {
+        [](Surface const& s) { return fieldValue(s.enabled()); },
+        [](Surface& s, Variant const& v) { s.setEnabled(v.toBool()); }};
+    static constexpr PropertyAccess kFont = {
+        [](Surface const& s) { return fieldValue(s.font()); },
+        [](Surface& s, Variant const& v) { s.setFont(query<IFont>(v.toObject().get())); }};
+    static constexpr PropertyAccess kMousePointer = {
+        [](Surface const& s) { return fieldValue(s.mousePointer()); },
+        [](Surface& s, Variant const& v) { s.setMousePointer(v.toShort()); }};
+    static constexpr PropertyAccess kMouseIcon = {
+        [](Surface const& s) { return fieldValue(s.mouseIcon()); },
+        [](Surface& s, Variant const& v) { s.setMouseIcon(v.toObject().get()); }};
+};
+
+struct PropertyRow {
+    wchar_t const* name; ///< published and saved
+    DISPID id;
+    PropertyKind kind;
+    long fallback; ///< the default of numbers and flags
+    PropertyAccess access;
+    Saved saved;
+    AtStart atStart;
+    Repaint repaint;
+    /// The setter's own way of storing, where it does more than that. False for a value that it refused with
+    /// a word to the user: the property has not changed then.
+    bool (*assign)(Surface&, Variant const&) = nullptr;
+    wchar_t const* fallbackText = L""; ///< the default of texts
 };
 
 /// Everything that a control does with all of its properties, done by walking its rows.
-template <class Control> class PropertyTable {
+class PropertyTable {
 public:
-    using Row = PropertyRow<Control>;
+    using Row = PropertyRow;
 
-    explicit constexpr PropertyTable(std::span<Row const> rows,
-                                     LoadedObjects objects = LoadedObjects::ThroughSetters) noexcept
+    explicit consteval PropertyTable(std::span<Row const> rows,
+                                     LoadedObjects objects = LoadedObjects::ThroughSetters)
         : m_rows(rows), m_objects(objects)
-    {}
-
-    Row const& rowOf(DISPID id) const
     {
-        for (Row const& row : m_rows)
-            if (row.id == id)
-                return row;
-        throw RunTimeError(DISP_E_MEMBERNOTFOUND);
+        for (std::uint8_t i = 0; i < rows.size(); ++i)
+            if (rows[i].id != DISPID_UNKNOWN)
+                claim(m_places[placeOf(rows[i].id)], i);
     }
+
+    Row const& rowOf(DISPID id) const;
 
     /// The setter: stores the value, tells who listens, measures and repaints where the row says so. A value
     /// that does not convert changes nothing.
-    void put(Control& control, Row const& row, Variant const& value) const
-    {
-        assign(control, row, assignedProperty(row.kind, value));
-    }
+    void put(Surface& control, Row const& row, Variant const& value) const;
+
+    /// A property's members as a vtable has them, by the automation type of the argument: VT_I2 (also for
+    /// VARIANT_BOOL), VT_I4 (also for enumerations and colours), VT_BSTR, VT_VARIANT, or VT_UNKNOWN for fonts
+    /// and pictures. The value is borrowed.
+    HRESULT getMember(Surface& control, DISPID id, VARTYPE type, void* value) const noexcept;
+    HRESULT putMember(Surface& control, DISPID id, VARTYPE type, void const* value) const noexcept;
 
     /// The values of a new control, fonts first; they are the container's.
-    void init(Control& control) const
-    {
-        for (Row const& row : m_rows)
-            if (isFont(row.kind))
-                storeObject(control, row, fallbackOf(control, row));
-        setDefaults(control, m_rows);
-    }
+    void init(Surface& control) const;
 
     /// What a control has that nobody has initialised: the defaults that no container has a part in.
-    void setPlainDefaults(Control& control) const
-    {
-        for (Row const& row : m_rows)
-            if (row.atStart == AtStart::Default && keptType(row.kind) != VT_UNKNOWN)
-                row.access.set(control, plainFallback(row.kind, row.fallback));
-    }
+    void setPlainDefaults(Surface& control) const;
 
     /// The defaults of the rows up to a property, which is the last of them, or of all rows after it.
     enum class Part { Through, After };
-    void setDefaults(Control& control, Part part, DISPID border) const
-    {
-        auto const after = static_cast<size_t>(&rowOf(border) - m_rows.data()) + 1;
-        setDefaults(control, part == Part::Through ? m_rows.first(after) : m_rows.subspan(after));
-    }
+    void setDefaults(Surface& control, Part part, DISPID border) const;
 
     /// Reads every saved property in order and then stores them: a value that does not convert leaves the
     /// control as it was.
-    void read(Control& control, PropertyBag& bag) const
-    {
-        std::vector<Variant> values;
-        for (Row const& row : m_rows)
-            if (row.saved == Saved::Yes)
-                values.push_back(
-                    convertedProperty(row.kind, bag.readProperty(row.name, savedFallback(control, row))));
-        auto value = values.cbegin();
-        for (Row const& row : m_rows) {
-            if (row.saved != Saved::Yes)
-                continue;
-            if (keptType(row.kind) == VT_UNKNOWN)
-                storeObject(control, row, *value++);
-            else
-                row.access.set(control, *value++);
-        }
-    }
-
-    void write(Control const& control, PropertyBag& bag) const
-    {
-        std::vector<std::wstring_view> written;
-        for (Row const& row : m_rows) {
-            if (row.saved == Saved::No)
-                continue;
-            // Of a name that stands twice the last value counts, even where it is the default.
-            bool const again = std::ranges::find(written, row.name) != written.end();
-            bool const stored = bag.writeProperty(row.name, savedProperty(row.kind, row.access.get(control)),
-                                                  again ? Variant() : savedFallback(control, row));
-            if (stored)
-                written.push_back(row.name);
-        }
-    }
+    void read(Surface& control, PropertyBag& bag) const;
+    void write(Surface const& control, PropertyBag& bag) const;
 
 private:
-    /// What the setter does once its value is converted.
-    void assign(Control& control, Row const& row, Variant const& converted) const
+    static constexpr std::uint8_t kNoRow = 0xFF;
+
+    /// Where a row is noted: a few bits of its identifier, in which no two of a table are alike.
+    static constexpr size_t placeOf(DISPID id) noexcept { return (id ^ (id >> 8)) & 0x7F; }
+    static constexpr void claim(std::uint8_t& place, std::uint8_t row)
     {
-        if (!row.assign)
-            row.access.set(control, converted);
-        else if (!row.assign(control, converted))
-            return;
-        control.propertyChanged(row.id, row.repaint == Repaint::No ? ViewChange::No : ViewChange::Yes);
-        if (row.repaint == Repaint::AfterMeasuring)
-            control.onMeasure();
-        if (row.repaint == Repaint::Yes || row.repaint == Repaint::AfterMeasuring)
-            control.repaint();
+        if (place != kNoRow)
+            throw "two rows want one place"; // where the table is made: while the compiler runs
+        place = row;
     }
-    static void setDefaults(Control& control, std::span<Row const> rows)
+    static constexpr std::array<std::uint8_t, 128> noRows() noexcept
     {
-        for (Row const& row : rows)
-            if (row.atStart == AtStart::Default)
-                row.access.set(control, fallbackOf(control, row));
-    }
-    void storeObject(Control& control, Row const& row, Variant const& value) const
-    {
-        if (m_objects == LoadedObjects::ThroughSetters)
-            assign(control, row, value);
-        else
-            row.access.set(control, value);
-    }
-    static Variant fallbackOf(Control const& control, Row const& row)
-    {
-        if (isFont(row.kind)) // the container's, already a copy
-            return Variant::ofUnknown(control.container().ambientFont().get());
-        if (row.kind == PropertyKind::Text)
-            return Variant::ofString(row.fallbackText);
-        return plainFallback(row.kind, row.fallback);
-    }
-    static Variant savedFallback(Control const& control, Row const& row)
-    {
-        return savedProperty(row.kind, fallbackOf(control, row));
+        std::array<std::uint8_t, 128> places{};
+        places.fill(kNoRow);
+        return places;
     }
 
+    void assign(Surface& control, Row const& row, Variant const& converted) const;
+    void storeObject(Surface& control, Row const& row, Variant const& value) const;
+
     std::span<Row const> m_rows;
+    std::array<std::uint8_t, 128> m_places = noRows();
     LoadedObjects m_objects;
 };
 
-/// A member's value as a variant of its property's kind, and back into a caller's out-parameter.
-inline Variant argumentValue(PropertyKind, BSTR value) { return Variant::ofString(Bstr::viewOf(value)); }
-inline Variant argumentValue(PropertyKind, VARIANT const& value) { return Variant::copyOf(value); }
-inline Variant argumentValue(PropertyKind, OLE_COLOR value) { return fieldValue(value); }
-inline Variant argumentValue(PropertyKind kind, short value)
+/// The automation type of a member's argument, as getMember and putMember are told it.
+template <class Argument> constexpr VARTYPE argumentType() noexcept
 {
-    return keptType(kind) == VT_BOOL ? Variant::ofBool(value != VARIANT_FALSE) : Variant::ofShort(value);
-}
-template <class Enumeration>
-requires std::is_enum_v<Enumeration> Variant argumentValue(PropertyKind, Enumeration value)
-{
-    return Variant::ofLong(static_cast<long>(value));
-}
-inline void answerValue(Variant const& value, BSTR& out) { out = value.toString().copy(); }
-inline void answerValue(Variant const& value, VARIANT& out) { out = Variant(value).detach(); }
-inline void answerValue(Variant const& value, OLE_COLOR& out)
-{
-    out = static_cast<OLE_COLOR>(value.get().lVal);
-}
-inline void answerValue(Variant const& value, short& out) { out = value.get().iVal; } // VT_BOOL shares it
-template <class Enumeration>
-requires std::is_enum_v<Enumeration>
-void answerValue(Variant const& value, Enumeration& out) { out = static_cast<Enumeration>(value.toLong()); }
-
-/// A property's members as a vtable has them.
-template <class Control, class Value>
-HRESULT getMember(Control& control, PropertyTable<Control> const& table, DISPID id, Value* value) noexcept
-{
-    return control.call([&] {
-        deref(value);
-        answerValue(table.rowOf(id).access.get(control), *value);
-    });
-}
-template <class Control, class Value>
-HRESULT putMember(Control& control, PropertyTable<Control> const& table, DISPID id,
-                  Value const& value) noexcept
-{
-    return control.call([&] {
-        auto const& row = table.rowOf(id);
-        table.put(control, row, argumentValue(row.kind, value));
-    });
-}
-template <class Control, class Object>
-HRESULT getObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id,
-                        Object** value) noexcept
-{
-    return control.call([&] {
-        deref(value) = nullptr;
-        *value = query<Object>(table.rowOf(id).access.get(control).toObject().get()).detach();
-    });
-}
-template <class Control>
-HRESULT putObjectMember(Control& control, PropertyTable<Control> const& table, DISPID id,
-                        IUnknown* value) noexcept
-{
-    return control.call([&] { table.put(control, table.rowOf(id), Variant::ofUnknown(value)); });
+    if constexpr (std::is_same_v<Argument, BSTR>)
+        return VT_BSTR;
+    else if constexpr (std::is_same_v<Argument, VARIANT>)
+        return VT_VARIANT;
+    else if constexpr (std::is_pointer_v<Argument>)
+        return VT_UNKNOWN;
+    else
+        return sizeof(Argument) == sizeof(short) ? VT_I2 : VT_I4;
 }
 
 } // namespace quillet

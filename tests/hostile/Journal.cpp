@@ -6,8 +6,6 @@
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
-#include <mutex>
-#include <thread>
 #include <vector>
 
 namespace quillet::hostile {
@@ -17,8 +15,19 @@ namespace {
 constexpr ULONGLONG kLimit = 60'000; // milliseconds for one run, on a machine that is busy elsewhere
 constexpr UINT kFailed = 3;
 
+class Lock {
+public:
+    explicit Lock(SRWLOCK& lock) noexcept : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
+    ~Lock() { ::ReleaseSRWLockExclusive(&m_lock); }
+    Lock(Lock const&) = delete;
+    Lock& operator=(Lock const&) = delete;
+
+private:
+    SRWLOCK& m_lock;
+};
+
 struct State {
-    std::mutex mutex;
+    SRWLOCK mutex = SRWLOCK_INIT;
     std::string title;
     std::vector<std::string> steps;
     ULONGLONG deadline = 0; ///< 0 for none
@@ -80,14 +89,14 @@ LONG CALLBACK crashed(EXCEPTION_POINTERS* what)
 
 void aborted(int) { fail("abort"); }
 
-void waitForHangs()
+DWORD WINAPI waitForHangs(void*)
 {
     for (;;) {
         ::Sleep(500);
         State& own = state();
         ULONGLONG deadline = 0;
         {
-            std::scoped_lock const lock(own.mutex);
+            Lock const lock(own.mutex);
             deadline = own.deadline;
         }
         if (deadline && ::GetTickCount64() > deadline && !::IsDebuggerPresent())
@@ -99,7 +108,7 @@ void waitForHangs()
 
 void Journal::begin(std::string const& title)
 {
-    std::scoped_lock const lock(state().mutex);
+    Lock const lock(state().mutex);
     ++state().runs;
     state().title = title;
     state().steps.clear();
@@ -108,13 +117,13 @@ void Journal::begin(std::string const& title)
 
 void Journal::step(std::string const& text)
 {
-    std::scoped_lock const lock(state().mutex);
+    Lock const lock(state().mutex);
     state().steps.push_back(text);
 }
 
 void Journal::end()
 {
-    std::scoped_lock const lock(state().mutex);
+    Lock const lock(state().mutex);
     state().deadline = 0;
 }
 
@@ -122,7 +131,7 @@ int Journal::runs() { return state().runs; }
 
 std::string Journal::text()
 {
-    std::scoped_lock const lock(state().mutex);
+    Lock const lock(state().mutex);
     std::string all = state().title;
     for (std::string const& step : state().steps)
         all += "\n    " + step;
@@ -133,7 +142,7 @@ void Journal::watch()
 {
     ::SetUnhandledExceptionFilter(crashed);
     std::signal(SIGABRT, aborted);
-    std::thread(waitForHangs).detach();
+    ::CloseHandle(::CreateThread(nullptr, 0, waitForHangs, nullptr, 0, nullptr));
 }
 
 } // namespace quillet::hostile

@@ -6,7 +6,6 @@
 #include "kit/Pump.h"
 
 #include <optional>
-#include <thread>
 
 namespace quillet::image {
 namespace {

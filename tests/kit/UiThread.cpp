@@ -21,9 +21,10 @@ void await(HANDLE signalled)
 
 } // namespace
 
-UiThread::UiThread() : m_ready(::CreateEventW(nullptr, FALSE, FALSE, nullptr))
+UiThread::UiThread()
+    : m_ready(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
+      m_thread(::CreateThread(nullptr, 0, begin, this, 0, nullptr))
 {
-    m_thread = std::thread([this] { live(); });
     await(m_ready);
 }
 
@@ -31,7 +32,8 @@ UiThread::~UiThread()
 {
     ::PostThreadMessageW(m_id, WM_QUIT, 0, 0);
     await(m_ready);
-    m_thread.join();
+    ::WaitForSingleObject(m_thread, INFINITE);
+    ::CloseHandle(m_thread);
     ::CloseHandle(m_ready);
 }
 
@@ -41,6 +43,12 @@ void UiThread::run(std::function<void()> const& body)
     ::PostThreadMessageW(m_id, kRun, reinterpret_cast<WPARAM>(&body), reinterpret_cast<LPARAM>(done));
     await(done);
     ::CloseHandle(done);
+}
+
+DWORD WINAPI UiThread::begin(void* self)
+{
+    static_cast<UiThread*>(self)->live();
+    return 0;
 }
 
 void UiThread::live()

@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include <functional>
-#include <thread>
 
 namespace quillet::kit {
 
@@ -21,10 +20,11 @@ public:
 
 private:
     void live();
+    static DWORD WINAPI begin(void* self);
 
     HANDLE m_ready;
     DWORD m_id = 0;
-    std::thread m_thread;
+    HANDLE m_thread;
 };
 
 /// Runs one body on a thread that nothing has happened on yet.

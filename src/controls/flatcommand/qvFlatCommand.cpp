@@ -1,7 +1,7 @@
 // The flat command button: its properties, their defaults and their order, and its plain methods.
 #include "controls/flatcommand/qvFlatCommand.h"
 
-#include "controls/button/SystemColours.h"
+#include "controls/button/RowWords.h"
 #include "controls/flatcommand/Create.h"
 #include "surface/MessageBoxes.h"
 #include "typelib/DispatchIds.h"
@@ -24,64 +24,47 @@ constexpr ControlClass kClass = {
     kHelpQvFlatCommand,
 };
 
-using Row = PropertyRow<qvFlatCommand>;
-using Kind = PropertyKind;
-using Held = SurfaceAccess<qvFlatCommand>;
+using namespace rowwords;
 using Looks = FlatCommandLooks;
 
-/// A property that the button keeps in a field of its own.
-template <auto Field>
-constexpr PropertyAccess<qvFlatCommand> kField = {
-    [](qvFlatCommand const& control) { return fieldValue(control.looks().*Field); },
-    [](qvFlatCommand& control, Variant const& value) { storeField(control.looks().*Field, value); }};
-
-// The system colours among the defaults.
-constexpr long kButtonFace = static_cast<long>(colour::kButtonFace);
-constexpr long kButtonShadow = static_cast<long>(colour::kButtonShadow);
-constexpr long kGreyText = static_cast<long>(colour::kGreyText);
-constexpr long kButtonText = static_cast<long>(colour::kButtonText);
-constexpr long k3dHighlight = static_cast<long>(colour::k3dHighlight);
-constexpr long k3dDarkShadow = static_cast<long>(colour::k3dDarkShadow);
-
-constexpr auto kNew = AtStart::Default;
-constexpr auto kAsSurface = AtStart::Surface;
+template <auto Field> constexpr PropertyAccess kField = kFieldOf<qvFlatCommand, Field>;
 
 namespace id = dispid::qvFlatCommand;
 
 // clang-format off
-// In the order of saving. Hot and pressed looks show at the next change of state: their setters do not paint.
+// In the order of saving.
 constexpr Row kRows[] = {
-    {L"BackColor",          id::BackColor,          Kind::Colour,  kButtonFace,   Held::kBackColor,                   Saved::Yes, kAsSurface, Repaint::Yes},
-    {L"ForeColor",          id::ForeColor,          Kind::Colour,  kButtonText,   Held::kForeColor,                   Saved::Yes, kAsSurface, Repaint::Yes},
-    {L"Enabled",            id::Enabled,            Kind::Flag,    true,          Held::kEnabled,                     Saved::Yes, kAsSurface, Repaint::Yes},
-    {L"Font",               id::Font,               Kind::OwnFont, 0,             Held::kFont,                        Saved::Yes, kAsSurface, Repaint::Yes},
-    {L"BorderStyle",        id::BorderStyle,        Kind::Style,   1,             kField<&Looks::borderStyle>,        Saved::Yes, kNew,       Repaint::Yes},
-    {L"BorderColor",        id::BorderColor,        Kind::Colour,  k3dDarkShadow, kField<&Looks::borderColor>,        Saved::Yes, kNew,       Repaint::Yes},
-    {L"HotForeColor",       id::HotForeColor,       Kind::Colour,  k3dHighlight,  kField<&Looks::hotForeColor>,       Saved::Yes, kNew,       Repaint::No},
-    {L"PressedForeColor",   id::PressedForeColor,   Kind::Colour,  k3dHighlight,  kField<&Looks::pressedForeColor>,   Saved::Yes, kNew,       Repaint::No},
-    {L"HotBackColor",       id::HotBackColor,       Kind::Colour,  kButtonShadow, kField<&Looks::hotBackColor>,       Saved::Yes, kNew,       Repaint::No},
-    {L"PressedBackColor",   id::PressedBackColor,   Kind::Colour,  k3dDarkShadow, kField<&Looks::pressedBackColor>,   Saved::Yes, kNew,       Repaint::No},
-    {L"HotBorderColor",     id::HotBorderColor,     Kind::Colour,  k3dDarkShadow, kField<&Looks::hotBorderColor>,     Saved::Yes, kNew,       Repaint::No},
-    {L"PressedBorderColor", id::PressedBorderColor, Kind::Colour,  k3dDarkShadow, kField<&Looks::pressedBorderColor>, Saved::Yes, kNew,       Repaint::No},
-    {L"BorderWidth",        id::BorderWidth,        Kind::Integer, 1,             kField<&Looks::borderWidth>,        Saved::Yes, kNew,       Repaint::Yes},
-    {L"HotBorderWidth",     id::HotBorderWidth,     Kind::Integer, 1,             kField<&Looks::hotBorderWidth>,     Saved::Yes, kNew,       Repaint::No},
-    {L"PressedBorderWidth", id::PressedBorderWidth, Kind::Integer, 1,             kField<&Looks::pressedBorderWidth>, Saved::Yes, kNew,       Repaint::No},
-    {L"DisabledForeColor",  id::DisabledForeColor,  Kind::Colour,  kGreyText,     kField<&Looks::disabledForeColor>,  Saved::Yes, kNew,       Repaint::Yes},
-    {L"Caption",            id::Caption,            Kind::Text,    0,             kField<&Looks::caption>,            Saved::Yes, kNew,       Repaint::Yes},
-    {L"CentreCaption",      id::CentreCaption,      Kind::Flag,    false,         kField<&Looks::centreCaption>,      Saved::Yes, kNew,       Repaint::Yes},
-    {L"CaptionIndent",      id::CaptionIndent,      Kind::Integer, 4,             kField<&Looks::captionIndent>,      Saved::Yes, kNew,       Repaint::Yes},
-    {L"MousePointer",       id::MousePointer,       Kind::Integer, 0,             Held::kMousePointer,                Saved::Yes, kAsSurface, Repaint::No},
-    {L"MouseIcon",          id::MouseIcon,          Kind::Picture, 0,             Held::kMouseIcon,                   Saved::Yes, kAsSurface, Repaint::No},
-    {L"ShowFocusRectangle", id::ShowFocusRectangle, Kind::Flag,    true,          kField<&Looks::showFocusRectangle>, Saved::Yes, kNew,       Repaint::Yes},
-    {L"OfficeXPColors",     id::OfficeXPColors,     Kind::Flag,    false,         kField<&Looks::officeXPColors>,     Saved::Yes, kNew,       Repaint::Yes},
+    {L"BackColor",          id::BackColor,          Kind::Colour,  kFace,        Held::kBackColor,                   kSaved,   kAsSurface, kPaint},
+    {L"ForeColor",          id::ForeColor,          Kind::Colour,  kText,        Held::kForeColor,                   kSaved,   kAsSurface, kPaint},
+    {L"Enabled",            id::Enabled,            Kind::Flag,    true,         Held::kEnabled,                     kSaved,   kAsSurface, kPaint},
+    {L"Font",               id::Font,               Kind::OwnFont, 0,            Held::kFont,                        kSaved,   kAsSurface, kPaint},
+    {L"BorderStyle",        id::BorderStyle,        Kind::Style,   1,            kField<&Looks::borderStyle>,        kSaved,   kNew,       kPaint},
+    {L"BorderColor",        id::BorderColor,        Kind::Colour,  kDark,        kField<&Looks::borderColor>,        kSaved,   kNew,       kPaint},
+    {L"HotForeColor",       id::HotForeColor,       Kind::Colour,  k3dHighlight, kField<&Looks::hotForeColor>,       kSaved,   kNew,       kQuiet},
+    {L"PressedForeColor",   id::PressedForeColor,   Kind::Colour,  k3dHighlight, kField<&Looks::pressedForeColor>,   kSaved,   kNew,       kQuiet},
+    {L"HotBackColor",       id::HotBackColor,       Kind::Colour,  kShadow,      kField<&Looks::hotBackColor>,       kSaved,   kNew,       kQuiet},
+    {L"PressedBackColor",   id::PressedBackColor,   Kind::Colour,  kDark,        kField<&Looks::pressedBackColor>,   kSaved,   kNew,       kQuiet},
+    {L"HotBorderColor",     id::HotBorderColor,     Kind::Colour,  kDark,        kField<&Looks::hotBorderColor>,     kSaved,   kNew,       kQuiet},
+    {L"PressedBorderColor", id::PressedBorderColor, Kind::Colour,  kDark,        kField<&Looks::pressedBorderColor>, kSaved,   kNew,       kQuiet},
+    {L"BorderWidth",        id::BorderWidth,        Kind::Integer, 1,            kField<&Looks::borderWidth>,        kSaved,   kNew,       kPaint},
+    {L"HotBorderWidth",     id::HotBorderWidth,     Kind::Integer, 1,            kField<&Looks::hotBorderWidth>,     kSaved,   kNew,       kQuiet},
+    {L"PressedBorderWidth", id::PressedBorderWidth, Kind::Integer, 1,            kField<&Looks::pressedBorderWidth>, kSaved,   kNew,       kQuiet},
+    {L"DisabledForeColor",  id::DisabledForeColor,  Kind::Colour,  kGreyText,    kField<&Looks::disabledForeColor>,  kSaved,   kNew,       kPaint},
+    {L"Caption",            id::Caption,            Kind::Text,    0,            kField<&Looks::caption>,            kSaved,   kNew,       kPaint},
+    {L"CentreCaption",      id::CentreCaption,      Kind::Flag,    false,        kField<&Looks::centreCaption>,      kSaved,   kNew,       kPaint},
+    {L"CaptionIndent",      id::CaptionIndent,      Kind::Integer, 4,            kField<&Looks::captionIndent>,      kSaved,   kNew,       kPaint},
+    {L"MousePointer",       id::MousePointer,       Kind::Integer, 0,            Held::kMousePointer,                kSaved,   kAsSurface, kQuiet},
+    {L"MouseIcon",          id::MouseIcon,          Kind::Picture, 0,            Held::kMouseIcon,                   kSaved,   kAsSurface, kQuiet},
+    {L"ShowFocusRectangle", id::ShowFocusRectangle, Kind::Flag,    true,         kField<&Looks::showFocusRectangle>, kSaved,   kNew,       kPaint},
+    {L"OfficeXPColors",     id::OfficeXPColors,     Kind::Flag,    false,        kField<&Looks::officeXPColors>,     kSaved,   kNew,       kPaint},
     // The container's extender keeps this one.
-    {L"ToolTipText",        id::ToolTipText,        Kind::Text,    0,             kField<&Looks::toolTipText>,        Saved::No,  kAsSurface, Repaint::No},
+    {L"ToolTipText",        id::ToolTipText,        Kind::Text,    0,            kField<&Looks::toolTipText>,        kUnsaved, kAsSurface, kQuiet},
 };
 // clang-format on
 
 } // namespace
 
-PropertyTable<qvFlatCommand> const qvFlatCommand::kProperties(kRows);
+constinit PropertyTable const qvFlatCommand::kProperties(kRows);
 
 ControlClass const& flatCommandClass() noexcept { return kClass; }
 
@@ -92,7 +75,10 @@ HRESULT createFlatCommand(IUnknown* outer, REFIID iid, void** object) noexcept
 
 qvFlatCommand::qvFlatCommand(IUnknown* outer)
     : CommandButton(kClass, outer), Dual(static_cast<Surface&>(*this))
-{}
+{
+    // A container may leave out both loading and initialising.
+    kProperties.setPlainDefaults(*this);
+}
 
 void qvFlatCommand::onInitProperties()
 {

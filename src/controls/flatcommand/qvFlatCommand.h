@@ -12,25 +12,26 @@
 
 namespace quillet {
 
-/// Everything about a flat command button that its properties keep and the surface does not.
+/// Everything about a flat command button that its properties keep and the surface does not. The property
+/// table holds the defaults.
 struct FlatCommandLooks {
-    bool officeXPColors = false;
-    bool showFocusRectangle = true;
-    bool centreCaption = false;
-    short captionIndent = 4; ///< pixels
+    bool officeXPColors;
+    bool showFocusRectangle;
+    bool centreCaption;
+    short captionIndent; ///< pixels
     Bstr caption;
-    long borderStyle = 1; ///< 0 none, 1 fixed single
-    short borderWidth = 1;
-    short hotBorderWidth = 1;
-    short pressedBorderWidth = 1;
-    OLE_COLOR borderColor = 0x80000015;
-    OLE_COLOR hotBorderColor = 0x80000015;
-    OLE_COLOR pressedBorderColor = 0x80000015;
-    OLE_COLOR hotForeColor = 0x80000014;
-    OLE_COLOR hotBackColor = 0x80000010;
-    OLE_COLOR pressedForeColor = 0x80000014;
-    OLE_COLOR pressedBackColor = 0x80000015;
-    OLE_COLOR disabledForeColor = 0x80000011;
+    long borderStyle; ///< 0 none, 1 fixed single
+    short borderWidth;
+    short hotBorderWidth;
+    short pressedBorderWidth;
+    OLE_COLOR borderColor;
+    OLE_COLOR hotBorderColor;
+    OLE_COLOR pressedBorderColor;
+    OLE_COLOR hotForeColor;
+    OLE_COLOR hotBackColor;
+    OLE_COLOR pressedForeColor;
+    OLE_COLOR pressedBackColor;
+    OLE_COLOR disabledForeColor;
     Bstr toolTipText; ///< the extender's, as it was at the last mouse move
 };
 
@@ -39,23 +40,14 @@ public:
     explicit qvFlatCommand(IUnknown* outer);
 
     // _qvFlatCommand: every property reads and writes through its row.
-#define QV_VALUE(name, id, type, help)                                                                       \
-    STDMETHODIMP get_##name(type* value) override { return getMember(*this, kProperties, id, value); }       \
-    STDMETHODIMP put_##name(type value) override { return putMember(*this, kProperties, id, value); }
-#define QV_OBJECT(name, id, type, help)                                                                      \
-    STDMETHODIMP get_##name(type** value) override                                                           \
-    {                                                                                                        \
-        return getObjectMember(*this, kProperties, id, value);                                               \
-    }                                                                                                        \
-    STDMETHODIMP putref_##name(type* value) override                                                         \
-    {                                                                                                        \
-        return putObjectMember(*this, kProperties, id, value);                                               \
-    }
+#define QV_TABLE kProperties
+#include "surface/PropertyMembers.inc"
 #define QV_READ_ONLY(name, id, type, help) STDMETHODIMP get_##name(type* value) override;
 #define QV_METHOD(name, id, help) STDMETHODIMP name() override;
 #define QV_WINDOW_PROCEDURE(name, id, help)                                                                  \
     STDMETHODIMP name(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) override;
 #include "typelib/members/qvFlatCommand.inc"
+#undef QV_TABLE
 
     // Handlers of the surface.
     void onInitProperties() override;
@@ -87,9 +79,9 @@ private:
     void drawCaption(Painting& painting);
     long captionLeft(Painting const& painting, std::wstring_view caption) const;
 
-    static PropertyTable<qvFlatCommand> const kProperties;
+    static PropertyTable const kProperties;
 
-    FlatCommandLooks m_looks;
+    FlatCommandLooks m_looks{};
     bool m_lastOver = false; ///< whether the cursor was over the button at the last mouse move
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 namespace id = dispid::imageButton;
 
-using Part = PropertyTable<ImageButton>::Part;
+using Part = PropertyTable::Part;
 
 } // namespace
 

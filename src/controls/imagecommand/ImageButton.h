@@ -55,8 +55,6 @@ struct ImageLooks {
     Bstr toolTipText;
 };
 
-class ImageButton;
-
 /// How the border of a resting button looks in the task-pane scheme.
 enum class RestingBorder {
     Shadow,      ///< drawn, always
@@ -66,7 +64,7 @@ enum class RestingBorder {
 /// What tells the two kinds of image buttons apart.
 struct ImageButtonKind {
     ControlClass const& controlClass;
-    PropertyTable<ImageButton> const& properties;
+    PropertyTable const& properties;
     RestingBorder restingBorder;
 };
 extern ImageButtonKind const kImageCommand;
@@ -92,7 +90,7 @@ public:
 protected:
     ImageButton(ImageButtonKind const& kind, IUnknown* outer);
 
-    PropertyTable<ImageButton> const& properties() const noexcept { return m_kind.properties; }
+    PropertyTable const& properties() const noexcept { return m_kind.properties; }
 
     bool reacts() const noexcept override { return inUserMode(); }
     std::wstring_view caption() const noexcept override { return m_looks.caption.view(); }

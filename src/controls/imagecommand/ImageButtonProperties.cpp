@@ -1,5 +1,5 @@
 // The image buttons' properties, with the defaults of the image command button and of the tool button.
-#include "controls/button/SystemColours.h"
+#include "controls/button/RowWords.h"
 #include "controls/imagecommand/Create.h"
 #include "controls/imagecommand/ImageButton.h"
 #include "saving/StandardPicture.h"
@@ -28,32 +28,28 @@ constexpr ControlClass kToolButtonClass = {kFlatToolButtonClass,      kFlatToolB
                                            L"Quillet.FlatToolButton", kMiscStatus,
                                            kImageButtonMembers,       kHelpFlatToolButton};
 
-using Row = PropertyRow<ImageButton>;
-using Kind = PropertyKind;
-using Held = SurfaceAccess<ImageButton>;
+using namespace rowwords;
 using Looks = ImageLooks;
 
-/// A property that the button keeps in a field of its own.
-template <auto Field>
-constexpr PropertyAccess<ImageButton> kField = {
-    [](ImageButton const& control) { return fieldValue(control.looks().*Field); },
-    [](ImageButton& control, Variant const& value) { storeField(control.looks().*Field, value); }};
+template <auto Field> constexpr PropertyAccess kField = kFieldOf<ImageButton, Field>;
+
+ImageLooks& looksOf(Surface& surface) { return static_cast<ImageButton&>(surface).looks(); }
 
 /// The task-pane look brings the face colour along; ending it leaves the colour.
-bool assignOfficeXPColors(ImageButton& control, Variant const& value)
+bool assignOfficeXPColors(Surface& control, Variant const& value)
 {
-    control.looks().officeXPColors = value.toBool();
-    if (control.looks().officeXPColors)
+    looksOf(control).officeXPColors = value.toBool();
+    if (looksOf(control).officeXPColors)
         control.setBackColor(colour::kButtonFace);
     return true;
 }
 
 /// A button that ignores the mouse must not keep it from everybody else.
-bool assignActive(ImageButton& control, Variant const& value)
+bool assignActive(Surface& control, Variant const& value)
 {
-    control.looks().active = value.toBool();
+    looksOf(control).active = value.toBool();
     HWND const window = control.window().existing();
-    if (!control.looks().active && window && ::GetCapture() == window)
+    if (!looksOf(control).active && window && ::GetCapture() == window)
         ::ReleaseCapture();
     return true;
 }
@@ -76,31 +72,14 @@ constexpr wchar_t kDisabledImageRefusal[] = L"Only icons may be assigned to the 
 constexpr wchar_t kHotImageRefusal[] = L"Only icons may be assigned to the HotImage property.";
 constexpr wchar_t kPressedImageRefusal[] = L"Only icons may be assigned to the PressedImage property.";
 
-template <auto Field, wchar_t const* Refusal> bool assignPicture(ImageButton& control, Variant const& value)
+template <auto Field, wchar_t const* Refusal> bool assignPicture(Surface& control, Variant const& value)
 {
     auto const picture = value.toObject();
-    if (!acceptsPicture(control, picture.get(), Refusal))
+    if (!acceptsPicture(static_cast<ImageButton&>(control), picture.get(), Refusal))
         return false;
-    storeField(control.looks().*Field, value);
+    looksOf(control).*Field = query<IPictureDisp>(picture.get());
     return true;
 }
-
-constexpr long asLong(OLE_COLOR colour) { return static_cast<long>(colour); }
-constexpr long kHighlight = asLong(colour::kSelectionHighlight);
-constexpr long kFace = asLong(colour::kButtonFace);
-constexpr long kShadow = asLong(colour::kButtonShadow);
-constexpr long kGreyText = asLong(colour::kGreyText);
-constexpr long kText = asLong(colour::kButtonText);
-constexpr long k3dHighlight = asLong(colour::k3dHighlight);
-constexpr long kDark = asLong(colour::k3dDarkShadow);
-constexpr long k3dLight = asLong(colour::k3dLight);
-
-constexpr auto kNew = AtStart::Default;
-constexpr auto kAsSurface = AtStart::Surface;
-constexpr auto kSaved = Saved::Yes;
-constexpr auto kPaint = Repaint::Yes;
-constexpr auto kMeasure = Repaint::AfterMeasuring;
-constexpr auto kQuiet = Repaint::No;
 
 namespace id = dispid::imageButton;
 
@@ -150,7 +129,7 @@ constexpr auto kRows = std::to_array<Row>({
     {L"OffsetPressed",            id::OffsetPressed,            Kind::Flag,    false,        kField<&Looks::offsetPressed>,            kSaved, kNew, kQuiet},
     {L"OfficeXPColors",           id::OfficeXPColors,           Kind::FlagAsInteger, false,  kField<&Looks::officeXPColors>,           kSaved, kNew, kPaint,   &assignOfficeXPColors},
     // The container's extender keeps this one.
-    {L"ToolTipText",              id::ToolTipText,              Kind::Text,    0,            kField<&Looks::toolTipText>,              Saved::No, kAsSurface, kQuiet},
+    {L"ToolTipText",              id::ToolTipText,              Kind::Text,    0,            kField<&Looks::toolTipText>,              kUnsaved, kAsSurface, kQuiet},
 });
 
 struct Default {
@@ -188,8 +167,8 @@ constexpr auto toolRows()
 }
 constexpr auto kToolRows = toolRows();
 
-constexpr PropertyTable<ImageButton> kImageProperties(kRows, LoadedObjects::IntoFields);
-constexpr PropertyTable<ImageButton> kToolProperties(kToolRows, LoadedObjects::IntoFields);
+constexpr PropertyTable kImageProperties(kRows, LoadedObjects::IntoFields);
+constexpr PropertyTable kToolProperties(kToolRows, LoadedObjects::IntoFields);
 
 } // namespace
 

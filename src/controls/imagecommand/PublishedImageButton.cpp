@@ -18,25 +18,10 @@ public:
 
     // Every property reads and writes through its row.
 #define QV_BORDER_STYLE BorderStyleConstants
-#define QV_VALUE(name, id, type, help)                                                                       \
-    STDMETHODIMP get_##name(type* value) override                                                            \
-    {                                                                                                        \
-        return getMember<ImageButton>(*this, properties(), id, value);                                       \
-    }                                                                                                        \
-    STDMETHODIMP put_##name(type value) override                                                             \
-    {                                                                                                        \
-        return putMember<ImageButton>(*this, properties(), id, value);                                       \
-    }
-#define QV_OBJECT(name, id, type, help)                                                                      \
-    STDMETHODIMP get_##name(type** value) override                                                           \
-    {                                                                                                        \
-        return getObjectMember<ImageButton>(*this, properties(), id, value);                                 \
-    }                                                                                                        \
-    STDMETHODIMP putref_##name(type* value) override                                                         \
-    {                                                                                                        \
-        return putObjectMember<ImageButton>(*this, properties(), id, value);                                 \
-    }
+#define QV_TABLE properties()
+#include "surface/PropertyMembers.inc"
 #include "typelib/members/imageButton.inc"
+#undef QV_TABLE
 #undef QV_BORDER_STYLE
 
     STDMETHODIMP get_hwnd(LONG* value) override { return answerHwnd(value); }

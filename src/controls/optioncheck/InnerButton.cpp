@@ -7,8 +7,6 @@
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "drawing/Colour.h"
 
-#include <cwchar>
-#include <iterator>
 #include <utility>
 
 namespace quillet {
@@ -20,10 +18,7 @@ constexpr COLORREF kWhite = RGB(255, 255, 255);
 /// Window classes belong to the process: the address keeps two loaded copies of the component apart.
 struct ClassName {
     wchar_t text[40];
-    ClassName() noexcept
-    {
-        std::swprintf(text, std::size(text), L"QuilletButton:%p", static_cast<void*>(moduleInstance()));
-    }
+    ClassName() noexcept { ::wsprintfW(text, L"QuilletButton:%p", static_cast<void*>(moduleInstance())); }
 };
 
 WNDCLASSEXW systemClass()

@@ -12,9 +12,12 @@ namespace event = eventid::optionCheck;
 } // namespace
 
 OptionCheckButton::OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
-                                     std::wstring_view caption, Table const& properties)
+                                     std::wstring_view caption, PropertyTable const& properties)
     : Surface(controlClass, outer), m_properties(properties), m_inner(*this, kind, caption)
-{}
+{
+    // A container may leave out both loading and initialising.
+    m_properties.setPlainDefaults(*this);
+}
 
 void OptionCheckButton::onInitProperties()
 {

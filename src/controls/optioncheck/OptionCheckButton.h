@@ -16,8 +16,6 @@ namespace quillet {
 
 class OptionCheckButton : public Surface {
 public:
-    using Table = PropertyTable<OptionCheckButton>;
-
     InnerButton& innerButton() noexcept { return m_inner; }
     InnerButton const& innerButton() const noexcept { return m_inner; }
     OLE_COLOR hotForeColor() const noexcept { return m_hotForeColor; }
@@ -55,7 +53,7 @@ public:
 
 protected:
     OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
-                      std::wstring_view caption, Table const& properties);
+                      std::wstring_view caption, PropertyTable const& properties);
 
     /// Takes the saved values over and sets up what a running control needs.
     void readProperties(PropertyBag& bag);
@@ -74,7 +72,7 @@ protected:
     HRESULT getWindow(LONG* value) noexcept;
     HRESULT runWindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) noexcept;
 
-    Table const& properties() const noexcept { return m_properties; }
+    PropertyTable const& properties() const noexcept { return m_properties; }
 
 private:
     void showCaption(OLE_COLOR colour);
@@ -82,10 +80,10 @@ private:
     void drawElsewhere();
     void FillOptionGlyph(bool hot);
 
-    Table const& m_properties;
+    PropertyTable const& m_properties;
     InnerButton m_inner;
     Bstr m_toolTipText; ///< the extender's, as it was at the last mouse move
-    OLE_COLOR m_hotForeColor = 0x80000012;
+    OLE_COLOR m_hotForeColor = 0;
     bool m_lastHover = false;   ///< whether the cursor was over the button at the last mouse move
     bool m_hot = false;         ///< the look last shown
     bool m_recolouring = false; ///< the caption takes its colour within a paint

@@ -31,29 +31,14 @@ public:
 
     // Every other property reads and writes through its row.
 #define QV_DEFAULT_VALUE(...)
-#define QV_VALUE(name, id, type, help)                                                                       \
-    STDMETHODIMP get_##name(type* value) override                                                            \
-    {                                                                                                        \
-        return getMember<OptionCheckButton>(*this, properties(), id, value);                                 \
-    }                                                                                                        \
-    STDMETHODIMP put_##name(type value) override                                                             \
-    {                                                                                                        \
-        return putMember<OptionCheckButton>(*this, properties(), id, value);                                 \
-    }
-#define QV_OBJECT(name, id, type, help)                                                                      \
-    STDMETHODIMP get_##name(type** value) override                                                           \
-    {                                                                                                        \
-        return getObjectMember<OptionCheckButton>(*this, properties(), id, value);                           \
-    }                                                                                                        \
-    STDMETHODIMP putref_##name(type* value) override                                                         \
-    {                                                                                                        \
-        return putObjectMember<OptionCheckButton>(*this, properties(), id, value);                           \
-    }
+#define QV_TABLE properties()
+#include "surface/PropertyMembers.inc"
 #include "typelib/members/qvFlatOption.inc"
+#undef QV_TABLE
 
 protected:
     OptionCheckMembers(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
-                       std::wstring_view caption, Table const& rows)
+                       std::wstring_view caption, PropertyTable const& rows)
         : OptionCheckButton(controlClass, outer, kind, caption, rows), Dual<Interface>(
                                                                            static_cast<Surface&>(*this))
     {}

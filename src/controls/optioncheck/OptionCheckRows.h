@@ -1,7 +1,7 @@
 // The properties of the flat option button and the flat check box: their order, types and defaults.
 #pragma once
 
-#include "controls/button/SystemColours.h"
+#include "controls/button/RowWords.h"
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "typelib/DispatchIds.h"
 
@@ -14,35 +14,41 @@ inline constexpr DWORD kOptionCheckStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC
                                             OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
                                             OLEMISC_CANTLINKINSIDE;
 
+inline InnerButton& innerOf(Surface& surface)
+{
+    return static_cast<OptionCheckButton&>(surface).innerButton();
+}
+inline InnerButton const& innerOf(Surface const& surface)
+{
+    return static_cast<OptionCheckButton const&>(surface).innerButton();
+}
+
 /// What the inner button keeps.
 struct InnerAccess {
-    using Control = OptionCheckButton;
-    using Access = PropertyAccess<Control>;
-
     /// The colour that is shown. The user's changes first: a shown button paints within, and goes by that
     /// one.
-    static constexpr Access kForeColor = {
-        [](Control const& c) { return fieldValue(c.innerButton().foreColor()); },
-        [](Control& c, Variant const& v) {
-            c.setForeColor(static_cast<OLE_COLOR>(v.toLong()));
-            c.innerButton().setForeColor(c.foreColor());
+    static constexpr PropertyAccess kForeColor = {
+        [](Surface const& s) { return fieldValue(innerOf(s).foreColor()); },
+        [](Surface& s, Variant const& v) {
+            s.setForeColor(colourOf(v));
+            innerOf(s).setForeColor(s.foreColor());
         }};
-    static constexpr Access kBackColor = {
-        [](Control const& c) { return fieldValue(c.innerButton().backColor()); },
-        [](Control& c, Variant const& v) {
-            c.innerButton().setBackColor(static_cast<OLE_COLOR>(v.toLong()));
+    static constexpr PropertyAccess kBackColor = {
+        [](Surface const& s) { return fieldValue(innerOf(s).backColor()); },
+        [](Surface& s, Variant const& v) { innerOf(s).setBackColor(colourOf(v)); }};
+    static constexpr PropertyAccess kFont = {[](Surface const& s) { return fieldValue(s.font()); },
+                                             [](Surface& s, Variant const& v) {
+                                                 s.setFont(query<IFont>(v.toObject().get()));
+                                                 innerOf(s).fontChanged();
+                                             }};
+    static constexpr PropertyAccess kCaption = {
+        [](Surface const& s) { return fieldValue(innerOf(s).caption()); },
+        [](Surface& s, Variant const& v) { innerOf(s).setCaption(v.toString().view()); }};
+    static constexpr PropertyAccess kHotForeColor = {
+        [](Surface const& s) { return fieldValue(static_cast<OptionCheckButton const&>(s).hotForeColor()); },
+        [](Surface& s, Variant const& v) {
+            static_cast<OptionCheckButton&>(s).setHotForeColor(colourOf(v));
         }};
-    static constexpr Access kFont = {[](Control const& c) { return Variant::ofUnknown(c.font()); },
-                                     [](Control& c, Variant const& v) {
-                                         c.setFont(query<IFont>(v.toObject().get()));
-                                         c.innerButton().fontChanged();
-                                     }};
-    static constexpr Access kCaption = {
-        [](Control const& c) { return fieldValue(c.innerButton().caption()); },
-        [](Control& c, Variant const& v) { c.innerButton().setCaption(v.toString().view()); }};
-    static constexpr Access kHotForeColor = {
-        [](Control const& c) { return fieldValue(c.hotForeColor()); },
-        [](Control& c, Variant const& v) { c.setHotForeColor(static_cast<OLE_COLOR>(v.toLong())); }};
 };
 
 /// Where the two differ.
@@ -50,34 +56,29 @@ struct OptionCheckDifferences {
     wchar_t const* caption; ///< as laid out
     AtStart shownForeColor;
     PropertyKind valueKind;
-    InnerAccess::Access value;
+    PropertyAccess value;
     Saved secondForeColor;
 };
 
-using OptionCheckRows = std::array<PropertyRow<OptionCheckButton>, 8>;
+using OptionCheckRows = std::array<PropertyRow, 8>;
 
 /// In the order of reading and writing. ForeColor stands twice, as the colour that the inner button shows and
 /// as the one that the user chose: the last one written counts.
 constexpr OptionCheckRows optionCheckRows(OptionCheckDifferences const& own)
 {
     namespace id = dispid::qvFlatOption; // the check box has the same
-    using Kind = PropertyKind;
-    using Held = SurfaceAccess<OptionCheckButton>;
+    using namespace rowwords;
     using Inner = InnerAccess;
-    constexpr auto kButtonFace = static_cast<long>(colour::kButtonFace);
-    constexpr auto kButtonText = static_cast<long>(colour::kButtonText);
-    constexpr auto kNew = AtStart::Default;
-    constexpr auto kAsLaidOut = AtStart::Surface;
     // clang-format off
     return {{
-        {L"ForeColor",    DISPID_UNKNOWN,   Kind::Colour,  kButtonText, Inner::kForeColor,    Saved::Yes,          own.shownForeColor, Repaint::No},
-        {L"Enabled",      id::Enabled,      Kind::Flag,    true,        Held::kEnabled,       Saved::Yes,          kAsLaidOut,         Repaint::Yes},
-        {L"Font",         id::Font,         Kind::OwnFont, 0,           Inner::kFont,         Saved::Yes,          kAsLaidOut,         Repaint::ByItself},
-        {L"Caption",      id::Caption,      Kind::Text,    0,           Inner::kCaption,      Saved::Yes,          kAsLaidOut,         Repaint::ByItself, nullptr, own.caption},
-        {L"Value",        id::Value,        own.valueKind, 0,           own.value,            Saved::Yes,          kAsLaidOut,         Repaint::Yes},
-        {L"HotForeColor", id::HotForeColor, Kind::Colour,  kButtonText, Inner::kHotForeColor, Saved::Yes,          kNew,               Repaint::Yes},
-        {L"BackColor",    id::BackColor,    Kind::Colour,  kButtonFace, Inner::kBackColor,    Saved::Yes,          kAsLaidOut,         Repaint::ByItself},
-        {L"ForeColor",    id::ForeColor,    Kind::Colour,  kButtonText, Held::kForeColor,     own.secondForeColor, kAsLaidOut,         Repaint::Yes},
+        {L"ForeColor",    DISPID_UNKNOWN,   Kind::Colour,  kText, Inner::kForeColor,    kSaved,              own.shownForeColor, kQuiet},
+        {L"Enabled",      id::Enabled,      Kind::Flag,    true,  Held::kEnabled,       kSaved,              kAsSurface,         kPaint},
+        {L"Font",         id::Font,         Kind::OwnFont, 0,     Inner::kFont,         kSaved,              kAsSurface,         kByItself},
+        {L"Caption",      id::Caption,      Kind::Text,    0,     Inner::kCaption,      kSaved,              kAsSurface,         kByItself, nullptr, own.caption},
+        {L"Value",        id::Value,        own.valueKind, 0,     own.value,            kSaved,              kAsSurface,         kPaint},
+        {L"HotForeColor", id::HotForeColor, Kind::Colour,  kText, Inner::kHotForeColor, kSaved,              kNew,               kPaint},
+        {L"BackColor",    id::BackColor,    Kind::Colour,  kFace, Inner::kBackColor,    kSaved,              kAsSurface,         kByItself},
+        {L"ForeColor",    id::ForeColor,    Kind::Colour,  kText, Held::kForeColor,     own.secondForeColor, kAsSurface,         kPaint},
     }};
     // clang-format on
 }

@@ -19,16 +19,16 @@ namespace id = dispid::qvFlatCheck;
 namespace event = eventid::optionCheck;
 
 /// A changed value raises Click.
-constexpr InnerAccess::Access kValue = {
-    [](OptionCheckButton const& c) { return fieldValue(static_cast<short>(c.innerButton().value())); },
-    [](OptionCheckButton& c, Variant const& v) { c.innerButton().setValue(v.toShort()); }};
+constexpr PropertyAccess kValue = {
+    [](Surface const& s) { return fieldValue(static_cast<short>(innerOf(s).value())); },
+    [](Surface& s, Variant const& v) { innerOf(s).setValue(v.toShort()); }};
 
 constexpr OptionCheckRows kRows =
     optionCheckRows({L"Check1", AtStart::Default, PropertyKind::State, kValue, Saved::OnlyWritten});
 
 } // namespace
 
-PropertyTable<OptionCheckButton> const qvFlatCheck::kProperties(kRows);
+constinit PropertyTable const qvFlatCheck::kProperties(kRows);
 
 ControlClass const& flatCheckClass() noexcept { return kClass; }
 

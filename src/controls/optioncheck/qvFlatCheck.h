@@ -18,7 +18,7 @@ public:
 private:
     void putValue(OLE_TRISTATE value) override;
 
-    static Table const kProperties;
+    static PropertyTable const kProperties;
 };
 
 } // namespace quillet

@@ -23,11 +23,9 @@ namespace id = dispid::qvFlatOption;
 namespace event = eventid::optionCheck;
 
 /// Selecting the inner button clears the siblings and raises Click.
-constexpr InnerAccess::Access kValue = {
-    [](OptionCheckButton const& c) { return fieldValue(c.innerButton().value()); },
-    [](OptionCheckButton& c, Variant const& v) {
-        c.innerButton().setValue(v.toLong() == triChecked ? 1 : 0);
-    }};
+constexpr PropertyAccess kValue = {
+    [](Surface const& s) { return fieldValue(innerOf(s).value()); },
+    [](Surface& s, Variant const& v) { innerOf(s).setValue(v.toLong() == triChecked ? 1 : 0); }};
 
 constexpr OptionCheckRows kRows =
     optionCheckRows({L"Option1", AtStart::Surface, PropertyKind::Number, kValue, Saved::Yes});
@@ -40,7 +38,7 @@ Variant containerWindow(IDispatch* extender)
 
 } // namespace
 
-PropertyTable<OptionCheckButton> const qvFlatOption::kProperties(kRows);
+constinit PropertyTable const qvFlatOption::kProperties(kRows);
 
 ControlClass const& flatOptionClass() noexcept { return kClass; }
 

@@ -24,7 +24,7 @@ private:
     bool IsSameContainer(IUnknown* sibling) const noexcept;
     void giveTabStopBack() const noexcept;
 
-    static Table const kProperties;
+    static PropertyTable const kProperties;
 
     std::optional<bool> m_savedTabStop; ///< the host's setting; nothing before it was read
     bool m_clearing = false;            ///< the siblings are being cleared

@@ -3,24 +3,7 @@
 
 #include "surface/Surface.h"
 
-#include <string_view>
-
 namespace quillet {
-
-namespace {
-
-struct Telling {
-    std::wstring_view property;
-    DWORD event;
-};
-
-constexpr Telling kTellings[] = {
-    {L"Caption", EVENT_OBJECT_NAMECHANGE},
-    {L"Enabled", EVENT_OBJECT_STATECHANGE},
-    {L"Checked", EVENT_OBJECT_STATECHANGE},
-};
-
-} // namespace
 
 std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM what)
 {
@@ -33,11 +16,13 @@ std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM
 
 void Accessibility::propertyChanged(DISPID property) const noexcept
 {
-    for (Member const& member : m_surface.controlClass().members)
-        if (member.id == property)
-            for (Telling const& row : kTellings)
-                if (row.property == member.name)
-                    tell(row.event);
+    ControlClass const& own = m_surface.controlClass();
+    if (property == DISPID_UNKNOWN) // no member at all
+        return;
+    if (property == own.caption)
+        tell(EVENT_OBJECT_NAMECHANGE);
+    else if (property == own.enabled || property == own.checked)
+        tell(EVENT_OBJECT_STATECHANGE);
 }
 
 void Accessibility::stateChanged() const noexcept { tell(EVENT_OBJECT_STATECHANGE); }

@@ -8,7 +8,6 @@
 #include "surface/Surface.h"
 #include "surface/window/ParkingWindow.h"
 
-#include <cstdio>
 #include <utility>
 
 namespace quillet {
@@ -18,10 +17,7 @@ namespace {
 /// Window classes belong to the process: the address keeps two loaded copies of the component apart.
 struct ClassName {
     char text[40];
-    ClassName() noexcept
-    {
-        std::snprintf(text, sizeof(text), "QuilletSurface:%p", static_cast<void*>(moduleInstance()));
-    }
+    ClassName() noexcept { ::wsprintfA(text, "QuilletSurface:%p", static_cast<void*>(moduleInstance())); }
 };
 
 void registerClass(WNDPROC procedure)
