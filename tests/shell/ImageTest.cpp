@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <string>
 
@@ -28,6 +31,12 @@ protected:
     DWORD directory(DWORD which) const
     {
         return headers().OptionalHeader.DataDirectory[which].VirtualAddress;
+    }
+
+    static std::string file()
+    {
+        std::ifstream stream(std::filesystem::path(kit::Library::path()), std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
     }
 
     kit::Library const library;
@@ -89,6 +98,19 @@ TEST_F(Image, exportsTheFiveEntryPointsWithoutDecoration)
                                             "DllRegisterServer", "DllUnregisterServer"}));
     EXPECT_EQ(exports->NumberOfFunctions, 5u);
 }
+
+TEST_F(Image, isASmallFile)
+{
+#ifdef NDEBUG
+    EXPECT_GT(file().size(), 100'000u);
+    EXPECT_LE(file().size(), 400'000u);
+#else
+    GTEST_SKIP() << "of a release";
+#endif
+}
+
+/// A host may have one that is not ours.
+TEST_F(Image, asksForNoLibraryOfTheCompilers) { EXPECT_EQ(file().find("libgcc"), std::string::npos); }
 
 } // namespace
 } // namespace quillet
