@@ -100,7 +100,7 @@ TEST(Extender, writingMovesTheControl)
     putByName(kit.extender(L"One"), L"Width", Variant::ofLong(3000));
     EXPECT_EQ(fake.calls, (std::vector<std::string>{"SetExtent", "SetObjectRects"}));
     EXPECT_EQ(fake.extent.cx, 5292);
-    EXPECT_EQ(fake.place.right - fake.place.left, Scale::ofScreen().pixelsX(3000));
+    EXPECT_EQ(fake.place.right - fake.place.left, screenResolution().pixelsX(3000));
     fake.calls.clear();
     putByName(kit.extender(L"One"), L"Width", Variant::ofString(L"3000"));
     EXPECT_TRUE(fake.calls.empty()) << "the same width again is no move";

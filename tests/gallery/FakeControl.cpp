@@ -249,7 +249,7 @@ Variant FakeControl::invoke(DISPID id, WORD flags, Arguments const& arguments)
     return {};
 }
 
-IUnknown* FakeControl::inheritedFace(REFIID iid) noexcept
+IUnknown* FakeControl::inheritedInterface(REFIID iid) noexcept
 {
     if (iid == kFakeFace)
         return static_cast<IDispatch*>(this);

@@ -135,7 +135,7 @@ public:
 protected:
     DISPID idOf(std::wstring_view name) override;
     Variant invoke(DISPID id, WORD flags, Arguments const& arguments) override;
-    IUnknown* inheritedFace(REFIID iid) noexcept override;
+    IUnknown* inheritedInterface(REFIID iid) noexcept override;
 
 private:
     static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;

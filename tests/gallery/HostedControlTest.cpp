@@ -82,7 +82,7 @@ TEST(HostedControl, aFormInPixelsPlacesItsControlsInPixelsButNotWhatStandsInAFra
                      node("Fake.Button", "Two", "Left = 150\nTop = 300\nWidth = 1500\nHeight = 450")));
     EXPECT_EQ(kit.fake(L"One").place.left, 10);
     EXPECT_EQ(kit.fake(L"One").place.bottom, 50);
-    EXPECT_EQ(kit.fake(L"Two").place.left, Scale::ofScreen().pixelsX(150));
+    EXPECT_EQ(kit.fake(L"Two").place.left, screenResolution().pixelsX(150));
 }
 
 TEST(HostedControl, itsWindowStandsInItsContainersWindow)
