@@ -116,6 +116,7 @@ TEST_P(ImageEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     Face face{kFore, kBack, kLight, kDark, 2};
     face.caption = L"&Default";
+    face.captionLeft = 2 + 4; // inside the border as drawn
     int paints = 0;
     button.events().action = [&](auto const& event) {
         if (event.id == kPaint && ++paints == 1) {
