@@ -105,6 +105,7 @@ void Surface::close() noexcept
 
 void Surface::terminate() noexcept
 {
+    m_outer = &m_identity; // an outer object is going, too: messages of the window's end must not reach it
     close();
     ignoringErrors([&] { onTerminate(); });
     m_window.destroy();
