@@ -1,11 +1,11 @@
 // A file of ActiveX controls, used straight from where it lies: nothing needs to be registered.
 #include "gallery/app/ControlLibrary.h"
 
+#include "base/Borrowed.h"
 #include "base/Bstr.h"
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
 #include "gallery/form/Names.h"
-#include "gallery/host/TypeAttributes.h"
 
 #include <utility>
 
@@ -110,7 +110,9 @@ NewControl ControlLibrary::create(std::wstring_view className) const
         created.failure = L"the library has no class of that name";
         return created;
     }
-    if (FAILED(make(TypeAttributes(*created.classInfo.get())->guid, created.object)))
+    TypeRecord attributes(*created.classInfo.get());
+    check(created.classInfo->GetTypeAttr(attributes.put()));
+    if (FAILED(make(attributes->guid, created.object)))
         created.failure = L"its file does not make one";
     return created;
 }

@@ -1,10 +1,10 @@
 // Listens to a control's events and names them.
 #include "gallery/host/EventSink.h"
 
+#include "base/Borrowed.h"
 #include "base/Bstr.h"
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
-#include "gallery/host/TypeAttributes.h"
 
 #include <string>
 #include <utility>
@@ -26,7 +26,8 @@ ComPtr<ITypeInfo> classInfoOf(IUnknown* control, ITypeInfo* known)
 ComPtr<ITypeInfo> defaultSource(ITypeInfo& coclass)
 {
     constexpr int kWanted = IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE;
-    TypeAttributes const attributes(coclass);
+    TypeRecord attributes(coclass);
+    check(coclass.GetTypeAttr(attributes.put()));
     for (UINT i = 0; i < attributes->cImplTypes; ++i) {
         int flags = 0;
         HREFTYPE reference = 0;
@@ -57,7 +58,11 @@ EventSource eventSourceOf(IUnknown* control, ITypeInfo* classInfo)
     if (ComPtr<ITypeInfo> const coclass = classInfoOf(control, classInfo))
         ignoringErrors([&] { source.typeInfo = defaultSource(*coclass.get()); });
     if (source.typeInfo)
-        ignoringErrors([&] { source.interfaceId = TypeAttributes(*source.typeInfo.get())->guid; });
+        ignoringErrors([&] {
+            TypeRecord attributes(*source.typeInfo.get());
+            check(source.typeInfo->GetTypeAttr(attributes.put()));
+            source.interfaceId = attributes->guid;
+        });
     GUID asked{};
     auto const provider = query<IProvideClassInfo2>(control);
     if (provider && SUCCEEDED(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &asked)))

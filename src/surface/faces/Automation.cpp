@@ -17,12 +17,11 @@ namespace {
 /// The system keeps one copy while anybody holds it.
 ComPtr<ITypeLib> ownTypeLibrary()
 {
-    wchar_t path[MAX_PATH];
-    DWORD const length = ::GetModuleFileNameW(moduleInstance(), path, MAX_PATH);
-    if (length == 0 || length == MAX_PATH)
+    std::wstring const path = modulePath();
+    if (path.empty())
         throw RunTimeError(TYPE_E_CANTLOADLIBRARY);
     ComPtr<ITypeLib> library;
-    check(::LoadTypeLibEx(path, REGKIND_NONE, library.put()));
+    check(::LoadTypeLibEx(path.c_str(), REGKIND_NONE, library.put()));
     return library;
 }
 
