@@ -6,6 +6,7 @@
 #include "Input.h"
 #include "base/RunTimeError.h"
 #include "platform/Objects.h"
+#include "saving/PropertyBag.h"
 
 namespace quillet::fuzz {
 

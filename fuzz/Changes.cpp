@@ -99,7 +99,7 @@ constexpr Name kNames[] = {{L"Caption", Sort::Scalar},
 
 Bag asSaved(gallery::PropertyBag const& loaded)
 {
-    Bag bag = gallery::makeCounted<gallery::PropertyBag>();
+    Bag bag = makeCounted<gallery::PropertyBag>();
     for (auto const& entry : loaded.entries())
         if (entry.value.type() != VT_R8)
             bag->set(entry.name, entry.value);
@@ -111,7 +111,7 @@ Bag asSaved(gallery::PropertyBag const& loaded)
 Bag changed(gallery::PropertyBag const& saved, Input& input, gallery::FormCoding coding)
 {
     enum { Keep, Remove, Change, Kinds };
-    Bag bag = gallery::makeCounted<gallery::PropertyBag>();
+    Bag bag = makeCounted<gallery::PropertyBag>();
     for (auto const& entry : saved.entries()) {
         int const deed = input.take<BYTE>() % Kinds;
         if (deed != Remove)

@@ -1,6 +1,5 @@
-// What the sources call and nobody's answer depends on: error info, the system's texts, a stock font.
-#include "base/HelpFile.h"
-
+// What the sources call and nobody's answer depends on: error info, the system's texts, a stock font, the
+// component's file.
 #include <windows.h>
 
 #include <oleauto.h>
@@ -9,9 +8,4 @@ HRESULT WINAPI CreateErrorInfo(ICreateErrorInfo**) { return E_NOTIMPL; }
 HRESULT WINAPI SetErrorInfo(ULONG, IErrorInfo*) { return S_OK; }
 DWORD WINAPI FormatMessageW(DWORD, LPCVOID, DWORD, DWORD, LPWSTR, DWORD, va_list*) { return 0; }
 HGDIOBJ WINAPI GetStockObject(INT) { return nullptr; }
-
-namespace quillet {
-
-std::wstring helpFilePath() { return kHelpFile; }
-
-} // namespace quillet
+DWORD WINAPI GetModuleFileNameW(HMODULE, LPWSTR, DWORD) { return 0; }
