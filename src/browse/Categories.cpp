@@ -5,21 +5,21 @@ namespace quillet {
 
 namespace {
 
-struct NameRow {
+struct Heading {
     Category category;
     wchar_t const* name;
 };
-constexpr NameRow kNames[] = {
+constexpr Heading kHeadings[] = {
     {Category::Misc, L"Misc"},         {Category::Font, L"Font"},
     {Category::Position, L"Position"}, {Category::Appearance, L"Appearance"},
     {Category::Behavior, L"Behavior"}, {Category::Text, L"Text"},
 };
 
-struct PropertyRow {
+struct Placement {
     std::wstring_view property;
     Category category;
 };
-constexpr PropertyRow kProperties[] = {
+constexpr Placement kPlacements[] = {
     {L"Font", Category::Font},
     {L"CheckedFont", Category::Font},
     {L"Caption", Category::Text},
@@ -53,7 +53,7 @@ Category categoryOf(std::wstring_view property) noexcept
 {
     if (property.ends_with(L"Color"))
         return Category::Appearance;
-    for (PropertyRow const& row : kProperties)
+    for (Placement const& row : kPlacements)
         if (row.property == property)
             return row.category;
     return Category::Misc;
@@ -61,7 +61,7 @@ Category categoryOf(std::wstring_view property) noexcept
 
 wchar_t const* nameOf(Category category) noexcept
 {
-    for (NameRow const& row : kNames)
+    for (Heading const& row : kHeadings)
         if (row.category == category)
             return row.name;
     return nullptr;

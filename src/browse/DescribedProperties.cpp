@@ -43,25 +43,25 @@ std::vector<Choice> choicesOf(ITypeInfo& enumeration, WORD count)
 /// A mouse pointer is a plain number to the type library. The gaps are numbers that name no pointer.
 std::vector<Choice> mousePointers()
 {
-    constexpr wchar_t const* kNames[] = {L"Default",
-                                         L"Arrow",
-                                         L"Cross",
-                                         L"I-Beam",
-                                         L"Icon",
-                                         L"Size",
-                                         L"Size NE SW",
-                                         L"Size N S",
-                                         L"Size NW SE",
-                                         L"Size W E",
-                                         L"Up Arrow",
-                                         L"Hourglass",
-                                         L"No Drop",
-                                         L"Arrow and Hourglass",
-                                         L"Arrow and Question",
-                                         L"Size All"};
+    constexpr wchar_t const* kPointers[] = {L"Default",
+                                            L"Arrow",
+                                            L"Cross",
+                                            L"I-Beam",
+                                            L"Icon",
+                                            L"Size",
+                                            L"Size NE SW",
+                                            L"Size N S",
+                                            L"Size NW SE",
+                                            L"Size W E",
+                                            L"Up Arrow",
+                                            L"Hourglass",
+                                            L"No Drop",
+                                            L"Arrow and Hourglass",
+                                            L"Arrow and Question",
+                                            L"Size All"};
     constexpr long kCustom = 99;
     std::vector<Choice> choices;
-    for (wchar_t const* const name : kNames) {
+    for (wchar_t const* const name : kPointers) {
         auto const value = static_cast<long>(choices.size());
         choices.push_back({value, decimalText(value) + L" - " + name});
     }

@@ -14,7 +14,7 @@ namespace quillet {
 namespace {
 
 constexpr WORD kSystemColours = 110;
-constexpr WORD kChoose = 111;
+constexpr WORD kChooseColour = 111;
 
 struct SystemColour {
     OLE_COLOR colour;
@@ -74,7 +74,7 @@ void ColoursPage::fillBeside(PageWindow& window)
     for (SystemColour const& row : kColours)
         ::SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.name));
     addSample(window, {kBeside, 34, 134, 50});
-    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChoose, {kBeside, 90, 60, 14});
+    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChooseColour, {kBeside, 90, 60, 14});
 }
 
 void ColoursPage::showValue()
@@ -88,7 +88,7 @@ void ColoursPage::showValue()
 
 void ColoursPage::onOtherCommand(WORD control, WORD notification)
 {
-    if (control == kChoose && notification == BN_CLICKED)
+    if (control == kChooseColour && notification == BN_CLICKED)
         choose();
     if (control != kSystemColours || notification != CBN_SELCHANGE)
         return;

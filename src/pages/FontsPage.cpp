@@ -13,7 +13,7 @@ namespace quillet {
 
 namespace {
 
-constexpr WORD kChoose = 110;
+constexpr WORD kChooseFont = 110;
 constexpr WORD kName = 111;
 constexpr int kTenthsPerPoint = 10;
 constexpr LONGLONG kCurrencyUnit = 10000;
@@ -65,7 +65,7 @@ void FontsPage::fillBeside(PageWindow& window)
 {
     window.add(L"STATIC", L"", SS_LEFT | SS_NOPREFIX, kName, {kBeside, 4, 134, 9});
     addSample(window, {kBeside, 16, 134, 68});
-    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChoose, {kBeside, 90, 60, 14});
+    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChooseFont, {kBeside, 90, 60, 14});
 }
 
 void FontsPage::showValue()
@@ -86,7 +86,7 @@ HFONT FontsPage::fontHandle() const
 
 void FontsPage::onOtherCommand(WORD control, WORD notification)
 {
-    if (control == kChoose && notification == BN_CLICKED)
+    if (control == kChooseFont && notification == BN_CLICKED)
         choose();
 }
 

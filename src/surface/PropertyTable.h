@@ -49,11 +49,14 @@ struct PropertyAccess {
     FieldType type = {};
 };
 
-/// A property that the control keeps in a field of its looks.
-template <class Control, auto Field>
-inline constexpr PropertyAccess kFieldOf = {
-    .field = [](Surface& surface) -> void* { return &(static_cast<Control&>(surface).looks().*Field); },
-    .type = fieldType<std::remove_cvref_t<decltype(std::declval<Control&>().looks().*Field)>>()};
+/// A property that a control keeps in a field of its looks, whose class names the control.
+template <auto Field> inline constexpr PropertyAccess kField = {};
+template <class Looks, class Value, Value Looks::*Field>
+inline constexpr PropertyAccess kField<Field> = {
+    .field = [](Surface& surface) -> void* {
+        return &(static_cast<typename Looks::Control&>(surface).looks().*Field);
+    },
+    .type = fieldType<Value>()};
 
 /// Fields as variants of their properties' kinds.
 inline Variant fieldValue(Bstr const& field) { return Variant::ofString(field.view()); }

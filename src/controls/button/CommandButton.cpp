@@ -14,8 +14,6 @@ namespace quillet {
 
 namespace {
 
-namespace event = eventid::command;
-
 constexpr short kLeftButton = 1;
 constexpr short kSpace = 32;
 
@@ -46,8 +44,8 @@ bool CommandButton::enterOrExit(bool over)
     else
         ::ReleaseCapture();
     if (exitIsDue)
-        raiseEvent(event::MouseExit);
-    raiseEvent(over ? event::MouseEnter : event::MouseExit);
+        raiseEvent(eventid::command::MouseExit);
+    raiseEvent(over ? eventid::command::MouseEnter : eventid::command::MouseExit);
     return true;
 }
 
@@ -71,7 +69,7 @@ void CommandButton::onMouseLeft()
     // A button that was taken from its form has ended its hover in silence.
     if (!std::exchange(m_entered, false) || !reacts() || !::IsWindowVisible(hWnd()))
         return;
-    raiseEvent(event::MouseExit);
+    raiseEvent(eventid::command::MouseExit);
     repaint();
 }
 
@@ -81,7 +79,7 @@ void CommandButton::onMouseDown(MouseArguments const& mouse)
         return;
     if (isOwnPress(mouse))
         setPressed(true);
-    raiseMouseEvent(event::MouseDown, mouse);
+    raiseMouseEvent(eventid::command::MouseDown, mouse);
 }
 
 void CommandButton::onMouseUp(MouseArguments const& mouse)
@@ -94,19 +92,19 @@ void CommandButton::onMouseUp(MouseArguments const& mouse)
         repaint();
         accessibility().stateChanged();
     }
-    raiseMouseEvent(event::MouseUp, mouse);
+    raiseMouseEvent(eventid::command::MouseUp, mouse);
 }
 
 void CommandButton::onClick()
 {
     if (reacts())
-        raiseEvent(event::Click);
+        raiseEvent(eventid::command::Click);
 }
 
 void CommandButton::onDblClick()
 {
     if (reacts())
-        raiseEvent(event::DblClick);
+        raiseEvent(eventid::command::DblClick);
 }
 
 /// Enter reaches a default button through its container.

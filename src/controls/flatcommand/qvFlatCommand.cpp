@@ -8,11 +8,13 @@
 #include "typelib/Guids.h"
 #include "typelib/HelpContexts.h"
 
+#include <array>
+
 namespace quillet {
 
 namespace {
 
-constexpr ControlClass kClass = {
+constexpr ControlClass kFlatCommandClass = {
     kQvFlatCommandClass,
     kQvFlatCommandInterface,
     kQvFlatCommandEvents,
@@ -24,49 +26,49 @@ constexpr ControlClass kClass = {
     kHelpQvFlatCommand,
 };
 
-using namespace rowwords;
-using Looks = FlatCommandLooks;
-
-template <auto Field> constexpr PropertyAccess kField = kFieldOf<qvFlatCommand, Field>;
-
-namespace id = dispid::qvFlatCommand;
-
-// clang-format off
-// In the order of saving.
-constexpr Row kRows[] = {
-    {L"BackColor",          id::BackColor,          Kind::Colour,  kFace,        Held::kBackColor,                   kSaved,   kAsSurface, kPaint},
-    {L"ForeColor",          id::ForeColor,          Kind::Colour,  kText,        Held::kForeColor,                   kSaved,   kAsSurface, kPaint},
-    {L"Enabled",            id::Enabled,            Kind::Flag,    true,         Held::kEnabled,                     kSaved,   kAsSurface, kPaint},
-    {L"Font",               id::Font,               Kind::OwnFont, 0,            Held::kFont,                        kSaved,   kAsSurface, kPaint},
-    {L"BorderStyle",        id::BorderStyle,        Kind::Style,   1,            kField<&Looks::borderStyle>,        kSaved,   kNew,       kPaint},
-    {L"BorderColor",        id::BorderColor,        Kind::Colour,  kDark,        kField<&Looks::borderColor>,        kSaved,   kNew,       kPaint},
-    {L"HotForeColor",       id::HotForeColor,       Kind::Colour,  k3dHighlight, kField<&Looks::hotForeColor>,       kSaved,   kNew,       kQuiet},
-    {L"PressedForeColor",   id::PressedForeColor,   Kind::Colour,  k3dHighlight, kField<&Looks::pressedForeColor>,   kSaved,   kNew,       kQuiet},
-    {L"HotBackColor",       id::HotBackColor,       Kind::Colour,  kShadow,      kField<&Looks::hotBackColor>,       kSaved,   kNew,       kQuiet},
-    {L"PressedBackColor",   id::PressedBackColor,   Kind::Colour,  kDark,        kField<&Looks::pressedBackColor>,   kSaved,   kNew,       kQuiet},
-    {L"HotBorderColor",     id::HotBorderColor,     Kind::Colour,  kDark,        kField<&Looks::hotBorderColor>,     kSaved,   kNew,       kQuiet},
-    {L"PressedBorderColor", id::PressedBorderColor, Kind::Colour,  kDark,        kField<&Looks::pressedBorderColor>, kSaved,   kNew,       kQuiet},
-    {L"BorderWidth",        id::BorderWidth,        Kind::Integer, 1,            kField<&Looks::borderWidth>,        kSaved,   kNew,       kPaint},
-    {L"HotBorderWidth",     id::HotBorderWidth,     Kind::Integer, 1,            kField<&Looks::hotBorderWidth>,     kSaved,   kNew,       kQuiet},
-    {L"PressedBorderWidth", id::PressedBorderWidth, Kind::Integer, 1,            kField<&Looks::pressedBorderWidth>, kSaved,   kNew,       kQuiet},
-    {L"DisabledForeColor",  id::DisabledForeColor,  Kind::Colour,  kGreyText,    kField<&Looks::disabledForeColor>,  kSaved,   kNew,       kPaint},
-    {L"Caption",            id::Caption,            Kind::Text,    0,            kField<&Looks::caption>,            kSaved,   kNew,       kPaint},
-    {L"CentreCaption",      id::CentreCaption,      Kind::Flag,    false,        kField<&Looks::centreCaption>,      kSaved,   kNew,       kPaint},
-    {L"CaptionIndent",      id::CaptionIndent,      Kind::Integer, 4,            kField<&Looks::captionIndent>,      kSaved,   kNew,       kPaint},
-    {L"MousePointer",       id::MousePointer,       Kind::Integer, 0,            Held::kMousePointer,                kSaved,   kAsSurface, kQuiet},
-    {L"MouseIcon",          id::MouseIcon,          Kind::Picture, 0,            Held::kMouseIcon,                   kSaved,   kAsSurface, kQuiet},
-    {L"ShowFocusRectangle", id::ShowFocusRectangle, Kind::Flag,    true,         kField<&Looks::showFocusRectangle>, kSaved,   kNew,       kPaint},
-    {L"OfficeXPColors",     id::OfficeXPColors,     Kind::Flag,    false,        kField<&Looks::officeXPColors>,     kSaved,   kNew,       kPaint},
-    // The container's extender keeps this one.
-    {L"ToolTipText",        id::ToolTipText,        Kind::Text,    0,            kField<&Looks::toolTipText>,        kUnsaved, kAsSurface, kQuiet},
-};
-// clang-format on
+/// In the order of saving.
+constexpr auto flatCommandRows()
+{
+    namespace id = dispid::qvFlatCommand;
+    using namespace rowwords;
+    using Looks = FlatCommandLooks;
+    // clang-format off
+    return std::to_array<Row>({
+        {L"BackColor",          id::BackColor,          Kind::Colour,  kFace,        Held::kBackColor,                   kSaved,   kAsSurface, kPaint},
+        {L"ForeColor",          id::ForeColor,          Kind::Colour,  kText,        Held::kForeColor,                   kSaved,   kAsSurface, kPaint},
+        {L"Enabled",            id::Enabled,            Kind::Flag,    true,         Held::kEnabled,                     kSaved,   kAsSurface, kPaint},
+        {L"Font",               id::Font,               Kind::OwnFont, 0,            Held::kFont,                        kSaved,   kAsSurface, kPaint},
+        {L"BorderStyle",        id::BorderStyle,        Kind::Style,   1,            kField<&Looks::borderStyle>,        kSaved,   kNew,       kPaint},
+        {L"BorderColor",        id::BorderColor,        Kind::Colour,  kDark,        kField<&Looks::borderColor>,        kSaved,   kNew,       kPaint},
+        {L"HotForeColor",       id::HotForeColor,       Kind::Colour,  k3dHighlight, kField<&Looks::hotForeColor>,       kSaved,   kNew,       kQuiet},
+        {L"PressedForeColor",   id::PressedForeColor,   Kind::Colour,  k3dHighlight, kField<&Looks::pressedForeColor>,   kSaved,   kNew,       kQuiet},
+        {L"HotBackColor",       id::HotBackColor,       Kind::Colour,  kShadow,      kField<&Looks::hotBackColor>,       kSaved,   kNew,       kQuiet},
+        {L"PressedBackColor",   id::PressedBackColor,   Kind::Colour,  kDark,        kField<&Looks::pressedBackColor>,   kSaved,   kNew,       kQuiet},
+        {L"HotBorderColor",     id::HotBorderColor,     Kind::Colour,  kDark,        kField<&Looks::hotBorderColor>,     kSaved,   kNew,       kQuiet},
+        {L"PressedBorderColor", id::PressedBorderColor, Kind::Colour,  kDark,        kField<&Looks::pressedBorderColor>, kSaved,   kNew,       kQuiet},
+        {L"BorderWidth",        id::BorderWidth,        Kind::Integer, 1,            kField<&Looks::borderWidth>,        kSaved,   kNew,       kPaint},
+        {L"HotBorderWidth",     id::HotBorderWidth,     Kind::Integer, 1,            kField<&Looks::hotBorderWidth>,     kSaved,   kNew,       kQuiet},
+        {L"PressedBorderWidth", id::PressedBorderWidth, Kind::Integer, 1,            kField<&Looks::pressedBorderWidth>, kSaved,   kNew,       kQuiet},
+        {L"DisabledForeColor",  id::DisabledForeColor,  Kind::Colour,  kGreyText,    kField<&Looks::disabledForeColor>,  kSaved,   kNew,       kPaint},
+        {L"Caption",            id::Caption,            Kind::Text,    0,            kField<&Looks::caption>,            kSaved,   kNew,       kPaint},
+        {L"CentreCaption",      id::CentreCaption,      Kind::Flag,    false,        kField<&Looks::centreCaption>,      kSaved,   kNew,       kPaint},
+        {L"CaptionIndent",      id::CaptionIndent,      Kind::Integer, 4,            kField<&Looks::captionIndent>,      kSaved,   kNew,       kPaint},
+        {L"MousePointer",       id::MousePointer,       Kind::Integer, 0,            Held::kMousePointer,                kSaved,   kAsSurface, kQuiet},
+        {L"MouseIcon",          id::MouseIcon,          Kind::Picture, 0,            Held::kMouseIcon,                   kSaved,   kAsSurface, kQuiet},
+        {L"ShowFocusRectangle", id::ShowFocusRectangle, Kind::Flag,    true,         kField<&Looks::showFocusRectangle>, kSaved,   kNew,       kPaint},
+        {L"OfficeXPColors",     id::OfficeXPColors,     Kind::Flag,    false,        kField<&Looks::officeXPColors>,     kSaved,   kNew,       kPaint},
+        // The container's extender keeps this one.
+        {L"ToolTipText",        id::ToolTipText,        Kind::Text,    0,            kField<&Looks::toolTipText>,        kUnsaved, kAsSurface, kQuiet},
+    });
+    // clang-format on
+}
+constexpr auto kFlatCommandRows = flatCommandRows();
 
 } // namespace
 
-constinit PropertyTable const qvFlatCommand::kProperties(kRows);
+constinit PropertyTable const qvFlatCommand::kProperties(kFlatCommandRows);
 
-ControlClass const& flatCommandClass() noexcept { return kClass; }
+ControlClass const& flatCommandClass() noexcept { return kFlatCommandClass; }
 
 HRESULT createFlatCommand(IUnknown* outer, REFIID iid, void** object) noexcept
 {
@@ -74,7 +76,7 @@ HRESULT createFlatCommand(IUnknown* outer, REFIID iid, void** object) noexcept
 }
 
 qvFlatCommand::qvFlatCommand(IUnknown* outer)
-    : CommandButton(kClass, outer), Dual(static_cast<Surface&>(*this))
+    : CommandButton(kFlatCommandClass, outer), Dual(static_cast<Surface&>(*this))
 {
     // A container may leave out both loading and initialising.
     kProperties.setPlainDefaults(*this);

@@ -12,9 +12,13 @@
 
 namespace quillet {
 
+class qvFlatCommand;
+
 /// Everything about a flat command button that its properties keep and the surface does not. The property
 /// table holds the defaults.
 struct FlatCommandLooks {
+    using Control = qvFlatCommand;
+
     bool officeXPColors;
     bool showFocusRectangle;
     bool centreCaption;

@@ -9,8 +9,6 @@ namespace quillet {
 
 namespace {
 
-namespace event = eventid::command;
-
 constexpr short kLeftButton = 1;
 
 } // namespace
@@ -27,7 +25,7 @@ void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
             setPressed(true); // painting takes it back when the cursor is not over the button
         else if (mouse.button == 0 && enterOrExit(isOver()))
             repaint();
-        raiseMouseEvent(event::MouseMove, mouse);
+        raiseMouseEvent(eventid::command::MouseMove, mouse);
     }
     m_lastOver = isOver();
 }

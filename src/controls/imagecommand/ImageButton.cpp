@@ -6,14 +6,6 @@
 
 namespace quillet {
 
-namespace {
-
-namespace id = dispid::imageButton;
-
-using Part = PropertyTable::Part;
-
-} // namespace
-
 ImageButton::ImageButton(ImageButtonKind const& kind, IUnknown* outer)
     : CommandButton(kind.controlClass, outer), m_kind(kind)
 {
@@ -24,9 +16,9 @@ ImageButton::ImageButton(ImageButtonKind const& kind, IUnknown* outer)
 void ImageButton::onInitProperties()
 {
     setFont(container().ambientFont());
-    properties().setDefaults(*this, Part::Through, id::ShowFocusRectangle);
+    properties().setDefaults(*this, PropertyTable::Part::Through, dispid::imageButton::ShowFocusRectangle);
     ignoringErrors([&] { repaint(); });
-    properties().setDefaults(*this, Part::After, id::ShowFocusRectangle);
+    properties().setDefaults(*this, PropertyTable::Part::After, dispid::imageButton::ShowFocusRectangle);
     for (auto const image :
          {&ImageLooks::image, &ImageLooks::disabledImage, &ImageLooks::hotImage, &ImageLooks::pressedImage})
         m_looks.*image = emptyPicture();

@@ -13,9 +13,13 @@
 
 namespace quillet {
 
+class ImageButton;
+
 /// Everything about an image button that its properties keep and the surface does not. The table of the
 /// button's kind holds the defaults. "Stored only": saved with the form and read by no drawing code.
 struct ImageLooks {
+    using Control = ImageButton;
+
     bool officeXPColors;
     bool offsetPressed; ///< picture and caption move right and down while pressed or checked
     bool active;        ///< False makes a running button behave as in design mode

@@ -13,8 +13,6 @@ namespace quillet {
 
 namespace {
 
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-
 /// Window classes belong to the process: the address keeps two loaded copies of the component apart.
 struct ClassName {
     wchar_t text[40];
@@ -228,7 +226,7 @@ void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) 
 
 void InnerButton::drawFilledGlyph(HDC dc, SIZE size, HBRUSH brush) const
 {
-    quillet::drawFilledGlyph(dc, size, glyphLook(kWhite), brush);
+    quillet::drawFilledGlyph(dc, size, glyphLook(kGlyphWhite), brush);
 }
 
 void InnerButton::paint()
@@ -238,7 +236,7 @@ void InnerButton::paint()
     HDC const dc = ::BeginPaint(window, &region);
     RECT client = {};
     ::GetClientRect(window, &client);
-    ignoringErrors([&] { draw(dc, {client.right, client.bottom}, m_foreColor, kWhite); });
+    ignoringErrors([&] { draw(dc, {client.right, client.bottom}, m_foreColor, kGlyphWhite); });
     ::EndPaint(window, &region);
     m_surface.onInnerPainted();
 }

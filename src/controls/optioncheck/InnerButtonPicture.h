@@ -16,6 +16,10 @@ struct CaptionPlace {
     RECT text;
 };
 
+/// What a glyph is filled with: as a rule, and to shade it under the cursor or while disabled.
+inline constexpr COLORREF kGlyphWhite = RGB(255, 255, 255);
+inline constexpr COLORREF kGlyphShade = RGB(192, 192, 192); // of the stock brush
+
 /// What the circle or square shows. Colours are as GDI draws them.
 struct GlyphLook {
     InnerKind kind;

@@ -5,12 +5,6 @@
 
 namespace quillet {
 
-namespace {
-
-namespace event = eventid::optionCheck;
-
-} // namespace
-
 OptionCheckButton::OptionCheckButton(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
                                      std::wstring_view caption, PropertyTable const& properties)
     : Surface(controlClass, outer), m_properties(properties), m_inner(*this, kind, caption)
@@ -44,7 +38,7 @@ void OptionCheckButton::onTerminate()
 void OptionCheckButton::onResize()
 {
     m_inner.cover();
-    raiseEvent(event::Resize);
+    raiseEvent(eventid::optionCheck::Resize);
 }
 
 void OptionCheckButton::onCommand(WORD code, HWND from)
@@ -53,23 +47,29 @@ void OptionCheckButton::onCommand(WORD code, HWND from)
         m_inner.notified(code);
 }
 
-void OptionCheckButton::onMouseDown(MouseArguments const& mouse) { raiseMouseEvent(event::MouseDown, mouse); }
+void OptionCheckButton::onMouseDown(MouseArguments const& mouse)
+{
+    raiseMouseEvent(eventid::optionCheck::MouseDown, mouse);
+}
 
-void OptionCheckButton::onMouseUp(MouseArguments const& mouse) { raiseMouseEvent(event::MouseUp, mouse); }
+void OptionCheckButton::onMouseUp(MouseArguments const& mouse)
+{
+    raiseMouseEvent(eventid::optionCheck::MouseUp, mouse);
+}
 
 void OptionCheckButton::onKeyDown(short& keyCode, short shift)
 {
-    raiseEvent(event::KeyDown, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
+    raiseEvent(eventid::optionCheck::KeyDown, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
 }
 
 void OptionCheckButton::onKeyUp(short& keyCode, short shift)
 {
-    raiseEvent(event::KeyUp, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
+    raiseEvent(eventid::optionCheck::KeyUp, {Variant::ofShortRef(&keyCode), Variant::ofShortRef(&shift)});
 }
 
 void OptionCheckButton::onCharacter(short& keyAscii)
 {
-    raiseEvent(event::KeyPress, {Variant::ofShortRef(&keyAscii)});
+    raiseEvent(eventid::optionCheck::KeyPress, {Variant::ofShortRef(&keyAscii)});
 }
 
 bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept

@@ -7,13 +7,6 @@
 
 namespace quillet {
 
-namespace {
-
-constexpr COLORREF kLightGrey = RGB(192, 192, 192); // of the stock brush
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-
-} // namespace
-
 void OptionCheckButton::onPaint()
 {
     if (paintsElsewhere())
@@ -73,7 +66,7 @@ void OptionCheckButton::drawElsewhere()
 {
     bool const isShaded = userMode() && !enabled();
     m_inner.draw(paintDc(), clientSize(), enabled() ? foreColor() : colour::kButtonShadow,
-                 isShaded ? kLightGrey : kWhite);
+                 isShaded ? kGlyphShade : kGlyphWhite);
 }
 
 void OptionCheckButton::refresh()

@@ -10,27 +10,24 @@ namespace quillet {
 
 namespace {
 
-constexpr ControlClass kClass = {
+constexpr ControlClass kCheckClass = {
     kQvFlatCheckClass,      kQvFlatCheckInterface, kQvFlatCheckEvents,  L"qvFlatCheck",
     L"Quillet.qvFlatCheck", kOptionCheckStatus,    kQvFlatCheckMembers, kHelpQvFlatCheck,
 };
 
-namespace id = dispid::qvFlatCheck;
-namespace event = eventid::optionCheck;
-
 /// A changed value raises Click.
-constexpr PropertyAccess kValue = {
+constexpr PropertyAccess kCheckValue = {
     [](Surface const& s) { return fieldValue(static_cast<short>(innerOf(s).value())); },
     [](Surface& s, Variant const& v) { innerOf(s).setValue(v.toShort()); }};
 
-constexpr OptionCheckRows kRows =
-    optionCheckRows({L"Check1", AtStart::Default, PropertyKind::State, kValue, Saved::OnlyWritten});
+constexpr OptionCheckRows kCheckRows =
+    optionCheckRows({L"Check1", AtStart::Default, PropertyKind::State, kCheckValue, Saved::OnlyWritten});
 
 } // namespace
 
-constinit PropertyTable const qvFlatCheck::kProperties(kRows);
+constinit PropertyTable const qvFlatCheck::kProperties(kCheckRows);
 
-ControlClass const& flatCheckClass() noexcept { return kClass; }
+ControlClass const& flatCheckClass() noexcept { return kCheckClass; }
 
 HRESULT createFlatCheck(IUnknown* outer, REFIID iid, void** object) noexcept
 {
@@ -38,7 +35,7 @@ HRESULT createFlatCheck(IUnknown* outer, REFIID iid, void** object) noexcept
 }
 
 qvFlatCheck::qvFlatCheck(IUnknown* outer)
-    : OptionCheckMembers(kClass, outer, InnerKind::Check, L"Check1", kProperties)
+    : OptionCheckMembers(kCheckClass, outer, InnerKind::Check, L"Check1", kProperties)
 {}
 
 void qvFlatCheck::onMouseMove(MouseArguments const& mouse)
@@ -47,18 +44,18 @@ void qvFlatCheck::onMouseMove(MouseArguments const& mouse)
         return;
     followMouse(mouse);
     setLastHover(isMouseOver());
-    raiseMouseEvent(event::MouseMove, mouse);
+    raiseMouseEvent(eventid::optionCheck::MouseMove, mouse);
 }
 
 void qvFlatCheck::putValue(OLE_TRISTATE value)
 {
-    properties().put(*this, properties().rowOf(id::Value), Variant::ofLong(value));
+    properties().put(*this, properties().rowOf(dispid::qvFlatCheck::Value), Variant::ofLong(value));
 }
 
 void qvFlatCheck::onClick()
 {
     repaint();
-    raiseEvent(event::Click);
+    raiseEvent(eventid::optionCheck::Click);
 }
 
 } // namespace quillet

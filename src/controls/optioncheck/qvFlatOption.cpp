@@ -14,21 +14,18 @@ namespace quillet {
 
 namespace {
 
-constexpr ControlClass kClass = {
+constexpr ControlClass kOptionClass = {
     kQvFlatOptionClass,      kQvFlatOptionInterface, kQvFlatOptionEvents,  L"qvFlatOption",
     L"Quillet.qvFlatOption", kOptionCheckStatus,     kQvFlatOptionMembers, kHelpQvFlatOption,
 };
 
-namespace id = dispid::qvFlatOption;
-namespace event = eventid::optionCheck;
-
 /// Selecting the inner button clears the siblings and raises Click.
-constexpr PropertyAccess kValue = {
+constexpr PropertyAccess kOptionValue = {
     [](Surface const& s) { return fieldValue(innerOf(s).value()); },
     [](Surface& s, Variant const& v) { innerOf(s).setValue(v.toLong() == triChecked ? 1 : 0); }};
 
-constexpr OptionCheckRows kRows =
-    optionCheckRows({L"Option1", AtStart::Surface, PropertyKind::Number, kValue, Saved::Yes});
+constexpr OptionCheckRows kOptionRows =
+    optionCheckRows({L"Option1", AtStart::Surface, PropertyKind::Number, kOptionValue, Saved::Yes});
 
 Variant containerWindow(IDispatch* extender)
 {
@@ -38,9 +35,9 @@ Variant containerWindow(IDispatch* extender)
 
 } // namespace
 
-constinit PropertyTable const qvFlatOption::kProperties(kRows);
+constinit PropertyTable const qvFlatOption::kProperties(kOptionRows);
 
-ControlClass const& flatOptionClass() noexcept { return kClass; }
+ControlClass const& flatOptionClass() noexcept { return kOptionClass; }
 
 HRESULT createFlatOption(IUnknown* outer, REFIID iid, void** object) noexcept
 {
@@ -48,7 +45,7 @@ HRESULT createFlatOption(IUnknown* outer, REFIID iid, void** object) noexcept
 }
 
 qvFlatOption::qvFlatOption(IUnknown* outer)
-    : OptionCheckMembers(kClass, outer, InnerKind::Option, L"Option1", kProperties)
+    : OptionCheckMembers(kOptionClass, outer, InnerKind::Option, L"Option1", kProperties)
 {}
 
 void qvFlatOption::onReadProperties(PropertyBag& bag)
@@ -64,16 +61,16 @@ void qvFlatOption::onMouseMove(MouseArguments const& mouse)
     bool const running = userMode();
     if (running) {
         followMouse(mouse);
-        raiseMouseEvent(event::MouseMove, mouse);
+        raiseMouseEvent(eventid::optionCheck::MouseMove, mouse);
     }
     setLastHover(running && isMouseOver());
-    raiseMouseEvent(event::MouseMove, mouse);
+    raiseMouseEvent(eventid::optionCheck::MouseMove, mouse);
 }
 
 void qvFlatOption::putValue(OLE_TRISTATE value)
 {
     innerButton().setValue(value == triChecked ? 1 : 0);
-    propertyChanged(id::Value, ViewChange::Yes);
+    propertyChanged(dispid::qvFlatOption::Value, ViewChange::Yes);
     // Only the chosen option of a group is a tab stop.
     if (innerButton().value() == 1)
         giveTabStopBack();
@@ -89,7 +86,7 @@ void qvFlatOption::onClick()
         clearSiblings();
         m_clearing = false;
     }
-    raiseEvent(event::Click);
+    raiseEvent(eventid::optionCheck::Click);
 }
 
 /// The focus that an access key brings may have chosen the option already.

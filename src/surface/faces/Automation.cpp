@@ -25,12 +25,12 @@ ComPtr<ITypeLib> ownTypeLibrary()
     return library;
 }
 
-wchar_t lowered(wchar_t c) noexcept { return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c; }
+wchar_t lowerLetter(wchar_t c) noexcept { return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c; }
 
 /// Published names are plain letters.
 bool sameName(std::wstring_view a, std::wstring_view b) noexcept
 {
-    return std::ranges::equal(a, b, {}, lowered, lowered);
+    return std::ranges::equal(a, b, {}, lowerLetter, lowerLetter);
 }
 
 DISPID memberNamed(Members members, std::wstring_view name) noexcept
