@@ -16,8 +16,8 @@ gallery: ## opens a form with live buttons; ARGS="FORM" for another one
 bench: ## speed and size, as ratios
 	@tools/bench
 
-fuzz: ## malformed data for everything that reads it; MINUTES=5 each
-	@tools/fuzz $(MINUTES)
+fuzz: ## malformed data for everything that reads it; MINUTES=5 each; KEEP=yes packs what it found for everybody
+	@tools/fuzz $(if $(KEEP),--keep) $(MINUTES)
 
 soak: ## what 100,000 paints and 10,000 lives of each control leave behind
 	@tools/soak $(PAINTS) $(LIVES)
