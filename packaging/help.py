@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Makes the help file out of the manual's pages: help.py FOLDER. It comes out as FOLDER/quillet.chm.
 
-The pages are those that the type library's help topics name, and the manual's start."""
+The pages are the manual's start and those that it links to, in this order; the type library's help topics are among
+them."""
 import pathlib
 import re
 import shutil
@@ -16,7 +17,7 @@ STYLE = """body { font: 10pt Tahoma, sans-serif; margin: 1em 1.5em; max-width: 6
 h1 { font-size: 16pt } h2 { font-size: 12pt; margin-top: 1.5em }
 table { border-collapse: collapse } td, th { border: 1px solid #bbb; padding: 2px 6px; text-align: left;
 vertical-align: top } th { background: #eee } code, pre { font-family: Consolas, monospace }
-pre { background: #f4f4f4; padding: 6px }"""
+pre { background: #f4f4f4; padding: 6px; white-space: pre-wrap } img { max-width: 100% }"""
 
 PAGE = """<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.01//EN">
 <html><head><meta http-equiv="Content-Type" content="text/html; charset=utf-8"><title>{title}</title>
@@ -56,12 +57,20 @@ SITEMAP = """<!DOCTYPE HTML PUBLIC "-//IETF//DTD HTML//EN">
 """
 
 
-def topics():
-    """The pages in the order of their numbers, with the name and number of each topic."""
+def linked(page):
+    """The manual's pages that a page links to."""
+    return re.findall(r"\]\((\w+)\.md\)", (DOCS / f"{page}.md").read_text(encoding="utf-8"))
+
+
+def pages():
+    """The pages in the order of the contents, each with the name and number of its topic; empty and 0 for none."""
     text = (ROOT / "src/typelib/HelpContexts.h").read_text(encoding="utf-8")
-    found = re.findall(r"kHelp(\w+) = (\d+);", text)
-    pages = {path.stem.lower(): path.stem for path in DOCS.glob("*.md")}
-    return [(pages[name.lower()], f"HELP_{name.upper()}", int(number)) for name, number in found]
+    numbers = {name.lower(): int(number) for name, number in re.findall(r"kHelp(\w+) = (\d+);", text)}
+    names = list(dict.fromkeys([START, *linked(START)]))
+    lost = {target for name in names for target in linked(name)} - set(names)
+    if lost or not numbers.keys() <= {name.lower() for name in names}:
+        sys.exit(f"help: {START}.md has to link to every page of the manual: {', '.join(lost) or 'a topic is missing'}")
+    return [(name, f"HELP_{name.upper()}" if name.lower() in numbers else "", numbers.get(name.lower(), 0)) for name in names]
 
 
 def html_of(page):
@@ -112,14 +121,15 @@ def main(folder):
     folder.mkdir(parents=True)
     shutil.copytree(DOCS / "pictures", folder / "pictures")
     files, contents, index = [], [], []
-    for page, name, number in topics():
+    for page, name, number in pages():
         title, body = html_of(page)
         (folder / f"{page}.html").write_text(PAGE.format(title=title, style=STYLE, body=body), encoding="utf-8")
         files.append((f"{page}.html", name, number))
         contents.append((title, f"{page}.html"))
         index += index_entries(page, body)
-    (folder / "quillet.hhc").write_text(sitemap(contents), encoding="utf-8")
-    (folder / "quillet.hhk").write_text(sitemap(sorted(index)), encoding="utf-8")
+    # Readers take both for the text of their own code page: what is not ASCII is refused here.
+    (folder / "quillet.hhc").write_text(sitemap(contents), encoding="ascii")
+    (folder / "quillet.hhk").write_text(sitemap(sorted(index)), encoding="ascii")
     files += [(f"pictures/{path.name}", "", 0) for path in sorted((folder / "pictures").iterdir())]
     row = '    <FileName{} Value="{}" ContextName="{}" ContextNumber="{}"/>'
     rows = [row.format(number, *file) for number, file in enumerate(files)]
@@ -131,7 +141,7 @@ def main(folder):
     if done.returncode or not chm.exists():
         sys.exit(f"help: the help compiler failed\n{done.stdout}{done.stderr}")
     without_time(chm)
-    print(f"help: {chm}, {chm.stat().st_size // 1024} KiB, {len(topics())} pages")
+    print(f"help: {chm}, {chm.stat().st_size // 1024} KiB, {len(contents)} pages")
 
 
 main(pathlib.Path(sys.argv[1]))

@@ -46,6 +46,13 @@ TEST(AnsiText, ofCharactersOfTwoBytesIsCutAtTheNumberOfCharacters)
     EXPECT_EQ(written(AnsiText(L"\x3042\x3044\x3046", kJapanese)), "\x82\xA0\x82");
 }
 
+TEST(AnsiText, ofCharactersOfTwoBytesIsWholeWithABlankForEachByteTooMany)
+{
+    if (!::IsValidCodePage(kJapanese))
+        GTEST_SKIP() << "this system has no code page of two-byte characters";
+    EXPECT_EQ(written(AnsiText(L"\x3042\x3044  ", kJapanese)), "\x82\xA0\x82\xA2");
+}
+
 TEST(AnsiText, neverWritesMoreBytesThanTheConversionGave)
 {
     std::wstring_view const pair = L"\xD83D\xDE00"; // one character of two units
