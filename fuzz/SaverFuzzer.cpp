@@ -78,16 +78,6 @@ bool haveSame(std::vector<Bag> const& wanted, std::vector<Bag> const& read)
     return true;
 }
 
-/// Whether every reference names the form's own companion: any other one is taken over into it.
-bool refersToItsOwn(FormNode const& node)
-{
-    for (FormProperty const& property : node.properties)
-        if (auto const* const reference = std::get_if<ResourceReference>(&property.value))
-            if (!sameName(reference->file, kCompanionName))
-                return false;
-    return std::ranges::all_of(node.children, refersToItsOwn);
-}
-
 /// Shows both texts when something does not hold: the fuzzer itself tells neither.
 void holdSaved(bool holds, char const* sentence, FormInput const& original, SavedForm const& saved)
 {
@@ -107,8 +97,7 @@ void save(FormInput const& original, Input changes)
     }
     auto const [before, isWhole] = loaded(tree, original.companion, original.companion);
     SavedForm const unchanged = saved(tree, original, before, before);
-    if (isWhole &&
-        refersToItsOwn(tree.form)) // of a name that also stands there as a reference to nowhere one line goes
+    if (isWhole) // of a name that also stands there as a reference to nowhere one line goes
         holdSaved(unchanged.text == original.text() && unchanged.companion == original.companion,
                   "what nothing changed stays byte for byte", original, unchanged);
 

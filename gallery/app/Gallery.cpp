@@ -4,12 +4,11 @@
 #include "base/RunTimeError.h"
 #include "gallery/app/Console.h"
 #include "gallery/app/ControlLibrary.h"
+#include "gallery/app/Document.h"
 #include "gallery/app/EventLog.h"
 #include "gallery/app/EventPane.h"
 #include "gallery/app/EventText.h"
-#include "gallery/app/FormSaver.h"
 #include "gallery/app/Options.h"
-#include "gallery/form/Companion.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/FormReader.h"
 #include "gallery/form/Utf8.h"
@@ -109,13 +108,13 @@ struct EventOutputs {
     }
 };
 
-FormOptions formOptions(Options const& options, ControlLibraries& libraries, Companions& companions,
+FormOptions formOptions(Options const& options, Document& document, ControlLibraries& libraries,
                         EventOutputs& outputs)
 {
     FormOptions how;
-    bool const designed = options.design || !options.saveFile.empty();
+    bool const designed = options.design || !options.saveFolder.empty();
     how.mode = designed ? UserMode::Design : UserMode::Run;
-    how.record = [&](ResourceReference const& reference) { return companions.record(reference); };
+    how.record = [&](ResourceReference const& reference) { return document.record(reference); };
     how.file = options.form;
     how.factory = [&](std::wstring_view library, std::wstring_view className) {
         return libraries.create(library, className);
@@ -130,16 +129,17 @@ FormOptions formOptions(Options const& options, ControlLibraries& libraries, Com
 
 void openAndRun(Options const& options)
 {
-    FormTree const tree = readFormFile(options.form);
+    Document document(options.form);
     EventOutputs outputs;
     if (!options.logFile.empty())
         outputs.log.emplace(options.logFile);
     OleScope const ole;
-    ControlLibraries libraries(tree.objects, {programFolder(), folderOf(options.form)});
-    Companions companions(folderOf(options.form));
-    Form form(tree, formOptions(options, libraries, companions, outputs));
-    if (!options.saveFile.empty())
-        return saveForm(form, tree, options.form, options.saveFile);
+    ControlLibraries libraries(document.tree().objects, {programFolder(), folderOf(options.form)});
+    Form form(document.tree(), formOptions(options, document, libraries, outputs));
+    if (!options.saveFolder.empty()) {
+        document.takeFrom(form);
+        return document.save(options.saveFolder);
+    }
     if (!form.isDesign())
         outputs.pane.emplace(form.window());
     form.show();

@@ -70,7 +70,7 @@ bool takeOption(Words const& words, std::size_t& position, Options& options)
         return options.design = true;
     if (word == L"--help")
         return options.help = true;
-    return takeReady(word, options) || takeFile(words, position, kSave, options.saveFile) ||
+    return takeReady(word, options) || takeFile(words, position, kSave, options.saveFolder) ||
            (takeFile(words, position, kLog, options.logFile) && !isForm(options.logFile));
 }
 

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quillet::gallery {
 
@@ -38,6 +39,8 @@ public:
     std::string_view record(ResourceReference const& reference);
     /// The file of that name; empty where there is none.
     Companion const& file(std::wstring const& name);
+    /// From here on the file says this.
+    void replace(std::wstring const& name, Companion file) { m_files[name] = std::move(file); }
 
 private:
     std::wstring m_folder;

@@ -4,6 +4,7 @@
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
 #include "gallery/form/ControlBag.h"
+#include "gallery/form/FileBytes.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormText.h"
 #include "gallery/form/FormValue.h"
@@ -20,8 +21,6 @@ namespace {
 constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 constexpr std::wstring_view kIndent = L"   ";
 constexpr std::size_t kNameWidth = 16;
-/// An offset that no companion file is large enough for.
-constexpr unsigned long kNowhere = 0xFFFFFFFF;
 
 /// The lines of a form file with whatever ends each.
 std::vector<std::string_view> linesOf(std::string_view text)
@@ -59,12 +58,6 @@ std::wstring hexadecimal(unsigned long value, int digits)
     wchar_t text[16];
     std::swprintf(text, 16, L"%0*lX", digits, value);
     return text;
-}
-
-/// A long text is marked, a picture not.
-std::wstring referenceText(std::wstring const& file, unsigned long offset, IsText isText)
-{
-    return (isText == IsText::Yes ? L"$" : L"") + quoted(file) + L":" + hexadecimal(offset, 4);
 }
 
 std::wstring scalarText(Variant const& value)
@@ -179,8 +172,8 @@ void FormEditor::save(PropertyBag const& bag, PropertyBag const* before, FormNod
         auto const name = ownName(property.name);
         if (name && becameDefault(*name))
             replace(property.line, 1, {});
-        else if (!name || !bag.find(*name))
-            keep(property, node);
+        else if ((!name || !bag.find(*name)) && isLost(property))
+            m_lost.push_back(property.line);
     }
     for (PropertyBlock const& block : node.blocks)
         if (isFont(block) && becameDefault(block.name))
@@ -189,7 +182,10 @@ void FormEditor::save(PropertyBag const& bag, PropertyBag const* before, FormNod
 
 SavedForm FormEditor::finish()
 {
-    keepLostApart();
+    // A new record may lie where such a line would find it.
+    if (m_companion.bytes().size() > m_companions.file(m_companionName).bytes().size())
+        for (int const line : m_lost)
+            replace(line, 1, {});
     std::string text;
     for (int line = 1; line <= static_cast<int>(m_lines.size()) + 1; ++line) {
         auto const [first, last] = m_edits.equal_range(line);
@@ -270,8 +266,7 @@ bool FormEditor::saveLongText(std::wstring const& name, std::wstring_view text, 
         return true;
     if (text.find_first_of(L"\r\n") == std::wstring_view::npos)
         return false;
-    std::string const added = encoded(text, m_coding);
-    write(node, property, name, referenceText(m_companionName, addOnce(added), IsText::Yes));
+    refer(node, property, name, encoded(text, m_coding), IsText::Yes);
     return true;
 }
 
@@ -279,64 +274,40 @@ void FormEditor::savePicture(std::wstring const& name, std::string const& bytes,
 {
     FormProperty const* const property = findProperty(node, name);
     if (recordOf(property, IsText::No) != bytes)
-        write(node, property, name, referenceText(m_companionName, addOnce(bytes), IsText::No));
+        refer(node, property, name, bytes, IsText::No);
 }
 
-/// One record for each picture, however many controls show it.
-unsigned long FormEditor::addOnce(std::string_view record)
+void FormEditor::refer(FormNode const& node, FormProperty const* property, std::wstring const& name,
+                       std::string_view record, IsText isText)
 {
-    auto const found = m_added.find(record);
-    if (found != m_added.end())
-        return found->second;
-    return m_added.emplace(record, m_companion.add(record)).first->second;
+    wchar_t const* const mark = isText == IsText::Yes ? L"$" : L"";
+    write(node, property, name,
+          mark + quoted(m_companionName) + L":" + hexadecimal(m_companion.add(record), 4));
 }
 
-/// What the new companion file has for a property; nothing where the form does not refer to it, or to
-/// nowhere.
+bool FormEditor::isOwn(ResourceReference const& reference) const noexcept
+{
+    return sameName(fileNameOf(reference.file), m_companionName);
+}
+
+/// What a companion file has for a property; nothing where the form does not refer to one, or to nowhere.
 std::optional<std::string_view> FormEditor::recordOf(FormProperty const* property, IsText isText) const
 {
     auto const* const reference = property ? std::get_if<ResourceReference>(&property->value) : nullptr;
-    if (!reference || reference->isText != (isText == IsText::Yes) ||
-        !sameName(reference->file, m_companionName))
+    if (!reference || reference->isText != (isText == IsText::Yes))
         return std::nullopt;
     try {
-        return m_companion.record(reference->offset);
+        return isOwn(*reference) ? m_companion.record(reference->offset) : m_companions.record(*reference);
     } catch (ValueFault const&) {
         return std::nullopt;
     }
 }
 
-/// What the control never saved stays; a reference follows the companion file.
-void FormEditor::keep(FormProperty const& property, FormNode const& node)
+bool FormEditor::isLost(FormProperty const& property) const
 {
     auto const* const reference = std::get_if<ResourceReference>(&property.value);
-    if (!reference)
-        return;
-    bool const isOwn = sameName(reference->file, m_companionName);
-    try {
-        auto const record = m_companions.record(*reference);
-        if (!isOwn)
-            refer(node, property, addOnce(record));
-    } catch (ValueFault const&) { // what was lost before stays as it is
-        if (isOwn)
-            m_lost.push_back({&node, &property});
-    }
-}
-
-void FormEditor::refer(FormNode const& node, FormProperty const& property, unsigned long offset)
-{
-    bool const isText = std::get<ResourceReference>(property.value).isText;
-    write(node, &property, property.name,
-          referenceText(m_companionName, offset, isText ? IsText::Yes : IsText::No));
-}
-
-/// A new record may lie where a reference led nowhere before.
-void FormEditor::keepLostApart()
-{
-    if (!m_added.empty())
-        for (Lost const& lost : m_lost)
-            refer(*lost.node, *lost.property, kNowhere);
-    m_lost.clear();
+    return reference && isOwn(*reference) &&
+           !recordOf(&property, reference->isText ? IsText::Yes : IsText::No);
 }
 
 } // namespace quillet::gallery

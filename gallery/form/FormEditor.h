@@ -28,8 +28,8 @@ enum class IsText { No, Yes };
 /// saved, such as a default. One of a value that has become the default goes.
 class FormEditor {
 public:
-    /// original is the form file's bytes, and borrowed; companionName is the name that the new companion file
-    /// will have.
+    /// original is the form file's bytes, and borrowed; companionName is the name of the file beside it, to
+    /// whose end new pictures and long texts are added.
     FormEditor(std::string_view original, Companions& companions, std::wstring companionName);
 
     /// bag is what the control of that node saves now, before what it would have saved when it was loaded;
@@ -46,12 +46,6 @@ private:
         std::vector<std::wstring> lines;
     };
 
-    /// A reference into the form's own companion file that leads nowhere.
-    struct Lost {
-        FormNode const* node;
-        FormProperty const* property;
-    };
-
     void replace(int first, int count, std::vector<std::wstring> lines);
     void write(FormNode const& node, FormProperty const* property, std::wstring_view name,
                std::wstring const& value);
@@ -59,10 +53,10 @@ private:
     void saveFont(std::wstring const& name, IFont& font, FormNode const& node);
     bool saveLongText(std::wstring const& name, std::wstring_view text, FormNode const& node);
     void savePicture(std::wstring const& name, std::string const& bytes, FormNode const& node);
-    void keep(FormProperty const& property, FormNode const& node);
-    void refer(FormNode const& node, FormProperty const& property, unsigned long offset);
-    void keepLostApart();
-    unsigned long addOnce(std::string_view record);
+    void refer(FormNode const& node, FormProperty const* property, std::wstring const& name,
+               std::string_view record, IsText isText);
+    bool isOwn(ResourceReference const& reference) const noexcept;
+    bool isLost(FormProperty const& property) const;
     std::optional<std::string_view> recordOf(FormProperty const* property, IsText isText) const;
     std::wstring indentOf(FormNode const& node) const;
 
@@ -70,10 +64,9 @@ private:
     FormCoding m_coding;
     Companions& m_companions;
     std::wstring m_companionName;
-    Companion m_companion;
+    Companion m_companion;            ///< the one of that name, with what was added
     std::multimap<int, Edit> m_edits; ///< by their first line, from 1
-    std::map<std::string, unsigned long, std::less<>> m_added;
-    std::vector<Lost> m_lost;
+    std::vector<int> m_lost;          ///< lines that refer to nothing in the companion file
 };
 
 } // namespace quillet::gallery

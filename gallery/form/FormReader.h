@@ -21,7 +21,4 @@ struct FormError {
 /// The form that the bytes of a form file describe. fileName is only for the error.
 FormTree readForm(std::string_view bytes, std::wstring const& fileName);
 
-/// The same, from a file; one that cannot be read is a FormError too.
-FormTree readFormFile(std::wstring const& path);
-
 } // namespace quillet::gallery

@@ -42,8 +42,6 @@ struct FormOptions {
     /// A record of the form's companion file; throws ValueFault. Pictures are left out where there is none.
     std::function<std::string_view(ResourceReference const&)> record;
     std::function<void(FormEvent const&)> onEvent;
-    /// A control reports that the property with that identifier has changed.
-    std::function<void(FormControl&, DISPID)> onPropertyChanged;
     /// A control could not be made, and a placeholder stands for it, or one of its properties not be read.
     std::function<void(FormError const&)> onWarning;
     std::function<void()> onClosed;

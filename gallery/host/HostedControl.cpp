@@ -72,21 +72,12 @@ void HostedControl::loadProperties(FormNode const& node)
 
 void HostedControl::advise(ITypeInfo* classInfo)
 {
-    m_changes =
-        makeCounted<ChangeSink>(ChangeSink::Handlers{[this](DISPID id) {
-                                                         if (form().options().onPropertyChanged)
-                                                             form().options().onPropertyChanged(*this, id);
-                                                     },
-                                                     [this] {
-                                                         if (!m_window && state().visible)
-                                                             ::InvalidateRect(parentWindow(), nullptr, TRUE);
-                                                     }});
-    if (FAILED(m_ole->Advise(m_changes.get(), &m_adviseCookie)))
-        m_adviseCookie = 0;
+    m_viewSink = makeCounted<ViewSink>([this] {
+        if (!m_window && state().visible)
+            ::InvalidateRect(parentWindow(), nullptr, TRUE);
+    });
     if (m_view)
-        m_view->SetAdvise(DVASPECT_CONTENT, 0, m_changes.get());
-    m_changeConnection = Connection(m_object.get(), __uuidof(IPropertyNotifySink),
-                                    static_cast<IPropertyNotifySink*>(m_changes.get()));
+        m_view->SetAdvise(DVASPECT_CONTENT, 0, m_viewSink.get());
     EventSource source = eventSourceOf(m_object.get(), classInfo);
     IID const iid = source.interfaceId;
     m_events = makeCounted<EventSink>(std::move(source),
@@ -168,18 +159,15 @@ void HostedControl::close()
     if (!m_ole)
         return;
     m_eventConnection.end();
-    m_changeConnection.end();
     if (m_events)
         m_events->disconnect();
-    if (m_changes)
-        m_changes->disconnect();
+    if (m_viewSink)
+        m_viewSink->disconnect();
     if (m_inPlace && m_window)
         m_inPlace->InPlaceDeactivate();
     m_window = nullptr;
     if (m_view)
         m_view->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
-    if (m_adviseCookie)
-        m_ole->Unadvise(m_adviseCookie);
     m_ole->Close(OLECLOSE_NOSAVE);
     m_ole->SetClientSite(nullptr);
     m_site->disconnect();

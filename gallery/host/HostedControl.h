@@ -2,10 +2,10 @@
 #pragma once
 
 #include "gallery/form/PropertyBag.h"
-#include "gallery/host/ChangeSink.h"
 #include "gallery/host/EventSink.h"
 #include "gallery/host/FormControl.h"
 #include "gallery/host/Site.h"
+#include "gallery/host/ViewSink.h"
 
 #include <ocidl.h>
 #include <windows.h>
@@ -73,13 +73,11 @@ private:
     ComPtr<IViewObject> m_view;
     ComPtr<Site> m_site;
     ComPtr<EventSink> m_events;
-    ComPtr<ChangeSink> m_changes;
+    ComPtr<ViewSink> m_viewSink;
     ComPtr<PropertyBag> m_asLoaded;
     bool m_wasActive = false;
     Connection m_eventConnection;
-    Connection m_changeConnection;
     DWORD m_status = 0;
-    DWORD m_adviseCookie = 0;
     HWND m_window = nullptr; // the control's own
 };
 

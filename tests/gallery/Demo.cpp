@@ -28,19 +28,19 @@ std::string narrow(std::wstring_view text) { return utf8(text); }
 Demo::Demo(UserMode mode) : Demo(std::wstring(GALLERY_FORMS L"/buttons.frm"), mode) {}
 
 Demo::Demo(std::wstring const& file, UserMode mode)
-    : m_tree(readFormFile(file)), m_libraries(m_tree.objects, {programFolder()}), m_companions(folderOf(file))
+    : m_document(file), m_libraries(m_document.tree().objects, {programFolder()})
 {
     FormOptions options;
     options.mode = mode;
     options.file = fileNameOf(file);
-    options.record = [this](ResourceReference const& reference) { return m_companions.record(reference); };
+    options.record = [this](ResourceReference const& reference) { return m_document.record(reference); };
     options.factory = [this](auto library, auto className) { return m_libraries.create(library, className); };
     options.onEvent = [this](FormEvent const& event) {
         events.push_back(narrow(event.control.state().name + L"." + std::wstring(event.name)));
         lines.push_back(narrow(eventText(event)));
     };
     options.onWarning = [this](FormError const& warning) { warnings.push_back(narrow(warning.text())); };
-    m_form = std::make_unique<Form>(m_tree, std::move(options));
+    m_form = std::make_unique<Form>(m_document.tree(), std::move(options));
 }
 
 IDispatch& Demo::extender(wchar_t const* name) { return control(name).extender(); }

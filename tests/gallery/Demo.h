@@ -3,7 +3,7 @@
 
 #include "gallery/Members.h"
 #include "gallery/app/ControlLibrary.h"
-#include "gallery/form/Companion.h"
+#include "gallery/app/Document.h"
 #include "gallery/form/FormReader.h"
 #include "gallery/host/Form.h"
 
@@ -26,7 +26,7 @@ public:
     Demo(std::wstring const& file, UserMode mode);
 
     Form& form() { return *m_form; }
-    FormTree const& tree() const { return m_tree; }
+    Document& document() { return m_document; }
     FormControl& control(wchar_t const* name) { return *m_form->find(name); }
     IDispatch& extender(wchar_t const* name);
     void focusOn(wchar_t const* name);
@@ -42,9 +42,8 @@ public:
     std::vector<std::string> warnings;
 
 private:
-    FormTree m_tree;
+    Document m_document;
     ControlLibraries m_libraries;
-    Companions m_companions;
     std::unique_ptr<Form> m_form;
 };
 

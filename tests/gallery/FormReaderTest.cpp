@@ -1,6 +1,7 @@
 // Reading of form files: every kind of line and of value, and the place and reason of every error.
 #include "gallery/form/FormReader.h"
 
+#include "gallery/app/Document.h"
 #include "gallery/form/FormValue.h"
 
 #include <gmock/gmock.h>
@@ -223,7 +224,7 @@ TEST(FormReader, aLineOfAMillionLettersIsOneValue)
 TEST(FormReader, aFileThatCannotBeReadIsAnErrorWithoutALine)
 {
     try {
-        readFormFile(L"no-such-file.frm");
+        Document(L"no-such-file.frm");
         FAIL() << "a missing file was read";
     } catch (FormError const& error) {
         EXPECT_EQ(error.text(), L"no-such-file.frm: the file cannot be opened");

@@ -47,17 +47,17 @@ TEST(Options, theLogsFileIsTheNextWordOrStandsBehindAnEqualsSign)
     EXPECT_TRUE(without->logFile.empty());
 }
 
-TEST(Options, theFileToSaveToIsTheNextWordOrStandsBehindAnEqualsSign)
+TEST(Options, theFolderToSaveToIsTheNextWordOrStandsBehindAnEqualsSign)
 {
     for (auto const& words : std::vector<std::vector<std::wstring>>{
-             {L"--save", L"b.frm", L"a.frm"}, {L"a.frm", L"--save", L"b.frm"}, {L"--save=b.frm", L"a.frm"}}) {
+             {L"--save", L"b", L"a.frm"}, {L"a.frm", L"--save", L"b"}, {L"--save=b", L"a.frm"}}) {
         auto const options = parseOptions(words);
         ASSERT_TRUE(options);
-        EXPECT_EQ(options->saveFile, L"b.frm");
+        EXPECT_EQ(options->saveFolder, L"b");
         EXPECT_EQ(options->form, L"a.frm");
     }
     EXPECT_FALSE(parseOptions({L"a.frm", L"--save"}));
-    EXPECT_FALSE(parseOptions({L"--save", L"a.frm"})) << "the only word is the file, so there is no form";
+    EXPECT_FALSE(parseOptions({L"--save", L"a.frm"})) << "the only word is the folder, so there is no form";
     EXPECT_FALSE(parseOptions({L"--save=", L"a.frm"}));
 }
 

@@ -1,6 +1,6 @@
 // Saving a form: what nothing changed stays byte for byte, what changed is written, what is broken is told.
 #include "gallery/Demo.h"
-#include "gallery/app/FormSaver.h"
+#include "gallery/app/Document.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/Pictures.h"
@@ -71,10 +71,10 @@ public:
             control.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &arguments, nullptr, nullptr, nullptr),
             S_OK);
     }
-    SavedForm saved()
+    Document& saved()
     {
-        Companions companions(workFolder());
-        return savedForm(m_demo->form(), m_demo->tree(), fileBytes(m_path), companions, L"test.frx");
+        m_demo->document().takeFrom(m_demo->form());
+        return m_demo->document();
     }
 
 private:
@@ -107,7 +107,8 @@ TEST_P(SavedForms, areTheSameByteForByteWhereNothingChanged)
     std::wstring const to = workFolder() + L"\\" + GetParam();
     Demo demo(from, UserMode::Design);
     EXPECT_THAT(demo.warnings, IsEmpty());
-    saveForm(demo.form(), demo.tree(), from, to);
+    EXPECT_FALSE(demo.document().takeFrom(demo.form()));
+    demo.document().save(workFolder());
     EXPECT_EQ(fileBytes(to), fileBytes(from));
     std::wstring const companion = withExtension(from, L".frx");
     if (::GetFileAttributesW(companion.c_str()) != INVALID_FILE_ATTRIBUTES) {
@@ -122,28 +123,10 @@ INSTANTIATE_TEST_SUITE_P(Of, SavedForms,
                              return std::string(name.begin(), name.end() - 4);
                          });
 
-TEST(SavedForm, underAnotherNameTakesItsPicturesAlong)
-{
-    std::wstring const from = formFile(L"toolbar.frm");
-    std::wstring const to = workFolder() + L"\\other.frm";
-    {
-        Demo demo(from, UserMode::Design);
-        saveForm(demo.form(), demo.tree(), from, to);
-    }
-    EXPECT_THAT(fileBytes(to), Not(HasSubstr("toolbar.frx")));
-    Demo again(to, UserMode::Design);
-    EXPECT_THAT(again.warnings, IsEmpty());
-    std::wstring const third = workFolder() + L"\\other copy\\other.frm";
-    ::CreateDirectoryW(folderOf(third).c_str(), nullptr);
-    saveForm(again.form(), again.tree(), to, third);
-    EXPECT_EQ(fileBytes(third), fileBytes(to));
-    EXPECT_EQ(fileBytes(withExtension(third, L".frx")), fileBytes(withExtension(to, L".frx")));
-}
-
 TEST(SavedForm, keepsLinesThatTheControlWouldNotWrite)
 {
     std::string const text = kHead + kButton + "      Odd             =   7\r\n" + kTail;
-    EXPECT_EQ(Designed(text).saved().text, text);
+    EXPECT_EQ(Designed(text).saved().text(), text);
 }
 
 TEST(SavedForm, hasAChangedValueInItsLineAndANewOneAtTheEnd)
@@ -153,23 +136,23 @@ TEST(SavedForm, hasAChangedValueInItsLineAndANewOneAtTheEnd)
     form.put(L"CheckButton", Variant::ofBool(true));
     form.put(L"BorderWidth", Variant::ofShort(3));
     form.put(L"HotBackColor", Variant::ofLong(static_cast<long>(0x80000011)));
-    EXPECT_EQ(form.saved().text, kHead +
-                                     "   Begin Quillet.qvImageCommand imgOne \r\n"
-                                     "      Caption         =   \"\"\"Two\"\"\"\r\n"
-                                     "      CheckButton     =   -1  'True\r\n"
-                                     "      Height          =   450\r\n"
-                                     "      OfficeXPColors  =   -1\r\n"
-                                     "      Width           =   1500\r\n"
-                                     "      HotBackColor    =   &H80000011&\r\n"
-                                     "      BorderWidth     =   3\r\n" +
-                                     kTail);
+    EXPECT_EQ(form.saved().text(), kHead +
+                                       "   Begin Quillet.qvImageCommand imgOne \r\n"
+                                       "      Caption         =   \"\"\"Two\"\"\"\r\n"
+                                       "      CheckButton     =   -1  'True\r\n"
+                                       "      Height          =   450\r\n"
+                                       "      OfficeXPColors  =   -1\r\n"
+                                       "      Width           =   1500\r\n"
+                                       "      HotBackColor    =   &H80000011&\r\n"
+                                       "      BorderWidth     =   3\r\n" +
+                                       kTail);
 }
 
 TEST(SavedForm, losesTheLineOfAValueThatBecameTheDefault)
 {
     Designed form(kHead + kButton + kTail);
     form.put(L"Caption", Variant::ofString(L""));
-    EXPECT_THAT(form.saved().text, Not(HasSubstr("Caption")));
+    EXPECT_THAT(form.saved().text(), Not(HasSubstr("Caption")));
 }
 
 TEST(SavedForm, hasANewPictureInItsCompanion)
@@ -177,11 +160,9 @@ TEST(SavedForm, hasANewPictureInItsCompanion)
     Designed form(kHead + kButton + kTail, std::string("\1\0\0\0x", 5));
     auto const picture = redPicture(3);
     form.put(L"Image", Variant::ofDispatch(picture.get()), DISPATCH_PROPERTYPUTREF);
-    form.put(L"HotImage", Variant::ofDispatch(picture.get()), DISPATCH_PROPERTYPUTREF);
-    SavedForm const saved = form.saved();
-    EXPECT_THAT(saved.text, HasSubstr("      Image           =   \"test.frx\":0005\r\n"));
-    EXPECT_THAT(saved.text, HasSubstr("      HotImage        =   \"test.frx\":0005\r\n"));
-    Companion const companion(saved.companion);
+    Document& saved = form.saved();
+    EXPECT_THAT(saved.text(), HasSubstr("      Image           =   \"test.frx\":0005\r\n"));
+    Companion const& companion = saved.companion();
     EXPECT_EQ(companion.record(0), "x") << "what was there before stays";
     EXPECT_EQ(companion.record(5), bytesOfPicture(picture.get()));
     EXPECT_EQ(companion.bytes().size(), 5 + 4 + companion.record(5).size());
@@ -197,12 +178,12 @@ TEST(SavedForm, hasAChangedFontAsABlock)
         face.points = 12;
         face.weight = FW_BOLD;
         form.put(L"Font", Variant::ofDispatch(makeFont(face).as<IDispatch>().get()), DISPATCH_PROPERTYPUTREF);
-        text = form.saved().text;
+        text = form.saved().text();
     }
     EXPECT_THAT(text, HasSubstr("      BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}\r\n"));
     EXPECT_THAT(text, HasSubstr("         Size            =   12\r\n"));
     EXPECT_THAT(text, HasSubstr("         Weight          =   700\r\n"));
-    EXPECT_EQ(Designed(text).saved().text, text);
+    EXPECT_EQ(Designed(text).saved().text(), text);
 }
 
 TEST(SavedForm, thatLostItsPicturesIsToldOfEachAndOpens)
@@ -214,7 +195,7 @@ TEST(SavedForm, thatLostItsPicturesIsToldOfEachAndOpens)
     EXPECT_EQ(form.demo().warnings[0], "test.frm:12: Image cannot be read: it is no picture");
     EXPECT_EQ(form.demo().warnings[1],
               "test.frm:13: HotImage cannot be read: its companion file has nothing there");
-    EXPECT_EQ(form.saved().text, text) << "nothing more is lost";
+    EXPECT_EQ(form.saved().text(), text) << "nothing more is lost";
 }
 
 TEST(SavedForm, whosePictureClaimsToBeHugeIsToldOfItAndOpens)
@@ -238,7 +219,7 @@ TEST(SavedForm, takesALongTextFromItsCompanion)
                              kTail;
     Designed form(text, std::string("\5\0\0\0a\r\n\xE4z", 9));
     EXPECT_EQ(form.demo().warnings.size(), 0U);
-    EXPECT_EQ(form.saved().text, text);
+    EXPECT_EQ(form.saved().text(), text);
 }
 
 } // namespace
