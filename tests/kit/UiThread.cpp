@@ -9,7 +9,7 @@ namespace quillet::kit {
 
 namespace {
 
-constexpr UINT kRun = WM_APP + 1; // to the thread: call wParam, then set the event of lParam
+constexpr UINT kRunOnThread = WM_APP + 1; // to the thread: call wParam, then set the event of lParam
 
 /// Waits for something that another thread signals; messages to our own windows are handled meanwhile, for
 /// the other may need their answers.
@@ -40,7 +40,7 @@ UiThread::~UiThread()
 void UiThread::run(std::function<void()> const& body)
 {
     HANDLE const done = ::CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    ::PostThreadMessageW(m_id, kRun, reinterpret_cast<WPARAM>(&body), reinterpret_cast<LPARAM>(done));
+    ::PostThreadMessageW(m_id, kRunOnThread, reinterpret_cast<WPARAM>(&body), reinterpret_cast<LPARAM>(done));
     await(done);
     ::CloseHandle(done);
 }
@@ -59,7 +59,7 @@ void UiThread::live()
     m_id = ::GetCurrentThreadId();
     ::SetEvent(m_ready);
     while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (!message.hwnd && message.message == kRun) {
+        if (!message.hwnd && message.message == kRunOnThread) {
             (*reinterpret_cast<std::function<void()> const*>(message.wParam))();
             ::SetEvent(reinterpret_cast<HANDLE>(message.lParam));
             continue;
