@@ -21,17 +21,22 @@ HRESULT reportCaught(ErrorSource const& source) noexcept;
 /// Call in a catch block: the HRESULT of what was thrown, without error info.
 HRESULT resultOfCaught() noexcept;
 
-/// Runs body and turns whatever it throws into an HRESULT with error info. A body that answers an HRESULT
-/// answers for the call; one that answers nothing succeeds.
+/// Runs body. One that answers an HRESULT answers for the call; one that answers nothing succeeds.
+template <class Body> HRESULT resultOf(Body&& body)
+{
+    if constexpr (std::is_void_v<decltype(body())>) {
+        std::forward<Body>(body)();
+        return S_OK;
+    } else {
+        return std::forward<Body>(body)();
+    }
+}
+
+/// Answers what body does and turns whatever it throws into an HRESULT with error info.
 template <class Body> HRESULT comCall(ErrorSource const& source, Body&& body) noexcept
 {
     try {
-        if constexpr (std::is_void_v<decltype(body())>) {
-            std::forward<Body>(body)();
-            return S_OK;
-        } else {
-            return std::forward<Body>(body)();
-        }
+        return resultOf(std::forward<Body>(body));
     } catch (...) {
         return reportCaught(source);
     }
@@ -41,12 +46,7 @@ template <class Body> HRESULT comCall(ErrorSource const& source, Body&& body) no
 template <class Body> HRESULT comCall(Body&& body) noexcept
 {
     try {
-        if constexpr (std::is_void_v<decltype(body())>) {
-            std::forward<Body>(body)();
-            return S_OK;
-        } else {
-            return std::forward<Body>(body)();
-        }
+        return resultOf(std::forward<Body>(body));
     } catch (...) {
         return resultOfCaught();
     }

@@ -34,4 +34,6 @@ wchar_t const* RunTimeError::description() const noexcept
     return nullptr;
 }
 
+RunTimeError lastError() noexcept { return RunTimeError(HRESULT_FROM_WIN32(::GetLastError())); }
+
 } // namespace quillet

@@ -37,6 +37,9 @@ private:
     IID const* m_interfaceId = nullptr;
 };
 
+/// What Windows says of its call that has just failed.
+RunTimeError lastError() noexcept;
+
 /// Throws when a call has failed.
 inline void check(HRESULT result)
 {
