@@ -3,13 +3,11 @@
 
 #include "base/Checked.h"
 #include "drawing/Colour.h"
+#include "drawing/SystemColours.h"
 
 namespace quillet {
 
 namespace {
-
-constexpr OLE_COLOR kButtonFace = 0x8000000F;
-constexpr OLE_COLOR kSelection = 0x8000000D;
 
 /// The channels of a colour by signed division. Blue is what is left over, so it is not masked.
 struct Channels {
@@ -41,8 +39,8 @@ long term(bool holds, long bound) { return checkedSubtract(0, checkedMultiply(tr
 
 COLORREF XPStateColor(VARIANT_BOOL deep)
 {
-    COLORREF const face = resolvedColour(kButtonFace, 0);
-    COLORREF const selection = resolvedColour(kSelection, 0);
+    COLORREF const face = resolvedColour(colour::kButtonFace, 0);
+    COLORREF const selection = resolvedColour(colour::kSelectionHighlight, 0);
     return stateTint(face, selection, deep);
 }
 

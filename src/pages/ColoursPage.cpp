@@ -1,7 +1,9 @@
 // The colours page: a colour of the desktop, or any other.
+#include "browse/PageIds.h"
+#include "drawing/SystemColours.h"
 #include "pages/CommonDialogs.h"
-#include "pages/Create.h"
 #include "pages/ListPage.h"
+#include "pages/PageClass.h"
 
 #include <olectl.h>
 #include <windows.h>
@@ -17,35 +19,35 @@ constexpr WORD kSystemColours = 110;
 constexpr WORD kChooseColour = 111;
 
 struct SystemColour {
-    OLE_COLOR colour;
+    int index;
     wchar_t const* name;
 };
 constexpr SystemColour kColours[] = {
-    {0x80000000, L"Scroll Bars"},
-    {0x80000001, L"Desktop"},
-    {0x80000002, L"Active Title Bar"},
-    {0x80000003, L"Inactive Title Bar"},
-    {0x80000004, L"Menu Bar"},
-    {0x80000005, L"Window Background"},
-    {0x80000006, L"Window Frame"},
-    {0x80000007, L"Menu Text"},
-    {0x80000008, L"Window Text"},
-    {0x80000009, L"Active Title Bar Text"},
-    {0x8000000A, L"Active Border"},
-    {0x8000000B, L"Inactive Border"},
-    {0x8000000C, L"Application Workspace"},
-    {0x8000000D, L"Highlight"},
-    {0x8000000E, L"Highlight Text"},
-    {0x8000000F, L"Button Face"},
-    {0x80000010, L"Button Shadow"},
-    {0x80000011, L"Disabled Text"},
-    {0x80000012, L"Button Text"},
-    {0x80000013, L"Inactive Title Bar Text"},
-    {0x80000014, L"Button Highlight"},
-    {0x80000015, L"Button Dark Shadow"},
-    {0x80000016, L"Button Light Shadow"},
-    {0x80000017, L"ToolTip Text"},
-    {0x80000018, L"ToolTip"},
+    {COLOR_SCROLLBAR, L"Scroll Bars"},
+    {COLOR_BACKGROUND, L"Desktop"},
+    {COLOR_ACTIVECAPTION, L"Active Title Bar"},
+    {COLOR_INACTIVECAPTION, L"Inactive Title Bar"},
+    {COLOR_MENU, L"Menu Bar"},
+    {COLOR_WINDOW, L"Window Background"},
+    {COLOR_WINDOWFRAME, L"Window Frame"},
+    {COLOR_MENUTEXT, L"Menu Text"},
+    {COLOR_WINDOWTEXT, L"Window Text"},
+    {COLOR_CAPTIONTEXT, L"Active Title Bar Text"},
+    {COLOR_ACTIVEBORDER, L"Active Border"},
+    {COLOR_INACTIVEBORDER, L"Inactive Border"},
+    {COLOR_APPWORKSPACE, L"Application Workspace"},
+    {COLOR_HIGHLIGHT, L"Highlight"},
+    {COLOR_HIGHLIGHTTEXT, L"Highlight Text"},
+    {COLOR_BTNFACE, L"Button Face"},
+    {COLOR_BTNSHADOW, L"Button Shadow"},
+    {COLOR_GRAYTEXT, L"Disabled Text"},
+    {COLOR_BTNTEXT, L"Button Text"},
+    {COLOR_INACTIVECAPTIONTEXT, L"Inactive Title Bar Text"},
+    {COLOR_3DHILIGHT, L"Button Highlight"},
+    {COLOR_3DDKSHADOW, L"Button Dark Shadow"},
+    {COLOR_3DLIGHT, L"Button Light Shadow"},
+    {COLOR_INFOTEXT, L"ToolTip Text"},
+    {COLOR_INFOBK, L"ToolTip"},
 };
 
 class ColoursPage final : public ListPage {
@@ -81,7 +83,8 @@ void ColoursPage::showValue()
 {
     if (properties().empty())
         return;
-    auto const row = std::ranges::find(kColours, colour(), &SystemColour::colour);
+    auto const row = std::ranges::find(
+        kColours, colour(), [](SystemColour const& each) { return colour::ofDesktop(each.index); });
     auto const at = row == std::end(kColours) ? WPARAM(-1) : static_cast<WPARAM>(row - std::begin(kColours));
     ::SendMessageW(window().control(kSystemColours), CB_SETCURSEL, at, 0);
 }
@@ -94,7 +97,7 @@ void ColoursPage::onOtherCommand(WORD control, WORD notification)
         return;
     auto const at = ::SendMessageW(window().control(kSystemColours), CB_GETCURSEL, 0, 0);
     if (at != CB_ERR)
-        changeChosen(Variant::ofLong(static_cast<long>(kColours[at].colour)));
+        changeChosen(Variant::ofLong(static_cast<long>(colour::ofDesktop(kColours[at].index))));
 }
 
 COLORREF ColoursPage::resolved() const
@@ -124,9 +127,7 @@ void ColoursPage::drawSample(HDC dc, RECT const& place)
 
 } // namespace
 
-HRESULT createColoursPage(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createPage<ColoursPage>(outer, iid, object);
-}
+constinit PageClass const kColoursPage = {kColoursPageClass, &createPage<ColoursPage>,
+                                          L"Quillet colors property page"};
 
 } // namespace quillet

@@ -1,8 +1,9 @@
 // The fonts page: a sample, and the system's dialog to choose another font.
 #include "base/Bstr.h"
+#include "browse/PageIds.h"
 #include "pages/CommonDialogs.h"
-#include "pages/Create.h"
 #include "pages/ListPage.h"
+#include "pages/PageClass.h"
 
 #include <olectl.h>
 #include <windows.h>
@@ -118,9 +119,7 @@ void FontsPage::drawSample(HDC dc, RECT const& place)
 
 } // namespace
 
-HRESULT createFontsPage(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createPage<FontsPage>(outer, iid, object);
-}
+constinit PageClass const kFontsPage = {kFontsPageClass, &createPage<FontsPage>,
+                                        L"Quillet fonts property page"};
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 // The general page: texts, numbers and choices on the left, flags on the right.
 #include "base/Bstr.h"
-#include "pages/Create.h"
+#include "browse/PageIds.h"
+#include "pages/PageClass.h"
 #include "pages/PropertyPage.h"
 
 #include <utility>
@@ -117,9 +118,7 @@ void GeneralPage::onCommand(WORD control, WORD notification)
 
 } // namespace
 
-HRESULT createGeneralPage(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createPage<GeneralPage>(outer, iid, object);
-}
+constinit PageClass const kGeneralPage = {kGeneralPageClass, &createPage<GeneralPage>,
+                                          L"Quillet general property page"};
 
 } // namespace quillet

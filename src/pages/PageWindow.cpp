@@ -35,7 +35,7 @@ PageWindow::PageWindow(HWND parent, PageCommands& commands)
     m_window.reset(::CreateDialogIndirectParamW(moduleInstance(), &shape.dialog, parent,
                                                 &PageWindow::procedure, reinterpret_cast<LPARAM>(&commands)));
     if (!m_window)
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+        throw lastError();
 }
 
 INT_PTR CALLBACK PageWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
@@ -65,7 +65,7 @@ HWND PageWindow::add(wchar_t const* windowClass, wchar_t const* text, DWORD styl
                           at.right - at.left, at.bottom - at.top, handle(),
                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), moduleInstance(), nullptr);
     if (!made)
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+        throw lastError();
     ::SendMessageW(made, WM_SETFONT, static_cast<WPARAM>(::SendMessageW(handle(), WM_GETFONT, 0, 0)), FALSE);
     return made;
 }

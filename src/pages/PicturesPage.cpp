@@ -1,7 +1,8 @@
 // The pictures page: a preview, another picture from a file, none.
+#include "browse/PageIds.h"
 #include "pages/CommonDialogs.h"
-#include "pages/Create.h"
 #include "pages/ListPage.h"
+#include "pages/PageClass.h"
 
 #include <olectl.h>
 #include <windows.h>
@@ -100,9 +101,7 @@ void PicturesPage::drawSample(HDC dc, RECT const& place)
 
 } // namespace
 
-HRESULT createPicturesPage(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createPage<PicturesPage>(outer, iid, object);
-}
+constinit PageClass const kPicturesPage = {kPicturesPageClass, &createPage<PicturesPage>,
+                                           L"Quillet pictures property page"};
 
 } // namespace quillet

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Counted.h"
-#include "shell/ClassTable.h"
+#include "base/CreateFunction.h"
 
 #include <windows.h>
 

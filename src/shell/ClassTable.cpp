@@ -1,9 +1,10 @@
 // The classes that the component makes: one row each.
 #include "shell/ClassTable.h"
 
-#include "controls/flatcommand/Create.h"
-#include "controls/imagecommand/Create.h"
-#include "controls/optioncheck/Create.h"
+#include "controls/flatcommand/qvFlatCommand.h"
+#include "controls/imagecommand/ImageButton.h"
+#include "controls/optioncheck/qvFlatCheck.h"
+#include "controls/optioncheck/qvFlatOption.h"
 #include "shell/ResourceIds.h"
 #include "typelib/Texts.h"
 
@@ -12,11 +13,11 @@ namespace quillet {
 namespace {
 
 constexpr ClassRow kClasses[] = {
-    {&flatCommandClass, &createFlatCommand, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
-    {&flatToolButtonClass, &createFlatToolButton, kFlatToolButtonText, QV_TOOLBOX_TOOL_BUTTON},
-    {&imageCommandClass, &createImageCommand, kQvImageCommandText, QV_TOOLBOX_IMAGE_COMMAND},
-    {&flatOptionClass, &createFlatOption, kQvFlatOptionText, QV_TOOLBOX_FLAT_OPTION},
-    {&flatCheckClass, &createFlatCheck, kQvFlatCheckText, QV_TOOLBOX_FLAT_CHECK},
+    {qvFlatCommand::kClass, kQvFlatCommandText, QV_TOOLBOX_FLAT_COMMAND},
+    {kFlatToolButton.controlClass, kFlatToolButtonText, QV_TOOLBOX_TOOL_BUTTON},
+    {kImageCommand.controlClass, kQvImageCommandText, QV_TOOLBOX_IMAGE_COMMAND},
+    {qvFlatOption::kClass, kQvFlatOptionText, QV_TOOLBOX_FLAT_OPTION},
+    {qvFlatCheck::kClass, kQvFlatCheckText, QV_TOOLBOX_FLAT_CHECK},
 };
 
 } // namespace
@@ -26,7 +27,7 @@ std::span<ClassRow const> classTable() noexcept { return kClasses; }
 ClassRow const* findClass(REFCLSID classId) noexcept
 {
     for (ClassRow const& row : kClasses)
-        if (row.controlClass().classId == classId)
+        if (row.controlClass.classId == classId)
             return &row;
     return nullptr;
 }

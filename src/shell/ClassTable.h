@@ -5,18 +5,13 @@
 
 #include <windows.h>
 
-#include <unknwn.h>
-
 #include <span>
 
 namespace quillet {
 
-using CreateFunction = HRESULT (*)(IUnknown* outer, REFIID iid, void** object) noexcept;
-
 /// A class that a host can create.
 struct ClassRow {
-    ControlClass const& (*controlClass)() noexcept;
-    CreateFunction create;
+    ControlClass const& controlClass;
     wchar_t const* description; ///< as a designer's toolbox shows it
     int toolboxBitmap;          ///< of the component's resources
 };

@@ -4,8 +4,9 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "controls/optioncheck/InnerButton.h"
+#include "pages/PageClass.h"
 #include "shell/ClassFactory.h"
-#include "shell/PageTable.h"
+#include "shell/ClassTable.h"
 #include "shell/Registration.h"
 #include "surface/window/SurfaceWindow.h"
 #include "surface/window/ThreadState.h"
@@ -26,10 +27,10 @@ namespace {
 CreateFunction creatorOf(CLSID const& classId) noexcept
 {
     if (ClassRow const* const row = findClass(classId))
-        return row->create;
-    for (PageRow const& row : pageTable())
-        if (row.classId == classId)
-            return row.create;
+        return row->controlClass.create;
+    for (PageClass const* const page : kPageClasses)
+        if (page->classId == classId)
+            return page->create;
     return nullptr;
 }
 

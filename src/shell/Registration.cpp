@@ -45,7 +45,7 @@ bool unregisterServer(Scope scope, CLSID const& classId, std::wstring const& pat
 
 void unregisterClass(Scope scope, ClassRow const& row, std::wstring const& path)
 {
-    CLSID const& classId = row.controlClass().classId;
+    CLSID const& classId = row.controlClass.classId;
     if (!unregisterServer(scope, classId, path))
         return;
     // Both architectures share the programmatic identifiers.
@@ -72,8 +72,8 @@ void registerComponent(Scope scope)
     for (ClassRow const& row : classTable())
         for (RegistryRow const& value : registryRows(row, path))
             writer.write(value);
-    for (PageRow const& row : pageTable())
-        for (RegistryRow const& value : registryRows(row, path))
+    for (PageClass const* const page : kPageClasses)
+        for (RegistryRow const& value : registryRows(*page, path))
             writer.write(value);
     registerTypeLibrary(scope, path);
     writer.commit();
@@ -96,8 +96,8 @@ void unregisterComponent(Scope scope)
     unregisterTypeLibrary(scope, path);
     for (ClassRow const& row : classTable())
         unregisterClass(scope, row, path);
-    for (PageRow const& row : pageTable())
-        unregisterServer(scope, row.classId, path);
+    for (PageClass const* const page : kPageClasses)
+        unregisterServer(scope, page->classId, path);
 }
 
 } // namespace quillet

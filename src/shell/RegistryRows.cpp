@@ -54,14 +54,14 @@ std::wstring guidText(GUID const& id)
 
 std::wstring classKey(CLSID const& classId) { return L"CLSID\\" + guidText(classId); }
 
-std::wstring currentProgId(ClassRow const& row) { return row.controlClass().progId; }
+std::wstring currentProgId(ClassRow const& row) { return row.controlClass.progId; }
 
 std::wstring versionedProgId(ClassRow const& row) { return currentProgId(row) + L".1"; }
 
 std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& componentPath)
 {
-    std::wstring const key = classKey(row.controlClass().classId);
-    std::wstring const status = decimalText(static_cast<long>(row.controlClass().miscStatus));
+    std::wstring const key = classKey(row.controlClass.classId);
+    std::wstring const status = decimalText(static_cast<long>(row.controlClass.miscStatus));
     std::vector<RegistryRow> rows = serverRows(key, row.description, componentPath);
     std::vector<RegistryRow> const controlRows{
         {key + L"\\ProgID", L"", versionedProgId(row)},
@@ -79,13 +79,13 @@ std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& c
     rows.insert(rows.end(), controlRows.begin(), controlRows.end());
     for (wchar_t const* const category : kCategories)
         rows.push_back(keyOnly(key + L"\\Implemented Categories\\" + category));
-    appendProgIds(rows, row, guidText(row.controlClass().classId));
+    appendProgIds(rows, row, guidText(row.controlClass.classId));
     return rows;
 }
 
-std::vector<RegistryRow> registryRows(PageRow const& row, std::wstring const& componentPath)
+std::vector<RegistryRow> registryRows(PageClass const& page, std::wstring const& componentPath)
 {
-    return serverRows(classKey(row.classId), row.description, componentPath);
+    return serverRows(classKey(page.classId), page.description, componentPath);
 }
 
 } // namespace quillet

@@ -1,8 +1,8 @@
 // What the registry holds about a class: one row for each key or value.
 #pragma once
 
+#include "pages/PageClass.h"
 #include "shell/ClassTable.h"
-#include "shell/PageTable.h"
 
 #include <string>
 #include <string_view>
@@ -19,7 +19,7 @@ struct RegistryRow {
 };
 
 std::vector<RegistryRow> registryRows(ClassRow const& row, std::wstring const& componentPath);
-std::vector<RegistryRow> registryRows(PageRow const& row, std::wstring const& componentPath);
+std::vector<RegistryRow> registryRows(PageClass const& page, std::wstring const& componentPath);
 
 /// "CLSID\{…}": everything below it is the class's own.
 std::wstring classKey(CLSID const& classId);

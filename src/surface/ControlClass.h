@@ -1,7 +1,8 @@
-// What the surface needs to know of the class that it serves.
+// What the surface, the class factory and the registration need to know of a control.
 #pragma once
 
 #include "base/ComCall.h"
+#include "base/CreateFunction.h"
 #include "typelib/Members.h"
 
 #include <windows.h>
@@ -29,6 +30,7 @@ struct ControlClass {
     DWORD miscStatus;      ///< OLEMISC flags
     Members members;       ///< of the default interface
     DWORD helpContext;     ///< the help file's topic about it
+    CreateFunction create;
 
     // The properties whose changes screen readers hear of: looked for while compiling, not at each change.
     DISPID caption = idOfMember(members, L"Caption");

@@ -6,6 +6,7 @@
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "base/Scale.h"
+#include "drawing/SystemColours.h"
 #include "surface/Container.h"
 #include "surface/ControlClass.h"
 #include "surface/SurfaceFont.h"
@@ -207,8 +208,8 @@ private:
     Identity m_identity{*this};
     IUnknown* m_outer; ///< not counted: the outer object owns this one
 
-    OLE_COLOR m_backColor = 0x8000000F; ///< button face
-    OLE_COLOR m_foreColor = 0x80000012; ///< button text
+    OLE_COLOR m_backColor = colour::kButtonFace;
+    OLE_COLOR m_foreColor = colour::kButtonText;
     bool m_enabled = true;
     short m_mousePointer = 0;
     ComPtr<IPictureDisp> m_mouseIcon;

@@ -1,10 +1,9 @@
 // The component used by its manifest alone, with nothing in the registry.
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
-#include "browse/PageIds.h"
 #include "kit/Library.h"
+#include "pages/PageClass.h"
 #include "shell/ClassTable.h"
-#include "shell/PageTable.h"
 #include "shell/RegistryRows.h"
 #include "typelib/Guids.h"
 
@@ -56,14 +55,14 @@ TEST_F(Manifest, namesEveryClassByBothOfItsNames)
                       S_OK);
             CLSID own{};
             EXPECT_EQ(object->GetClassID(&own), S_OK);
-            EXPECT_EQ(own, row.controlClass().classId);
+            EXPECT_EQ(own, row.controlClass.classId);
         }
 }
 
 TEST_F(Manifest, makesEveryControlWithItsStatus)
 {
     for (ClassRow const& row : classTable()) {
-        ControlClass const& known = row.controlClass();
+        ControlClass const& known = row.controlClass;
         ComPtr<IOleObject> object;
         ASSERT_EQ(::CoCreateInstance(known.classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IOleObject),
                                      reinterpret_cast<void**>(object.put())),
@@ -76,9 +75,9 @@ TEST_F(Manifest, makesEveryControlWithItsStatus)
 
 TEST_F(Manifest, makesEveryPropertyPage)
 {
-    for (PageRow const& row : pageTable()) {
+    for (PageClass const* const known : kPageClasses) {
         ComPtr<IPropertyPage> page;
-        EXPECT_EQ(::CoCreateInstance(row.classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IPropertyPage),
+        EXPECT_EQ(::CoCreateInstance(known->classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IPropertyPage),
                                      reinterpret_cast<void**>(page.put())),
                   S_OK);
     }

@@ -89,13 +89,13 @@ TEST(ClassTable, agreesWithTheTypeLibrary)
     ASSERT_EQ(::LoadTypeLibEx(kit::Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
     for (ClassRow const& row : classTable()) {
         ComPtr<ITypeInfo> info;
-        ASSERT_EQ(library->GetTypeInfoOfGuid(row.controlClass().classId, info.put()), S_OK);
+        ASSERT_EQ(library->GetTypeInfoOfGuid(row.controlClass.classId, info.put()), S_OK);
         Bstr name;
         Bstr help;
         ASSERT_EQ(info->GetDocumentation(MEMBERID_NIL, name.put(), help.put(), nullptr, nullptr), S_OK);
-        EXPECT_STREQ(name.get(), row.controlClass().name);
+        EXPECT_STREQ(name.get(), row.controlClass.name);
         EXPECT_STREQ(help.get(), row.description);
-        EXPECT_EQ(row.controlClass().progId, L"Quillet." + std::wstring(name.view()));
+        EXPECT_EQ(row.controlClass.progId, L"Quillet." + std::wstring(name.view()));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "controls/button/Caption.h"
 #include "drawing/OffScreenDC.h"
 #include "surface/window/Cursor.h"
+#include "surface/window/MouseCapture.h"
 #include "typelib/DispatchIds.h"
 #include "winsvc/modCmdSupport.h"
 
@@ -14,14 +15,13 @@ namespace quillet {
 
 namespace {
 
-constexpr short kLeftButton = 1;
 constexpr short kSpace = 32;
 
 } // namespace
 
 bool isOwnPress(MouseArguments const& mouse) noexcept
 {
-    int const left = mouse.button == kLeftButton ? VARIANT_TRUE : VARIANT_FALSE;
+    int const left = mouse.button == MouseButtons::kLeft ? VARIANT_TRUE : VARIANT_FALSE;
     return (left & ~mouse.shift) != 0;
 }
 
@@ -31,18 +31,13 @@ bool CommandButton::isOver()
     return own && isUnderCursor(own);
 }
 
-/// While the cursor is over the button its window holds the capture, so the move that leaves comes here, too.
 bool CommandButton::enterOrExit(bool over)
 {
     HWND const own = window().existing();
-    bool const captured = own && ::GetCapture() == own;
-    if (over == captured)
+    if (over == hasMouseCapture(own))
         return false;
     bool const exitIsDue = std::exchange(m_entered, over) && over; // somebody took the mouse meanwhile
-    if (over)
-        ::SetCapture(own);
-    else
-        ::ReleaseCapture();
+    setMouseCapture(own, over);
     if (exitIsDue)
         raiseEvent(eventid::command::MouseExit);
     raiseEvent(over ? eventid::command::MouseEnter : eventid::command::MouseExit);

@@ -18,6 +18,14 @@ class OffScreenDC;
 inline constexpr IID kIntrinsicButton = {
     0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
 
+/// OLEMISC flags of every command button.
+inline constexpr DWORD kCommandButtonStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
+                                              OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
+                                              OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON;
+
+/// The border style that has a border.
+inline constexpr long kFixedBorder = 1;
+
 /// Whether a press or release is a button's own: a test of bits, which every ordinary shift state passes.
 bool isOwnPress(MouseArguments const& mouse) noexcept;
 

@@ -1,7 +1,7 @@
 // The words that the controls' property tables are written in.
 #pragma once
 
-#include "controls/button/SystemColours.h"
+#include "drawing/SystemColours.h"
 #include "surface/PropertyTable.h"
 
 namespace quillet::rowwords {

@@ -1,7 +1,7 @@
 // The colours of the task-pane look, which come from the desktop and not from the user.
 #include "controls/button/TaskPane.h"
 
-#include "controls/button/SystemColours.h"
+#include "drawing/SystemColours.h"
 #include "drawing/xpstate.h"
 
 namespace quillet {

@@ -2,7 +2,6 @@
 #include "controls/flatcommand/qvFlatCommand.h"
 
 #include "controls/button/RowWords.h"
-#include "controls/flatcommand/Create.h"
 #include "surface/MessageBoxes.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
@@ -13,18 +12,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr ControlClass kFlatCommandClass = {
-    kQvFlatCommandClass,
-    kQvFlatCommandInterface,
-    kQvFlatCommandEvents,
-    L"qvFlatCommand",
-    L"Quillet.qvFlatCommand",
-    OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
-        OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON,
-    kQvFlatCommandMembers,
-    kHelpQvFlatCommand,
-};
 
 /// In the order of saving.
 constexpr auto flatCommandRows()
@@ -68,15 +55,14 @@ constexpr auto kFlatCommandRows = flatCommandRows();
 
 constinit PropertyTable const qvFlatCommand::kProperties(kFlatCommandRows);
 
-ControlClass const& flatCommandClass() noexcept { return kFlatCommandClass; }
-
-HRESULT createFlatCommand(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createControl<qvFlatCommand>(outer, iid, object);
-}
+constinit ControlClass const qvFlatCommand::kClass = {
+    kQvFlatCommandClass,   kQvFlatCommandInterface,  kQvFlatCommandEvents,
+    L"qvFlatCommand",      L"Quillet.qvFlatCommand", kCommandButtonStatus,
+    kQvFlatCommandMembers, kHelpQvFlatCommand,       &createControl<qvFlatCommand>,
+};
 
 qvFlatCommand::qvFlatCommand(IUnknown* outer)
-    : CommandButton(kFlatCommandClass, outer), Dual(static_cast<Surface&>(*this))
+    : CommandButton(kClass, outer), Dual(static_cast<Surface&>(*this))
 {
     // A container may leave out both loading and initialising.
     kProperties.setPlainDefaults(*this);

@@ -41,6 +41,8 @@ struct FlatCommandLooks {
 
 class qvFlatCommand final : public CommandButton, public Dual<_qvFlatCommand> {
 public:
+    static ControlClass const kClass;
+
     explicit qvFlatCommand(IUnknown* outer);
 
     // _qvFlatCommand: every property reads and writes through its row.

@@ -13,15 +13,8 @@ namespace quillet {
 
 namespace {
 
-constexpr OLE_COLOR kBlack = 0;
-
 constexpr COLORREF kMidGrey = 0x808080;
 constexpr COLORREF kLightGrey = 0xE0E0E0;
-
-constexpr long kFixedSingle = 1;
-
-/// The buttons whose focus takes the emphasis from the form's default button. A tool button is not one.
-constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kQvImageCommandInterface, kIntrinsicButton};
 
 } // namespace
 
@@ -113,15 +106,18 @@ void qvFlatCommand::draw(bool userMode)
 
 void qvFlatCommand::drawBorder(Painting& painting) const
 {
-    if (m_looks.borderStyle != kFixedSingle)
+    if (m_looks.borderStyle != kFixedBorder)
         return;
+    // The buttons whose focus takes the emphasis from the form's default button. A tool button is not one.
+    static constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kQvImageCommandInterface,
+                                              kIntrinsicButton};
     Palette& palette = painting.palette;
     bool const showsEmphasis = !m_looks.officeXPColors || painting.state == VisualState::Normal;
     if (showsEmphasis && (painting.focused || isEmphasisedDefault(painting.userMode, kEmphasisTakers))) {
         palette.borderWidth = checkedAdd(palette.borderWidth, 1);
         painting.marker = 1;
         if (m_looks.officeXPColors)
-            palette.border = resolvedColour(kBlack);
+            palette.border = RGB(0, 0, 0);
     }
     painting.canvas.FillRect(0, 0, painting.size.cx, painting.size.cy, palette.border);
     painting.inset = palette.borderWidth;

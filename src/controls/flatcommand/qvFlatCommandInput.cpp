@@ -1,17 +1,12 @@
 // The flat command button's mouse, keys and focus. Everything here happens at run time only.
 #include "controls/flatcommand/qvFlatCommand.h"
 #include "surface/window/Cursor.h"
+#include "surface/window/MouseCapture.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "winsvc/modCmdSupport.h"
 
 namespace quillet {
-
-namespace {
-
-constexpr short kLeftButton = 1;
-
-} // namespace
 
 void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
 {
@@ -20,7 +15,7 @@ void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
             [&] { m_looks.toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
         HWND const own = window().existing(); // the container may have closed the button meanwhile
         bool const dragged =
-            own && mouse.button == kLeftButton && ::GetCapture() == own && isOver() != m_lastOver;
+            mouse.button == MouseButtons::kLeft && hasMouseCapture(own) && isOver() != m_lastOver;
         if (dragged)
             setPressed(true); // painting takes it back when the cursor is not over the button
         else if (mouse.button == 0 && enterOrExit(isOver()))

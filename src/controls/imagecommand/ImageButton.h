@@ -67,12 +67,14 @@ enum class RestingBorder {
 
 /// What tells the two kinds of image buttons apart.
 struct ImageButtonKind {
-    ControlClass const& controlClass;
+    ControlClass controlClass;
     PropertyTable const& properties;
     RestingBorder restingBorder;
 };
 extern ImageButtonKind const kImageCommand;
 extern ImageButtonKind const kFlatToolButton;
+extern PropertyTable const kImageCommandProperties;
+extern PropertyTable const kFlatToolButtonProperties;
 
 class ImageButton : public CommandButton {
 public:

@@ -1,11 +1,11 @@
 // An image button's picture: which look, which image and where, face, border and caption composed off screen.
 #include "base/Checked.h"
 #include "controls/button/Caption.h"
-#include "controls/button/SystemColours.h"
 #include "controls/button/TaskPane.h"
 #include "controls/imagecommand/ImageButton.h"
 #include "drawing/Colour.h"
 #include "drawing/OffScreenDC.h"
+#include "drawing/SystemColours.h"
 #include "drawing/xpstate.h"
 #include "saving/StandardPicture.h"
 #include "surface/window/PaintTarget.h"
@@ -19,12 +19,8 @@ namespace quillet {
 
 namespace {
 
-constexpr long kFixedSingle = 1;
 constexpr long kPictureMargin = 4; // pixels inside the border, whatever the caption's indent
 constexpr long kPictureGap = 1;    // pixels between picture and caption
-
-/// The buttons whose focus takes the emphasis from the form's default button: no image button is one.
-constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kIntrinsicButton};
 
 /// The first of the pictures that is one; the last where none is.
 template <class... More> IPictureDisp* firstSet(IPictureDisp* picture, More*... more) noexcept
@@ -186,9 +182,11 @@ void ImageButton::draw()
 /// Answers how many pixels it drew round the face.
 long ImageButton::drawBorder(Painting& painting)
 {
-    if (m_looks.borderStyle != kFixedSingle)
+    if (m_looks.borderStyle != kFixedBorder)
         return 0;
     Palette& palette = painting.palette;
+    // The buttons whose focus takes the emphasis from the form's default button: no image button is one.
+    static constexpr IID kEmphasisTakers[] = {kQvFlatCommandInterface, kIntrinsicButton};
     if (window().hasFocus() || isEmphasisedDefault(painting.userMode, kEmphasisTakers))
         palette.borderWidth = checkedAdd(palette.borderWidth, 1);
     // Rings beyond the whole surface show nothing, but a saved form may ask for thousands.

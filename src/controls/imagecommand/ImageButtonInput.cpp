@@ -6,8 +6,6 @@ namespace quillet {
 
 namespace {
 
-constexpr short kLeftButton = 1;
-
 /// Whether a point in twips lies in the surface: its right and bottom edges count as inside.
 bool isInside(MouseArguments const& mouse, SIZE size, TwipsPerPixel const& twips)
 {
@@ -23,7 +21,7 @@ void ImageButton::onMouseMove(MouseArguments const& mouse)
     if (!reacts())
         return;
     bool const changed = enterOrExit(isOver());
-    bool const pressLost = mouse.button != kLeftButton && isPressed(); // let go outside the button
+    bool const pressLost = mouse.button != MouseButtons::kLeft && isPressed(); // let go outside the button
     if (changed || pressLost)
         repaint();
     raiseMouseEvent(eventid::command::MouseMove, mouse);

@@ -1,12 +1,10 @@
 // The image buttons' properties, with the defaults of the image command button and of the tool button.
 #include "controls/button/RowWords.h"
-#include "controls/imagecommand/Create.h"
 #include "controls/imagecommand/ImageButton.h"
 #include "saving/StandardPicture.h"
 #include "surface/MessageBoxes.h"
+#include "surface/window/MouseCapture.h"
 #include "typelib/DispatchIds.h"
-#include "typelib/Guids.h"
-#include "typelib/HelpContexts.h"
 
 #include <olectl.h>
 
@@ -15,18 +13,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr DWORD kMiscStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
-                              OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON;
-
-constexpr ControlClass kImageCommandClass = {kQvImageCommandClass,      kQvImageCommandInterface,
-                                             kQvImageCommandEvents,     L"qvImageCommand",
-                                             L"Quillet.qvImageCommand", kMiscStatus,
-                                             kImageButtonMembers,       kHelpQvImageCommand};
-constexpr ControlClass kToolButtonClass = {kFlatToolButtonClass,      kFlatToolButtonInterface,
-                                           kFlatToolButtonEvents,     L"FlatToolButton",
-                                           L"Quillet.FlatToolButton", kMiscStatus,
-                                           kImageButtonMembers,       kHelpFlatToolButton};
 
 ImageLooks& looksOf(Surface& surface) { return static_cast<ImageButton&>(surface).looks(); }
 
@@ -43,9 +29,8 @@ bool assignOfficeXPColors(Surface& control, Variant const& value)
 bool assignActive(Surface& control, Variant const& value)
 {
     looksOf(control).active = value.toBool();
-    HWND const window = control.window().existing();
-    if (!looksOf(control).active && window && ::GetCapture() == window)
-        ::ReleaseCapture();
+    if (!looksOf(control).active)
+        setMouseCapture(control.window().existing(), false);
     return true;
 }
 
@@ -169,16 +154,9 @@ constexpr auto toolRows()
 }
 constexpr auto kToolRows = toolRows();
 
-constexpr PropertyTable kImageProperties(kImageRows, LoadedObjects::IntoFields);
-constexpr PropertyTable kToolProperties(kToolRows, LoadedObjects::IntoFields);
-
 } // namespace
 
-constinit ImageButtonKind const kImageCommand = {kImageCommandClass, kImageProperties, RestingBorder::Shadow};
-constinit ImageButtonKind const kFlatToolButton = {kToolButtonClass, kToolProperties,
-                                                   RestingBorder::WhileLaidOut};
-
-ControlClass const& imageCommandClass() noexcept { return kImageCommandClass; }
-ControlClass const& flatToolButtonClass() noexcept { return kToolButtonClass; }
+constinit PropertyTable const kImageCommandProperties(kImageRows, LoadedObjects::IntoFields);
+constinit PropertyTable const kFlatToolButtonProperties(kToolRows, LoadedObjects::IntoFields);
 
 } // namespace quillet

@@ -1,7 +1,8 @@
 // The two published classes: an image button behind the interface of each.
-#include "controls/imagecommand/Create.h"
 #include "controls/imagecommand/ImageButton.h"
 #include "typelib/DispatchIds.h"
+#include "typelib/Guids.h"
+#include "typelib/HelpContexts.h"
 #include "typelib/Interfaces.h"
 
 namespace quillet {
@@ -49,14 +50,36 @@ using FlatToolButton = Published<_FlatToolButton, ButtonBorderStyleConstants, kF
 
 } // namespace
 
-HRESULT createImageCommand(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createControl<qvImageCommand>(outer, iid, object);
-}
+constinit ImageButtonKind const kImageCommand = {
+    {
+        kQvImageCommandClass,
+        kQvImageCommandInterface,
+        kQvImageCommandEvents,
+        L"qvImageCommand",
+        L"Quillet.qvImageCommand",
+        kCommandButtonStatus,
+        kImageButtonMembers,
+        kHelpQvImageCommand,
+        &createControl<qvImageCommand>,
+    },
+    kImageCommandProperties,
+    RestingBorder::Shadow,
+};
 
-HRESULT createFlatToolButton(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createControl<FlatToolButton>(outer, iid, object);
-}
+constinit ImageButtonKind const kFlatToolButton = {
+    {
+        kFlatToolButtonClass,
+        kFlatToolButtonInterface,
+        kFlatToolButtonEvents,
+        L"FlatToolButton",
+        L"Quillet.FlatToolButton",
+        kCommandButtonStatus,
+        kImageButtonMembers,
+        kHelpFlatToolButton,
+        &createControl<FlatToolButton>,
+    },
+    kFlatToolButtonProperties,
+    RestingBorder::WhileLaidOut,
+};
 
 } // namespace quillet

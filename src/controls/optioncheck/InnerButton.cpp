@@ -6,6 +6,7 @@
 #include "base/RunTimeError.h"
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "drawing/Colour.h"
+#include "surface/window/WindowClass.h"
 
 #include <utility>
 
@@ -13,18 +14,26 @@ namespace quillet {
 
 namespace {
 
-/// Window classes belong to the process: the address keeps two loaded copies of the component apart.
-struct ClassName {
-    wchar_t text[40];
-    ClassName() noexcept { ::wsprintfW(text, L"QuilletButton:%p", static_cast<void*>(moduleInstance())); }
-};
+WindowClass buttonClass() noexcept { return WindowClass("QuilletButton"); }
 
 WNDCLASSEXW systemClass()
 {
     WNDCLASSEXW description = {};
     description.cbSize = sizeof(description);
     if (!::GetClassInfoExW(nullptr, L"Button", &description))
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+        throw lastError();
+    return description;
+}
+
+/// Like the system's class, but for what this button does by itself.
+WNDCLASSEXW derived(WNDCLASSEXW description, WNDPROC procedure) noexcept
+{
+    // It owns its DC, so whoever asks for it time and again without giving it back gets the same one. It
+    // knows no double clicks: there is no event for them, and each press is to be one.
+    description.style = CS_OWNDC;
+    description.lpfnWndProc = procedure;
+    // Found through extra bytes behind the system's: the user-data slot belongs to subclassing.
+    description.cbWndExtra += static_cast<int>(sizeof(void*));
     return description;
 }
 
@@ -43,38 +52,20 @@ InnerButton::InnerButton(OptionCheckButton& surface, InnerKind kind, std::wstrin
     : m_surface(surface), m_kind(kind), m_caption(caption)
 {}
 
-void InnerButton::registerClass(WNDCLASSEXW description)
-{
-    ClassName const name;
-    WNDCLASSEXW existing = {};
-    existing.cbSize = sizeof(existing);
-    if (::GetClassInfoExW(moduleInstance(), name.text, &existing))
-        return;
-    // It owns its DC, so whoever asks for it time and again without giving it back gets the same one. It
-    // knows no double clicks: there is no event for them, and each press is to be one.
-    description.style = CS_OWNDC;
-    description.lpfnWndProc = &InnerButton::procedure;
-    // Found through extra bytes behind the system's: the user-data slot belongs to subclassing.
-    description.cbWndExtra += static_cast<int>(sizeof(void*));
-    description.hInstance = moduleInstance();
-    description.lpszClassName = name.text;
-    if (!::RegisterClassExW(&description))
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
-}
-
-void InnerButton::unregisterClass() noexcept { ::UnregisterClassW(ClassName().text, moduleInstance()); }
+void InnerButton::unregisterClass() noexcept { buttonClass().unregister(); }
 
 void InnerButton::create(HWND parent)
 {
     WNDCLASSEXW const system = systemClass();
-    registerClass(system);
+    WindowClass const own = buttonClass();
+    own.require(derived(system, &InnerButton::procedure));
     SIZE const size = m_surface.window().clientSize();
     DWORD const style = m_kind == InnerKind::Option ? BS_RADIOBUTTON : BS_3STATE;
-    m_window = ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, ClassName().text, textOf(m_caption),
+    m_window = ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, own.wideName(), textOf(m_caption),
                                  WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, size.cx, size.cy, parent,
                                  nullptr, moduleInstance(), nullptr);
     if (!m_window)
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+        throw lastError();
     m_system = system.lpfnWndProc;
     ::SetWindowLongPtrW(m_window, system.cbWndExtra, reinterpret_cast<LONG_PTR>(this));
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(m_value), 0);

@@ -4,6 +4,7 @@
 #include "base/Bstr.h"
 #include "controls/optioncheck/InnerButtonPicture.h"
 #include "controls/optioncheck/InnerKind.h"
+#include "drawing/SystemColours.h"
 
 #include <ocidl.h>
 #include <windows.h>
@@ -71,7 +72,6 @@ private:
     class PaintedByUs;
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-    static void registerClass(WNDCLASSEXW description);
 
     GlyphLook glyphLook(COLORREF inside) const;
     void create(HWND parent);
@@ -92,8 +92,8 @@ private:
     OptionCheckButton& m_surface;
     InnerKind const m_kind;
     Bstr m_caption;
-    OLE_COLOR m_foreColor = 0x80000012; ///< button text
-    OLE_COLOR m_backColor = 0x8000000F; ///< button face
+    OLE_COLOR m_foreColor = colour::kButtonText;
+    OLE_COLOR m_backColor = colour::kButtonFace;
     mutable CaptionPlace m_place{};
     long m_value = 0;
     HWND m_window = nullptr;

@@ -1,6 +1,7 @@
 // What the flat option button and the flat check box share: properties, events and window services.
 #include "controls/optioncheck/OptionCheckButton.h"
 
+#include "surface/window/MouseCapture.h"
 #include "typelib/DispatchIds.h"
 
 namespace quillet {
@@ -72,18 +73,6 @@ void OptionCheckButton::onCharacter(short& keyAscii)
     raiseEvent(eventid::optionCheck::KeyPress, {Variant::ofShortRef(&keyAscii)});
 }
 
-bool OptionCheckButton::setMouseCapture(HWND window, bool capture) noexcept
-{
-    bool const captured = ::GetCapture() == window;
-    if (capture == captured)
-        return false;
-    if (capture)
-        ::SetCapture(window);
-    else
-        ::ReleaseCapture();
-    return true;
-}
-
 /// No move tells any more that the mouse leaves a hot button.
 void OptionCheckButton::onCaptureLost()
 {
@@ -105,9 +94,7 @@ void OptionCheckButton::followMouse(MouseArguments const& mouse)
         return;
     bool const over = isMouseOver();
     bool const draggedOverEdge =
-        mouse.button == MouseButtons::kLeft && ::GetCapture() == window && m_lastHover != over;
-    // While the cursor is over the button its window holds the capture, so the move that leaves comes here,
-    // too.
+        mouse.button == MouseButtons::kLeft && hasMouseCapture(window) && m_lastHover != over;
     if (draggedOverEdge || (mouse.button == 0 && setMouseCapture(window, over)))
         repaint();
 }

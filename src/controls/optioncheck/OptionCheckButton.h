@@ -60,8 +60,6 @@ protected:
     void refresh();
 
     bool isMouseOver() const { return isUnderCursor(m_inner.existing()); }
-    /// Takes or gives up the mouse; whether that changed anything.
-    static bool setMouseCapture(HWND window, bool capture) noexcept;
     /// What a move does to the look while the form runs, the event apart.
     void followMouse(MouseArguments const& mouse);
     void setLastHover(bool over) noexcept { m_lastHover = over; }

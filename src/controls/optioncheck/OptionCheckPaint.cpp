@@ -1,7 +1,7 @@
 // The looks of the flat option button and the flat check box: a coloured caption or a shaded glyph.
-#include "controls/button/SystemColours.h"
 #include "controls/optioncheck/OptionCheckButton.h"
 #include "controls/optioncheck/PendingMessages.h"
+#include "drawing/SystemColours.h"
 
 #include <utility>
 

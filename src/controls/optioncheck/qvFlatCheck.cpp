@@ -1,7 +1,6 @@
 // The flat check box: its properties and their order, and what differs from the option button.
 #include "controls/optioncheck/qvFlatCheck.h"
 
-#include "controls/optioncheck/Create.h"
 #include "controls/optioncheck/OptionCheckRows.h"
 #include "typelib/Guids.h"
 #include "typelib/HelpContexts.h"
@@ -9,11 +8,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr ControlClass kCheckClass = {
-    kQvFlatCheckClass,      kQvFlatCheckInterface, kQvFlatCheckEvents,  L"qvFlatCheck",
-    L"Quillet.qvFlatCheck", kOptionCheckStatus,    kQvFlatCheckMembers, kHelpQvFlatCheck,
-};
 
 /// A changed value raises Click.
 constexpr PropertyAccess kCheckValue = {
@@ -27,15 +21,14 @@ constexpr OptionCheckRows kCheckRows =
 
 constinit PropertyTable const qvFlatCheck::kProperties(kCheckRows);
 
-ControlClass const& flatCheckClass() noexcept { return kCheckClass; }
-
-HRESULT createFlatCheck(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createControl<qvFlatCheck>(outer, iid, object);
-}
+constinit ControlClass const qvFlatCheck::kClass = {
+    kQvFlatCheckClass,   kQvFlatCheckInterface,  kQvFlatCheckEvents,
+    L"qvFlatCheck",      L"Quillet.qvFlatCheck", kOptionCheckStatus,
+    kQvFlatCheckMembers, kHelpQvFlatCheck,       &createControl<qvFlatCheck>,
+};
 
 qvFlatCheck::qvFlatCheck(IUnknown* outer)
-    : OptionCheckMembers(kCheckClass, outer, InnerKind::Check, L"Check1", kProperties)
+    : OptionCheckMembers(kClass, outer, InnerKind::Check, L"Check1", kProperties)
 {}
 
 void qvFlatCheck::onMouseMove(MouseArguments const& mouse)

@@ -7,6 +7,8 @@ namespace quillet {
 
 class qvFlatCheck final : public OptionCheckMembers<_qvFlatCheck> {
 public:
+    static ControlClass const kClass;
+
     explicit qvFlatCheck(IUnknown* outer);
 
     // Handlers of the surface.

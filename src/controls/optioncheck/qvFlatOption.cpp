@@ -2,7 +2,6 @@
 #include "controls/optioncheck/qvFlatOption.h"
 
 #include "base/LateBound.h"
-#include "controls/optioncheck/Create.h"
 #include "controls/optioncheck/OptionCheckRows.h"
 #include "surface/window/Cursor.h"
 #include "typelib/Guids.h"
@@ -13,11 +12,6 @@
 namespace quillet {
 
 namespace {
-
-constexpr ControlClass kOptionClass = {
-    kQvFlatOptionClass,      kQvFlatOptionInterface, kQvFlatOptionEvents,  L"qvFlatOption",
-    L"Quillet.qvFlatOption", kOptionCheckStatus,     kQvFlatOptionMembers, kHelpQvFlatOption,
-};
 
 /// Selecting the inner button clears the siblings and raises Click.
 constexpr PropertyAccess kOptionValue = {
@@ -37,15 +31,14 @@ Variant containerWindow(IDispatch* extender)
 
 constinit PropertyTable const qvFlatOption::kProperties(kOptionRows);
 
-ControlClass const& flatOptionClass() noexcept { return kOptionClass; }
-
-HRESULT createFlatOption(IUnknown* outer, REFIID iid, void** object) noexcept
-{
-    return createControl<qvFlatOption>(outer, iid, object);
-}
+constinit ControlClass const qvFlatOption::kClass = {
+    kQvFlatOptionClass,   kQvFlatOptionInterface,  kQvFlatOptionEvents,
+    L"qvFlatOption",      L"Quillet.qvFlatOption", kOptionCheckStatus,
+    kQvFlatOptionMembers, kHelpQvFlatOption,       &createControl<qvFlatOption>,
+};
 
 qvFlatOption::qvFlatOption(IUnknown* outer)
-    : OptionCheckMembers(kOptionClass, outer, InnerKind::Option, L"Option1", kProperties)
+    : OptionCheckMembers(kClass, outer, InnerKind::Option, L"Option1", kProperties)
 {}
 
 void qvFlatOption::onReadProperties(PropertyBag& bag)

@@ -9,6 +9,8 @@ namespace quillet {
 
 class qvFlatOption final : public OptionCheckMembers<_qvFlatOption> {
 public:
+    static ControlClass const kClass;
+
     explicit qvFlatOption(IUnknown* outer);
 
     // Handlers of the surface.

@@ -5,7 +5,6 @@
 #include "base/ComPtr.h"
 #include "base/RunTimeError.h"
 #include "shell/ClassTable.h"
-#include "shell/PageTable.h"
 #include "shell/RegistryRows.h"
 #include "shell/TypeLibraryRows.h"
 
@@ -30,8 +29,8 @@ void list(std::wstring const& component, std::wstring const& path, std::wstring 
 {
     for (ClassRow const& row : classTable())
         print(registryRows(row, path));
-    for (PageRow const& row : pageTable())
-        print(registryRows(row, path));
+    for (PageClass const* const page : kPageClasses)
+        print(registryRows(*page, path));
     ComPtr<ITypeLib> library;
     check(::LoadTypeLibEx(component.c_str(), REGKIND_NONE, library.put()));
     print(typeLibraryRows(*library.get(), path, helpFolder));

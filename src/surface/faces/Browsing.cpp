@@ -19,11 +19,11 @@ namespace quillet {
 namespace {
 
 /// Which page edits properties of a kind.
-struct PageRow {
+struct SpecialPage {
     ValueKind kind;
     CLSID const& page;
 };
-constexpr PageRow kSpecialPages[] = {
+constexpr SpecialPage kSpecialPages[] = {
     {ValueKind::Colour, kColoursPageClass},
     {ValueKind::Font, kFontsPageClass},
     {ValueKind::Picture, kPicturesPageClass},
@@ -70,7 +70,7 @@ HRESULT Browsing::MapPropertyToPage(DISPID id, CLSID* page)
         deref(page) = CLSID_NULL;
         // A browser edits plain values best itself, and offers its page only where there is one.
         auto const property = find(id);
-        for (PageRow const& row : kSpecialPages)
+        for (SpecialPage const& row : kSpecialPages)
             if (property && property->kind == row.kind) {
                 *page = row.page;
                 return S_OK;
@@ -118,7 +118,7 @@ std::vector<CLSID> Browsing::pages()
 {
     std::vector<CLSID> found = {kGeneralPageClass};
     auto const described = properties();
-    for (PageRow const& row : kSpecialPages)
+    for (SpecialPage const& row : kSpecialPages)
         if (std::ranges::any_of(described, [&](auto const& each) { return each.kind == row.kind; }))
             found.push_back(row.page);
     return found;

@@ -20,7 +20,7 @@ HWND madeParkingWindow(ThreadState& state)
         state.parkingWindow = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, "Static", nullptr, WS_POPUP, 0, 0, 0, 0,
                                                 nullptr, nullptr, moduleInstance(), nullptr);
     if (!state.parkingWindow)
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+        throw lastError();
     return state.parkingWindow;
 }
 

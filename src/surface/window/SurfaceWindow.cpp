@@ -7,6 +7,7 @@
 #include "base/RunTimeError.h"
 #include "surface/Surface.h"
 #include "surface/window/ParkingWindow.h"
+#include "surface/window/WindowClass.h"
 
 #include <utility>
 
@@ -14,55 +15,40 @@ namespace quillet {
 
 namespace {
 
-/// Window classes belong to the process: the address keeps two loaded copies of the component apart.
-struct ClassName {
-    char text[40];
-    ClassName() noexcept { ::wsprintfA(text, "QuilletSurface:%p", static_cast<void*>(moduleInstance())); }
-};
+WindowClass surfaceClass() noexcept { return WindowClass("QuilletSurface"); }
 
-void registerClass(WNDPROC procedure)
+WNDCLASSEXA surfaceDescription(WNDPROC procedure) noexcept
 {
-    ClassName const name;
     WNDCLASSEXA description = {};
-    description.cbSize = sizeof(description);
-    if (::GetClassInfoExA(moduleInstance(), name.text, &description))
-        return;
-    description = {};
     description.cbSize = sizeof(description);
     description.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
     description.lpfnWndProc = procedure;
     // The surface is found through the window's extra bytes: the user-data slot belongs to subclassing.
     description.cbWndExtra = sizeof(void*);
-    description.hInstance = moduleInstance();
-    description.lpszClassName = name.text;
-    if (!::RegisterClassExA(&description))
-        throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
+    return description;
 }
 
 } // namespace
 
-void SurfaceWindow::unregisterClass() noexcept
-{
-    ClassName const name;
-    ::UnregisterClassA(name.text, moduleInstance());
-}
+void SurfaceWindow::unregisterClass() noexcept { surfaceClass().unregister(); }
 
 void SurfaceWindow::create(HWND parent)
 {
-    registerClass(&SurfaceWindow::procedure);
+    WindowClass const own = surfaceClass();
+    own.require(surfaceDescription(&SurfaceWindow::procedure));
     HWND const parking = enterParking();
     // The rectangle counts in the container's window: whoever lays out at the first size has to hear of it
     // there.
     RECT const place = parent ? m_surface.inPlace().position() : RECT{0, 0, m_size.cx, m_size.cy};
-    m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, ClassName().text, nullptr,
+    m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, own.name(), nullptr,
                                  WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
                                      (m_surface.enabled() ? 0 : WS_DISABLED),
                                  place.left, place.top, place.right - place.left, place.bottom - place.top,
                                  parent ? parent : parking, nullptr, moduleInstance(), nullptr);
     if (!m_window) {
-        DWORD const reason = ::GetLastError();
+        RunTimeError const reason = lastError();
         leaveParking();
-        throw RunTimeError(HRESULT_FROM_WIN32(reason));
+        throw reason;
     }
     // A form that is laid out from right to left hands that on. Controls have no such layout: points in them
     // count from the left.

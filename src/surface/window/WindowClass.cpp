@@ -1,0 +1,45 @@
+// The component's own window classes: their names, and their registration at the first need.
+#include "surface/window/WindowClass.h"
+
+#include "base/Module.h"
+#include "base/RunTimeError.h"
+
+namespace quillet {
+
+WindowClass::WindowClass(char const* kind) noexcept
+{
+    void* const module = moduleInstance();
+    ::wsprintfA(m_name, "%s:%p", kind, module);
+    ::wsprintfW(m_wideName, L"%S:%p", kind, module);
+}
+
+void WindowClass::require(WNDCLASSEXA description) const
+{
+    if (isRegistered())
+        return;
+    description.hInstance = moduleInstance();
+    description.lpszClassName = m_name;
+    if (!::RegisterClassExA(&description))
+        throw lastError();
+}
+
+void WindowClass::require(WNDCLASSEXW description) const
+{
+    if (isRegistered())
+        return;
+    description.hInstance = moduleInstance();
+    description.lpszClassName = m_wideName;
+    if (!::RegisterClassExW(&description))
+        throw lastError();
+}
+
+void WindowClass::unregister() const noexcept { ::UnregisterClassA(m_name, moduleInstance()); }
+
+bool WindowClass::isRegistered() const noexcept
+{
+    WNDCLASSEXA existing = {};
+    existing.cbSize = sizeof(existing);
+    return ::GetClassInfoExA(moduleInstance(), m_name, &existing) != FALSE;
+}
+
+} // namespace quillet
