@@ -1,6 +1,7 @@
 // What the component carries as resources: version, type library, toolbox bitmaps.
 #include "base/Bstr.h"
 #include "base/Handles.h"
+#include "base/Version.h"
 #include "kit/Library.h"
 #include "shell/ClassTable.h"
 #include "typelib/Guids.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 #include <oleauto.h>
 
+#include <cstdio>
 #include <vector>
 
 namespace quillet {
@@ -53,13 +55,15 @@ private:
 
 TEST_F(VersionResource, saysTheVersionInTextAndInNumbers)
 {
-    EXPECT_STREQ(text(L"FileVersion"), L"1.03.0041");
-    EXPECT_STREQ(text(L"ProductVersion"), L"1.03.0041");
+    EXPECT_STREQ(text(L"FileVersion"), L"" QV_VERSION);
+    EXPECT_STREQ(text(L"ProductVersion"), L"" QV_VERSION);
     ASSERT_NE(numbers(), nullptr);
-    EXPECT_EQ(numbers()->dwFileVersionMS, 0x00010003u);
-    EXPECT_EQ(numbers()->dwFileVersionLS, 41u);
-    EXPECT_EQ(numbers()->dwProductVersionMS, 0x00010003u);
-    EXPECT_EQ(numbers()->dwProductVersionLS, 41u);
+    unsigned major = 0, minor = 0, build = 0;
+    ASSERT_EQ(std::sscanf(QV_VERSION, "%u.%u.%u", &major, &minor, &build), 3);
+    EXPECT_EQ(numbers()->dwFileVersionMS, major << 16 | minor);
+    EXPECT_EQ(numbers()->dwFileVersionLS, build);
+    EXPECT_EQ(numbers()->dwProductVersionMS, major << 16 | minor);
+    EXPECT_EQ(numbers()->dwProductVersionLS, build);
     EXPECT_EQ(numbers()->dwFileType, static_cast<DWORD>(VFT_DLL));
 }
 
