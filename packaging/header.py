@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
 """Writes quillet.h, the published contract for C++ programs, from the lists of src/typelib/: header.py FILE"""
 import pathlib
-import re
 import sys
+import uuid
 
-CONTRACT = pathlib.Path(__file__).resolve().parent.parent / "src/typelib"
+sys.dont_write_bytecode = True  # the sources stay as they are
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "src/typelib/maker"))
+import contract  # noqa: E402
+
 CONTROLS = ["qvFlatCommand", "qvImageCommand", "FlatToolButton", "qvFlatOption", "qvFlatCheck"]
 OPTION_CHECK = ("qvFlatOption", "qvFlatCheck")  # the others raise the events of command buttons
 
-ROW = re.compile(r'QV_(\w+)\((\w+),\s*(\w+),(?:\s*(\w+),)?\s*L"(.*)"\)$')
 POINTER = "short* Button, short* Shift, float* x, float* y"
 ARGUMENTS = {"KEY_EVENT": "short* KeyCode, short* Shift", "CHARACTER_EVENT": "short* KeyAscii", "POINTER_EVENT": POINTER}
 
@@ -35,26 +37,6 @@ namespace Quillet {
 """
 
 
-def text_of(name):
-    return (CONTRACT / name).read_text(encoding="ascii")
-
-
-def members(name):
-    """The rows of a list and of what it includes: (kind, name, identifier, type or None, help text)."""
-    rows, words = [], {}
-    for line in text_of(f"members/{name}.inc").splitlines():
-        if define := re.match(r"#define (\w+) (\w+)$", line):
-            words[define[1]] = define[2]
-        elif include := re.match(r'#include "typelib/members/(\w+)\.inc"', line):
-            if include[1] not in ("begin", "end"):
-                rows += members(include[1])
-        elif row := ROW.match(line):
-            rows.append(row.groups())
-        elif line.startswith("QV_"):
-            sys.exit(f"header: {name}.inc: cannot read {line}")
-    return [tuple(words.get(cell, cell) for cell in row) for row in rows]
-
-
 def functions(kind, name, value):
     if kind in ("VALUE", "DEFAULT_VALUE"):
         return [f"get_{name}({value}* value)", f"put_{name}({value} value)"]
@@ -67,33 +49,24 @@ def functions(kind, name, value):
              "WINDOW_PROCEDURE": f"{name}(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result)"}[kind]]
 
 
-def guids():
-    """(constant in the lists, its eleven numbers), the interface's name left out."""
-    found = re.findall(r"^QV_(?:INTERFACE_)?ID\((\w+),(?:\s*_\w+,)?((?:\s*0x\w+,?){11})\)", text_of("Guids.inc"), re.M)
-    return {constant: re.findall(r"0x(\w+)", numbers) for constant, numbers in found}
+def braced(identifier):
+    first, second, third, *_ = identifier.fields
+    rest = ", ".join(f"0x{byte:02x}" for byte in identifier.bytes[8:])
+    return f"{{0x{first:08x}, 0x{second:04x}, 0x{third:04x}, {{{rest}}}}}"
 
 
-def dashed(numbers):
-    tail = "".join(numbers[3:])
-    return "-".join([*numbers[:3], tail[:4], tail[4:]])
-
-
-def braced(numbers):
-    words = ["0x" + word for word in numbers]
-    return "{" + ", ".join(words[:3]) + ", {" + ", ".join(words[3:]) + "}}"
+def number_of(identifier):
+    return f"0x{identifier:08X}" if identifier > 0xFFFF else str(identifier)
 
 
 def enumerations():
-    lines = []
-    for name, values in re.findall(r"QV_ENUM\((\w+), \w+\)(.*?)QV_ENUM_END", text_of("Enumerations.inc"), re.S):
-        pairs = re.findall(r"QV_ENUM_VALUE\((\w+),\s*(\w+)\)", values)
-        lines.append(f"enum class {name} : long {{ " + ", ".join(f"{word} = {value}" for word, value in pairs) + " };")
-    return lines
+    for name, _, values in contract.enumerations():
+        yield f"enum class {name} : long {{ " + ", ".join(f"{word} = {value}" for word, value in values) + " };"
 
 
 def identifiers(control, rows):
     lines = [f"namespace {control} {{"]
-    lines += [f"constexpr DISPID {name} = {number};" for _, name, number, _, _ in rows]
+    lines += [f"constexpr DISPID {name} = {number_of(number)};" for _, name, number, _, _ in rows]
     return [*lines, "}"]
 
 
@@ -101,7 +74,7 @@ def events(control, rows):
     lines = [f"namespace {control} {{"]
     for kind, name, number, _, help_text in rows:
         told = f"{name}({ARGUMENTS.get(kind, '')})" + (f": {help_text}" if help_text else "")
-        lines += [f"// {told}", f"constexpr DISPID {name} = {number};"]
+        lines += [f"// {told}", f"constexpr DISPID {name} = {number_of(number)};"]
     return [*lines, "}"]
 
 
@@ -118,17 +91,18 @@ def constant_of(control):
 
 
 def header():
-    ids = guids()
-    classes = {each: members(each) for each in CONTROLS}
-    raised = {each: members("optionCheckEvents" if each in OPTION_CHECK else "commandEvents") for each in CONTROLS}
-    texts = dict(re.findall(r'(k\w+)Text\[\] = L"(.*)";', text_of("Texts.h")))
+    ids = {constant: uuid.UUID(bytes_le=data) for constant, data in contract.identifiers().items()}
+    classes = {each: list(contract.members_of(each)) for each in CONTROLS}
+    raised = {each: list(contract.members_of("optionCheckEvents" if each in OPTION_CHECK else "commandEvents"))
+              for each in CONTROLS}
+    texts = contract.constants("Texts.h")
 
     types = []  # (name, its identifier): what has a __uuidof
     lines = [f"constexpr GUID LIBID_Quillet = {braced(ids['kLibraryId'])};", ""]
     for each in CONTROLS:
         key = constant_of(each)
         types += [(each, ids[key + "Class"]), ("_" + each, ids[key + "Interface"]), ("__" + each, ids[key + "Events"])]
-        lines += [f"// {texts[key]}: \"Quillet.{each}\"",
+        lines += [f"// {texts[key + 'Text']}: \"Quillet.{each}\"",
                   f"constexpr CLSID CLSID_{each} = {braced(ids[key + 'Class'])};",
                   f"constexpr IID IID__{each} = {braced(ids[key + 'Interface'])};",
                   f"constexpr IID DIID___{each} = {braced(ids[key + 'Events'])};", ""]
@@ -144,16 +118,15 @@ def header():
     lines += ["}", ""]
 
     for each in CONTROLS:
-        identifier = dashed(ids[constant_of(each) + "Interface"])
-        lines += interface("_" + each, identifier, classes[each])
+        lines += interface("_" + each, ids[constant_of(each) + "Interface"], classes[each])
     lines += ["// The event interfaces are called through Invoke alone."]
-    lines += [f'struct DECLSPEC_UUID("{dashed(number)}") DECLSPEC_NOVTABLE {name} : IDispatch {{}};'
+    lines += [f'struct DECLSPEC_UUID("{number}") DECLSPEC_NOVTABLE {name} : IDispatch {{}};'
               for name, number in types if name.startswith("__")]
     lines += ["", "// The classes, for __uuidof."]
-    lines += [f'struct DECLSPEC_UUID("{dashed(number)}") {name};' for name, number in types if name[0] != "_"]
+    lines += [f'struct DECLSPEC_UUID("{number}") {name};' for name, number in types if name[0] != "_"]
     lines += ["", "} // namespace Quillet", "", "#ifdef __CRT_UUID_DECL // how mingw-w64 learns what __uuidof answers"]
     for name, number in types:
-        lines.append(f"__CRT_UUID_DECL(Quillet::{name}, {', '.join('0x' + word for word in number)})")
+        lines.append(f"__CRT_UUID_DECL(Quillet::{name}, {braced(number).replace('{', '').replace('}', '')})")
     return TOP + "\n".join([*lines, "#endif", ""])
 
 
