@@ -24,3 +24,11 @@ namespace quillet {
 // Visual C++ takes a uuid at a declaration alone, as text: there our own interfaces go by their constants.
 #define QV_INTERFACE_UUID(type, ...)
 #endif
+
+/// Stands before a function that others than our sources call. The component is compiled as one, and what
+/// nobody calls in it goes.
+#if defined(__GNUC__) && !defined(__clang__)
+#define QV_CALLED_BY_OTHERS [[gnu::externally_visible]]
+#else
+#define QV_CALLED_BY_OTHERS
+#endif

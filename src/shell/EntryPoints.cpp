@@ -1,6 +1,7 @@
 // What Windows and the component runtime call.
 #include "base/ComCall.h"
 #include "base/ComPtr.h"
+#include "base/Compiler.h"
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "controls/optioncheck/InnerButton.h"
@@ -36,7 +37,7 @@ CreateFunction creatorOf(CLSID const& classId) noexcept
 
 } // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds)
+extern "C" QV_CALLED_BY_OTHERS BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEnds)
 {
     switch (reason) {
     case DLL_PROCESS_ATTACH:
@@ -58,7 +59,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
     }
 }
 
-extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** object)
+extern "C" QV_CALLED_BY_OTHERS HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** object)
 {
     return comCall([&] {
         deref(object) = nullptr;
@@ -69,14 +70,17 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void**
     });
 }
 
-extern "C" HRESULT WINAPI DllCanUnloadNow() { return liveObjects() == 0 ? S_OK : S_FALSE; }
+extern "C" QV_CALLED_BY_OTHERS HRESULT WINAPI DllCanUnloadNow()
+{
+    return liveObjects() == 0 ? S_OK : S_FALSE;
+}
 
-extern "C" HRESULT WINAPI DllRegisterServer()
+extern "C" QV_CALLED_BY_OTHERS HRESULT WINAPI DllRegisterServer()
 {
     return comCall([] { registerWhereAllowed(); });
 }
 
-extern "C" HRESULT WINAPI DllUnregisterServer()
+extern "C" QV_CALLED_BY_OTHERS HRESULT WINAPI DllUnregisterServer()
 {
     return comCall([] {
         unregisterComponent(Scope::User);
@@ -85,7 +89,7 @@ extern "C" HRESULT WINAPI DllUnregisterServer()
 }
 
 /// regsvr32 /n /i:user: for the user alone.
-extern "C" HRESULT WINAPI DllInstall(BOOL install, LPCWSTR commandLine)
+extern "C" QV_CALLED_BY_OTHERS HRESULT WINAPI DllInstall(BOOL install, LPCWSTR commandLine)
 {
     if (!commandLine || !*commandLine)
         return install ? DllRegisterServer() : DllUnregisterServer();

@@ -103,7 +103,7 @@ TEST_F(Image, isASmallFile)
 {
 #ifdef NDEBUG
     EXPECT_GT(file().size(), 100'000u);
-    EXPECT_LE(file().size(), 420'000u);
+    EXPECT_LE(file().size(), 400'000u);
 #else
     GTEST_SKIP() << "of a release";
 #endif

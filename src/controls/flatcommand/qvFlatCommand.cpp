@@ -62,7 +62,7 @@ constinit ControlClass const qvFlatCommand::kClass = {
 };
 
 qvFlatCommand::qvFlatCommand(IUnknown* outer)
-    : CommandButton(kClass, outer), Dual(static_cast<Surface&>(*this))
+    : Dual(static_cast<Surface&>(*this)), CommandButton(kClass, outer)
 {
     // A container may leave out both loading and initialising.
     kProperties.setPlainDefaults(*this);

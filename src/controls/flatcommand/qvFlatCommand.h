@@ -39,7 +39,7 @@ struct FlatCommandLooks {
     Bstr toolTipText; ///< the extender's, as it was at the last mouse move
 };
 
-class qvFlatCommand final : public CommandButton, public Dual<_qvFlatCommand> {
+class qvFlatCommand final : public Dual<_qvFlatCommand>, public CommandButton {
 public:
     static ControlClass const kClass;
 

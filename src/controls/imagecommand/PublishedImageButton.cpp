@@ -11,10 +11,10 @@ namespace {
 
 /// The interfaces are alike but for the type of one member.
 template <class Interface, class BorderStyleConstants, ImageButtonKind const& Kind>
-class Published final : public ImageButton, public Dual<Interface> {
+class Published final : public Dual<Interface>, public ImageButton {
 public:
     explicit Published(IUnknown* outer)
-        : ImageButton(Kind, outer), Dual<Interface>(static_cast<Surface&>(*this))
+        : Dual<Interface>(static_cast<Surface&>(*this)), ImageButton(Kind, outer)
     {}
 
     // Every property reads and writes through its row.

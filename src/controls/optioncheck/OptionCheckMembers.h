@@ -8,7 +8,7 @@
 namespace quillet {
 
 /// Implements _qvFlatOption or _qvFlatCheck, whose members are equal in order and type.
-template <class Interface> class OptionCheckMembers : public OptionCheckButton, public Dual<Interface> {
+template <class Interface> class OptionCheckMembers : public Dual<Interface>, public OptionCheckButton {
 public:
     STDMETHODIMP WindowProc(LONG hwnd, LONG uMsg, LONG wParam, LONG lParam, LONG* result) override
     {
@@ -39,8 +39,8 @@ public:
 protected:
     OptionCheckMembers(ControlClass const& controlClass, IUnknown* outer, InnerKind kind,
                        std::wstring_view caption, PropertyTable const& rows)
-        : OptionCheckButton(controlClass, outer, kind, caption, rows), Dual<Interface>(
-                                                                           static_cast<Surface&>(*this))
+        : Dual<Interface>(static_cast<Surface&>(*this)),
+          OptionCheckButton(controlClass, outer, kind, caption, rows)
     {}
     IDispatch* dual() noexcept override { return this; }
 };

@@ -27,7 +27,8 @@ private:
     ComPtr<ITypeInfo> m_info; ///< loaded when a host first asks for it
 };
 
-/// Implements IDispatch for a dual interface. A control derives from this and from Surface.
+/// Implements IDispatch for a dual interface. A control derives from this first and from Surface second: so
+/// its many members are called without a detour.
 template <class Interface> class Dual : public Face<Interface> {
 public:
     using Face<Interface>::Face;
