@@ -5,17 +5,60 @@
 #include "ConvertedValues.h"
 #include "FormModel.h"
 #include "Hold.h"
-#include "HostileStream.h"
 #include "Input.h"
 #include "base/RunTimeError.h"
 #include "platform/Objects.h"
 #include "saving/SavedValues.h"
+
+#include <algorithm>
+#include <cstdint>
 
 namespace quillet::fuzz {
 
 namespace {
 
 using Bytes = std::vector<BYTE>;
+
+/// How a stream answers, beside giving what it was asked for.
+struct Manner {
+    ULONG piece = 0;               ///< it gives no more at once; 0 for all
+    std::uint64_t failsAt = ~0ull; ///< it fails as soon as it has given that much
+    bool exaggerates = false;      ///< it says more than it was asked for
+};
+
+/// A stream that gives what it has in its own way.
+class HostileStream final : public MemoryStream {
+public:
+    HostileStream(std::vector<BYTE> bytes, Manner manner, std::uint64_t mayRead)
+        : MemoryStream(std::move(bytes)), m_manner(manner), m_mayRead(mayRead)
+    {}
+
+    HRESULT STDMETHODCALLTYPE Read(void* target, ULONG size, ULONG* got) override
+    {
+        hold(position() + size <= m_mayRead, "nothing outside the form is asked for");
+        if (position() >= m_manner.failsAt)
+            return failed(STG_E_READFAULT);
+        ULONG const most = m_manner.piece ? std::min(size, m_manner.piece) : size;
+        HRESULT const result = MemoryStream::Read(target, most, got);
+        if (!m_manner.exaggerates)
+            return result;
+        *got = size + 1;
+        return failed(result);
+    }
+    /// Whether it gave an answer that no reader may go on from.
+    bool hasFailed() const noexcept { return m_hasFailed; }
+
+private:
+    HRESULT failed(HRESULT result) noexcept
+    {
+        m_hasFailed = true;
+        return result;
+    }
+
+    Manner m_manner;
+    std::uint64_t m_mayRead;
+    bool m_hasFailed = false;
+};
 
 Manner mannerOf(BYTE choice, BYTE amount) noexcept
 {

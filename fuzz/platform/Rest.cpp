@@ -1,5 +1,9 @@
 // What the sources call and nobody's answer depends on: error info, the system's texts, a stock font, the
-// component's file.
+// component's file; and the identifiers of interfaces, as no library of this system has them.
+#define INITGUID // makes the headers define what they otherwise declare
+
+#include <ocidl.h>
+#include <olectl.h>
 #include <windows.h>
 
 #include <oleauto.h>

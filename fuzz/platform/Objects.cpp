@@ -1,9 +1,9 @@
-// What stands in for the system's font object: identity, equality, and where the readers get fonts.
-#include "platform/FontObject.h"
+// What stands in for the system's font and picture objects: identity, equality, and where the readers get
+// them.
+#include "platform/Objects.h"
 
 #include "saving/StandardFont.h"
-
-#include <olectl.h>
+#include "saving/StandardPicture.h"
 
 #include <oleauto.h>
 
@@ -57,6 +57,23 @@ HRESULT STDMETHODCALLTYPE FontObject::IsEqual(IFont* other)
     return *this == *static_cast<FontObject*>(other) ? S_OK : S_FALSE; // there are no other fonts
 }
 
+int PlainObject::s_living = 0;
+
+HRESULT STDMETHODCALLTYPE PlainObject::QueryInterface(REFIID iid, void** out)
+{
+    if (iid == IID_IPersistStream && m_kind != Kind::Picture) {
+        *out = nullptr;
+        return E_NOINTERFACE;
+    }
+    return Counted::QueryInterface(iid, out);
+}
+
+IUnknown* PlainObject::inheritedInterface(REFIID iid) noexcept
+{
+    bool const isPicture = m_kind == Kind::Picture && (iid == IID_IPicture || iid == IID_IPictureDisp);
+    return iid == IID_IDispatch || isPicture ? static_cast<IPersistStream*>(this) : nullptr;
+}
+
 } // namespace quillet::fuzz
 
 namespace quillet {
@@ -74,10 +91,34 @@ ComPtr<IFont> systemFont() { return ComPtr<IFont>::adopt(new fuzz::FontObject())
 
 bool equalFonts(IFont* a, IFont* b) noexcept { return a->IsEqual(b) == S_OK; }
 
+ComPtr<IPictureDisp> unloadedPicture()
+{
+    using fuzz::PlainObject;
+    auto* const picture = new PlainObject(PlainObject::Kind::Picture);
+    return ComPtr<IPictureDisp>::adopt(
+        reinterpret_cast<IPictureDisp*>(static_cast<IPersistStream*>(picture)));
+}
+
+/// Every picture here is such an object, whatever interface it was asked for.
+bool isEmptyPicture(IUnknown* picture) noexcept
+{
+    return !picture ||
+           static_cast<fuzz::PlainObject*>(reinterpret_cast<IPersistStream*>(picture))->bytes().empty();
+}
+
+/// None has a format of its own.
+bool isMetafile(IUnknown*) noexcept { return false; }
+
 } // namespace quillet
 
 HRESULT WINAPI OleCreateFontIndirect(FONTDESC* description, REFIID, void** font)
 {
     *font = static_cast<IFont*>(new quillet::fuzz::FontObject(*description));
+    return S_OK;
+}
+
+HRESULT WINAPI OleCreatePictureIndirect(PICTDESC*, REFIID, BOOL, void** picture)
+{
+    *picture = quillet::unloadedPicture().detach();
     return S_OK;
 }
