@@ -2,7 +2,6 @@
 // system's.
 #include "bench/CrowdedForm.h"
 #include "bench/Rounds.h"
-#include "bench/SystemButtons.h"
 #include "kit/Pump.h"
 
 #include <vector>

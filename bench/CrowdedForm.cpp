@@ -1,4 +1,4 @@
-// A visible window with as many flat command buttons as are asked for.
+// A visible window with as many flat command buttons as are asked for, or of the system's.
 #include "bench/CrowdedForm.h"
 
 #include "base/RunTimeError.h"
@@ -46,6 +46,21 @@ RECT CrowdedForm::placeOf(int index)
     LONG const left = index % columns * kButton.cx;
     LONG const top = index / columns * kButton.cy;
     return {left, top, left + kButton.cx, top + kButton.cy};
+}
+
+SystemButtons::SystemButtons(HWND form, int count) : m_form(form) { add(count); }
+
+void SystemButtons::add(int count)
+{
+    m_windows.reserve(m_windows.size() + static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        RECT const place = CrowdedForm::placeOf(static_cast<int>(m_windows.size()));
+        m_windows.emplace_back(::CreateWindowExW(0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP,
+                                                 place.left, place.top, CrowdedForm::kButton.cx,
+                                                 CrowdedForm::kButton.cy, m_form, nullptr, nullptr, nullptr));
+        ::SendMessageW(m_windows.back().get(), WM_SETFONT,
+                       reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    }
 }
 
 } // namespace quillet::bench

@@ -1,6 +1,7 @@
-// A visible window with as many flat command buttons as are asked for.
+// A visible window with as many flat command buttons as are asked for, or of the system's.
 #pragma once
 
+#include "base/Handles.h"
 #include "bench/BarePainter.h"
 #include "bench/Container.h"
 #include "kit/HostWindow.h"
@@ -41,6 +42,20 @@ private:
     SavedButton m_saved;
     ComPtr<IClassFactory> m_factory;
     std::vector<std::unique_ptr<Hosted>> m_buttons;
+};
+
+/// Buttons of the system's own class in a form: the floor of having many.
+class SystemButtons {
+public:
+    explicit SystemButtons(HWND form, int count = 0);
+
+    /// Creates so many more, visible, with caption and font, where the form's own buttons would be.
+    void add(int count);
+    void clear() { m_windows.clear(); }
+
+private:
+    HWND m_form;
+    std::vector<UniqueWindow> m_windows;
 };
 
 } // namespace quillet::bench

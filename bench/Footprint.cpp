@@ -1,7 +1,6 @@
 // What one button holds while it is shown: memory and windows.
 #include "bench/Bench.h"
 #include "bench/CrowdedForm.h"
-#include "bench/SystemButtons.h"
 #include "kit/Pump.h"
 #include "kit/Usage.h"
 

@@ -2,7 +2,6 @@
 // does nothing else.
 #include "base/RunTimeError.h"
 #include "bench/Container.h"
-#include "bench/MinimalControl.h"
 #include "bench/Rounds.h"
 #include "kit/HostWindow.h"
 #include "typelib/Guids.h"
@@ -11,6 +10,59 @@
 namespace quillet::bench {
 
 namespace {
+
+/// The property as a vtable has it.
+class Number {
+public:
+    virtual HRESULT STDMETHODCALLTYPE get(LONG* value) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put(LONG value) = 0;
+
+protected:
+    ~Number() = default;
+};
+
+/// A control that does nothing but hold one number, through the vtable and by name: the least that a member
+/// of an object can cost.
+class MinimalControl final : public LateBound, public Number {
+public:
+    HRESULT STDMETHODCALLTYPE get(LONG* value) override;
+    HRESULT STDMETHODCALLTYPE put(LONG value) override;
+
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+                        EXCEPINFO*, UINT*) override;
+
+private:
+    LONG m_value = 0;
+};
+
+HRESULT MinimalControl::get(LONG* value)
+{
+    *value = m_value;
+    return S_OK;
+}
+
+HRESULT MinimalControl::put(LONG value)
+{
+    m_value = value;
+    return S_OK;
+}
+
+HRESULT MinimalControl::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids)
+{
+    bool const known = ::lstrcmpiW(names[0], L"Number") == 0;
+    ids[0] = known ? 1 : DISPID_UNKNOWN;
+    return known ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT MinimalControl::Invoke(DISPID, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
+                               EXCEPINFO*, UINT*)
+{
+    if (kind & DISPATCH_PROPERTYPUT)
+        return put(arguments->rgvarg->lVal);
+    result->vt = VT_I4;
+    return get(&result->lVal);
+}
 
 constexpr RECT kPlace{20, 20, 140, 52};
 constexpr OLE_COLOR kColor = 0x00D8E9EC;

@@ -1,8 +1,9 @@
 // Option buttons against the system's own: a paint of the same picture, the hot look, one choice of many.
+#include "base/Handles.h"
 #include "base/RunTimeError.h"
-#include "bench/BareOption.h"
 #include "bench/Container.h"
 #include "bench/Rounds.h"
+#include "kit/Canvas.h"
 #include "kit/HostWindow.h"
 #include "kit/Input.h"
 #include "kit/Painter.h"
@@ -11,12 +12,114 @@
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
+#include <windows.h>
+
 #include <memory>
 #include <vector>
 
 namespace quillet::bench {
 
 namespace {
+
+/// Painted off screen with bare calls, its hover followed by capture. It knows beforehand what a control
+/// finds out: its size, its font, where its caption stands, and what its circle looks like.
+class BareOption {
+public:
+    /// The picture has the circle in its left 13 columns.
+    BareOption(HWND parent, RECT const& place, HFONT font, kit::Canvas const& picture);
+    BareOption(BareOption const&) = delete;
+    BareOption& operator=(BareOption const&) = delete;
+
+    HWND window() const noexcept { return m_window.get(); }
+    void setColours(COLORREF fore, COLORREF hot) noexcept { m_fore = fore, m_hotFore = hot; }
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    void follow();
+    void paint() const;
+
+    SIZE m_size;
+    HFONT m_font;
+    kit::Canvas const& m_picture;
+    RECT m_text{};
+    COLORREF m_fore = 0;
+    COLORREF m_hotFore = 0;
+    bool m_hot = false;
+    WNDPROC m_system = nullptr;
+    UniqueWindow m_window;
+};
+
+constexpr int kGlyph = 13;
+constexpr int kTextLeft = 17;
+constexpr UINT kFormat = DT_LEFT | DT_TOP | DT_SINGLELINE | DT_NOCLIP;
+
+BareOption::BareOption(HWND parent, RECT const& place, HFONT font, kit::Canvas const& picture)
+    : m_size{place.right - place.left, place.bottom - place.top}, m_font(font), m_picture(picture),
+      m_window(::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON, place.left,
+                                 place.top, m_size.cx, m_size.cy, parent, nullptr, nullptr, nullptr))
+{
+    {
+        WindowDc const dc(m_window.get());
+        SelectScope const selected(dc.get(), font);
+        ::DrawTextW(dc.get(), kCaption, -1, &m_text, kFormat | DT_CALCRECT);
+    }
+    ::OffsetRect(&m_text, kTextLeft, (m_size.cy - m_text.bottom) / 2);
+    ::SetWindowLongPtrW(m_window.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    m_system = reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(
+        m_window.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&BareOption::procedure)));
+}
+
+LRESULT CALLBACK BareOption::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto* const self = reinterpret_cast<BareOption*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_PAINT) {
+        self->paint();
+        return 0;
+    }
+    if (message == WM_ERASEBKGND)
+        return 1;
+    if (message == WM_MOUSEMOVE)
+        self->follow();
+    return ::CallWindowProcW(self->m_system, window, message, wParam, lParam);
+}
+
+void BareOption::follow()
+{
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    bool const over = ::WindowFromPoint(cursor) == m_window.get();
+    if (over == m_hot)
+        return;
+    m_hot = over;
+    if (over)
+        ::SetCapture(m_window.get());
+    else
+        ::ReleaseCapture();
+    ::RedrawWindow(m_window.get(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void BareOption::paint() const
+{
+    PAINTSTRUCT region;
+    HDC const target = ::BeginPaint(m_window.get(), &region);
+    {
+        UniqueMemoryDc const dc(::CreateCompatibleDC(target));
+        UniqueBitmap const bitmap(::CreateCompatibleBitmap(target, m_size.cx, m_size.cy));
+        SelectScope const selectedBitmap(dc.get(), bitmap.get());
+        SelectScope const selectedFont(dc.get(), m_font);
+        RECT const all = {0, 0, m_size.cx, m_size.cy};
+        ::SetBkColor(dc.get(), ::GetSysColor(COLOR_BTNFACE));
+        ::ExtTextOutW(dc.get(), 0, 0, ETO_OPAQUE, &all, nullptr, 0, nullptr);
+        ::BitBlt(dc.get(), 0, 0, kGlyph, m_size.cy, m_picture.dc(), 0, 0, SRCCOPY);
+        ::SetTextColor(dc.get(), m_hot ? m_hotFore : m_fore);
+        ::SetBkMode(dc.get(), TRANSPARENT);
+        RECT text = m_text;
+        ::DrawTextW(dc.get(), kCaption, -1, &text, kFormat);
+        ::BitBlt(target, 0, 0, m_size.cx, m_size.cy, dc.get(), 0, 0, SRCCOPY);
+    }
+    ::EndPaint(m_window.get(), &region);
+}
 
 constexpr SIZE kSize{120, 20};
 constexpr RECT kOurs{20, 20, 20 + kSize.cx, 20 + kSize.cy};

@@ -1,7 +1,6 @@
 // Buttons with pictures: their paint, what the mouse does to them, and a form of five hundred.
 #include "base/RunTimeError.h"
 #include "bench/CrowdedForm.h"
-#include "bench/MouseMessage.h"
 #include "bench/Rounds.h"
 #include "bench/ShownImageButton.h"
 #include "kit/Fonts.h"

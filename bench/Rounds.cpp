@@ -1,6 +1,8 @@
 // Two things timed in turns within one run, so that what slows the machine down slows both.
 #include "bench/Rounds.h"
 
+#include "kit/Pump.h"
+
 #include <windows.h>
 
 #include <algorithm>
@@ -104,6 +106,17 @@ void require(bool holds, char const* otherwise)
 {
     if (!holds)
         throw std::runtime_error(otherwise);
+}
+
+double movedTo(HWND window, POINT at)
+{
+    POINT screen = at;
+    ::ClientToScreen(window, &screen);
+    ::SetCursorPos(screen.x, screen.y);
+    double const taken =
+        microsecondsOf([&] { ::SendMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y)); });
+    kit::pumpPending();
+    return taken;
 }
 
 } // namespace quillet::bench

@@ -3,6 +3,8 @@
 
 #include "bench/Bench.h"
 
+#include <windows.h>
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -48,5 +50,10 @@ std::string durationText(double microseconds);
 
 /// Throws std::runtime_error with the text unless it holds.
 void require(bool holds, char const* otherwise);
+
+/// Puts the cursor there without letting its own message through, and tells the window by one of ours: what
+/// is timed begins with the message, not with the system's way of finding out who gets it.
+/// Answers microseconds.
+double movedTo(HWND window, POINT at);
 
 } // namespace quillet::bench

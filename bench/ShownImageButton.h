@@ -1,7 +1,7 @@
 // An image command button or a tool button in a visible window, under the real mouse.
 #pragma once
 
-#include "bench/BareImagePainter.h"
+#include "bench/BarePainter.h"
 #include "bench/Container.h"
 #include "kit/Canvas.h"
 #include "kit/HostWindow.h"
