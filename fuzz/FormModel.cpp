@@ -63,7 +63,7 @@ bool takeData(Bytes body, size_t& at, FormModel& model)
         bool const isDamaged = size > 0 && body[at + 6] == kDamaged;
         bool const isHuge = size >= 10 && whole(body, at + 12) > kLargestFont;
         model.hasDamagedObject |= kind == 1 && (isDamaged || isHuge);
-        model.hasDamagedObject |= kind == 2 && !isWholePicture(body.subspan(at + 6, size));
+        model.hasDamagedObject |= kind == 2 && !isSafePicture(body.subspan(at + 6, size));
         if (kind == 0) {
             model.written.insert(model.written.end(), 6, 0);
             at += 6 + size;

@@ -101,7 +101,7 @@ void load(BYTE const* saved)
 
 extern "C" int LLVMFuzzerTestOneInput(BYTE const* data, size_t size)
 {
-    if (quillet::isWholePicture({data, size}))
+    if (quillet::isSafePicture({data, size}))
         quillet::fuzz::load(data);
     return 0;
 }

@@ -25,7 +25,7 @@ void rewind(IStream& stream) { check(stream.Seek({}, STREAM_SEEK_SET, nullptr));
 
 ComPtr<IPictureDisp> pictureOf(std::string_view bytes)
 {
-    if (!isWholePicture({reinterpret_cast<BYTE const*>(bytes.data()), bytes.size()}))
+    if (!isSafePicture({reinterpret_cast<BYTE const*>(bytes.data()), bytes.size()}))
         throw RunTimeError(ErrorNumber::InvalidPicture);
     auto const stream = memoryStream();
     check(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));

@@ -1,4 +1,4 @@
-// Whether picture files are whole, a function for each format.
+// Whether picture files are safe to hand to the system, a function for each format.
 #pragma once
 
 #include <windows.h>
@@ -13,12 +13,12 @@ namespace quillet {
 
 using PictureBytes = std::span<BYTE const>;
 
-/// Each begins with the mark of its format.
-bool isWholeBitmap(PictureBytes file) noexcept;
-bool isWholeIcon(PictureBytes file) noexcept; ///< a cursor, too
-bool isWholeGif(PictureBytes file) noexcept;
-bool isWholeJpeg(PictureBytes file) noexcept;
-bool isWholePng(PictureBytes file) noexcept;
+/// The file begins with the mark of its format; whether every size and place that it names lies within it.
+bool isSafeBitmap(PictureBytes file) noexcept;
+bool isSafeIcon(PictureBytes file) noexcept; ///< a cursor, too
+bool isSafeGif(PictureBytes file) noexcept;
+bool isSafeJpeg(PictureBytes file) noexcept;
+bool isSafePng(PictureBytes file) noexcept;
 
 inline constexpr std::string_view kPngMark{"\x89PNG\r\n\x1A\n", 8};
 
@@ -37,7 +37,8 @@ template <class T> std::optional<T> valueAt(PictureBytes bytes, size_t at) noexc
     return value;
 }
 
-/// In pixels. Of so many, system loaders can still count the bytes in 32 bits; no button shows more.
+/// Whether a picture of that many pixels is meant: no button shows more than the limits here, and within
+/// them system loaders can count its bytes in 32 bits.
 constexpr bool isHonestSize(std::uint64_t width, std::uint64_t height) noexcept
 {
     constexpr std::uint64_t kLongest = 0x7FFF; // GDI's coordinates

@@ -38,7 +38,7 @@ bool sameValue(Variant const& a, Variant const& b)
     return a.toLong() == b.toLong();
 }
 
-/// Where a bag has nothing it says E_INVALIDARG; some say E_FAIL. These say that there is a value.
+/// Whether a bag has a value and could not convert it. One that has none answers E_INVALIDARG or E_FAIL.
 bool isConversionFailure(HRESULT result) noexcept
 {
     return result == DISP_E_TYPEMISMATCH || result == DISP_E_OVERFLOW || result == DISP_E_BADVARTYPE;
@@ -72,7 +72,7 @@ Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
         HRESULT const result = m_bag->Read(name, value.address(), m_log.get());
         if (SUCCEEDED(result))
             return value;
-        value.address()->vt = VT_EMPTY; // whatever a failing bag left there is not a value
+        value.address()->vt = VT_EMPTY; // what a failing bag left there is no value
         if (!isConversionFailure(result))
             return {};
     }

@@ -9,14 +9,15 @@
 namespace quillet {
 
 /// Reads and writes named values. The type of the fallback is the type in which a value is saved; object
-/// values have VT_UNKNOWN. A value equal to its fallback is never
-/// written; an empty fallback is equal to none. Whether it was written is answered.
+/// values have VT_UNKNOWN.
 class PropertyBag {
 public:
     virtual ~PropertyBag() = default;
 
     /// The value saved under the name, in whatever type it came; the fallback where nothing is saved.
     Variant readProperty(wchar_t const* name, Variant const& fallback);
+    /// Saves the value unless it equals the fallback, which no value does where that is empty. Whether it was
+    /// saved.
     bool writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback);
 
 protected:

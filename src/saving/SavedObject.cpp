@@ -78,7 +78,7 @@ bool hasHonestSize(std::vector<BYTE> const& font) noexcept
 /// Whether the system's own objects can be given these bytes.
 bool isHonest(SavedObject const& saved) noexcept
 {
-    return saved.kind == SavedObject::Kind::Font ? hasHonestSize(saved.bytes) : isWholePicture(saved.bytes);
+    return saved.kind == SavedObject::Kind::Font ? hasHonestSize(saved.bytes) : isSafePicture(saved.bytes);
 }
 
 } // namespace

@@ -9,7 +9,8 @@
 
 namespace quillet {
 
-/// An object's saved bytes. Only the two kinds that controls keep: a class named by the data could be any.
+/// An object's saved bytes. There are only the two kinds that controls keep: data that could name a class
+/// could make any object.
 struct SavedObject {
     enum class Kind : WORD { None = 0, Font = 1, Picture = 2 };
     Kind kind;

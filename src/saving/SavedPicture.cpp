@@ -11,25 +11,25 @@ using namespace std::string_view_literals;
 
 struct Format {
     std::string_view mark;
-    bool (*isWhole)(PictureBytes file) noexcept;
+    bool (*isSafe)(PictureBytes file) noexcept;
 };
 
 constexpr Format kFormats[] = {
-    {"BM"sv, isWholeBitmap}, {"\0\0\1\0"sv, isWholeIcon}, {"\0\0\2\0"sv, isWholeIcon},
-    {"GIF8"sv, isWholeGif},  {"\xFF\xD8"sv, isWholeJpeg}, {kPngMark, isWholePng},
+    {"BM"sv, isSafeBitmap}, {"\0\0\1\0"sv, isSafeIcon}, {"\0\0\2\0"sv, isSafeIcon},
+    {"GIF8"sv, isSafeGif},  {"\xFF\xD8"sv, isSafeJpeg}, {kPngMark, isSafePng},
 };
 
-bool isWholeFile(PictureBytes file) noexcept
+bool isSafeFile(PictureBytes file) noexcept
 {
     for (Format const& format : kFormats)
         if (beginsWith(file, format.mark))
-            return format.isWhole(file);
+            return format.isSafe(file);
     return file.empty();
 }
 
 } // namespace
 
-bool isWholePicture(std::span<BYTE const> saved) noexcept
+bool isSafePicture(std::span<BYTE const> saved) noexcept
 {
     constexpr auto kMark = "lt\0\0"sv;
     PictureBytes file = saved;
@@ -39,7 +39,7 @@ bool isWholePicture(std::span<BYTE const> saved) noexcept
             return false;
         file = file.subspan(kMark.size() + sizeof *length, *length);
     } while (beginsWith(file, kMark));
-    return isWholeFile(file);
+    return isSafeFile(file);
 }
 
 } // namespace quillet

@@ -1,4 +1,4 @@
-// Whether what a saved picture says of itself is true.
+// Whether a saved picture is safe to hand to the system.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +11,6 @@ namespace quillet {
 /// or none at all, and every size and place that they name lies within them. To be asked before the system
 /// gets them: its loaders believe what they read, and read on behind the end of damaged bytes. Metafiles are
 /// refused: whoever shows one plays it and believes each of its records.
-bool isWholePicture(std::span<BYTE const> saved) noexcept;
+bool isSafePicture(std::span<BYTE const> saved) noexcept;
 
 } // namespace quillet

@@ -18,7 +18,7 @@ namespace {
 constexpr DWORD kMagic = 0x42505651; // "QVPB"
 constexpr WORD kVersion = 1;
 constexpr DWORD kHeaderSize = 12;
-constexpr DWORD kLimit = 64u << 20; // no honest form comes near; a forged length must not take the memory
+constexpr DWORD kLimit = 64u << 20; // far above any real form: a forged length must not take all memory
 
 /// Appends values to the bytes of a form.
 class Writer {
@@ -106,7 +106,7 @@ void putValue(Writer& out, Variant const& value)
     }
 }
 
-/// What is told where an object of the kind is left out; nothing for a kind that there is not.
+/// The error that tells of an object that was left out; nothing where there was no object.
 std::optional<ErrorNumber> lossOf(SavedObject::Kind kind) noexcept
 {
     switch (kind) {

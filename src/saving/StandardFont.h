@@ -20,8 +20,8 @@ ComPtr<IFont> systemFont();
 /// Whether two fonts look the same.
 bool equalFonts(IFont* a, IFont* b) noexcept;
 
-/// Whether letters of that size, in ten thousandths of a point, are ever meant: drawing those of a forged
-/// size takes some systems minutes.
+/// Whether a font size, in ten thousandths of a point, can be meant: drawing letters of a forged size takes
+/// some systems minutes.
 constexpr bool isHonestFontSize(LONGLONG size) noexcept { return size >= 0 && size <= 2160 * 10000; }
 
 /// The width of a caption as it is written, in whole pixels of the screen. Throws where the font has no

@@ -39,7 +39,7 @@ Bytes saved(Bytes const& file)
     return Bytes{'l', 't', 0, 0} + bytesOf(static_cast<DWORD>(file.size())) + file;
 }
 
-bool isWhole(Bytes const& file) { return isWholePicture(saved(file)); }
+bool isWhole(Bytes const& file) { return isSafePicture(saved(file)); }
 
 /// Whether a file is whole, and is not without its last byte.
 bool isWholeToItsLastByte(Bytes file)
@@ -263,15 +263,15 @@ TEST(SavedPicture, isOfNoOtherFormat)
 TEST(SavedPicture, hasItsMarkAndNoMoreThanItsLength)
 {
     Bytes const whole = saved(icon({smallImage()}));
-    EXPECT_TRUE(isWholePicture(whole));
-    EXPECT_TRUE(isWholePicture(whole + 5)) << "what stands behind it is not its own";
+    EXPECT_TRUE(isSafePicture(whole));
+    EXPECT_TRUE(isSafePicture(whole + 5)) << "what stands behind it is not its own";
     for (size_t length = 0; length < whole.size(); ++length)
-        ASSERT_FALSE(isWholePicture(Bytes(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(length))))
+        ASSERT_FALSE(isSafePicture(Bytes(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(length))))
             << length;
-    EXPECT_FALSE(isWholePicture(icon({smallImage()}))) << "without its mark";
+    EXPECT_FALSE(isSafePicture(icon({smallImage()}))) << "without its mark";
     Bytes forged = whole;
     forged[7] = 0xFF;
-    EXPECT_FALSE(isWholePicture(forged));
+    EXPECT_FALSE(isSafePicture(forged));
 }
 
 /// A bitmap and an icon, each with room for a picture of 64 by 64 pixels.

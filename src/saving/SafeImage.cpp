@@ -48,7 +48,7 @@ private:
 
 bool skipColours(Walk& walk, unsigned flags) noexcept { return walk.skip(size_t{6} << (flags & 7)); }
 
-/// Blocks of up to 255 bytes, behind the length of each; one without any is the last.
+/// Skips blocks of up to 255 bytes, each behind its length, to the empty one that ends them.
 bool skipBlocks(Walk& walk) noexcept
 {
     while (!walk.isAtEnd()) {
@@ -63,8 +63,8 @@ bool skipBlocks(Walk& walk) noexcept
 
 constexpr unsigned kHasColours = 0x80;
 
-/// A decoder that finds no colours for a frame may look for them at no address.
-bool isWholeFrame(Walk& walk, bool hasColours) noexcept
+/// A frame needs colours, its own or the file's: without any, decoders may read them through a null pointer.
+bool isSafeFrame(Walk& walk, bool hasColours) noexcept
 {
     walk.skip(4); // left and top
     unsigned const width = walk.littleEndian();
@@ -77,7 +77,7 @@ bool isWholeFrame(Walk& walk, bool hasColours) noexcept
 
 } // namespace
 
-bool isWholeGif(PictureBytes file) noexcept
+bool isSafeGif(PictureBytes file) noexcept
 {
     constexpr unsigned kFrame = 0x2C;
     constexpr unsigned kExtension = 0x21;
@@ -95,7 +95,7 @@ bool isWholeGif(PictureBytes file) noexcept
     while (!walk.isAtEnd())
         switch (walk.byte()) {
         case kFrame:
-            if (!isWholeFrame(walk, hasColours))
+            if (!isSafeFrame(walk, hasColours))
                 return false;
             ++frames;
             break;
@@ -143,7 +143,7 @@ bool isBare(unsigned marker) noexcept { return marker == 1 || (marker >= 0xD0 &&
 
 } // namespace
 
-bool isWholeJpeg(PictureBytes file) noexcept
+bool isSafeJpeg(PictureBytes file) noexcept
 {
     Walk walk(file);
     for (unsigned marker = nextMarker(walk); marker != 0 && marker != kStartOfScan;
@@ -162,7 +162,7 @@ bool isWholeJpeg(PictureBytes file) noexcept
     return false;
 }
 
-bool isWholePng(PictureBytes file) noexcept
+bool isSafePng(PictureBytes file) noexcept
 {
     Walk walk(file);
     walk.skip(16); // mark, and what the first block begins with

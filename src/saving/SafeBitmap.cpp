@@ -28,7 +28,7 @@ bool isDepth(unsigned bits) noexcept
     return std::ranges::find(kDepths, bits) != std::end(kDepths);
 }
 
-/// No pixels at all is what some systems save of a monochrome icon.
+/// Some systems save a monochrome icon as a bitmap without any pixels.
 bool isHonest(Image const& image) noexcept
 {
     if (image.width == 0 && image.height == 0 && image.depth == 0)
@@ -71,10 +71,10 @@ std::optional<Image> imageAt(PictureBytes bytes) noexcept
 }
 
 /// An image of an icon: its colours, and behind them its mask, which those with an alpha channel may lack.
-bool isWholeIconImage(PictureBytes bytes) noexcept
+bool isSafeIconImage(PictureBytes bytes) noexcept
 {
     if (beginsWith(bytes, kPngMark))
-        return isWholePng(bytes);
+        return isSafePng(bytes);
     auto const image = imageAt(bytes);
     if (!image || image->isCompressed)
         return false;
@@ -83,7 +83,7 @@ bool isWholeIconImage(PictureBytes bytes) noexcept
     return image->header + image->rows(height, image->depth) + mask <= bytes.size();
 }
 
-/// As icon files have it for each of their images.
+/// What an icon file lists of each of its images.
 struct DirectoryEntry {
     BYTE width; // pixels; 0 for 256
     BYTE height;
@@ -98,7 +98,7 @@ static_assert(sizeof(DirectoryEntry) == 16);
 
 } // namespace
 
-bool isWholeBitmap(PictureBytes file) noexcept
+bool isSafeBitmap(PictureBytes file) noexcept
 {
     auto const header = valueAt<BITMAPFILEHEADER>(file, 0);
     auto const image = header ? imageAt(file.subspan(sizeof *header)) : std::nullopt;
@@ -107,14 +107,14 @@ bool isWholeBitmap(PictureBytes file) noexcept
     return image->isCompressed || header->bfOffBits + image->rows(image->height, image->depth) <= file.size();
 }
 
-bool isWholeIcon(PictureBytes file) noexcept
+bool isSafeIcon(PictureBytes file) noexcept
 {
     constexpr size_t kEntries = 6;
     auto const count = valueAt<WORD>(file, kEntries - sizeof(WORD)).value_or(0);
     for (size_t i = 0; i < count; ++i) {
         auto const entry = valueAt<DirectoryEntry>(file, kEntries + i * sizeof(DirectoryEntry));
         if (!entry || entry->offset > file.size() || entry->size > file.size() - entry->offset ||
-            !isWholeIconImage(file.subspan(entry->offset, entry->size)))
+            !isSafeIconImage(file.subspan(entry->offset, entry->size)))
             return false;
     }
     return count > 0;
