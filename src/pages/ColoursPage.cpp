@@ -16,7 +16,6 @@ namespace quillet {
 namespace {
 
 constexpr WORD kSystemColours = 110;
-constexpr WORD kChooseColour = 111;
 
 struct SystemColour {
     int index;
@@ -57,13 +56,13 @@ public:
 protected:
     void fillBeside(PageWindow& window) override;
     void showValue() override;
+    void choose() override;
     void onOtherCommand(WORD control, WORD notification) override;
     void drawSample(HDC dc, RECT const& place) override;
 
 private:
     OLE_COLOR colour() const { return static_cast<OLE_COLOR>(shown(chosen()).toLong()); }
     COLORREF resolved() const;
-    void choose();
 
     COLORREF m_custom[16] = {}; ///< what the user mixed while the page lives
 };
@@ -76,7 +75,7 @@ void ColoursPage::fillBeside(PageWindow& window)
     for (SystemColour const& row : kColours)
         ::SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row.name));
     addSample(window, {kBeside, 34, 134, 50});
-    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChooseColour, {kBeside, 90, 60, 14});
+    addChooser(window, L"&Choose...");
 }
 
 void ColoursPage::showValue()
@@ -91,8 +90,6 @@ void ColoursPage::showValue()
 
 void ColoursPage::onOtherCommand(WORD control, WORD notification)
 {
-    if (control == kChooseColour && notification == BN_CLICKED)
-        choose();
     if (control != kSystemColours || notification != CBN_SELCHANGE)
         return;
     auto const at = ::SendMessageW(window().control(kSystemColours), CB_GETCURSEL, 0, 0);
@@ -111,7 +108,7 @@ void ColoursPage::choose()
 {
     CHOOSECOLORW dialog = {};
     dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = ::GetAncestor(window().handle(), GA_ROOT);
+    dialog.hwndOwner = dialogOwner();
     dialog.rgbResult = resolved();
     dialog.lpCustColors = m_custom;
     dialog.Flags = CC_RGBINIT | CC_FULLOPEN;

@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-// Whether the user chose.
+// Each shows its dialog and answers whether the user chose something.
 bool chooseColour(CHOOSECOLORW& dialog) noexcept;
 bool chooseFont(CHOOSEFONTW& dialog) noexcept;
 bool chooseFile(OPENFILENAMEW& dialog) noexcept;

@@ -14,8 +14,7 @@ namespace quillet {
 
 namespace {
 
-constexpr WORD kChooseFont = 110;
-constexpr WORD kName = 111;
+constexpr WORD kName = 110;
 constexpr int kTenthsPerPoint = 10;
 constexpr LONGLONG kCurrencyUnit = 10000;
 
@@ -26,13 +25,12 @@ public:
 protected:
     void fillBeside(PageWindow& window) override;
     void showValue() override;
-    void onOtherCommand(WORD control, WORD notification) override;
+    void choose() override;
     void drawSample(HDC dc, RECT const& place) override;
 
 private:
     ComPtr<IFont> font() const { return query<IFont>(shown(chosen()).toObject().get()); }
     HFONT fontHandle() const;
-    void choose();
 };
 
 /// A new font object like what the dialog answered.
@@ -66,7 +64,7 @@ void FontsPage::fillBeside(PageWindow& window)
 {
     window.add(L"STATIC", L"", SS_LEFT | SS_NOPREFIX, kName, {kBeside, 4, 134, 9});
     addSample(window, {kBeside, 16, 134, 68});
-    window.add(L"BUTTON", L"&Choose...", WS_TABSTOP | BS_PUSHBUTTON, kChooseFont, {kBeside, 90, 60, 14});
+    addChooser(window, L"&Choose...");
 }
 
 void FontsPage::showValue()
@@ -85,12 +83,6 @@ HFONT FontsPage::fontHandle() const
     return handle;
 }
 
-void FontsPage::onOtherCommand(WORD control, WORD notification)
-{
-    if (control == kChooseFont && notification == BN_CLICKED)
-        choose();
-}
-
 void FontsPage::choose()
 {
     LOGFONTW shape = {};
@@ -98,7 +90,7 @@ void FontsPage::choose()
         ::GetObjectW(handle, sizeof(shape), &shape);
     CHOOSEFONTW dialog = {};
     dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = ::GetAncestor(window().handle(), GA_ROOT);
+    dialog.hwndOwner = dialogOwner();
     dialog.lpLogFont = &shape;
     dialog.Flags = CF_SCREENFONTS | CF_INITTOLOGFONTSTRUCT | CF_EFFECTS | CF_FORCEFONTEXIST;
     if (chooseFont(dialog))

@@ -29,14 +29,14 @@ private:
     void addField(PageWindow& window, size_t property, int y);
     void addFlag(PageWindow& window, size_t property, int y);
 
-    bool m_filling = false; ///< what controls report meanwhile is no change of the user's
+    bool m_filling = false; ///< the controls are being filled: what they report is no change by the user
 };
 
 bool GeneralPage::edits(DescribedProperty const& property) const
 {
     switch (property.kind) {
     case ValueKind::Text:
-        return property.name != L"ToolTipText"; // the container keeps it, beside the control
+        return property.name != L"ToolTipText"; // the container's extender keeps it
     case ValueKind::Number:
     case ValueKind::Flag:
     case ValueKind::Choice:

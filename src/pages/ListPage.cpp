@@ -7,6 +7,7 @@ namespace {
 
 constexpr WORD kList = 100;
 constexpr WORD kSample = 101;
+constexpr WORD kChooser = 102;
 
 } // namespace
 
@@ -24,6 +25,11 @@ void ListPage::fill(PageWindow& window)
 void ListPage::addSample(PageWindow& window, Units const& place)
 {
     window.add(L"STATIC", L"", SS_OWNERDRAW, kSample, place);
+}
+
+void ListPage::addChooser(PageWindow& window, wchar_t const* label)
+{
+    window.add(L"BUTTON", label, WS_TABSTOP | BS_PUSHBUTTON, kChooser, {kBeside, 90, 60, 14});
 }
 
 size_t ListPage::chosen() const
@@ -57,10 +63,12 @@ void ListPage::onCommand(WORD control, WORD notification)
 {
     if (properties().empty())
         return;
-    if (control != kList)
-        onOtherCommand(control, notification);
-    else if (notification == LBN_SELCHANGE)
+    if (control == kList && notification == LBN_SELCHANGE)
         refresh();
+    else if (control == kChooser && notification == BN_CLICKED)
+        choose();
+    else
+        onOtherCommand(control, notification);
 }
 
 void ListPage::onDraw(DRAWITEMSTRUCT const& item)

@@ -22,13 +22,19 @@ protected:
     virtual void fillBeside(PageWindow& window) = 0;
     /// Another property was chosen, or its value changed.
     virtual void showValue() {}
-    virtual void onOtherCommand(WORD control, WORD notification) = 0;
+    /// Lets the user choose another value in one of the system's dialogs.
+    virtual void choose() = 0;
+    virtual void onOtherCommand(WORD /*control*/, WORD /*notification*/) {}
     /// Draws the sample of the chosen property's value.
     virtual void drawSample(HDC dc, RECT const& place) = 0;
 
     /// The chosen property. There is one whenever there is any.
     size_t chosen() const;
     void addSample(PageWindow& window, Units const& place);
+    /// Adds the button that leads to choose, below the sample.
+    void addChooser(PageWindow& window, wchar_t const* label);
+    /// The window that a dialog belongs to.
+    HWND dialogOwner() const { return ::GetAncestor(window().handle(), GA_ROOT); }
     /// Keeps a change of the chosen property and shows it.
     void changeChosen(Variant value);
 

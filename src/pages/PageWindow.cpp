@@ -25,7 +25,7 @@ struct alignas(DWORD) Template {
     wchar_t face[13] = L"MS Shell Dlg";
 };
 
-constexpr WORD kLabel = 0xFFFF; ///< the number of whatever nobody asks for
+constexpr WORD kLabel = 0xFFFF; ///< the number of controls that nobody asks for
 
 } // namespace
 
@@ -42,7 +42,7 @@ INT_PTR CALLBACK PageWindow::procedure(HWND window, UINT message, WPARAM wParam,
 {
     if (message == WM_INITDIALOG) {
         ::SetWindowLongPtrW(window, DWLP_USER, lParam);
-        return FALSE; // the focus is the frame's to give
+        return FALSE; // the focus stays where the frame puts it
     }
     auto* const commands = reinterpret_cast<PageCommands*>(::GetWindowLongPtrW(window, DWLP_USER));
     if (!commands)

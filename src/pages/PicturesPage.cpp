@@ -15,11 +15,10 @@ namespace quillet {
 
 namespace {
 
-constexpr WORD kLoad = 110;
-constexpr WORD kClear = 111;
+constexpr WORD kClear = 110;
 constexpr wchar_t kFilter[] = L"Pictures\0*.bmp;*.gif;*.jpg;*.ico;*.cur;*.wmf;*.emf\0All files\0*.*\0";
 
-/// A look's image can be exchanged, but its button refuses an empty one.
+/// A button refuses an empty picture for any of its images, so these can be exchanged but not taken away.
 bool canBeCleared(std::wstring_view property) noexcept { return !property.ends_with(L"Image"); }
 
 class PicturesPage final : public ListPage {
@@ -29,17 +28,15 @@ public:
 protected:
     void fillBeside(PageWindow& window) override;
     void showValue() override;
+    void choose() override;
     void onOtherCommand(WORD control, WORD notification) override;
     void drawSample(HDC dc, RECT const& place) override;
-
-private:
-    void load();
 };
 
 void PicturesPage::fillBeside(PageWindow& window)
 {
     addSample(window, {kBeside, 4, 134, 80});
-    window.add(L"BUTTON", L"&Load...", WS_TABSTOP | BS_PUSHBUTTON, kLoad, {kBeside, 90, 60, 14});
+    addChooser(window, L"&Load...");
     window.add(L"BUTTON", L"Cl&ear", WS_TABSTOP | BS_PUSHBUTTON, kClear, {kBeside + 64, 90, 60, 14});
 }
 
@@ -51,20 +48,16 @@ void PicturesPage::showValue()
 
 void PicturesPage::onOtherCommand(WORD control, WORD notification)
 {
-    if (notification != BN_CLICKED)
-        return;
-    if (control == kLoad)
-        load();
-    if (control == kClear)
+    if (control == kClear && notification == BN_CLICKED)
         changeChosen(Variant::ofDispatch(nullptr));
 }
 
-void PicturesPage::load()
+void PicturesPage::choose()
 {
     wchar_t path[MAX_PATH] = L"";
     OPENFILENAMEW dialog = {};
     dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = ::GetAncestor(window().handle(), GA_ROOT);
+    dialog.hwndOwner = dialogOwner();
     dialog.lpstrFilter = kFilter;
     dialog.lpstrFile = path;
     dialog.nMaxFile = MAX_PATH;
@@ -81,7 +74,7 @@ void PicturesPage::load()
     changeChosen(Variant::ofDispatch(picture.get()));
 }
 
-/// The picture whole, as large as it fits.
+/// Draws the whole picture, as large as it fits.
 void PicturesPage::drawSample(HDC dc, RECT const& place)
 {
     auto const picture = query<IPicture>(shown(chosen()).toObject().get());

@@ -60,7 +60,7 @@ HRESULT PropertyPage::GetPageInfo(PROPPAGEINFO* info)
 {
     return comCall([&] {
         deref(info) = {sizeof(PROPPAGEINFO), nullptr, {0, 0}, nullptr, nullptr, 0};
-        // How many pixels a dialog unit is only a dialog knows.
+        // Only a dialog can tell how many pixels a dialog unit is.
         PageWindow const measured(::GetDesktopWindow(), *this);
         RECT const size = measured.pixels(PageWindow::kPage);
         info->size = {size.right, size.bottom};
@@ -126,7 +126,7 @@ void PropertyPage::apply()
     }
 }
 
-/// The folder is the frame's guess where the help file is. Where it does not open here, the frame may try.
+/// The folder is where the frame supposes the help file. Where ours does not open, the frame may try.
 HRESULT PropertyPage::Help(LPCOLESTR)
 {
     return comCall([&] {
