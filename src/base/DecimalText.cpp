@@ -7,7 +7,7 @@ namespace quillet {
 
 std::wstring decimalText(long number)
 {
-    wchar_t text[12]; // Windows writes it: the language's own way brings a formatter of doubles with it
+    wchar_t text[12]; // not std::to_wstring, with which a formatter of doubles is linked in
     return {text, static_cast<size_t>(::wsprintfW(text, L"%ld", number))};
 }
 

@@ -34,7 +34,7 @@ template <> struct Handed<VARIANT> {
     static void give(Kept const& kept, VARIANT& out) { out = Variant(kept).detach(); }
 };
 
-/// An enumerator of its own life over a snapshot of values, from a place in them on.
+/// A counted enumerator over a snapshot of values, which begins at one of them.
 template <class Interface, class Value> class Enumerator final : public Counted<Interface> {
 public:
     using Kept = typename Handed<Value>::Kept;

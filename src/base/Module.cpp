@@ -1,4 +1,4 @@
-// The component as Windows knows it: the two values of the whole process.
+// The component as Windows knows it: the only two variables of the whole process.
 #include "base/Module.h"
 
 namespace quillet {

@@ -155,7 +155,7 @@ VARIANT Variant::detach() noexcept
 Variant Variant::convertedTo(VARTYPE type) const
 {
     if (m_value.vt == type)
-        return *this; // the system takes ten times as long for that
+        return *this; // the system's conversion to the same type takes ten times as long
     if (m_value.vt == VT_NULL)
         throw RunTimeError(ErrorNumber::InvalidUseOfNull);
     requireTarget(m_value);

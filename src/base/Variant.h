@@ -57,7 +57,7 @@ private:
     VARIANT m_value;
 };
 
-/// Whether a VARIANT is a reference without anything that it refers to, straight or by another VARIANT.
+/// Whether a VARIANT is a reference to nothing: a null pointer, in itself or in the VARIANT it refers to.
 bool refersToNothing(VARIANT const& value) noexcept;
 
 /// Reads a borrowed VARIANT as a 16-bit integer.

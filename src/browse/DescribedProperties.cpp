@@ -40,7 +40,7 @@ std::vector<Choice> choicesOf(ITypeInfo& enumeration, WORD count)
     return choices;
 }
 
-/// A mouse pointer is a plain number to the type library. The gaps are numbers that name no pointer.
+/// The type library describes MousePointer as a plain number: its values are named here.
 std::vector<Choice> mousePointers()
 {
     constexpr wchar_t const* kPointers[] = {L"Default",

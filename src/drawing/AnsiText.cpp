@@ -7,7 +7,7 @@ namespace quillet {
 
 namespace {
 
-/// The number of bytes of the text, which are stored where there is room for all of them; 0 where not.
+/// Stores the bytes of the text and answers how many they are; 0 where there is no room for all of them.
 int convert(unsigned codePage, std::wstring_view text, char* target, int room) noexcept
 {
     return ::WideCharToMultiByte(codePage, 0, text.data(), static_cast<int>(text.size()), target, room,

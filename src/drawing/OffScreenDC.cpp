@@ -1,4 +1,4 @@
-// The off-screen surface on which a control composes its picture before one copy to the screen.
+// The off-screen bitmap on which a control composes its picture before one copy to the screen.
 #include "drawing/OffScreenDC.h"
 
 #include "base/Checked.h"
@@ -8,7 +8,7 @@ namespace quillet {
 
 namespace {
 
-constexpr long kWholeLength = -1; // a width or height left out: the surface's
+constexpr long kWholeLength = -1; // a width or height left out: the bitmap's
 
 RECT rectangleOf(long left, long top, long width, long height)
 {
@@ -22,7 +22,7 @@ OffScreenDC::~OffScreenDC()
     if (!m_memoryDc)
         return;
     ::SelectObject(m_memoryDc.get(), m_initialFont);
-    UniqueBitmap const surface(static_cast<HBITMAP>(::SelectObject(m_memoryDc.get(), m_initialBitmap)));
+    UniqueBitmap const bitmap(static_cast<HBITMAP>(::SelectObject(m_memoryDc.get(), m_initialBitmap)));
 }
 
 COLORREF OffScreenDC::BackColor() const noexcept { return ::GetBkColor(m_memoryDc.get()); }
@@ -39,8 +39,7 @@ void OffScreenDC::Font(IFont* newFont)
         m_initialFont = selectFont();
         return;
     }
-    // Given up first: a font that only the surface still holds is gone before its successor is asked for
-    // a handle.
+    // Given up first: a font that nobody else holds is gone before its successor is asked for a handle.
     m_font.reset();
     m_font = newFont;
     if (m_font)
@@ -103,7 +102,7 @@ void OffScreenDC::BlastToScreen(long left, long top, long& width) const noexcept
 
 void OffScreenDC::BlastToScreen(long left, long top, long&& width, long&& height) const noexcept
 {
-    BlastToScreen(left, top, width, height); // as names they are variables, so this is the call by reference
+    BlastToScreen(left, top, width, height); // the names are lvalues: this calls the overload above
 }
 
 void OffScreenDC::BlastToScreen(long left, long top) const noexcept

@@ -1,4 +1,4 @@
-// The off-screen surface on which a control composes its picture before one copy to the screen.
+// The off-screen bitmap on which a control composes its picture before one copy to the screen.
 #pragma once
 
 #include "base/ComPtr.h"
@@ -41,8 +41,8 @@ public:
     COLORREF ThreeDHighlightColor() const noexcept { return m_threeDHighlightColor; }
     COLORREF ThreeDShadowColor() const noexcept { return m_threeDShadowColor; }
 
-    /// Binds the surface to a control's DC, which stays the control's, and size. Once per surface: a second
-    /// call overwrites the DC and the bitmap of the first without freeing them.
+    /// Makes the memory DC and the bitmap for a control's DC, which stays the control's, and size. To be
+    /// called once: a second call overwrites the DC and the bitmap of the first without freeing them.
     void Initialize(HDC ctlHdc, long ctlWidth, long ctlHeight) noexcept;
 
     /// Fills a rectangle and writes a caption with its top left corner at a point, clipped to the rectangle.
@@ -52,24 +52,24 @@ public:
 
     void InvertRectangle(long left, long top, long width, long height);
 
-    /// For elements that draw themselves; owned by the surface.
+    /// The memory DC, for elements that draw themselves.
     HDC dc() const noexcept { return m_memoryDc.get(); }
 
     /// Width and height of a text in the selected font, in pixels, as it would be written.
     SIZE textExtent(std::wstring_view text) const;
 
     /// Copies a rectangle to the same place of the control's DC. A width or height of -1 stands for that of
-    /// the surface, which the caller's variable then holds.
+    /// the bitmap, which the caller's variable then holds.
     void BlastToScreen(long left, long top, long& width, long& height) const noexcept;
     void BlastToScreen(long left, long top, long& width) const noexcept;
     void BlastToScreen(long left, long top, long&& width, long&& height) const noexcept;
     void BlastToScreen(long left = 0, long top = 0) const noexcept;
 
-    /// Writes text at a point, and paints everything from there to the surface's bottom right corner in the
+    /// Writes text at a point, and paints everything from there to the bitmap's bottom right corner in the
     /// background colour first.
     void PrintString(long x, long y, std::wstring_view caption);
 
-    /// Draws rings of one pixel round the whole surface, from the edge inwards. Answers an empty variant.
+    /// Draws rings of one pixel round the whole bitmap, from the edge inwards. Answers an empty variant.
     Variant Draw3DBorder(COLORREF topColor, COLORREF bottomColor, long width);
 
 private:
@@ -82,7 +82,7 @@ private:
     ComPtr<IFont> m_font;
     UniqueMemoryDc m_memoryDc;
     HDC m_targetDc = nullptr;
-    HGDIOBJ m_initialBitmap = nullptr; // while the surface lives, its own bitmap is the one selected
+    HGDIOBJ m_initialBitmap = nullptr; // of the memory DC, selected again at the end
     HGDIOBJ m_initialFont = nullptr;
     long m_width = 0;
     long m_height = 0;

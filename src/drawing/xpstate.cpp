@@ -1,4 +1,4 @@
-// The tinted faces of the task-pane look, made of the desktop's own colours.
+// The tinted backgrounds of the task-pane look, made of the desktop's own colours.
 #include "drawing/xpstate.h"
 
 #include "base/Checked.h"
@@ -20,7 +20,8 @@ struct Channels {
     long blue;
 };
 
-/// One channel of the tint. The lift grows as the face (deep) or the selection (light) gets darker.
+/// One channel of the tint: the mean of both colours, the lighter the darker the button face (deep) or the
+/// selection (light) is.
 long tinted(long face, long selection, VARIANT_BOOL deep)
 {
     double const mean = (selection + face) / 2.0;
@@ -29,7 +30,7 @@ long tinted(long face, long selection, VARIANT_BOOL deep)
     return Clamp(roundedToEven(tint), 0, 255);
 }
 
-/// What a comparison that holds is worth in arithmetic.
+/// A comparison as a number.
 constexpr long truth(bool holds) { return holds ? -1 : 0; }
 
 /// The bound (or the value) when the comparison holds, else 0: their product, negated.

@@ -1,4 +1,4 @@
-// The tinted faces of the task-pane look, made of the desktop's own colours.
+// The tinted backgrounds of the task-pane look, made of the desktop's own colours.
 #pragma once
 
 #include <windows.h>

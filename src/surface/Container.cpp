@@ -12,7 +12,7 @@ namespace quillet {
 
 namespace {
 
-/// No form has as many controls; a list that never ends must not take the memory.
+/// More controls than any form has: a list that never ends must not take all memory.
 constexpr long kMostControls = 0x7FFF;
 
 /// The keys that a container reads with a key message: shift 1, control 2, alt 4.

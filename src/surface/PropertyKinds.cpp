@@ -63,7 +63,7 @@ Variant convertedObject(PropertyKind kind, IUnknown* object)
     return Variant::ofUnknown(own.get());
 }
 
-/// Colours with the top bit set come as negative, as unsigned and as text of either.
+/// A colour with the top bit set may come as a negative number, as an unsigned one, or as text of either.
 Variant convertedColour(Variant const& value)
 {
     try {

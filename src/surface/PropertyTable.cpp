@@ -97,7 +97,7 @@ bool storeNumber(Surface& control, PropertyRow const& row, long number)
     return false;
 }
 
-/// Arguments come by their addresses; of their types we know the automation type alone.
+/// Arguments come by their addresses, with their automation types for their C++ types.
 template <class Argument> Argument taken(void const* value) noexcept
 {
     Argument argument;
@@ -276,7 +276,7 @@ void PropertyTable::write(Surface const& control, PropertyBag& bag) const
     for (Row const& row : m_rows) {
         if (row.saved == Saved::No)
             continue;
-        // Of a name that stands twice the last value counts, even where it is the default.
+        // Where a name stands twice the last value counts, so it is written even where it is the default.
         bool const again = std::ranges::find(written, row.name) != written.end();
         bool const stored = bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)),
                                               again ? Variant() : savedFallback(control, row));

@@ -20,11 +20,11 @@
 
 namespace quillet {
 
-/// A name may stand twice, and be only written the second time.
+/// A name may stand in two rows, the second of which is only written.
 enum class Saved { No, Yes, OnlyWritten };
 /// What gives a new control its value: the default of its row, or whatever the surface starts with.
 enum class AtStart { Default, Surface };
-/// Whether the setter ends by painting; what paints itself at once still changes the look.
+/// Whether the setter ends by painting. ByItself: storing the value has painted it already.
 enum class Repaint { No, Yes, AfterMeasuring, ByItself };
 /// How loading stores fonts and pictures: as their setters do, or like every other value.
 enum class LoadedObjects { ThroughSetters, IntoFields };
@@ -133,7 +133,7 @@ public:
     /// The values of a new control, fonts first; they are the container's.
     void init(Surface& control) const;
 
-    /// What a control has that nobody has initialised: the defaults that no container has a part in.
+    /// For a control that may never be initialised or loaded: the defaults that need no container.
     void setPlainDefaults(Surface& control) const;
 
     /// The defaults of the rows up to a property, which is the last of them, or of all rows after it.
@@ -148,12 +148,12 @@ public:
 private:
     static constexpr std::uint8_t kNoRow = 0xFF;
 
-    /// Where a row is noted: a few bits of its identifier, in which no two of a table are alike.
+    /// The place of a row in m_places: seven bits of its identifier, which differ among the rows of a table.
     static constexpr size_t placeOf(DISPID id) noexcept { return (id ^ (id >> 8)) & 0x7F; }
     static constexpr void claim(std::uint8_t& place, std::uint8_t row)
     {
         if (place != kNoRow)
-            throw "two rows want one place"; // where the table is made: while the compiler runs
+            throw "two rows want one place"; // does not compile: tables are made while compiling
         place = row;
     }
     static constexpr std::array<std::uint8_t, 128> noRows() noexcept

@@ -44,7 +44,7 @@ ULONG Surface::Identity::Release()
     LONG const left = ::InterlockedDecrement(&m_references);
     if (left > 0)
         return static_cast<ULONG>(left);
-    m_references = 1; // references that come and go during the end must not end it a second time
+    m_references = 1; // references that come and go from here on must not end it a second time
     Surface* const surface = &m_surface;
     surface->terminate();
     delete surface;
@@ -97,15 +97,15 @@ IUnknown* Surface::faceOf(REFIID iid) noexcept
 
 void Surface::close() noexcept
 {
-    m_events.end(); // first: the end of a window is full of messages
+    m_events.end(); // first: a window that is destroyed gets messages
     m_inPlace.leave(InPlace::WindowThen::Destroyed);
-    if (!m_inPlace.isActive()) // again, by what its end led to
+    if (!m_inPlace.isActive()) // unless its end led to an activation
         m_window.destroy();
 }
 
 void Surface::terminate() noexcept
 {
-    m_outer = &m_identity; // an outer object is going, too: messages of the window's end must not reach it
+    m_outer = &m_identity; // the outer object is going, too, and must not hear of the window's end
     close();
     ignoringErrors([&] { onTerminate(); });
     m_window.destroy();

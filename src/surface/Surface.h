@@ -122,8 +122,8 @@ public:
     /// Marks the control as changed since it was saved and tells the container which property it was.
     void propertyChanged(DISPID property, ViewChange view);
 
-    /// The container has done with the control: activation and window end, shown or parked, and nothing is
-    /// raised any more.
+    /// The container has closed the control: ends its activation and its window, and nothing is raised any
+    /// more.
     void close() noexcept;
 
     /// Runs the Paint handler onto the window at once.
@@ -156,22 +156,22 @@ public:
     virtual void onTerminate() {}
     /// The window was made, or made anew: somebody destroyed a window above the last one.
     virtual void onWindowMade() {}
-    /// The font that the surface shows changed inside: somebody made it bold, say.
+    /// A property of the font object changed: somebody made it bold, say.
     virtual void onFontChanged() {}
     /// A container presses the control.
     virtual void doClick() { onClick(); }
-    /// Somebody without a mouse does what a click of it does.
+    /// A program for people without a mouse does what a click does.
     virtual void doDefaultAction() { doClick(); }
     /// The control's window (its own, or an inner one that was subclassed) got or lost the keyboard: what it
     /// shows is to change at once.
     virtual void onFocusMessage();
-    /// Whether nobody else sees the window's focus messages, so that the window itself has to tell of them.
+    /// Whether the window has to tell of its focus messages, as it is not subclassed.
     virtual bool watchesFocus() const noexcept { return false; }
     /// Somebody else, or nobody, has the mouse capture that the control's window had.
     virtual void onCaptureLost() {}
-    /// The cursor is not over the window any more, and nothing but this tells of it.
+    /// The cursor has left the window while the window did not have the capture.
     virtual void onMouseLeft() {}
-    /// A window inside the control's tells something about itself.
+    /// A window inside the control's has sent a notification.
     virtual void onCommand(WORD /*code*/, HWND /*from*/) {}
 
     /// What screen readers are told of the control, and of which window; null while there is none.

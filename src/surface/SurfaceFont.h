@@ -26,7 +26,7 @@ public:
     IFont* underlined();
     void set(ComPtr<IFont> font) noexcept;
 
-    /// Changes made during this scope are the painting's own and go unheard.
+    /// Changes made during this scope are made by painting, and nobody is told.
     class Deaf {
     public:
         explicit Deaf(SurfaceFont& font) noexcept : m_font(font) { ++m_font.m_deaf; }

@@ -1,10 +1,25 @@
-// The resolution of colours.
+// The desktop's colours by name, and the resolution of colours.
 #include "drawing/Colour.h"
+
+#include "drawing/SystemColours.h"
 
 #include <gtest/gtest.h>
 
 namespace quillet {
 namespace {
+
+/// What forms have saved for as long as there have been forms, written by hand.
+TEST(SystemColours, haveTheNumbersThatFormsSave)
+{
+    EXPECT_EQ(colour::kSelectionHighlight, 0x8000000DU);
+    EXPECT_EQ(colour::kButtonFace, 0x8000000FU);
+    EXPECT_EQ(colour::kButtonShadow, 0x80000010U);
+    EXPECT_EQ(colour::kGreyText, 0x80000011U);
+    EXPECT_EQ(colour::kButtonText, 0x80000012U);
+    EXPECT_EQ(colour::k3dHighlight, 0x80000014U);
+    EXPECT_EQ(colour::k3dDarkShadow, 0x80000015U);
+    EXPECT_EQ(colour::k3dLight, 0x80000016U);
+}
 
 TEST(ResolvedColour, ofAnRgbValueIsTheValue)
 {

@@ -1,5 +1,6 @@
 // A new qvFlatCommand: what it asks of its container, in which order, and what it makes of the answers.
 #include "FlatButton.h"
+#include "drawing/SystemColours.h"
 #include "kit/FakeBag.h"
 #include "kit/Fonts.h"
 
@@ -144,9 +145,9 @@ TEST_F(FlatInit, leavesBackAndForeColourAloneWhateverTheFormsAre)
     initialise();
     OLE_COLOR color = 0;
     button->get_BackColor(&color);
-    EXPECT_EQ(color, 0x8000000FU);
+    EXPECT_EQ(color, colour::kButtonFace);
     button->get_ForeColor(&color);
-    EXPECT_EQ(color, 0x80000012U);
+    EXPECT_EQ(color, colour::kButtonText);
     ASSERT_EQ(button->put_BackColor(0x112233), S_OK);
     ASSERT_EQ(button->put_ForeColor(0x332211), S_OK);
     initialise();

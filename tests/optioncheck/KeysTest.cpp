@@ -9,14 +9,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr COLORREF kFace = RGB(240, 230, 140);
+constexpr COLORREF kBack = RGB(240, 230, 140);
 
 class Keys : public EachBoxTest {
 protected:
     Keys() : box(kind(), library(), form)
     {
         auto const bag = newBag();
-        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kFace)));
+        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kBack)));
         box.start(*bag.get());
     }
 
@@ -178,7 +178,7 @@ TEST_P(Keys, focusShowsTheFocusRectangleAndItsLossTakesItAway)
     auto const framed = [&] { // dots on the frame's left edge
         int dots = 0;
         for (int y = 0; y < 20; ++y)
-            dots += box.pixel({16, y}) != kFace;
+            dots += box.pixel({16, y}) != kBack;
         return dots;
     };
     EXPECT_EQ(framed(), 0);

@@ -1,5 +1,6 @@
 // Saved properties: names, types, defaults, order, three carriers.
 #include "Box.h"
+#include "drawing/SystemColours.h"
 #include "kit/Fonts.h"
 #include "kit/Memory.h"
 
@@ -10,7 +11,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Wide = std::vector<std::wstring>;
 
-constexpr long kButtonShadow = static_cast<long>(0x80000010);
+constexpr long kButtonShadow = static_cast<long>(colour::kButtonShadow);
 
 ComPtr<kit::FakeBag> fullBag(long value)
 {
@@ -151,7 +152,7 @@ TEST_P(Saving, keepsTheUsersColourOfADisabledOneThatIsTheDefault)
     EXPECT_THAT(again->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"ForeColor"));
     Box other(kind(), library(), form, kPlace, L"Other");
     other.start(*again.get());
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(0x80000012));
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(colour::kButtonText));
 }
 
 TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
@@ -191,7 +192,7 @@ TEST_P(Saving, aDisabledOneKeepsItsColourThroughAStream)
     Box other(kind(), library(), form, kPlace, L"Other");
     other.hosted().setSite();
     ASSERT_EQ(other.as<IPersistStreamInit>()->Load(kit::streamOf(kit::bytesOf(*stream.get())).get()), S_OK);
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(0x80000012));
+    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(colour::kButtonText));
 }
 
 TEST_P(Saving, goesThroughAStorage)

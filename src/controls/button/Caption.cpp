@@ -25,7 +25,7 @@ SplitCaption::SplitCaption(std::wstring_view caption)
         shown = caption;
         return;
     }
-    narrowed<short>(found + 1); // a position in a caption has 16 bits
+    narrowed<short>(found + 1); // Overflow where the position has more than 16 bits
     keyAt = found;
     accessKey = caption.substr(found + 1, 1);
     shown.append(caption.substr(0, found)).append(caption.substr(found + 1));
@@ -46,8 +46,8 @@ void writeCaption(OffScreenDC& canvas, SurfaceFont& font, SplitCaption const& ca
         writePiece(canvas, space, shown, left, topOf(canvas.textExtent(shown)));
         return;
     }
-    // Each piece starts further right and so never paints over an earlier one. Measuring costs as much as a
-    // fill: any piece tells the height of all.
+    // Each piece starts further right and so never paints over an earlier one. One piece is measured for the
+    // height of all, as measuring costs as much as a fill.
     auto const before = shown.substr(0, caption.keyAt);
     auto const key = shown.substr(caption.keyAt, 1);
     auto const after = shown.substr(caption.keyAt + key.size());

@@ -23,22 +23,22 @@ struct SplitCaption {
     size_t keyAt = 0; ///< where the access key stands in the shown text
 };
 
-/// a less twice b, the size of what is left between two insets.
+/// a - 2 * b: what an inset of b on both sides leaves of a.
 long between(long a, long b);
 
-/// Where something is placed whose middle is the middle of the space, in pixels.
+/// The first pixel of something that stands in the middle of a space.
 long centred(long space, long length);
 
-/// The face that a caption is written on, in pixels.
+/// The background that a caption is written on, in pixels.
 struct CaptionSpace {
     SIZE size;  ///< of the button
-    long inset; ///< what is drawn round the face
+    long inset; ///< of the background: what is drawn round it
     COLORREF back;
     long shift = 0; ///< how far down the caption of a pressed button is
 };
 
-/// Writes the caption from a column on, halfway down, the access key underlined. Every piece paints the face
-/// from its own beginning to the right end.
+/// Writes the caption from a column on, halfway down, the access key underlined. Every piece paints the
+/// background from its own beginning to the right end.
 void writeCaption(OffScreenDC& canvas, SurfaceFont& font, SplitCaption const& caption,
                   CaptionSpace const& space, long left);
 

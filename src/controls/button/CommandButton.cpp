@@ -36,7 +36,7 @@ bool CommandButton::enterOrExit(bool over)
     HWND const own = window().existing();
     if (over == hasMouseCapture(own))
         return false;
-    bool const exitIsDue = std::exchange(m_entered, over) && over; // somebody took the mouse meanwhile
+    bool const exitIsDue = std::exchange(m_entered, over) && over; // the capture was lost without one
     setMouseCapture(own, over);
     if (exitIsDue)
         raiseEvent(eventid::command::MouseExit);
@@ -50,7 +50,7 @@ void CommandButton::onWindowMade()
     m_toolTip.windowMade(hWnd());
 }
 
-/// No move tells any more that the mouse leaves a hot button.
+/// Without the capture no move tells that the mouse leaves a hot button.
 void CommandButton::onCaptureLost()
 {
     if (!reacts())
@@ -61,7 +61,7 @@ void CommandButton::onCaptureLost()
 
 void CommandButton::onMouseLeft()
 {
-    // A button that was taken from its form has ended its hover in silence.
+    // A button that was taken from its form raises no MouseExit.
     if (!std::exchange(m_entered, false) || !reacts() || !::IsWindowVisible(hWnd()))
         return;
     raiseEvent(eventid::command::MouseExit);

@@ -23,13 +23,14 @@ inline constexpr DWORD kCommandButtonStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMI
                                               OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
                                               OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON;
 
-/// The border style that has a border.
+/// The BorderStyle with a border.
 inline constexpr long kFixedBorder = 1;
 
-/// Whether a press or release is a button's own: a test of bits, which every ordinary shift state passes.
+/// Whether a press or release of a mouse button is one that presses the control: of the left button. The
+/// shift state is part of the test by a bitwise And, which every ordinary shift state passes.
 bool isOwnPress(MouseArguments const& mouse) noexcept;
 
-/// A surface whose left button presses it. A derived class paints it and follows the mouse over it.
+/// A control that a press of the left mouse button presses. A derived class paints it and follows the mouse.
 class CommandButton : public Surface {
 public:
     void onClick() override;
@@ -54,27 +55,28 @@ protected:
     /// Whether the button reacts to the user. Never in design mode.
     virtual bool reacts() const noexcept { return userMode(); }
     virtual std::wstring_view caption() const noexcept = 0;
-    /// The left button came up; the repaint comes after it.
+    /// The left mouse button came up. A repaint follows.
     virtual void onReleased(MouseArguments const&) {}
 
-    // For the published members of the same names.
+    // What the published members hwnd, hdc and WindowProc answer.
     HRESULT answerHwnd(LONG* value);
     HRESULT answerHdc(LONG* value);
     HRESULT answerWindowProc(LONG window, LONG message, LONG wParam, LONG lParam, LONG* result);
 
     /// Whether the cursor is over the button's own window.
     bool isOver();
-    /// Takes the capture and raises MouseEnter, or gives it up and raises MouseExit. Whether either came.
+    /// Takes the capture and raises MouseEnter, or gives it up and raises MouseExit. Whether either was
+    /// raised.
     bool enterOrExit(bool over);
     void setPressed(bool pressed);
 
     VisualState state() const noexcept { return m_state; }
-    /// Decides the look. A disabled button, and one that the cursor has left, forget that they were pressed.
+    /// Decides the look. A button that is disabled or not under the cursor is not pressed any more.
     void decideState(bool reacting);
     bool isPressed() const noexcept { return m_pressed; }
 
-    /// Whether the form's default button shows it: not while a control with one of these interfaces has the
-    /// focus.
+    /// Whether this is the form's default button and shows that: not while a control with one of the takers'
+    /// interfaces has the focus.
     bool isEmphasisedDefault(bool userMode, std::span<IID const> takers) const;
     /// Binds the canvas of one paint, with the button's font.
     void open(OffScreenDC& canvas, HDC target, SIZE size);

@@ -17,7 +17,7 @@ inline constexpr auto kAsSurface = AtStart::Surface;
 inline constexpr auto kSaved = Saved::Yes;
 inline constexpr auto kUnsaved = Saved::No;
 
-// What the setter ends with. What is quiet shows at the next change of state.
+// What the setter ends with. A quiet change shows at the next repaint.
 inline constexpr auto kPaint = Repaint::Yes;
 inline constexpr auto kMeasure = Repaint::AfterMeasuring;
 inline constexpr auto kByItself = Repaint::ByItself;

@@ -80,7 +80,7 @@ private:
     void draw(bool userMode);
     Palette paletteOf(VisualState state) const;
     void drawBorder(Painting& painting) const;
-    void drawFace(Painting& painting) const;
+    void drawBackground(Painting& painting) const;
     void drawFocusFrame(Painting& painting) const;
     void drawCaption(Painting& painting);
     long captionLeft(Painting const& painting, std::wstring_view caption) const;

@@ -1,4 +1,4 @@
-// The flat command button's picture: border, face, focus frame and caption, composed off screen.
+// The flat command button's picture: border, background, focus frame and caption, composed off screen.
 #include "base/Checked.h"
 #include "controls/button/Caption.h"
 #include "controls/button/TaskPane.h"
@@ -34,7 +34,7 @@ struct qvFlatCommand::Painting {
     SIZE size;
     Palette palette;
     OffScreenDC canvas{};
-    long inset = 0;  ///< pixels drawn round the face so far
+    long inset = 0;  ///< pixels drawn round the background so far
     long marker = 0; ///< those of them that show focus or default; they do not move the caption
 };
 
@@ -98,7 +98,7 @@ void qvFlatCommand::draw(bool userMode)
     PaintTarget const target(*this);
     open(painting.canvas, target.dc(), painting.size);
     drawBorder(painting);
-    drawFace(painting);
+    drawBackground(painting);
     drawFocusFrame(painting);
     drawCaption(painting);
     painting.canvas.BlastToScreen(0, 0, -1, -1);
@@ -123,7 +123,7 @@ void qvFlatCommand::drawBorder(Painting& painting) const
     painting.inset = palette.borderWidth;
 }
 
-void qvFlatCommand::drawFace(Painting& painting) const
+void qvFlatCommand::drawBackground(Painting& painting) const
 {
     painting.canvas.TextColor(painting.palette.fore);
     painting.canvas.FillRect(painting.inset, painting.inset, between(painting.size.cx, painting.inset),
@@ -137,7 +137,7 @@ void qvFlatCommand::drawFocusFrame(Painting& painting) const
     constexpr long kGap = 2;
     painting.inset = checkedAdd(painting.inset, kGap);
     painting.marker += kGap;
-    // On a mid grey face the mid grey frame would vanish.
+    // On a mid grey background the mid grey frame would vanish.
     COLORREF const frame = painting.palette.back == kMidGrey ? kLightGrey : kMidGrey;
     long const width = between(painting.size.cx, painting.inset);
     long const height = between(painting.size.cy, painting.inset);

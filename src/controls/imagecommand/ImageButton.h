@@ -59,9 +59,9 @@ struct ImageLooks {
     Bstr toolTipText;
 };
 
-/// How the border of a resting button looks in the task-pane scheme.
+/// How the border of a resting button looks in the task-pane colours.
 enum class RestingBorder {
-    Shadow,      ///< drawn, always
+    Shadow,      ///< drawn in the shadow colour
     WhileLaidOut ///< an outline in design mode, none at run time
 };
 

@@ -1,4 +1,5 @@
-// An image button's picture: which look, which image and where, face, border and caption composed off screen.
+// An image button's picture: which look, which image and where; background, border and caption composed off
+// screen.
 #include "base/Checked.h"
 #include "controls/button/Caption.h"
 #include "controls/button/TaskPane.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr long kPictureMargin = 4; // pixels inside the border, whatever the caption's indent
 constexpr long kPictureGap = 1;    // pixels between picture and caption
 
-/// The first of the pictures that is one; the last where none is.
+/// The first picture that is not empty; the last where all are.
 template <class... More> IPictureDisp* firstSet(IPictureDisp* picture, More*... more) noexcept
 {
     if constexpr (sizeof...(more) == 0)
@@ -104,7 +105,7 @@ void ImageButton::placePicture()
     SIZE const size = clientSize();
     SIZE const picture = m_image1.size();
     long const offset = pressedOffset();
-    // The surface counts in twips: half a pixel stays there, unless it is rounded down to whole twips.
+    // Positions are in twips, where half a pixel can be told, unless it is rounded down to whole twips.
     double const top = (size.cy - picture.cy) * twips.y / 2;
     if (!m_looks.caption.view().empty()) {
         m_image1.moveTo(
@@ -179,7 +180,7 @@ void ImageButton::draw()
     canvas.BlastToScreen(0, 0, -1, -1);
 }
 
-/// Answers how many pixels it drew round the face.
+/// Answers how many pixels it drew round the background.
 long ImageButton::drawBorder(Painting& painting)
 {
     if (m_looks.borderStyle != kFixedBorder)
@@ -195,7 +196,7 @@ long ImageButton::drawBorder(Painting& painting)
     return palette.borderWidth;
 }
 
-/// Without a border it goes by the look's width all the same.
+/// The indent counts from the border's width, also where the button shows no border.
 long ImageButton::captionLeft(Painting const& painting, std::wstring_view caption) const
 {
     if (m_looks.centreCaption)

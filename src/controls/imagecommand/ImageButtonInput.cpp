@@ -39,7 +39,7 @@ AccessibleLook ImageButton::accessibleLook() const
     return look;
 }
 
-/// The field itself: a click by the user is no change of the property that a designer would save.
+/// Changes the field and not the property: a click by the user is not saved with the form.
 void ImageButton::onReleased(MouseArguments const& mouse)
 {
     if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel()))

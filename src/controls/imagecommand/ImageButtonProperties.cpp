@@ -16,7 +16,7 @@ namespace {
 
 ImageLooks& looksOf(Surface& surface) { return static_cast<ImageButton&>(surface).looks(); }
 
-/// The task-pane look brings the face colour along; ending it leaves the colour.
+/// The task-pane look sets the background to the button face colour; ending it leaves that colour.
 bool assignOfficeXPColors(Surface& control, Variant const& value)
 {
     looksOf(control).officeXPColors = value.toBool();
@@ -34,7 +34,7 @@ bool assignActive(Surface& control, Variant const& value)
     return true;
 }
 
-/// A refused picture is the program's error at run time, and the designer's in design mode.
+/// A refused picture raises an error at run time, and shows a message to the designer in design mode.
 bool acceptsPicture(ImageButton& control, IUnknown* picture, wchar_t const* refusal)
 {
     SHORT const type = pictureType(picture);

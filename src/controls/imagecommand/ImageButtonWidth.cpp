@@ -28,7 +28,7 @@ void ImageButton::onMeasure()
         pixels = m_image1.size().cx;
     }
     std::wstring const shown = SplitCaption(m_looks.caption.view()).shown;
-    // In both fonts, so that checking the button leaves its width.
+    // The wider of both fonts, so that checking the button does not change its width.
     long text = textWidth(*font(), shown);
     if (auto const checkedFont = query<IFont>(m_looks.checkedFont.get()))
         text = std::max(text, textWidth(*checkedFont.get(), shown));

@@ -1,4 +1,4 @@
-// The surface's picture element: a picture of a form's, shown over the face of a control.
+// The surface's picture element: a picture shown over the background of a control.
 #include "controls/imagecommand/ImageElement.h"
 
 #include "base/Scale.h"
@@ -42,7 +42,7 @@ std::vector<std::uint32_t> alphaPixels(HBITMAP bitmap, SIZE size)
 
 constexpr std::uint32_t alphaOf(std::uint32_t pixel) noexcept { return pixel >> 24; }
 
-/// Each colour in its share of the alpha, as blending takes it.
+/// Multiplies each colour by its alpha, as blending takes it.
 std::uint32_t premultiplied(std::uint32_t pixel) noexcept
 {
     std::uint32_t const alpha = alphaOf(pixel);
@@ -66,7 +66,7 @@ UniqueBitmap premultipliedCopy(HBITMAP bitmap, SIZE size)
     std::vector<std::uint32_t> pixels = alphaPixels(bitmap, size);
     auto const isVisible = [](std::uint32_t pixel) { return alphaOf(pixel) != 0; };
     auto const isOpaque = [](std::uint32_t pixel) { return alphaOf(pixel) == 0xFF; };
-    // A bitmap whose alpha is 0 throughout never meant it.
+    // A bitmap whose alpha is 0 throughout has no alpha: its fourth bytes are unused.
     if (std::ranges::none_of(pixels, isVisible) || std::ranges::all_of(pixels, isOpaque))
         return {};
     std::ranges::transform(pixels, pixels.begin(), premultiplied);
@@ -164,7 +164,7 @@ void ImageElement::drawBitmap(HDC dc) const
     HGDIOBJ const bitmap = m_way == Way::Blended ? m_premultiplied.get() : m_handle;
     UniqueMemoryDc const memory(::CreateCompatibleDC(dc));
     SelectScope const selected(memory.get(), bitmap);
-    if (!selected.succeeded()) // somebody has it selected into a DC of his own
+    if (!selected.succeeded()) // it is selected into a DC of somebody else
         return render(dc);
     if (m_way == Way::Copied) {
         ::BitBlt(dc, m_place.x, m_place.y, m_size.cx, m_size.cy, memory.get(), 0, 0, SRCCOPY);

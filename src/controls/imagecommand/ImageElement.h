@@ -1,4 +1,4 @@
-// The surface's picture element: a picture of a form's, shown over the face of a control.
+// The surface's picture element: a picture shown over the background of a control.
 #pragma once
 
 #include "base/ComPtr.h"
@@ -9,12 +9,12 @@
 
 namespace quillet {
 
-/// Has no window and no background of its own: it is part of the control's picture, drawn after the face and
-/// before the one copy to the screen. Shows bitmaps and icons in their own size in pixels, and their true
-/// alpha where they have it; other kinds as the picture object renders itself.
+/// Has no window and no background of its own: it is part of the control's picture, drawn after the
+/// background and before the one copy to the screen. Shows bitmaps and icons in their own size in pixels, and
+/// their true alpha where they have it; other kinds as the picture object renders itself.
 class ImageElement {
 public:
-    /// Shows the picture from here on, which is kept. Nothing is shown for none and for an empty one.
+    /// Shows and keeps a picture; nothing is shown for null and for an empty one.
     void setPicture(IUnknown* picture);
     bool isEmpty() const noexcept { return !m_picture; }
 
@@ -38,7 +38,7 @@ private:
     Way m_way = Way::Nothing;
     SIZE m_size = {};
     POINT m_place = {};
-    UniqueBitmap m_premultiplied; ///< of a bitmap with alpha: what blending takes
+    UniqueBitmap m_premultiplied; ///< of a bitmap with alpha: the copy that blending takes
 };
 
 } // namespace quillet

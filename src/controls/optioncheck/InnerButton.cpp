@@ -48,8 +48,8 @@ HFONT handleOf(IFont* font)
 
 } // namespace
 
-InnerButton::InnerButton(OptionCheckButton& surface, InnerKind kind, std::wstring_view caption)
-    : m_surface(surface), m_kind(kind), m_caption(caption)
+InnerButton::InnerButton(OptionCheckButton& control, InnerKind kind, std::wstring_view caption)
+    : m_control(control), m_kind(kind), m_caption(caption)
 {}
 
 void InnerButton::unregisterClass() noexcept { buttonClass().unregister(); }
@@ -59,7 +59,7 @@ void InnerButton::create(HWND parent)
     WNDCLASSEXW const system = systemClass();
     WindowClass const own = buttonClass();
     own.require(derived(system, &InnerButton::procedure));
-    SIZE const size = m_surface.window().clientSize();
+    SIZE const size = m_control.window().clientSize();
     DWORD const style = m_kind == InnerKind::Option ? BS_RADIOBUTTON : BS_3STATE;
     m_window = ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, own.wideName(), textOf(m_caption),
                                  WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, size.cx, size.cy, parent,
@@ -70,12 +70,12 @@ void InnerButton::create(HWND parent)
     ::SetWindowLongPtrW(m_window, system.cbWndExtra, reinterpret_cast<LONG_PTR>(this));
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(m_value), 0);
     fontChanged();
-    m_surface.onInnerMade();
+    m_control.onInnerMade();
 }
 
 HWND InnerButton::handle()
 {
-    HWND const parent = m_surface.hWnd(); // which, newly made, may have asked for this one
+    HWND const parent = m_control.hWnd(); // making it may make this one, too
     if (!m_window)
         create(parent);
     return m_window;
@@ -97,7 +97,7 @@ HWND InnerButton::forget() noexcept
     return window;
 }
 
-/// A mark before another one is an escape for it.
+/// Two marks in a row stand for the character itself.
 std::wstring_view InnerButton::accessKey() const noexcept
 {
     std::wstring_view const caption = m_caption.view();
@@ -123,10 +123,11 @@ void InnerButton::setCaption(std::wstring_view caption)
 {
     m_caption = Bstr(caption);
     m_place = {};
-    m_surface.setAccessKeys(accessKey());
+    m_control.setAccessKeys(accessKey());
     if (!m_window)
         return;
-    // Straight to the system's procedure: a subclassing by code page would lose characters.
+    // Straight to the system's procedure: with the window subclassed by ANSI functions, a message would lose
+    // the characters that are not in the code page.
     Bstr const text(caption);
     passOnUnseen(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(textOf(text)));
     refresh();
@@ -149,7 +150,7 @@ void InnerButton::fontChanged()
     m_place = {};
     if (!m_window)
         return;
-    passOnUnseen(WM_SETFONT, reinterpret_cast<WPARAM>(handleOf(m_surface.font())), FALSE);
+    passOnUnseen(WM_SETFONT, reinterpret_cast<WPARAM>(handleOf(m_control.font())), FALSE);
     refresh();
 }
 
@@ -160,7 +161,7 @@ void InnerButton::store(long value)
         return;
     passOnUnseen(BM_SETCHECK, static_cast<WPARAM>(value), 0);
     refresh();
-    m_surface.accessibility().stateChanged();
+    m_control.accessibility().stateChanged();
 }
 
 void InnerButton::setValue(long value)
@@ -169,7 +170,7 @@ void InnerButton::setValue(long value)
         return;
     store(value);
     if (m_kind == InnerKind::Check || value != 0)
-        m_surface.onClick();
+        m_control.onClick();
 }
 
 void InnerButton::click()
@@ -177,21 +178,22 @@ void InnerButton::click()
     long const wanted = m_kind == InnerKind::Option || m_value == 0 ? 1 : 0;
     if (wanted != m_value)
         store(wanted);
-    m_surface.onClick();
+    m_control.onClick();
 }
 
 void InnerButton::notified(WORD code)
 {
-    // A press gives the focus, and some systems take that for a click; it clicks at its release.
+    // A press gives the window the focus, and some systems notify a click for that. The click comes with the
+    // release.
     if (code == BN_CLICKED && !m_pressing)
         click();
 }
 
 void InnerButton::cover() noexcept
 {
-    if (!m_window) // it is made as large
+    if (!m_window) // it is made in the right size
         return;
-    SIZE const size = m_surface.window().clientSize();
+    SIZE const size = m_control.window().clientSize();
     ::SetWindowPos(m_window, nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -212,7 +214,7 @@ void InnerButton::draw(HDC dc, SIZE size, OLE_COLOR foreColor, COLORREF inside) 
 {
     drawInnerButton(dc, size,
                     {glyphLook(inside), resolvedColour(foreColor), m_window && ::GetFocus() == m_window,
-                     m_caption.view(), handleOf(m_surface.font()), m_place});
+                     m_caption.view(), handleOf(m_control.font()), m_place});
 }
 
 void InnerButton::drawFilledGlyph(HDC dc, SIZE size, HBRUSH brush) const
@@ -229,7 +231,7 @@ void InnerButton::paint()
     ::GetClientRect(window, &client);
     ignoringErrors([&] { draw(dc, {client.right, client.bottom}, m_foreColor, kGlyphWhite); });
     ::EndPaint(window, &region);
-    m_surface.onInnerPainted();
+    m_control.onInnerPainted();
 }
 
 } // namespace quillet

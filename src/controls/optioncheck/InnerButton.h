@@ -17,23 +17,23 @@ namespace quillet {
 class OptionCheckButton;
 struct ButtonMessage;
 
-/// Keyboard, states and accessibility are the system's own; the picture is ours. What it has to tell goes to
-/// the surface's handlers: mouse, keys, Click. The surface's font is its font.
+/// Keyboard, states and accessibility are the system's own; the picture is ours. Mouse, keys and Click go to
+/// the control's handlers. It has the control's font.
 class InnerButton {
 public:
-    InnerButton(OptionCheckButton& surface, InnerKind kind, std::wstring_view caption);
+    InnerButton(OptionCheckButton& control, InnerKind kind, std::wstring_view caption);
     ~InnerButton() { destroy(); }
     InnerButton(InnerButton const&) = delete;
     InnerButton& operator=(InnerButton const&) = delete;
 
-    /// The window, made at first need on the surface's. Throws when Windows refuses it.
+    /// The window, made at first need inside the control's. Throws when Windows refuses it.
     HWND handle();
     /// The window or null; makes none.
     HWND existing() const noexcept { return m_window; }
     void destroy() noexcept;
 
     Bstr const& caption() const noexcept { return m_caption; }
-    /// The caption as it is read: without the marks of access keys.
+    /// The caption without the marks of access keys.
     std::wstring shownCaption() const;
     /// The character behind the first mark that counts; empty where there is none.
     std::wstring_view accessKey() const noexcept;
@@ -47,17 +47,17 @@ public:
     InnerKind kind() const noexcept { return m_kind; }
     /// 0 clear, 1 set, of a check box 2: the third state.
     long value() const noexcept { return m_value; }
-    /// Raises Click as a click does, where it chooses an option or changes a check box.
+    /// Raises Click when that chooses an option or changes a check box.
     void setValue(long value);
     /// A user's click: an option becomes the chosen one, a check box changes between clear and set.
     void click();
 
-    /// Makes the window as large as the surface.
+    /// Makes the window as large as the control's.
     void cover() noexcept;
-    /// Paints at once what is shown.
+    /// Repaints the window at once.
     void refresh() noexcept;
     void takeFocus();
-    /// Takes a notification of the window to its parent.
+    /// Handles a notification that the window sent to its parent.
     void notified(WORD code);
 
     /// Paints into any DC.
@@ -89,7 +89,7 @@ private:
     void store(long value);
     bool isClickedByFocus() const noexcept;
 
-    OptionCheckButton& m_surface;
+    OptionCheckButton& m_control;
     InnerKind const m_kind;
     Bstr m_caption;
     OLE_COLOR m_foreColor = colour::kButtonText;

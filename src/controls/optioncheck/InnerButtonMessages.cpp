@@ -1,8 +1,9 @@
-// An option button or check box inside a control: its procedure. The system's own procedure does what a
-// button does; the surface hears of it first, and nothing that the system would draw is seen.
+// An option button or check box inside a control: its window procedure. The control hears of each message
+// first, then the system's procedure does what a button does, and nothing that it would draw is seen.
 #include "base/ComCall.h"
 #include "controls/optioncheck/InnerButton.h"
 #include "controls/optioncheck/OptionCheckButton.h"
+#include "surface/window/MouseCapture.h"
 #include "surface/window/MouseMessage.h"
 
 #include <algorithm>
@@ -41,7 +42,8 @@ LRESULT systemProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
-/// While this lives the system's procedure draws nothing: it draws at once, and in the desktop's style.
+/// While this lives the window is not drawn on: the system's procedure would draw at once, in the desktop's
+/// style.
 class InnerButton::PaintedByUs {
 public:
     explicit PaintedByUs(HWND window) noexcept
@@ -55,7 +57,7 @@ public:
         if (!m_window)
             return;
         ::DefWindowProcW(m_window, WM_SETREDRAW, TRUE, 0);
-        ::InvalidateRect(m_window, nullptr, FALSE); // what waited to be painted is forgotten otherwise
+        ::InvalidateRect(m_window, nullptr, FALSE); // turning drawing on forgets what waited to be painted
     }
     PaintedByUs(PaintedByUs const&) = delete;
     PaintedByUs& operator=(PaintedByUs const&) = delete;
@@ -69,7 +71,7 @@ LRESULT CALLBACK InnerButton::procedure(HWND window, UINT message, WPARAM wParam
     InnerButton* const self = buttonOf(window);
     if (!self)
         return systemProcedure(window, message, wParam, lParam);
-    auto const alive = self->m_surface.keepAlive();
+    auto const alive = self->m_control.keepAlive();
     LRESULT result = 0;
     ignoringErrors([&] { result = self->handle(message, wParam, lParam); });
     return result;
@@ -100,6 +102,8 @@ LRESULT InnerButton::passOnUnseen(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (ButtonMessage const* const row = buttonMessage(message))
+        return button(*row, wParam, lParam);
     switch (message) {
     case WM_PAINT:
         paint();
@@ -109,32 +113,22 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_PRINTCLIENT: {
         RECT client = {};
         ::GetClientRect(m_window, &client);
-        draw(reinterpret_cast<HDC>(wParam), {client.right, client.bottom}, m_foreColor, RGB(255, 255, 255));
+        draw(reinterpret_cast<HDC>(wParam), {client.right, client.bottom}, m_foreColor, kGlyphWhite);
         return 0;
     }
     case WM_MOUSEMOVE:
-        tell([&] { m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam)); });
+        tell([&] { m_control.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam)); });
         return passOn(message, wParam, lParam);
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
-    case WM_MBUTTONDBLCLK:
-        return button(buttonMessage(message), wParam, lParam);
     case WM_CAPTURECHANGED: {
         LRESULT const result = passOn(message, wParam, lParam);
-        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
-            tell([&] { m_surface.onCaptureLost(); });
+        if (isCaptureLost(m_window, lParam))
+            tell([&] { m_control.onCaptureLost(); });
         return result;
     }
     case WM_MOUSELEAVE: {
         LRESULT const result = passOn(message, wParam, lParam);
-        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
-            tell([&] { m_surface.onMouseLeft(); });
+        if (!hasMouseCapture(m_window)) // with the capture it hears the move that leaves
+            tell([&] { m_control.onMouseLeft(); });
         return result;
     }
     case WM_KEYDOWN:
@@ -144,14 +138,14 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CHAR:
         return key(message, wParam, lParam);
     case WM_GETOBJECT:
-        if (auto const object = m_surface.accessibility().answer(m_window, wParam, lParam))
+        if (auto const object = m_control.accessibility().answer(m_window, wParam, lParam))
             return *object;
         return passOn(message, wParam, lParam);
     case WM_SETFOCUS:
         return gotFocus(wParam, lParam);
     case WM_KILLFOCUS:
         return lostFocus(wParam, lParam);
-    case BM_SETCHECK: // from somebody who knows the window alone
+    case BM_SETCHECK: // from code that knows the window alone
         store(m_kind == InnerKind::Option ? wParam != 0 : std::min<long>(static_cast<long>(wParam), 2));
         return 0;
     case WM_SETTEXT:
@@ -179,11 +173,11 @@ LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPar
     MouseArguments const mouse = mouseArguments(row.button, wParam, lParam);
     switch (row.what) {
     case ButtonMessage::What::Down:
-        if (!tellAndStay([&] { m_surface.onMouseDown(mouse); }))
+        if (!tellAndStay([&] { m_control.onMouseDown(mouse); }))
             return 0;
         break;
     case ButtonMessage::What::Up:
-        tell([&] { m_surface.onMouseUp(mouse); });
+        tell([&] { m_control.onMouseUp(mouse); });
         return passOn(row.message, wParam, lParam);
     case ButtonMessage::What::Double:
         break;
@@ -207,11 +201,11 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
     short const before = code;
     bool const stays = tellAndStay([&] {
         if (message == WM_CHAR)
-            m_surface.onCharacter(code);
+            m_control.onCharacter(code);
         else if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
-            m_surface.onKeyDown(code, shiftOfKeys());
+            m_control.onKeyDown(code, shiftOfKeys());
         else
-            m_surface.onKeyUp(code, shiftOfKeys());
+            m_control.onKeyUp(code, shiftOfKeys());
     });
     bool const usedUp = before != 0 && code == 0;
     return usedUp || !stays ? 0 : passOn(message, wParam, lParam);
@@ -221,7 +215,7 @@ LRESULT InnerButton::key(UINT message, WPARAM wParam, LPARAM lParam)
 /// the system's own groups.
 bool InnerButton::isClickedByFocus() const noexcept
 {
-    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing && m_surface.userMode();
+    return m_window && m_kind == InnerKind::Option && m_value == 0 && !m_pressing && m_control.userMode();
 }
 
 LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
@@ -229,8 +223,8 @@ LRESULT InnerButton::gotFocus(WPARAM wParam, LPARAM lParam)
     bool const pressing = std::exchange(m_pressing, true); // the system's own click by focus does not count
     LRESULT const result = passOnUnseen(WM_SETFOCUS, wParam, lParam);
     m_pressing = pressing;
-    if (reinterpret_cast<HWND>(wParam) != m_surface.window().existing())
-        tell([&] { m_surface.inPlace().focusGained(); });
+    if (reinterpret_cast<HWND>(wParam) != m_control.window().existing())
+        tell([&] { m_control.inPlace().focusGained(); });
     refresh();
     if (isClickedByFocus())
         tell([&] { click(); });
@@ -241,10 +235,10 @@ LRESULT InnerButton::lostFocus(WPARAM wParam, LPARAM lParam)
 {
     LRESULT const result = passOnUnseen(WM_KILLFOCUS, wParam, lParam);
     refresh();
-    if (reinterpret_cast<HWND>(wParam) == m_surface.window().existing())
+    if (reinterpret_cast<HWND>(wParam) == m_control.window().existing())
         return result;
-    tell([&] { m_surface.onLostFocus(); });
-    tell([&] { m_surface.inPlace().focusLost(); });
+    tell([&] { m_control.onLostFocus(); });
+    tell([&] { m_control.inPlace().focusLost(); });
     return result;
 }
 

@@ -119,7 +119,7 @@ void drawGlyph(HDC dc, long height, GlyphLook const& look)
                         reinterpret_cast<BITMAPINFO const*>(&info), DIB_RGB_COLORS);
 }
 
-/// Once more: only black stops a fill, which has gone over it.
+/// Writes the grey mark again: only black stops the fill, which has gone over it.
 void drawThirdStateMark(HDC dc, long height)
 {
     POINT const at = glyphAt(height);
@@ -159,7 +159,7 @@ void drawCaption(HDC dc, SIZE size, InnerLook const& look)
     RECT const all = {kCaptionLeft - 1, 0, size.cx, size.cy};
     ::InflateRect(&text, 1, 1);
     ::IntersectRect(&text, &text, &all);
-    ::SetTextColor(dc, kBlack); // the frame takes the place of every other pixel by the text's colour
+    ::SetTextColor(dc, kBlack); // the focus frame is drawn in the text's colour, on every other pixel
     ::DrawFocusRect(dc, &text);
 }
 

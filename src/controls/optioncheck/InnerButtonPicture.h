@@ -9,16 +9,16 @@
 
 namespace quillet {
 
-/// Where a caption stands, kept from paint to paint: measuring costs as much as writing. Whoever changes the
-/// caption or its font empties it.
+/// Where a caption stands, measured once for many paints, as measuring costs as much as writing. Whoever
+/// changes the caption or its font empties it.
 struct CaptionPlace {
     SIZE size;
     RECT text;
 };
 
-/// What a glyph is filled with: as a rule, and to shade it under the cursor or while disabled.
+/// What a glyph is filled with: white, or the shade of one that is hot or disabled.
 inline constexpr COLORREF kGlyphWhite = RGB(255, 255, 255);
-inline constexpr COLORREF kGlyphShade = RGB(192, 192, 192); // of the stock brush
+inline constexpr COLORREF kGlyphShade = RGB(192, 192, 192); // LTGRAY_BRUSH
 
 /// What the circle or square shows. Colours are as GDI draws them.
 struct GlyphLook {
@@ -41,7 +41,7 @@ struct InnerLook {
 /// Paints everything in a rectangle of that size at the DC's origin, without flicker.
 void drawInnerButton(HDC dc, SIZE size, InnerLook const& look);
 
-/// Paints the circle or square alone, where that picture has it, its inside filled with the brush.
+/// Paints the circle or square alone, in the same place, with its inside filled with the brush.
 void drawFilledGlyph(HDC dc, SIZE size, GlyphLook const& look, HBRUSH brush);
 
 } // namespace quillet

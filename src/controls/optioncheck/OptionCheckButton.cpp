@@ -73,7 +73,7 @@ void OptionCheckButton::onCharacter(short& keyAscii)
     raiseEvent(eventid::optionCheck::KeyPress, {Variant::ofShortRef(&keyAscii)});
 }
 
-/// No move tells any more that the mouse leaves a hot button.
+/// Without the capture no move tells that the mouse leaves a hot button.
 void OptionCheckButton::onCaptureLost()
 {
     if (m_hot)

@@ -43,7 +43,7 @@ public:
     HWND accessibleWindow() const noexcept override { return m_inner.existing(); }
     IUnknown* windowMessages() noexcept override { return &m_toolTip; }
 
-    // What the button inside tells; its mouse goes to the handlers above. A key set to 0 is used up.
+    // Handlers of the button inside, whose mouse goes to the handlers above. A key set to 0 goes no further.
     void onKeyDown(short& keyCode, short shift);
     void onKeyUp(short& keyCode, short shift);
     void onCharacter(short& keyAscii);
@@ -60,7 +60,7 @@ protected:
     void refresh();
 
     bool isMouseOver() const { return isUnderCursor(m_inner.existing()); }
-    /// What a move does to the look while the form runs, the event apart.
+    /// Changes the look as a move needs it while the form runs. Raises no event.
     void followMouse(MouseArguments const& mouse);
     void setLastHover(bool over) noexcept { m_lastHover = over; }
 
@@ -84,7 +84,7 @@ private:
     OLE_COLOR m_hotForeColor = 0;
     bool m_lastHover = false;   ///< whether the cursor was over the button at the last mouse move
     bool m_hot = false;         ///< the look last shown
-    bool m_recolouring = false; ///< the caption takes its colour within a paint
+    bool m_recolouring = false; ///< a paint is giving the caption another colour
     ToolTipUser m_toolTip{*this};
 };
 

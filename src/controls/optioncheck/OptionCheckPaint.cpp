@@ -21,11 +21,11 @@ void OptionCheckButton::onPaint()
     showState(userMode() && isMouseOver());
 }
 
-/// The inner button has painted itself, so its glyph is white again and its mark where it belongs.
+/// The inner button has painted itself with a white glyph: shades it again where that is due.
 void OptionCheckButton::onInnerPainted()
 {
     if (m_recolouring)
-        return; // the paint that wanted the colour goes on from here
+        return; // within showCaption, whose caller goes on with the glyph
     if (!enabled())
         FillOptionGlyph(true);
     else
@@ -71,7 +71,7 @@ void OptionCheckButton::drawElsewhere()
 
 void OptionCheckButton::refresh()
 {
-    m_inner.refresh(); // which ends in showing its state
+    m_inner.refresh(); // whose painting ends in showing the state
     if (!enabled())
         repaint();
 }

@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// What neither needs to be told apart for: both fill a place on a form and none is pressed by Enter.
+/// OLEMISC flags of both: they fill a place on a form, and Enter presses neither.
 inline constexpr DWORD kOptionCheckStatus = OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
                                             OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
                                             OLEMISC_CANTLINKINSIDE;
@@ -25,8 +25,8 @@ inline InnerButton const& innerOf(Surface const& surface)
 
 /// What the inner button keeps.
 struct InnerAccess {
-    /// The colour that is shown. The user's changes first: a shown button paints within, and goes by that
-    /// one.
+    /// The colour that is shown. The property's own colour changes first: the inner button repaints at once,
+    /// and the paint goes by that one.
     static constexpr PropertyAccess kForeColor = {
         [](Surface const& s) { return fieldValue(innerOf(s).foreColor()); },
         [](Surface& s, Variant const& v) {

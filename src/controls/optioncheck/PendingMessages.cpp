@@ -1,4 +1,4 @@
-// Letting the messages that wait run, in the middle of something.
+// Handling waiting messages in the middle of something else.
 #include "controls/optioncheck/PendingMessages.h"
 
 #include "surface/window/ThreadState.h"

@@ -1,11 +1,11 @@
-// Letting the messages that wait run, in the middle of something.
+// Handling waiting messages in the middle of something else.
 #pragma once
 
 namespace quillet {
 
-/// Handles the thread's waiting messages, input apart, until there are none. Whatever they lead to happens
-/// before this comes back: the caller may have lost its window, or more. Within itself it does nothing:
-/// whoever began it goes on to the messages that came meanwhile.
+/// Handles the thread's waiting messages but for input, until there are none. The caller may find its window
+/// destroyed, or more, when this comes back. Called while it runs it does nothing, as the call that is
+/// running goes on with the messages that came meanwhile.
 void letMessagesRun();
 
 } // namespace quillet

@@ -50,7 +50,7 @@ void qvFlatOption::onReadProperties(PropertyBag& bag)
 
 void qvFlatOption::onMouseMove(MouseArguments const& mouse)
 {
-    // Raised twice while the form runs: that is how hosts know this control.
+    // Raised twice while the form runs, as hosts expect of this control.
     bool const running = userMode();
     if (running) {
         followMouse(mouse);
@@ -82,14 +82,14 @@ void qvFlatOption::onClick()
     raiseEvent(eventid::optionCheck::Click);
 }
 
-/// The focus that an access key brings may have chosen the option already.
+/// An access key brings the focus along, which may have chosen the option already.
 void qvFlatOption::onAccessKeyPress(short)
 {
     if (innerButton().value() == 0)
         doClick();
 }
 
-/// Chosen while it was being loaded, an option has not read the host's setting yet and leaves it alone.
+/// An option that is chosen while it is being loaded has not read the host's setting yet and leaves it alone.
 void qvFlatOption::giveTabStopBack() const noexcept
 {
     if (m_savedTabStop)
@@ -112,7 +112,7 @@ void qvFlatOption::clearSiblings() noexcept
     });
 }
 
-/// Containers that do not tell their windows count as one.
+/// Containers that do not tell their windows count as the same one.
 bool qvFlatOption::IsSameContainer(IUnknown* sibling) const noexcept
 {
     return orFallback(true, [&] {

@@ -17,7 +17,7 @@ std::optional<LRESULT> Accessibility::answer(HWND window, WPARAM request, LPARAM
 void Accessibility::propertyChanged(DISPID property) const noexcept
 {
     ControlClass const& own = m_surface.controlClass();
-    if (property == DISPID_UNKNOWN) // no member at all
+    if (property == DISPID_UNKNOWN) // the control has no such property
         return;
     if (property == own.caption)
         tell(EVENT_OBJECT_NAMECHANGE);

@@ -19,11 +19,11 @@ public:
     Accessibility(Accessibility const&) = delete;
     Accessibility& operator=(Accessibility const&) = delete;
 
-    /// The answer to a window's WM_GETOBJECT that asks for the control; every other is the system's to
-    /// answer.
+    /// The answer to a window's WM_GETOBJECT that asks for the control; nothing for those that the system
+    /// answers.
     std::optional<LRESULT> answer(HWND window, WPARAM request, LPARAM what);
 
-    /// For whoever listens to the desktop's events; costs nothing while nobody does.
+    /// Tells those who listen to the desktop's events.
     void propertyChanged(DISPID property) const noexcept;
     void stateChanged() const noexcept;
 

@@ -21,7 +21,7 @@ std::wstring toolTipOf(Surface const& surface)
     return std::wstring(orFallback(Bstr(), text).view());
 }
 
-/// Texts that there are not are answered with S_FALSE.
+/// Answers S_FALSE for an empty text.
 HRESULT answer(BSTR* out, std::wstring const& text)
 {
     if (text.empty())
@@ -30,7 +30,7 @@ HRESULT answer(BSTR* out, std::wstring const& text)
     return S_OK;
 }
 
-/// The object itself where it is what was asked for, else nothing.
+/// Answers the object itself, or that there is none.
 HRESULT answerSelf(VARIANT* out, bool self)
 {
     *out = (self ? Variant::ofLong(CHILDID_SELF) : Variant()).detach();
@@ -176,7 +176,7 @@ HRESULT AccessibleObject::get_accChild(VARIANT child, IDispatch** found)
     });
 }
 
-/// A button that shows a picture alone is called by its tooltip.
+/// A button without a caption has its tooltip for a name.
 HRESULT AccessibleObject::get_accName(VARIANT child, BSTR* name)
 {
     return call(child, [&](Surface& surface) {
@@ -284,7 +284,7 @@ HRESULT AccessibleObject::accDoDefaultAction(VARIANT child)
     });
 }
 
-// What buttons do not have.
+// Members that buttons have no answer for.
 
 HRESULT AccessibleObject::get_accValue(VARIANT, BSTR* value)
 {

@@ -18,7 +18,7 @@ class Surface;
 struct AccessibleLook {
     LONG role = ROLE_SYSTEM_CLIENT;
     LONG state = 0;
-    std::wstring name; ///< the caption as it is read; empty where there is none
+    std::wstring name; ///< the caption without marks; empty where there is none
     std::wstring accessKey;
     wchar_t const* action = L""; ///< what a click does
 };
@@ -72,7 +72,7 @@ private:
     IUnknown* inheritedInterface(REFIID iid) noexcept override;
 
     template <class Body> HRESULT call(Body&& body) noexcept;
-    /// The same for a member that is asked for the object itself or one of its children, which it has not.
+    /// The same for a member that may be asked about a child, of which there are none.
     template <class Body> HRESULT call(VARIANT const& child, Body&& body) noexcept;
     ITypeInfo& typeInfo();
 

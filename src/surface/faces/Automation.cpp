@@ -14,7 +14,7 @@ namespace quillet {
 
 namespace {
 
-/// The system keeps one copy while anybody holds it.
+/// The system loads it once for all who hold it.
 ComPtr<ITypeLib> ownTypeLibrary()
 {
     std::wstring const path = modulePath();
@@ -27,7 +27,7 @@ ComPtr<ITypeLib> ownTypeLibrary()
 
 wchar_t lowerLetter(wchar_t c) noexcept { return c >= L'A' && c <= L'Z' ? c + (L'a' - L'A') : c; }
 
-/// Published names are plain letters.
+/// Without regard to case: published names are plain letters.
 bool sameName(std::wstring_view a, std::wstring_view b) noexcept
 {
     return std::ranges::equal(a, b, {}, lowerLetter, lowerLetter);

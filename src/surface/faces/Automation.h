@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// Whoever converts arguments takes them as they come: what cannot be read is refused before.
+/// Throws for arguments that cannot be read: converting them relies on their being readable.
 void requireReadable(DISPPARAMS const& arguments);
 
 /// A description from the type library in the component's own file. Throws when that cannot be loaded.

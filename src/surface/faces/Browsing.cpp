@@ -68,7 +68,7 @@ HRESULT Browsing::MapPropertyToPage(DISPID id, CLSID* page)
 {
     return m_surface.call([&] {
         deref(page) = CLSID_NULL;
-        // A browser edits plain values best itself, and offers its page only where there is one.
+        // Only these kinds have a page of their own: a browser edits plain values itself.
         auto const property = find(id);
         for (SpecialPage const& row : kSpecialPages)
             if (property && property->kind == row.kind) {

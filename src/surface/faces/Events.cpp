@@ -34,7 +34,7 @@ HRESULT ConnectionPoint::GetConnectionInterface(IID* iid)
 HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer** container)
 {
     return comCall([&] {
-        deref(container) = nullptr; // before anything is counted for it
+        deref(container) = nullptr; // before anything can throw
         *container = ComPtr<IConnectionPointContainer>(&m_surface.events()).detach();
     });
 }
@@ -108,7 +108,7 @@ void Events::raise(DISPID event, std::initializer_list<Variant> arguments)
     std::for_each(std::rbegin(arguments), std::rend(arguments),
                   [&](Variant const& argument) { reversed.push_back(argument.get()); });
     for (auto const& [sink, cookie] : m_eventPoint.snapshot()) {
-        if (m_ended) // by the sink before
+        if (m_ended) // by a sink that was called before this one
             return;
         DISPPARAMS parameters = {reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
         Variant result;

@@ -27,7 +27,7 @@ public:
     STDMETHODIMP Unadvise(DWORD cookie) override;
     STDMETHODIMP EnumConnections(IEnumConnections** enumerator) override;
 
-    /// The sinks of this moment: whoever leaves or joins during a call-out does not disturb the walk.
+    /// A copy of the list, as sinks may leave or join while they are called.
     Sinks snapshot() const { return m_sinks; }
     bool empty() const noexcept { return m_sinks.empty(); }
     IID const& sinkId() const noexcept { return m_sinkId; }
@@ -47,15 +47,15 @@ public:
     STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** enumerator) override;
     STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** point) override;
 
-    /// Raises an event at every sink; arguments in their declared order. What a sink answers is its own.
+    /// Raises an event at every sink; arguments in their declared order. What a sink answers is ignored.
     void raise(DISPID event, std::initializer_list<Variant> arguments);
     /// Tells who listens that a property changed.
     void notifyChanged(DISPID property);
 
     /// A flag, not a count: containers freeze twice and thaw once.
     void freeze(bool frozen) noexcept { m_frozen = frozen; }
-    /// The container has done with the control, and its sinks may expect nothing any more: no event, not even
-    /// the rest of what the message that led here would raise, until a site or an activation begins it anew.
+    /// The container has closed the control. Nothing is raised from here on, not even the rest of what the
+    /// message being handled would raise, until a site or an activation begins it anew.
     void end() noexcept { m_ended = true; }
     void begin() noexcept { m_ended = false; }
     void disconnect() noexcept;

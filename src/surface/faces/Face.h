@@ -11,7 +11,7 @@ class Surface;
 
 /// The outer object of a surface: the surface's own identity, or its aggregator's.
 IUnknown* outerOf(Surface const& surface) noexcept;
-/// Asks the outer object for an interface; for what is the component's own the surface itself.
+/// Asks the outer object for an interface; the surface itself for the one that no aggregator knows.
 HRESULT queryFace(Surface& surface, REFIID iid, void** object) noexcept;
 
 /// Implements IUnknown for one or several interfaces of a surface by handing it on to the outer object.

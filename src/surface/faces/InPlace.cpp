@@ -91,7 +91,7 @@ InPlace::Stage InPlace::stage(HWND offered) const
 {
     ComPtr<IOleClientSite> const client = m_surface.container().site();
     auto site = query<IOleInPlaceSite>(client.get());
-    // A site that cannot answer has not refused.
+    // Only S_FALSE is a refusal: a site that fails may still be activated in.
     if (!site || site->CanInPlaceActivate() == S_FALSE)
         throw RunTimeError(E_FAIL);
     HWND parent = nullptr;
@@ -110,7 +110,7 @@ void InPlace::activateVisibly(Offer const& offer)
         return;
     }
     auto const [site, parent] = stage(offer.parent);
-    if (m_active) { // the container did it while it was asked
+    if (m_active) { // the container has activated it while it was asked
         m_surface.window().show();
         return;
     }

@@ -13,7 +13,7 @@ namespace quillet {
 class InPlace final : public Face<IOleInPlaceObject, IOleInPlaceActiveObject> {
 public:
     enum class Activation { Visible, WithFocus };
-    /// What a verb brings along, for sites that say nothing themselves. Both may be null.
+    /// What a container gives with a verb: used where its site tells nothing. Both may be null.
     struct Offer {
         HWND parent;
         RECT const* position;
@@ -56,7 +56,7 @@ public:
     RECT const& position() const noexcept { return m_position; }
 
 private:
-    /// A site that lets the control be activated, and the window to be in.
+    /// Where the control is to be activated: the site, and the window that the control's is to be in.
     struct Stage {
         ComPtr<IOleInPlaceSite> site;
         HWND parent;
@@ -75,7 +75,7 @@ private:
     ComPtr<IOleInPlaceUIWindow> m_document;
     bool m_active = false;     ///< shown in the container's window
     bool m_keyboard = false;   ///< UI-active
-    bool m_leaving = false;    ///< the keyboard is not taken again by an activation that ends
+    bool m_leaving = false;    ///< the activation is ending: the keyboard is not taken again
     unsigned m_activation = 0; ///< tells one activation from the next
     RECT m_position = {};
 };

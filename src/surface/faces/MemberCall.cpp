@@ -13,7 +13,7 @@ namespace {
 
 constexpr WORD kAssignment = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
-/// Calls a function of the vtable. Pointers to whatever type are passed alike.
+/// Calls a function of the vtable. Pointers to all types are passed in the same way.
 template <class... Arguments> HRESULT callSlot(IDispatch& dual, unsigned slot, Arguments... arguments)
 {
     using Function = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, Arguments...);
@@ -32,7 +32,7 @@ bool isObject(VARIANT const& argument) noexcept
     return type == VT_DISPATCH || type == VT_UNKNOWN;
 }
 
-/// Takes what a member failed with from the thread, for the host.
+/// Moves the error information of a member that failed from the thread to the host's structure.
 HRESULT asException(HRESULT failed, EXCEPINFO* exception) noexcept
 {
     ComPtr<IErrorInfo> info;
@@ -102,7 +102,8 @@ private:
         VARIANT& answer = *value.address();
         if (m_member.type == VT_VARIANT)
             return answered(value, callSlot(m_dual, m_slot, static_cast<void*>(&answer)));
-        HRESULT const done = callSlot(m_dual, m_slot, static_cast<void*>(&answer.byref)); // all begin there
+        HRESULT const done =
+            callSlot(m_dual, m_slot, static_cast<void*>(&answer.byref)); // where every field is
         if (SUCCEEDED(done)) // script hosts refuse unsigned numbers
             answer.vt = m_member.type == VT_UI4 ? VARTYPE{VT_I4} : m_member.type;
         return answered(value, done);
@@ -115,7 +116,7 @@ private:
         return done;
     }
 
-    /// By reference a plain value is assigned like by value: some hosts know no other assignment.
+    /// A plain value is assigned by reference as by value: some hosts know no other assignment.
     HRESULT put()
     {
         require(kAssignment);
@@ -183,7 +184,7 @@ private:
         bool const eitherSign = m_member.type == VT_UI4;
         VARTYPE const type = eitherSign ? VARTYPE{VT_I4} : m_member.type;
         if (given.vt == type)
-            return Variant::copyOf(given); // the system takes far longer to change nothing
+            return Variant::copyOf(given); // the system's conversion to the same type takes far longer
         Variant value;
         HRESULT done = changed(value, given, type);
         if (done == DISP_E_OVERFLOW && eitherSign)

@@ -51,7 +51,7 @@ HRESULT OleObject::SetClientSite(IOleClientSite* site)
         if (site)
             m_surface.events().begin();
         else if (isLost)
-            m_surface.events().end(); // also where closing led to another activation
+            m_surface.events().end(); // also where closing has led to another activation
     });
 }
 

@@ -1,4 +1,4 @@
-// IQuickActivate: what a container else sets up in a dozen calls, in one.
+// IQuickActivate: one call for what a container otherwise sets up in a dozen.
 #include "surface/faces/QuickActivation.h"
 
 #include "base/RunTimeError.h"

@@ -1,4 +1,4 @@
-// IQuickActivate: what a container else sets up in a dozen calls, in one.
+// IQuickActivate: one call for what a container otherwise sets up in a dozen.
 #pragma once
 
 #include "surface/faces/Face.h"

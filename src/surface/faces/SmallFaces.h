@@ -39,8 +39,8 @@ private:
     ComPtr<IUnknown> m_site;
 };
 
-/// IObjectSafety: saved data from anywhere is read with care; untrusted callers are refused, as a member
-/// that takes raw message parameters cannot be made safe for them.
+/// IObjectSafety: the control is safe for data from anywhere, and not safe for callers that are not trusted,
+/// as WindowProc takes message parameters with addresses in them.
 class ObjectSafety final : public Face<IObjectSafety> {
 public:
     using Face::Face;

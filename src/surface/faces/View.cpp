@@ -9,7 +9,8 @@ namespace quillet {
 
 namespace {
 
-/// The bytes of a picture of a size above 0. Some systems' own products overflow for one that is too large.
+/// The bytes of a picture of a size above 0. Throws for one so large that some systems' own arithmetic would
+/// overflow.
 DWORD bytesOf(SIZE size)
 {
     constexpr LONG kMost = 0x7FFFFFFF;

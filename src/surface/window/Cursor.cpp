@@ -35,7 +35,7 @@ bool isUnderCursor(HWND window)
     CursorMoment const* const moment = threadState().cursorMoment;
     POINT const cursor = moment ? moment->cursor() : cursorNow();
     RECT place = {};
-    // The place rules most windows out without a search, which costs as much as a fill.
+    // Comparing places comes first: it spares most windows the search, which costs as much as a fill.
     return ::GetWindowRect(window, &place) && ::PtInRect(&place, cursor) &&
            ::WindowFromPoint(cursor) == window;
 }

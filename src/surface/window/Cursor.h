@@ -8,13 +8,12 @@ namespace quillet {
 /// Whether the window, and no other window over it, is what lies under the cursor.
 bool isUnderCursor(HWND window);
 
-/// Has Windows send the window WM_MOUSELEAVE as soon as the cursor is not over it any more; where it is not
-/// now, at once.
+/// Has WM_MOUSELEAVE sent to the window as soon as the cursor is not over it; at once where it is not now.
 void awaitLeaving(HWND window);
 
-/// While one lives, the cursor is where it was at its beginning, as far as no message has told its thread of
-/// another place. Controls that are painted one after another need to know no more, and asking each time can
-/// cost as much as half a paint, as some systems have to ask their display.
+/// While one lives, the cursor counts as being where it was at the beginning, until a message tells the
+/// thread of another place. For controls that are painted one after another: on systems that have to ask
+/// their display, asking each time costs as much as half a paint.
 class CursorMoment {
 public:
     CursorMoment();

@@ -1,7 +1,6 @@
 // Mouse messages taken apart: which button, what happened to it, and the arguments of a mouse event.
 #include "surface/window/MouseMessage.h"
 
-#include "base/Compiler.h"
 #include "base/Scale.h"
 
 #include <windowsx.h>
@@ -38,12 +37,12 @@ short shiftOfMouse(WPARAM keys) noexcept
 
 } // namespace
 
-ButtonMessage const& buttonMessage(UINT message) noexcept
+ButtonMessage const* buttonMessage(UINT message) noexcept
 {
     for (ButtonMessage const& row : kMessages)
         if (row.message == message)
-            return row;
-    unreachable();
+            return &row;
+    return nullptr;
 }
 
 short heldButtons(WPARAM keys) noexcept

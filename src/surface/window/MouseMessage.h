@@ -27,8 +27,8 @@ struct ButtonMessage {
     enum class What { Down, Up, Double } what;
 };
 
-/// The row of a button's message, which it has to be.
-ButtonMessage const& buttonMessage(UINT message) noexcept;
+/// The row of a message; null for one that no mouse button causes.
+ButtonMessage const* buttonMessage(UINT message) noexcept;
 
 /// The buttons held, as mouse messages tell them.
 short heldButtons(WPARAM keys) noexcept;

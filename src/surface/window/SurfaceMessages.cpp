@@ -3,6 +3,7 @@
 #include "saving/StandardPicture.h"
 #include "surface/Surface.h"
 #include "surface/window/Cursor.h"
+#include "surface/window/MouseCapture.h"
 #include "surface/window/MouseMessage.h"
 #include "surface/window/SurfaceWindow.h"
 
@@ -48,6 +49,10 @@ LRESULT SurfaceWindow::passOn(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (ButtonMessage const* const row = buttonMessage(message)) {
+        button(*row, wParam, lParam);
+        return 0;
+    }
     switch (message) {
     case WM_PAINT:
         paint();
@@ -61,29 +66,18 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_MOUSEMOVE:
         if (!(wParam & MK_LBUTTON))
-            m_clickBegun = false; // it came up somewhere else
+            m_clickBegun = false; // the button came up somewhere else
         m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam));
         return 0;
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONUP:
-    case WM_MBUTTONDBLCLK:
-        button(message, wParam, lParam);
-        return 0;
     case WM_CAPTURECHANGED:
-        if (reinterpret_cast<HWND>(lParam) != m_window) // some systems tell of taking what one has already
+        if (isCaptureLost(m_window, lParam))
             captureLost();
         return 0;
     case WM_CANCELMODE:
         m_clickBegun = false;
         return passOn(message, wParam, lParam);
     case WM_MOUSELEAVE:
-        if (::GetCapture() != m_window) // whoever has it hears the move that leaves
+        if (!hasMouseCapture(m_window)) // with the capture it hears the move that leaves
             mouseLeft();
         return 0;
     case WM_COMMAND:
@@ -130,7 +124,8 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     }
     case WM_NCDESTROY: { // somebody destroyed a window above this one
-        // Its last message to us, also where somebody made it up: the next window must not hear of its end.
+        // The window's last message: from here on it is not ours, also where somebody made the message up, so
+        // that its end does not reach the next window.
         ::SetWindowLongPtrA(m_window, 0, 0);
         LRESULT const result = passOn(message, wParam, lParam);
         lost();
@@ -148,12 +143,11 @@ void SurfaceWindow::paint()
     m_surface.onPaint();
 }
 
-void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
+void SurfaceWindow::button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam)
 {
-    ButtonMessage const& row = buttonMessage(message);
     bool const left = row.button == MouseButtons::kLeft;
     switch (row.what) {
-    case ButtonMessage::What::Double: // of the others only a second press
+    case ButtonMessage::What::Double: // of the other buttons it is a second press
         if (left) {
             m_surface.onDblClick();
             return;
@@ -170,7 +164,7 @@ void SurfaceWindow::button(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-/// A press is over as soon as its release can go elsewhere.
+/// The press of a click. It ends in no click once its release can go to another window.
 void SurfaceWindow::beginClick()
 {
     m_clickBegun = true;
@@ -208,7 +202,7 @@ void SurfaceWindow::setCursor() const
     short const pointer = m_surface.mousePointer();
     bool const named = pointer >= 0 && pointer < static_cast<short>(std::size(kCursors));
     HCURSOR const custom = pointer == kCustomPointer ? cursorOf(m_surface.mouseIcon()) : nullptr;
-    WORD const system = kCursors[named ? pointer : 0]; // the arrow for a number that names none
+    WORD const system = kCursors[named ? pointer : 0]; // the arrow where no pointer has the number
     ::SetCursor(custom ? custom : ::LoadCursorA(nullptr, MAKEINTRESOURCEA(system)));
 }
 

@@ -37,8 +37,7 @@ void SurfaceWindow::create(HWND parent)
     WindowClass const own = surfaceClass();
     own.require(surfaceDescription(&SurfaceWindow::procedure));
     HWND const parking = enterParking();
-    // The rectangle counts in the container's window: whoever lays out at the first size has to hear of it
-    // there.
+    // Made at its place in the container's window, so that the first change of size is told there.
     RECT const place = parent ? m_surface.inPlace().position() : RECT{0, 0, m_size.cx, m_size.cy};
     m_window = ::CreateWindowExA(WS_EX_NOPARENTNOTIFY, own.name(), nullptr,
                                  WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
@@ -50,17 +49,17 @@ void SurfaceWindow::create(HWND parent)
         leaveParking();
         throw reason;
     }
-    // A form that is laid out from right to left hands that on. Controls have no such layout: points in them
-    // count from the left.
+    // Windows inherit the layout from right to left of their form. Controls do without: their points count
+    // from the left.
     LONG const style = ::GetWindowLongA(m_window, GWL_EXSTYLE);
     if (style & WS_EX_LAYOUTRTL)
         ::SetWindowLongA(m_window, GWL_EXSTYLE, style & ~WS_EX_LAYOUTRTL);
     ::SetWindowLongPtrA(m_window, 0, reinterpret_cast<LONG_PTR>(this));
     m_surface.onWindowMade();
-    ignoringErrors([&] { sized(); }); // Windows told of it before the surface could be found
+    ignoringErrors([&] { sized(); }); // WM_SIZE came before the surface could be found
 }
 
-/// Tells the surface of a change of its size: Windows may tell of the same one more than once.
+/// Tells the surface of a change of its size. Windows may send WM_SIZE without one.
 void SurfaceWindow::sized()
 {
     SIZE const size = clientSize();
@@ -109,7 +108,7 @@ void SurfaceWindow::park() noexcept
     if (!m_window)
         return;
     ::ShowWindow(m_window, SW_HIDE);
-    if (m_surface.inPlace().isActive()) // again, by what hiding led to
+    if (m_surface.inPlace().isActive()) // hiding has led to another activation
         ignoringErrors([&] { show(); });
     else if (m_window)
         ignoringErrors([&] {
@@ -194,7 +193,7 @@ void SurfaceWindow::destroy() noexcept
     leaveParking();
 }
 
-/// Everything that was the window's own goes with it.
+/// Forgets the window and everything that goes with it.
 HWND SurfaceWindow::forget() noexcept
 {
     m_dc = nullptr;

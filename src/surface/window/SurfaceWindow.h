@@ -6,6 +6,7 @@
 namespace quillet {
 
 class Surface;
+struct ButtonMessage;
 
 class SurfaceWindow {
 public:
@@ -32,8 +33,7 @@ public:
     void show();
     void hide() noexcept;
     void takeFocus();
-    /// Whether the window has the keyboard. What its messages said is no answer: hosts forge and swallow
-    /// them.
+    /// Whether the window has the keyboard: asked of Windows, as hosts forge and swallow focus messages.
     bool hasFocus() const noexcept { return m_window && ::GetFocus() == m_window; }
     void enable(bool enabled) noexcept;
     void destroy() noexcept;
@@ -51,7 +51,7 @@ private:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
-    void button(UINT message, WPARAM wParam, LPARAM lParam);
+    void button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam);
     void beginClick();
     void release(short button, WPARAM wParam, LPARAM lParam);
     void captureLost();
@@ -63,9 +63,9 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
-    SIZE m_size = {};          ///< the surface's, as it was last told; the next window begins with it
+    SIZE m_size = {};          ///< as the surface was last told; the next window is made in it
     bool m_clipped = false;    ///< a region cuts off what the container does not show
-    bool m_clickBegun = false; ///< the left button went down here, and its release is to come here
+    bool m_clickBegun = false; ///< the left button went down here, and no release can have gone elsewhere
 };
 
 } // namespace quillet

@@ -13,24 +13,26 @@ WindowClass::WindowClass(char const* kind) noexcept
     ::wsprintfW(m_wideName, L"%S:%p", kind, module);
 }
 
-void WindowClass::require(WNDCLASSEXA description) const
+template <class Description, class Character>
+void WindowClass::require(Description description, Character const* name,
+                          ATOM(WINAPI* registerClass)(Description const*)) const
 {
     if (isRegistered())
         return;
     description.hInstance = moduleInstance();
-    description.lpszClassName = m_name;
-    if (!::RegisterClassExA(&description))
+    description.lpszClassName = name;
+    if (!registerClass(&description))
         throw lastError();
 }
 
-void WindowClass::require(WNDCLASSEXW description) const
+void WindowClass::require(WNDCLASSEXA const& description) const
 {
-    if (isRegistered())
-        return;
-    description.hInstance = moduleInstance();
-    description.lpszClassName = m_wideName;
-    if (!::RegisterClassExW(&description))
-        throw lastError();
+    require(description, m_name, &::RegisterClassExA);
+}
+
+void WindowClass::require(WNDCLASSEXW const& description) const
+{
+    require(description, m_wideName, &::RegisterClassExW);
 }
 
 void WindowClass::unregister() const noexcept { ::UnregisterClassA(m_name, moduleInstance()); }

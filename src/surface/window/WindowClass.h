@@ -14,14 +14,17 @@ public:
     char const* name() const noexcept { return m_name; }
     wchar_t const* wideName() const noexcept { return m_wideName; }
 
-    /// Registers the class, once, as described but for its name and its module. Which of the two description
-    /// it is decides what character set its windows have.
-    void require(WNDCLASSEXA description) const;
-    void require(WNDCLASSEXW description) const;
+    /// Registers the class where that has not been done, as described but for its name and its module. The
+    /// kind of description decides which character set its windows have.
+    void require(WNDCLASSEXA const& description) const;
+    void require(WNDCLASSEXW const& description) const;
     /// For the entry point, when the component goes.
     void unregister() const noexcept;
 
 private:
+    template <class Description, class Character>
+    void require(Description description, Character const* name,
+                 ATOM(WINAPI* registerClass)(Description const*)) const;
     bool isRegistered() const noexcept;
 
     char m_name[40];
