@@ -38,7 +38,7 @@ def linked_files(maps):
         found |= set(re.findall(r"^(/\S+?\.a)\(", taken, re.MULTILINE))
         loaded = path.read_text(encoding="utf-8", errors="replace")
         found |= set(re.findall(r"^LOAD (/\S+/\w+\.o)$", loaded, re.MULTILINE))
-    return sorted({pathlib.Path(name).resolve() for name in found})
+    return sorted(path for path in {pathlib.Path(name).resolve() for name in found} if not path.is_relative_to(ROOT))
 
 
 def package_of(path):
