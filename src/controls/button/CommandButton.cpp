@@ -50,6 +50,13 @@ void CommandButton::onWindowMade()
     m_toolTip.windowMade(hWnd());
 }
 
+/// Shown, a window is to be painted as a whole; so it is, at once, and need not be a second time.
+void CommandButton::onShow()
+{
+    window().forestallPaint();
+    repaint();
+}
+
 /// Without the capture no move tells that the mouse leaves a hot button.
 void CommandButton::onCaptureLost()
 {

@@ -39,7 +39,7 @@ public:
     void onMouseUp(MouseArguments const& mouse) override;
     void onKeyPress(short keyAscii) override;
     void onAccessKeyPress(short keyAscii) override;
-    void onShow() override { repaint(); }
+    void onShow() override;
     void onTerminate() override { m_toolTip.Terminate(); }
     void onWindowMade() override;
     bool watchesFocus() const noexcept override { return !m_toolTip.isRunning(); }

@@ -34,6 +34,8 @@ HCURSOR cursorOf(IUnknown* object) noexcept
 LRESULT CALLBACK SurfaceWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     auto* const self = reinterpret_cast<SurfaceWindow*>(::GetWindowLongPtrA(window, 0));
+    if (message == WM_NCCREATE) // all that the system would do is to give the window an empty title
+        return TRUE;
     if (!self)
         return ::DefWindowProcA(window, message, wParam, lParam);
     auto const alive = self->m_surface.keepAlive();
@@ -138,8 +140,7 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
 
 void SurfaceWindow::paint()
 {
-    // A paint is always of the whole surface, and never of the button inside.
-    ::RedrawWindow(m_window, nullptr, nullptr, RDW_VALIDATE | RDW_NOINTERNALPAINT | RDW_NOCHILDREN);
+    validate();
     m_surface.onPaint();
 }
 

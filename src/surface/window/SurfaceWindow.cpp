@@ -28,6 +28,18 @@ WNDCLASSEXA surfaceDescription(WNDPROC procedure) noexcept
     return description;
 }
 
+/// Whether a window further out may still draw its background over what stands in it: a form that opens is
+/// painted before its controls, but after they have appeared.
+bool mayBePaintedOver(HWND window) noexcept
+{
+    while (::GetWindowLongA(window, GWL_STYLE) & WS_CHILD) {
+        window = ::GetAncestor(window, GA_PARENT);
+        if (!(::GetWindowLongA(window, GWL_STYLE) & WS_CLIPCHILDREN))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 void SurfaceWindow::unregisterClass() noexcept { surfaceClass().unregister(); }
@@ -144,7 +156,25 @@ void SurfaceWindow::clipTo(RECT const* clip)
     }
 }
 
-void SurfaceWindow::show() { ::ShowWindow(handle(), SW_SHOWNA); }
+void SurfaceWindow::show()
+{
+    // There is nothing to erase, so nobody has to be asked for it at once.
+    constexpr UINT kShownAsItIs =
+        SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOMOVE | SWP_NOSIZE;
+    ::SetWindowPos(handle(), nullptr, 0, 0, 0, 0, kShownAsItIs);
+}
+
+void SurfaceWindow::forestallPaint() noexcept
+{
+    if (!mayBePaintedOver(m_window))
+        validate();
+}
+
+/// A paint is always of the whole surface, and never of the button inside.
+void SurfaceWindow::validate() noexcept
+{
+    ::RedrawWindow(m_window, nullptr, nullptr, RDW_VALIDATE | RDW_NOINTERNALPAINT | RDW_NOCHILDREN);
+}
 
 void SurfaceWindow::hide() noexcept
 {

@@ -32,6 +32,9 @@ public:
     void move(RECT const* clip);
     void show();
     void hide() noexcept;
+    /// For whoever is about to paint the whole window without being asked: takes back what Windows still
+    /// wants painted of it, unless that may yet be painted over.
+    void forestallPaint() noexcept;
     void takeFocus();
     /// Whether the window has the keyboard: asked of Windows, as hosts forge and swallow focus messages.
     bool hasFocus() const noexcept { return m_window && ::GetFocus() == m_window; }
@@ -51,6 +54,7 @@ private:
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
+    void validate() noexcept;
     void button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam);
     void beginClick();
     void release(short button, WPARAM wParam, LPARAM lParam);
