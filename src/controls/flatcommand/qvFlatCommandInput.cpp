@@ -10,9 +10,12 @@ namespace quillet {
 
 void qvFlatCommand::onMouseMove(MouseArguments const& mouse)
 {
-    if (userMode()) {
+    bool const running = userMode();
+    if (running)
         ignoringErrors(
             [&] { m_looks.toolTipText = container().requiredExtenderProperty(L"ToolTipText").toString(); });
+    CursorMoment const moment(events());
+    if (running) {
         HWND const own = window().existing(); // the container may have closed the button meanwhile
         bool const dragged =
             mouse.button == MouseButtons::kLeft && hasMouseCapture(own) && isOver() != m_lastOver;

@@ -1,5 +1,6 @@
 // An image button's mouse. Everything here happens while the button reacts to the user.
 #include "controls/imagecommand/ImageButton.h"
+#include "surface/window/Cursor.h"
 #include "typelib/DispatchIds.h"
 
 namespace quillet {
@@ -20,6 +21,7 @@ void ImageButton::onMouseMove(MouseArguments const& mouse)
 {
     if (!reacts())
         return;
+    CursorMoment const moment(events());
     bool const changed = enterOrExit(isOver());
     bool const pressLost = mouse.button != MouseButtons::kLeft && isPressed(); // let go outside the button
     if (changed || pressLost)

@@ -2,6 +2,7 @@
 #include "controls/optioncheck/qvFlatCheck.h"
 
 #include "controls/optioncheck/OptionCheckRows.h"
+#include "surface/window/Cursor.h"
 #include "typelib/Guids.h"
 #include "typelib/HelpContexts.h"
 
@@ -35,6 +36,7 @@ void qvFlatCheck::onMouseMove(MouseArguments const& mouse)
 {
     if (!userMode())
         return;
+    CursorMoment const moment(events());
     followMouse(mouse);
     setLastHover(isMouseOver());
     raiseMouseEvent(eventid::optionCheck::MouseMove, mouse);

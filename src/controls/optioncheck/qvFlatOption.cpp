@@ -52,6 +52,7 @@ void qvFlatOption::onMouseMove(MouseArguments const& mouse)
 {
     // Raised twice while the form runs, as hosts expect of this control.
     bool const running = userMode();
+    CursorMoment const moment(events());
     if (running) {
         followMouse(mouse);
         raiseMouseEvent(eventid::optionCheck::MouseMove, mouse);

@@ -101,7 +101,7 @@ HRESULT Events::FindConnectionPoint(REFIID iid, IConnectionPoint** point)
 
 void Events::raise(DISPID event, std::initializer_list<Variant> arguments)
 {
-    if (m_frozen || m_ended || m_eventPoint.empty())
+    if (!areHeard())
         return;
     auto const alive = m_surface.keepAlive();
     std::vector<VARIANT> reversed; // borrowed values, last argument first as automation wants them

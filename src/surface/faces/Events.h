@@ -52,6 +52,8 @@ public:
     /// Tells who listens that a property changed.
     void notifyChanged(DISPID property);
 
+    /// Whether an event reaches anybody.
+    bool areHeard() const noexcept { return !m_frozen && !m_ended && !m_eventPoint.empty(); }
     /// A flag, not a count: containers freeze twice and thaw once.
     void freeze(bool frozen) noexcept { m_frozen = frozen; }
     /// The container has closed the control. Nothing is raised from here on, not even the rest of what the

@@ -1,6 +1,7 @@
 // Where the mouse cursor is.
 #include "surface/window/Cursor.h"
 
+#include "surface/faces/Events.h"
 #include "surface/window/ThreadState.h"
 
 #include <utility>
@@ -18,21 +19,28 @@ POINT cursorNow() noexcept
 
 } // namespace
 
-CursorMoment::CursorMoment()
-    : m_cursor(cursorNow()), m_messagePlace(::GetMessagePos()),
-      m_outer(std::exchange(threadState().cursorMoment, this))
+CursorMoment::CursorMoment() : m_outer(std::exchange(threadState().cursorMoment, this)) {}
+
+CursorMoment::CursorMoment(Events const& raised)
+    : m_outer(std::exchange(threadState().cursorMoment, raised.areHeard() ? nullptr : this))
 {}
 
 CursorMoment::~CursorMoment() { threadState().cursorMoment = m_outer; }
 
-POINT CursorMoment::cursor() const noexcept
+POINT CursorMoment::cursor() noexcept
 {
-    return ::GetMessagePos() == m_messagePlace ? m_cursor : cursorNow();
+    DWORD const messagePlace = ::GetMessagePos();
+    if (!m_asked || messagePlace != m_messagePlace) {
+        m_cursor = cursorNow();
+        m_messagePlace = messagePlace;
+        m_asked = true;
+    }
+    return m_cursor;
 }
 
 bool isUnderCursor(HWND window)
 {
-    CursorMoment const* const moment = threadState().cursorMoment;
+    CursorMoment* const moment = threadState().cursorMoment;
     POINT const cursor = moment ? moment->cursor() : cursorNow();
     RECT place = {};
     // Comparing places comes first: it spares most windows the search, which costs as much as a fill.

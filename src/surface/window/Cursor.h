@@ -5,28 +5,35 @@
 
 namespace quillet {
 
+class Events;
+
 /// Whether the window, and no other window over it, is what lies under the cursor.
 bool isUnderCursor(HWND window);
 
 /// Has WM_MOUSELEAVE sent to the window as soon as the cursor is not over it; at once where it is not now.
 void awaitLeaving(HWND window);
 
-/// While one lives, the cursor counts as being where it was at the beginning, until a message tells the
-/// thread of another place. For controls that are painted one after another: on systems that have to ask
-/// their display, asking each time costs as much as half a paint.
+/// While one lives, the cursor counts as being where it was when first asked for, until a message tells the
+/// thread of another place. For controls that are painted one after another, and for a message that asks more
+/// than once: on systems that have to ask their display, asking each time costs as much as half a paint.
 class CursorMoment {
 public:
+    /// For a walk over a form's controls.
     CursorMoment();
+    /// For one mouse message of a control that raises these events. Whoever listens to them may move the
+    /// cursor, and no message tells of that at once: then there is no such moment.
+    explicit CursorMoment(Events const& raised);
     ~CursorMoment();
     CursorMoment(CursorMoment const&) = delete;
     CursorMoment& operator=(CursorMoment const&) = delete;
 
-    POINT cursor() const noexcept;
+    POINT cursor() noexcept;
 
 private:
-    POINT m_cursor;
-    DWORD m_messagePlace;
-    CursorMoment const* m_outer;
+    bool m_asked = false;
+    POINT m_cursor = {};
+    DWORD m_messagePlace = 0;
+    CursorMoment* m_outer;
 };
 
 } // namespace quillet
