@@ -133,7 +133,7 @@ void readOne(PropertyKind kind, Input& input)
     HostPropertyBag bag(*answering.get(), nullptr);
     Variant const fallback = savedProperty(kind, plainFallback(kind, input.take<BYTE>() % 3));
     try {
-        Variant const loaded = static_cast<PropertyBag&>(bag).readProperty(L"Value", fallback);
+        Variant const loaded = loadedOr(bag, L"Value", fallback);
         if (answering->hasRefused())
             hold(loaded.type() == fallback.type(), "where a bag has nothing it is the default");
         hold(loaded.type() != VT_EMPTY, "a property is always read as some value");

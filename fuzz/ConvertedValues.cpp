@@ -39,7 +39,7 @@ Variant savedAndLoaded(PropertyKind kind, Variant const& kept)
     hold(stream->bytes().size() == written.size(), "the size is told as it is written");
     auto const again = ComPtr<MemoryStream>::adopt(new MemoryStream(stream->bytes()));
     SavedValues read = SavedValues::fromStream(*again.get());
-    return static_cast<PropertyBag&>(read).readProperty(kName, savedProperty(kind, defaultOf(kind)));
+    return loadedOr(read, kName, savedProperty(kind, defaultOf(kind)));
 }
 
 /// Equal values of one kind. Objects come back as other ones, and an empty picture as none.
@@ -62,6 +62,12 @@ bool areEqual(PropertyKind kind, Variant const& a, Variant const& b)
 }
 
 } // namespace
+
+Variant loadedOr(PropertyBag& bag, wchar_t const* name, Variant const& fallback)
+{
+    Variant loaded = bag.readProperty(name, fallback.type());
+    return loaded.type() == VT_EMPTY ? fallback : loaded;
+}
 
 void holdConversion(PropertyKind kind, Variant const& loaded)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Variant.h"
+#include "saving/PropertyBag.h"
 #include "surface/PropertyKinds.h"
 
 namespace quillet::fuzz {
@@ -11,6 +12,9 @@ constexpr PropertyKind kAllKinds[] = {
     PropertyKind::Number, PropertyKind::Style,   PropertyKind::State,         PropertyKind::Text,
     PropertyKind::Font,   PropertyKind::Picture,
 };
+
+/// The saved value, or the default of a property, in the type in which it would be saved.
+Variant loadedOr(PropertyBag& bag, wchar_t const* name, Variant const& fallback);
 
 /// Converts a loaded value and saves it again. A refusal is a RunTimeError; what is not refused has the type
 /// of its kind and is the same when it has been saved and loaded.

@@ -91,10 +91,9 @@ Bytes writtenAgain(SavedValues const& values)
 
 void holdProperties(SavedValues& values, std::vector<std::wstring> const& names)
 {
-    PropertyBag& bag = values;
     for (std::wstring const& name : names)
         for (PropertyKind const kind : kAllKinds)
-            holdConversion(kind, bag.readProperty(name.c_str(), savedProperty(kind, plainFallback(kind, 1))));
+            holdConversion(kind, loadedOr(values, name.c_str(), savedProperty(kind, plainFallback(kind, 1))));
 }
 
 void read(Bytes const& bytes, Manner manner)

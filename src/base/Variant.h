@@ -14,10 +14,10 @@ namespace quillet {
 /// Owns a VARIANT and what it holds; empty at first.
 class Variant {
 public:
-    Variant() noexcept { ::VariantInit(&m_value); }
+    Variant() noexcept { m_value.vt = VT_EMPTY; }
     Variant(Variant const& other);
-    Variant(Variant&& other) noexcept : m_value(other.m_value) { ::VariantInit(&other.m_value); }
-    ~Variant() { ::VariantClear(&m_value); }
+    Variant(Variant&& other) noexcept : m_value(other.m_value) { other.m_value.vt = VT_EMPTY; }
+    ~Variant() { clear(); }
 
     Variant& operator=(Variant other) noexcept;
 
@@ -54,6 +54,8 @@ public:
     ComPtr<IUnknown> toObject() const;
 
 private:
+    void clear() noexcept;
+
     VARIANT m_value;
 };
 

@@ -46,14 +46,6 @@ bool isConversionFailure(HRESULT result) noexcept
 
 } // namespace
 
-Variant PropertyBag::readProperty(wchar_t const* name, Variant const& fallback)
-{
-    Variant saved = read(name, fallback.type());
-    if (saved.type() == VT_EMPTY)
-        return fallback;
-    return saved;
-}
-
 bool PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
 {
     if (value.type() == fallback.type() && sameValue(value, fallback))

@@ -8,16 +8,15 @@
 
 namespace quillet {
 
-/// Reads and writes named values. The type of the fallback is the type in which a value is saved; object
-/// values have VT_UNKNOWN.
+/// Reads and writes named values; object values have VT_UNKNOWN.
 class PropertyBag {
 public:
     virtual ~PropertyBag() = default;
 
-    /// The value saved under the name, in whatever type it came; the fallback where nothing is saved.
-    Variant readProperty(wchar_t const* name, Variant const& fallback);
-    /// Saves the value unless it equals the fallback, which no value does where that is empty. Whether it was
-    /// saved.
+    /// The value saved under the name, in whatever type it came though one is asked for; empty for none.
+    Variant readProperty(wchar_t const* name, VARTYPE type) { return read(name, type); }
+    /// Saves the value unless it equals the fallback in type, too, which no value does where that is empty.
+    /// Whether it was saved.
     bool writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback);
 
 protected:
@@ -26,7 +25,6 @@ protected:
     PropertyBag& operator=(PropertyBag const&) = default;
 
 private:
-    /// The saved value in any type, empty for none.
     virtual Variant read(wchar_t const* name, VARTYPE type) = 0;
     virtual void write(wchar_t const* name, Variant value) = 0;
 };

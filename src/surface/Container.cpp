@@ -80,11 +80,18 @@ bool Container::userMode() const noexcept
     return orFallback(true, [&] { return mode.toBool(); });
 }
 
-ComPtr<IFont> Container::ambientFont() const
+ComPtr<IFont> Container::sharedFont() const noexcept
 {
     auto const answered =
         orFallback(ComPtr<IUnknown>(), [&] { return ambient(DISPID_AMBIENT_FONT).toObject(); });
-    if (auto own = copyOfFont(answered.get()))
+    if (auto font = query<IFont>(answered.get()))
+        return font;
+    return m_quickFont;
+}
+
+ComPtr<IFont> Container::ambientFont() const
+{
+    if (auto own = copyOfFont(sharedFont().get()))
         return own;
     if (auto own = copyOfFont(m_quickFont.get()))
         return own;

@@ -34,6 +34,8 @@ public:
     Variant ambient(DISPID id) const noexcept;
     /// Whether the form runs. True where the container does not say.
     bool userMode() const noexcept;
+    /// The container's own font object; null where it has none.
+    ComPtr<IFont> sharedFont() const noexcept;
     /// A font of the control's own, equal to the ambient one, or to the system's where there is none.
     ComPtr<IFont> ambientFont() const;
 

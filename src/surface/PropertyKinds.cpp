@@ -1,9 +1,10 @@
 // What properties are: the types of each kind.
 #include "surface/PropertyKinds.h"
 
-#include "base/Compiler.h"
 #include "base/RunTimeError.h"
 #include "saving/StandardFont.h"
+
+#include <iterator>
 
 namespace quillet {
 
@@ -29,21 +30,16 @@ constexpr KindRow kKinds[] = {
     {PropertyKind::Picture, VT_UNKNOWN, VT_UNKNOWN},
 };
 
-KindRow const& rowOf(PropertyKind kind) noexcept
+constexpr bool isInOrder() noexcept
 {
-    for (KindRow const& row : kKinds)
-        if (row.kind == kind)
-            return row;
-    unreachable();
+    for (size_t i = 0; i < std::size(kKinds); ++i)
+        if (static_cast<size_t>(kKinds[i].kind) != i)
+            return false;
+    return true;
 }
+static_assert(isInOrder(), "a kind's row stands where its number says");
 
-/// Whether an object is what a property of that kind holds and hands out, and can be saved.
-bool isOfKind(PropertyKind kind, IUnknown* object) noexcept
-{
-    bool const fits = isFont(kind) ? query<IFont>(object) && query<IFontDisp>(object)
-                                   : query<IPicture>(object) && query<IPictureDisp>(object);
-    return fits && query<IPersistStream>(object);
-}
+KindRow const& rowOf(PropertyKind kind) noexcept { return kKinds[static_cast<size_t>(kind)]; }
 
 /// A font or picture as its property keeps it; everything that can go wrong with the object goes wrong here.
 /// A font that is not there is an error; a picture may be missing.
@@ -53,8 +49,7 @@ Variant convertedObject(PropertyKind kind, IUnknown* object)
         throw RunTimeError(ErrorNumber::ObjectNotSet);
     if (!object)
         return Variant::ofUnknown(nullptr);
-    if (!isOfKind(kind, object))
-        throw RunTimeError(ErrorNumber::TypeMismatch);
+    requireKind(kind, object);
     if (kind != PropertyKind::OwnFont)
         return Variant::ofUnknown(object);
     auto const own = copyOfFont(object);
@@ -95,6 +90,15 @@ Variant convertedProperty(PropertyKind kind, Variant const& value)
     if (keptType(kind) != VT_UNKNOWN)
         return value.convertedTo(keptType(kind));
     return convertedObject(kind, value.toObject().get());
+}
+
+/// Properties hold such objects, hand them out and save them.
+void requireKind(PropertyKind kind, IUnknown* object)
+{
+    bool const fits = isFont(kind) ? query<IFont>(object) && query<IFontDisp>(object)
+                                   : query<IPicture>(object) && query<IPictureDisp>(object);
+    if (!fits || !query<IPersistStream>(object))
+        throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
 Variant assignedProperty(PropertyKind kind, Variant const& value)

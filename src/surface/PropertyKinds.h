@@ -35,6 +35,8 @@ Variant convertedProperty(PropertyKind kind, Variant const& value);
 /// The same for what a setter is given: a font, too, has to be one that a form can be loaded with, else it is
 /// an invalid property value.
 Variant assignedProperty(PropertyKind kind, Variant const& value);
+/// Type mismatch for a font or picture that lacks what properties of that kind need of it.
+void requireKind(PropertyKind kind, IUnknown* object);
 /// A kept value in the type in which the kind is saved.
 Variant savedProperty(PropertyKind kind, Variant const& kept);
 /// The default of a kind that has one value for all controls.

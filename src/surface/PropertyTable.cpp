@@ -70,24 +70,24 @@ void store(Surface& control, PropertyAccess const& access, Variant const& value)
     }
 }
 
-/// A number through a vtable is of its property's own type and stored as it comes, without a variant. False
-/// where there is no field that takes numbers.
-bool storeNumber(Surface& control, PropertyRow const& row, long number)
+/// A number of its property's own type is stored as it comes, without a variant. False where there is no
+/// field that takes numbers.
+bool storeNumber(Surface& control, PropertyAccess const& access, long number)
 {
-    if (!row.access.field || row.assign)
+    if (!access.field)
         return false;
-    switch (row.access.type) {
+    switch (access.type) {
     case FieldType::Bool:
-        fieldOf<bool>(control, row.access) = number != VARIANT_FALSE;
+        fieldOf<bool>(control, access) = number != VARIANT_FALSE;
         return true;
     case FieldType::Short:
-        fieldOf<short>(control, row.access) = static_cast<short>(number);
+        fieldOf<short>(control, access) = static_cast<short>(number);
         return true;
     case FieldType::Long:
-        fieldOf<long>(control, row.access) = number;
+        fieldOf<long>(control, access) = number;
         return true;
     case FieldType::Colour:
-        fieldOf<OLE_COLOR>(control, row.access) = static_cast<OLE_COLOR>(number);
+        fieldOf<OLE_COLOR>(control, access) = static_cast<OLE_COLOR>(number);
         return true;
     case FieldType::Text:
     case FieldType::Font:
@@ -165,16 +165,59 @@ Variant fallbackOf(Surface const& control, PropertyRow const& row)
     return plainFallback(row.kind, row.fallback);
 }
 
-Variant savedFallback(Surface const& control, PropertyRow const& row)
+void storeFallback(Surface& control, PropertyRow const& row)
 {
-    return savedProperty(row.kind, fallbackOf(control, row));
+    if (!storeNumber(control, row.access, row.fallback))
+        store(control, row.access, fallbackOf(control, row));
 }
 
 void setDefaultsOf(Surface& control, std::span<PropertyRow const> rows)
 {
     for (PropertyRow const& row : rows)
         if (row.atStart == AtStart::Default)
-            store(control, row.access, fallbackOf(control, row));
+            storeFallback(control, row);
+}
+
+/// Whether a value is seen to be its default where it stands. Others have to be compared as they are saved.
+bool isPlainlyDefault(Surface const& control, PropertyRow const& row)
+{
+    if (isFont(row.kind)) {
+        auto const own = query<IFont>(valueOf(control, row.access).toObject().get());
+        auto const shared = control.container().sharedFont();
+        return own && shared && own->IsEqual(shared.get()) == S_OK;
+    }
+    if (!row.access.field)
+        return false;
+    switch (row.access.type) {
+    case FieldType::Bool:
+        return fieldOf<bool>(control, row.access) == (row.fallback != 0);
+    case FieldType::Short:
+        return fieldOf<short>(control, row.access) == row.fallback;
+    case FieldType::Long:
+        return fieldOf<long>(control, row.access) == row.fallback;
+    case FieldType::Colour:
+        return fieldOf<OLE_COLOR>(control, row.access) == static_cast<OLE_COLOR>(row.fallback);
+    case FieldType::Text:
+        return fieldOf<Bstr>(control, row.access).view() == row.fallbackText;
+    case FieldType::Font:
+    case FieldType::Picture:
+        return false;
+    }
+    return false;
+}
+
+/// What a bag has for a row; empty where it is the default, but for objects: those come as they are stored.
+Variant loadedValue(Surface const& control, PropertyRow const& row, PropertyBag& bag)
+{
+    Variant const saved = bag.readProperty(row.name, savedType(row.kind));
+    if (saved.type() != VT_EMPTY)
+        return convertedProperty(row.kind, saved);
+    if (keptType(row.kind) != VT_UNKNOWN)
+        return {};
+    Variant fallback = fallbackOf(control, row);
+    if (isFont(row.kind))
+        requireKind(row.kind, fallback.get().punkVal);
+    return fallback;
 }
 
 /// What every setter ends with.
@@ -221,8 +264,9 @@ HRESULT PropertyTable::putMember(Surface& control, DISPID id, VARTYPE type, void
 {
     return control.call([&] {
         Row const& row = rowOf(id);
-        bool const isStored = (type == VT_I4 && storeNumber(control, row, taken<long>(value))) ||
-                              (type == VT_I2 && storeNumber(control, row, taken<short>(value)));
+        bool const isStored =
+            !row.assign && ((type == VT_I4 && storeNumber(control, row.access, taken<long>(value))) ||
+                            (type == VT_I2 && storeNumber(control, row.access, taken<short>(value))));
         if (isStored)
             changed(control, row);
         else
@@ -242,7 +286,7 @@ void PropertyTable::setPlainDefaults(Surface& control) const
 {
     for (Row const& row : m_rows)
         if (row.atStart == AtStart::Default && keptType(row.kind) != VT_UNKNOWN)
-            store(control, row.access, plainFallback(row.kind, row.fallback));
+            storeFallback(control, row);
 }
 
 void PropertyTable::setDefaults(Surface& control, Part part, DISPID border) const
@@ -257,16 +301,18 @@ void PropertyTable::read(Surface& control, PropertyBag& bag) const
     values.reserve(m_rows.size());
     for (Row const& row : m_rows)
         if (row.saved == Saved::Yes)
-            values.push_back(
-                convertedProperty(row.kind, bag.readProperty(row.name, savedFallback(control, row))));
+            values.push_back(loadedValue(control, row, bag));
     auto value = values.cbegin();
     for (Row const& row : m_rows) {
         if (row.saved != Saved::Yes)
             continue;
-        if (keptType(row.kind) == VT_UNKNOWN)
-            storeObject(control, row, *value++);
+        Variant const& loaded = *value++;
+        if (loaded.type() == VT_EMPTY)
+            storeFallback(control, row);
+        else if (keptType(row.kind) == VT_UNKNOWN)
+            storeObject(control, row, loaded);
         else
-            store(control, row.access, *value++);
+            store(control, row.access, loaded);
     }
 }
 
@@ -278,8 +324,11 @@ void PropertyTable::write(Surface const& control, PropertyBag& bag) const
             continue;
         // Where a name stands twice the last value counts, so it is written even where it is the default.
         bool const again = std::ranges::find(written, row.name) != written.end();
-        bool const stored = bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)),
-                                              again ? Variant() : savedFallback(control, row));
+        if (!again && isPlainlyDefault(control, row))
+            continue;
+        bool const stored =
+            bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)),
+                              again ? Variant() : savedProperty(row.kind, fallbackOf(control, row)));
         if (stored)
             written.push_back(row.name);
     }
