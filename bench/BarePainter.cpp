@@ -59,27 +59,36 @@ void BarePainter::paint(BareLook const& look) const
     UniqueMemoryDc const dc(::CreateCompatibleDC(target.get()));
     UniqueBitmap const bitmap(::CreateCompatibleBitmap(target.get(), m_width, m_height));
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
-    SelectScope const selectedFont(dc.get(), m_plain.get());
-    ::SetTextColor(dc.get(), look.fore);
-    // The picture depends on it, and whoever paints has to ask: messages may be forged or swallowed. A window
-    // that only stands in for a button is told.
-    bool const focused = ::GetFocus() == m_window || look.focused;
+    // A window that only stands in for a button is told.
+    compose(dc.get(), look, ::GetFocus() == m_window || look.focused);
+    ::BitBlt(target.get(), 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
+}
+
+void BarePainter::paintStraight(BareLook const& look) const
+{
+    WindowDc const target(m_window);
+    compose(target.get(), look, look.focused);
+}
+
+void BarePainter::compose(HDC dc, BareLook const& look, bool focused) const
+{
+    SelectScope const selectedFont(dc, m_plain.get());
+    ::SetTextColor(dc, look.fore);
     int inset = focused ? 2 : 1;
-    fill(dc.get(), inside(0), look.border);
-    fill(dc.get(), inside(inset), look.back);
+    fill(dc, inside(0), look.border);
+    fill(dc, inside(inset), look.back);
     if (focused) {
         inset += 2;
-        fill(dc.get(), inside(inset), kFrame);
-        fill(dc.get(), inside(inset + 1), look.back);
+        fill(dc, inside(inset), kFrame);
+        fill(dc, inside(inset + 1), look.back);
     }
     RECT piece = inside(inset + 1);
     piece.left = m_keyAt;
-    ::SelectObject(dc.get(), m_underlined.get()); // only now: underlining costs even where there is no text
-    fill(dc.get(), piece, look.back, m_keyAt, m_y, m_key);
-    ::SelectObject(dc.get(), m_plain.get());
+    ::SelectObject(dc, m_underlined.get()); // only now: underlining costs even where there is no text
+    fill(dc, piece, look.back, m_keyAt, m_y, m_key);
+    ::SelectObject(dc, m_plain.get());
     piece.left = m_restAt;
-    fill(dc.get(), piece, look.back, m_restAt, m_y, m_rest);
-    ::BitBlt(target.get(), 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
+    fill(dc, piece, look.back, m_restAt, m_y, m_rest);
 }
 
 BareImagePainter::BareImagePainter(HWND window, SIZE size, HFONT font, std::string caption,

@@ -32,9 +32,16 @@ public:
     /// For a window and a caption whose first letter is the access key, centred.
     BarePainter(HWND window, SIZE size, HFONT font, std::string caption);
 
+    /// Off the screen and copied, with the calls that a paint is described by: a DC for the window, a memory
+    /// DC and a compatible bitmap, made and freed each time; one text output for each fill and piece of
+    /// caption; one copy. Asks whether the window has the focus, as the picture depends on it and messages
+    /// may be forged.
     void paint(BareLook const& look) const;
+    /// The same fills and texts straight on the window, where each is seen as it comes. Asks for nothing.
+    void paintStraight(BareLook const& look) const;
 
 private:
+    void compose(HDC dc, BareLook const& look, bool focused) const;
     RECT inside(int inset) const { return {inset, inset, m_width - inset, m_height - inset}; }
 
     HWND m_window;

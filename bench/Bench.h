@@ -8,13 +8,23 @@
 
 namespace quillet::bench {
 
-/// One line of the table. Texts are as they are to be read, with their units.
+/// Medians over the rounds of two things that were measured in turns.
+struct Comparison {
+    double ours;
+    double floor;
+    double ratio; ///< of the rounds' own ratios, not of the two medians
+};
+
+/// Stands for a figure that a row does not have.
+constexpr double kNone = -1;
+
+enum class Unit { Microseconds, Count, Kilobytes };
+
+/// One line of the table. What it has to reach stands with the other goals.
 struct Row {
     std::string what;
-    std::string ours;  ///< the library's median
-    std::string floor; ///< the median of what it is compared with
-    std::string ratio; ///< the median of the rounds' ratios
-    std::string goal;
+    Comparison measured;
+    Unit unit = Unit::Microseconds;
 };
 using Rows = std::vector<Row>;
 
@@ -27,6 +37,7 @@ Rows measurePictures(kit::Library const& library, Effort effort);
 Rows measureMouse(kit::Library const& library, Effort effort);
 Rows measureFocus(kit::Library const& library, Effort effort);
 Rows measureCreation(kit::Library const& library, Effort effort);
+Rows measureForms(kit::Library const& library, Effort effort);
 Rows measureMembers(kit::Library const& library, Effort effort);
 Rows measureFills(kit::Library const& library, Effort effort);
 Rows measureOptions(kit::Library const& library, Effort effort);

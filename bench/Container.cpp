@@ -198,6 +198,17 @@ HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result
     }
 }
 
+Listener::Listener(IUnknown& control)
+{
+    ComPtr<IConnectionPointContainer> const points = query<IConnectionPointContainer>(&control);
+    ComPtr<IEnumConnectionPoints> all;
+    check(deref(points.get()).EnumConnectionPoints(all.put()));
+    check(all->Next(1, m_point.put(), nullptr)); // the first is of its own events
+    check(m_point->Advise(this, &m_cookie));
+}
+
+Listener::~Listener() { m_point->Unadvise(m_cookie); }
+
 HRESULT SavedButton::QueryInterface(REFIID iid, void** object)
 {
     return handOut(iid == IID_IPropertyBag || iid == IID_IUnknown ? this : nullptr, object);

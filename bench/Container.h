@@ -61,6 +61,7 @@ private:
 class Siblings final : public Owned<IOleContainer, IEnumUnknown> {
 public:
     void add(ComPtr<IUnknown> control) { m_controls.push_back(std::move(control)); }
+    void clear() { m_controls.clear(); }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     // IOleContainer
@@ -161,6 +162,25 @@ private:
     HWND m_window;
     RECT m_position;
     Extender m_extender;
+};
+
+/// Listens to a control's events, as a form does, and does nothing about them.
+class Listener final : public LateBound {
+public:
+    explicit Listener(IUnknown& control);
+    ~Listener();
+    Listener(Listener const&) = delete;
+    Listener& operator=(Listener const&) = delete;
+
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return S_OK;
+    }
+
+private:
+    ComPtr<IConnectionPoint> m_point;
+    DWORD m_cookie = 0;
 };
 
 /// The saved form of a button: a caption and a few properties that are not at their defaults.

@@ -13,7 +13,7 @@ namespace {
 /// What a form's buttons take, for one button.
 struct Life {
     double made;   ///< until the last one is shown; ours have painted themselves then
-    double opened; ///< until no paint is left to do
+    double opened; ///< until no paint is left to do, theirs neither
     double gone;
 };
 
@@ -26,15 +26,16 @@ template <class Buttons> Life lifeOf(Buttons& buttons, int count)
     return {made / count, (made + painted) / count, gone / count};
 }
 
-Rows measureForm(kit::Library const& library, int count, int rounds)
+Rows measureCrowd(kit::Library const& library, int count, Effort effort)
 {
-    CrowdedForm ours(library);
-    SystemButtons systems(ours.window());
-    Rounds made;
-    Rounds opened;
-    Rounds gone;
-    for (int round = 0; round < rounds; ++round) {
-        bool const oursFirst = round % 2 == 0;
+    Places const places = Places::of(count);
+    CrowdedForm ours(library, places, 0);
+    SystemButtons systems(ours.window(), places, 0);
+    Rounds made(effort);
+    Rounds opened(effort);
+    Rounds gone(effort);
+    while (opened.wantsMore()) {
+        bool const oursFirst = opened.oursIsFirst();
         Life const first = oursFirst ? lifeOf(ours, count) : lifeOf(systems, count);
         Life const second = oursFirst ? lifeOf(systems, count) : lifeOf(ours, count);
         Life const& own = oursFirst ? first : second;
@@ -44,24 +45,20 @@ Rows measureForm(kit::Library const& library, int count, int rounds)
         gone.add(own.gone, floor.gone);
     }
     std::string const one = "one of " + std::to_string(count) + " buttons ";
-    return {rowOf(one + "made and shown", made.result(), "–"),
-            rowOf(one + "made, shown and all painted", opened.result(), "–"),
-            rowOf(one + "taken away", gone.result(), "–")};
+    return {{one + "made and shown", made.result()},
+            {one + "made, shown and painted", opened.result()},
+            {one + "taken away", gone.result()}};
 }
 
 } // namespace
 
 Rows measureCreation(kit::Library const& library, Effort effort)
 {
-    struct Size {
-        int buttons;
-        int rounds;
-    };
-    std::vector<Size> const full = {{10, 51}, {100, 11}, {1000, 5}, {5000, 1}};
-    std::vector<Size> const smoke = {{10, 3}};
+    std::vector<int> const full = {10, 100, 1000, 5000};
+    std::vector<int> const smoke = {10};
     Rows rows;
-    for (Size const& size : effort == Effort::Full ? full : smoke)
-        for (Row& row : measureForm(library, size.buttons, size.rounds))
+    for (int const count : effort == Effort::Full ? full : smoke)
+        for (Row& row : measureCrowd(library, count, effort))
             rows.push_back(std::move(row));
     return rows;
 }

@@ -4,6 +4,7 @@
 #include "base/Handles.h"
 #include "bench/BarePainter.h"
 #include "bench/Container.h"
+#include "bench/Places.h"
 #include "kit/HostWindow.h"
 #include "kit/Library.h"
 
@@ -16,10 +17,8 @@ namespace quillet::bench {
 
 class CrowdedForm {
 public:
-    static constexpr SIZE kForm{800, 600};
-    static constexpr SIZE kButton{75, 23};
-
-    explicit CrowdedForm(kit::Library const& library, int buttons = 0);
+    /// For so many buttons at most, of which it has some at first.
+    CrowdedForm(kit::Library const& library, Places const& places, int buttons);
 
     HWND window() const noexcept { return m_window.handle(); }
     /// Creates, loads and activates so many more.
@@ -32,11 +31,9 @@ public:
     /// Paints the same picture with bare GDI calls.
     BarePainter barePainterOf(int index) const;
 
-    /// Places that fill the form row by row; those of a large number go on below what is seen of it.
-    static RECT placeOf(int index);
-
 private:
-    kit::HostWindow m_window{40, 40, kForm.cx, kForm.cy};
+    Places m_places;
+    kit::HostWindow m_window{Places::kOrigin, Places::kOrigin, Places::kForm.cx, Places::kForm.cy};
     Siblings m_siblings;
     Frame m_frame{m_window.handle(), &m_siblings};
     SavedButton m_saved;
@@ -47,7 +44,7 @@ private:
 /// Buttons of the system's own class in a form: the floor of having many.
 class SystemButtons {
 public:
-    explicit SystemButtons(HWND form, int count = 0);
+    SystemButtons(HWND form, Places const& places, int count);
 
     /// Creates so many more, visible, with caption and font, where the form's own buttons would be.
     void add(int count);
@@ -55,6 +52,7 @@ public:
 
 private:
     HWND m_form;
+    Places m_places;
     std::vector<UniqueWindow> m_windows;
 };
 

@@ -13,9 +13,9 @@ namespace {
 /// more at once.
 constexpr int paintsOf(int buttons) { return 2 * buttons + 2; }
 
-Row measureForm(kit::Library const& library, int buttons, int rounds)
+Row measureChange(kit::Library const& library, int buttons, Effort effort)
 {
-    CrowdedForm form(library, buttons);
+    CrowdedForm form(library, Places::of(buttons), buttons);
     form.joinAsSiblings();
     std::vector<BarePainter> painters;
     for (int i = 0; i < buttons; ++i)
@@ -37,8 +37,8 @@ Row measureForm(kit::Library const& library, int buttons, int rounds)
                 painters[static_cast<std::size_t>(i % buttons)].paint(look);
         });
     };
-    return rowOf("focus change on a form of " + std::to_string(buttons), compareTimed(rounds, ours, floor),
-                 "–");
+    return {"focus change on a form of " + std::to_string(buttons) + ", as many bare paints",
+            compareTimed(effort, ours, floor)};
 }
 
 } // namespace
@@ -46,8 +46,9 @@ Row measureForm(kit::Library const& library, int buttons, int rounds)
 Rows measureFocus(kit::Library const& library, Effort effort)
 {
     if (effort == Effort::Smoke)
-        return {measureForm(library, 10, 3)};
-    return {measureForm(library, 10, 101), measureForm(library, 100, 31), measureForm(library, 1000, 5)};
+        return {measureChange(library, 10, effort)};
+    return {measureChange(library, 10, effort), measureChange(library, 100, effort),
+            measureChange(library, 1000, effort)};
 }
 
 } // namespace quillet::bench

@@ -27,21 +27,18 @@ Held heldBy(int count, std::function<void()> const& make)
     return {each(after.bytes - before.bytes), each(after.windows - before.windows)};
 }
 
-std::string rounded(double value) { return std::to_string(static_cast<long>(value + 0.5)); }
-
 } // namespace
 
 Rows measureFootprint(kit::Library const& library, Effort effort)
 {
     int const count = effort == Effort::Full ? 1000 : 20;
-    CrowdedForm form(library, 1); // the first one also pays for what all share
+    Places const places = Places::of(count + 1);
+    CrowdedForm form(library, places, 1); // the first one also pays for what all share
     Held const ours = heldBy(count, [&] { form.add(count); });
-    SystemButtons systems(form.window(), 1);
+    SystemButtons systems(form.window(), places, 1);
     Held const theirs = heldBy(count, [&] { systems.add(count); });
-    return {
-        {"heap bytes of one button", rounded(ours.bytes), rounded(theirs.bytes), "–", "–"},
-        {"windows of one button", rounded(ours.windows), rounded(theirs.windows), "–", "–"},
-    };
+    return {{"heap bytes of one button", {ours.bytes, theirs.bytes, kNone}, Unit::Count},
+            {"windows of one button", {ours.windows, theirs.windows, kNone}, Unit::Count}};
 }
 
 } // namespace quillet::bench

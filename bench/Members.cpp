@@ -112,8 +112,7 @@ Rows measureMembers(kit::Library const& library, Effort effort)
     Number& slot = minimal;
 
     auto const row = [&](char const* what, auto ours, auto floor) {
-        bool const full = effort == Effort::Full;
-        return rowOf(what, compare(full ? 201 : 3, full ? 1000 : 5, ours, floor), "–");
+        return Row{what, compare(effort, 1000, ours, floor)};
     };
     OLE_COLOR read = 0;
     LONG readNumber = 0;

@@ -23,7 +23,8 @@ struct FollowedLooks {
 
 /// A window that does what following a mouse takes, with bare calls: the floor of a hover and of a press. It
 /// is a flat picture of the caption that is hot while it has the capture, which it holds while the cursor is
-/// over it; every mouse message is relayed to a tooltip window.
+/// over it; every mouse message is relayed to a tooltip window. It asks where the cursor is once in a move
+/// and not at a press, and what lies there only inside its own rectangle, which it knows.
 class BareFollower {
 public:
     BareFollower(HWND form, RECT const& place, HFONT font, FollowedLooks const& looks);
@@ -35,12 +36,14 @@ public:
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void follow();
     bool isOver() const;
 
     UniqueWindow m_window;
     UniqueWindow m_toolTip;
     BarePainter m_painter;
     FollowedLooks m_looks;
+    RECT m_onScreen = {};
 };
 
 UniqueWindow newWindow(HWND form, RECT const& place)
@@ -71,6 +74,7 @@ BareFollower::BareFollower(HWND form, RECT const& place, HFONT font, FollowedLoo
       m_painter(m_window.get(), {place.right - place.left, place.bottom - place.top}, font, "Save changes"),
       m_looks(looks)
 {
+    ::GetWindowRect(m_window.get(), &m_onScreen);
     ::SetWindowLongPtrW(m_window.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     ::SetWindowLongPtrW(m_window.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure));
 }
@@ -94,26 +98,31 @@ void BareFollower::handle(UINT message, WPARAM wParam, LPARAM lParam)
     relayed.lParam = lParam;
     ::SendMessageW(m_toolTip.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
     ::GetKeyState(VK_MENU); // for the event's arguments
-    bool const over = isOver();
-    bool const captured = ::GetCapture() == window();
     if (message == WM_LBUTTONDOWN)
         m_painter.paint(m_looks.pressed);
     else if (message == WM_LBUTTONUP)
         m_painter.paint(m_looks.hot);
-    else if (over && !captured) {
+    else
+        follow();
+}
+
+void BareFollower::follow()
+{
+    bool const over = isOver();
+    if (over == (::GetCapture() == window()))
+        return;
+    if (over)
         ::SetCapture(window());
-        m_painter.paint(m_looks.hot);
-    } else if (!over && captured) {
+    else
         ::ReleaseCapture();
-        m_painter.paint(m_looks.normal);
-    }
+    m_painter.paint(over ? m_looks.hot : m_looks.normal);
 }
 
 bool BareFollower::isOver() const
 {
     POINT cursor{};
     ::GetCursorPos(&cursor);
-    return ::WindowFromPoint(cursor) == window();
+    return ::PtInRect(&m_onScreen, cursor) && ::WindowFromPoint(cursor) == window();
 }
 
 constexpr POINT kOutside{ShownButton::kSize.cx + 30, ShownButton::kMiddle.y};
@@ -135,11 +144,24 @@ TimedBody pair(BarePainter const& bare, BareLook const& first, BareLook const& s
     };
 }
 
+TimedBody enteredAndLeft(HWND window)
+{
+    return [window] {
+        double const entered = movedTo(window, ShownButton::kMiddle);
+        require(::GetCapture() == window, "the window does not see the mouse come");
+        return entered + movedTo(window, kOutside);
+    };
+}
+
+TimedBody pressedAndReleased(HWND window)
+{
+    return [window] { return sent(window, WM_LBUTTONDOWN, MK_LBUTTON) + sent(window, WM_LBUTTONUP, 0); };
+}
+
 } // namespace
 
 Rows measureMouse(kit::Library const& library, Effort effort)
 {
-    int const rounds = effort == Effort::Full ? 1001 : 3;
     ShownButton button(library);
     BarePainter const bare = button.barePainter();
     Rows rows;
@@ -151,35 +173,25 @@ Rows measureMouse(kit::Library const& library, Effort effort)
     kit::HostWindow const other(300, 40, 200, 100);
     BareFollower const follower(other.handle(), ShownButton::kPlace, fontOf(button.control()),
                                 {normal, hot, pressed});
-    auto const enteredAndLeft = [](HWND window) {
-        return [window] {
-            double const entered = movedTo(window, ShownButton::kMiddle);
-            require(::GetCapture() == window, "the window does not see the mouse come");
-            return entered + movedTo(window, kOutside);
-        };
-    };
-    rows.push_back(rowOf("mouse enters and leaves, both painted",
-                         compareTimed(rounds, enteredAndLeft(button.window()), pair(bare, hot, normal)),
-                         "–"));
+    TimedBody const ours = enteredAndLeft(button.window());
+    TimedBody const lean = enteredAndLeft(follower.window());
     rows.push_back(
-        rowOf("the same, the floor follows the mouse, too",
-              compareTimed(rounds, enteredAndLeft(button.window()), enteredAndLeft(follower.window())), "–"));
+        {"mouse enters and leaves, two paints", compareTimed(effort, ours, pair(bare, hot, normal))});
+    rows.push_back({"mouse enters and leaves, a lean follower", compareTimed(effort, ours, lean)});
+    {
+        Listener listener(button.control());
+        rows.push_back({"the same, somebody listens to ours", compareTimed(effort, ours, lean)});
+    }
 
     button.enter(Look::Hot);
     require(kit::focus(button.window()), "the focus does not move");
     BareLook const hotFocused = button.bareLook(Look::Hot);
-    auto const pressedAndReleased = [](HWND window) {
-        return [window] { return sent(window, WM_LBUTTONDOWN, MK_LBUTTON) + sent(window, WM_LBUTTONUP, 0); };
-    };
     BareLook const pressedFocused = button.bareLook(Look::Pressed);
-    rows.push_back(rowOf(
-        "press and release, both painted",
-        compareTimed(rounds, pressedAndReleased(button.window()), pair(bare, pressedFocused, hotFocused)),
-        "–"));
-    rows.push_back(rowOf(
-        "the same, the floor follows the mouse, too",
-        compareTimed(rounds, pressedAndReleased(button.window()), pressedAndReleased(follower.window())),
-        "–"));
+    TimedBody const press = pressedAndReleased(button.window());
+    rows.push_back({"press and release, two paints",
+                    compareTimed(effort, press, pair(bare, pressedFocused, hotFocused))});
+    rows.push_back({"press and release, a lean follower",
+                    compareTimed(effort, press, pressedAndReleased(follower.window()))});
     button.leave(Look::Hot);
     return rows;
 }

@@ -1,6 +1,7 @@
 // Buttons with pictures: their paint, what the mouse does to them, and a form of five hundred.
 #include "base/RunTimeError.h"
-#include "bench/CrowdedForm.h"
+#include "bench/Container.h"
+#include "bench/Places.h"
 #include "bench/Rounds.h"
 #include "bench/ShownImageButton.h"
 #include "kit/Fonts.h"
@@ -52,8 +53,7 @@ Row measurePaint(ShownImageButton& button, std::string const& name, Effort effor
     std::string const different =
         differences(painted(button, expected, floor), painted(button, actual, ours));
     require(different.empty(), (name + ": the pictures differ\n" + different).c_str());
-    bool const full = effort == Effort::Full;
-    return rowOf("one paint, " + name, compare(full ? 1001 : 3, full ? 10 : 5, ours, floor), "≤ 1.05");
+    return {"one paint, " + name, compare(effort, 10, ours, floor)};
 }
 
 Row measureHover(ShownImageButton& button, std::string const& name, Effort effort)
@@ -72,16 +72,15 @@ Row measureHover(ShownImageButton& button, std::string const& name, Effort effor
             bare.paint(normal);
         });
     };
-    return rowOf("mouse enters and leaves, " + name,
-                 compareTimed(effort == Effort::Full ? 501 : 3, enteredAndLeft, bothPainted), "–");
+    return {"mouse enters and leaves, " + name, compareTimed(effort, enteredAndLeft, bothPainted)};
 }
 
 /// Loaded from a property bag and shown in a window; then all closed.
 Row measureForm(kit::Library const& library, ImageKind const& kind, IPictureDisp* picture, Effort effort)
 {
-    bool const full = effort == Effort::Full;
-    int const count = full ? 500 : 10;
-    kit::HostWindow const window{40, 40, CrowdedForm::kForm.cx, CrowdedForm::kForm.cy};
+    int const count = effort == Effort::Full ? 200 : 10;
+    Places const places = Places::of(count);
+    kit::HostWindow const window{Places::kOrigin, Places::kOrigin, Places::kForm.cx, Places::kForm.cy};
     Frame frame{window.handle()};
     SavedImageButton saved(picture);
     ComPtr<IClassFactory> const factory = library.factory(kind.classId);
@@ -90,25 +89,23 @@ Row measureForm(kit::Library const& library, ImageKind const& kind, IPictureDisp
     auto const ours = [&] {
         std::vector<std::unique_ptr<Hosted>> buttons;
         for (int i = 0; i < count; ++i)
-            buttons.push_back(std::make_unique<Hosted>(deref(factory.get()), saved, frame, window.handle(),
-                                                       CrowdedForm::placeOf(i)));
+            buttons.push_back(
+                std::make_unique<Hosted>(deref(factory.get()), saved, frame, window.handle(), places.at(i)));
     };
     auto const systems = [&] {
         std::vector<UniqueWindow> buttons;
         for (int i = 0; i < count; ++i) {
-            RECT const place = CrowdedForm::placeOf(i);
-            buttons.emplace_back(
-                ::CreateWindowExW(0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_BITMAP,
-                                  place.left, place.top, CrowdedForm::kButton.cx, CrowdedForm::kButton.cy,
-                                  window.handle(), nullptr, nullptr, nullptr));
+            RECT const place = places.at(i);
+            buttons.emplace_back(::CreateWindowExW(
+                0, L"BUTTON", kCaption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_BITMAP, place.left, place.top,
+                places.size.cx, places.size.cy, window.handle(), nullptr, nullptr, nullptr));
             ::SendMessageW(buttons.back().get(), BM_SETIMAGE, IMAGE_BITMAP, static_cast<LPARAM>(bitmap));
         }
     };
-    Comparison comparison = compare(full ? 7 : 3, 1, ours, systems, &kit::pumpPending);
+    Comparison comparison = compare(effort, 1, ours, systems, &kit::pumpPending);
     comparison.ours /= count;
     comparison.floor /= count;
-    return rowOf("one of " + std::to_string(count) + " " + kind.name + "s with pictures in a window",
-                 comparison, "–");
+    return {"one of " + std::to_string(count) + " " + kind.name + "s with pictures in a window", comparison};
 }
 
 } // namespace

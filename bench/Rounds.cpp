@@ -32,12 +32,9 @@ double medianOf(std::vector<double> values)
     return *middle;
 }
 
-std::string fixed(double value, int decimals)
-{
-    std::ostringstream text;
-    text << std::fixed << std::setprecision(decimals) << value;
-    return text.str();
-}
+constexpr std::size_t kFewest = 3;
+constexpr std::size_t kMost = 1001;
+constexpr double kSpan = 2.5e6; // microseconds for one figure
 
 } // namespace
 
@@ -46,6 +43,23 @@ double microsecondsOf(std::function<void()> const& body)
     double const start = microsecondsNow();
     body();
     return microsecondsNow() - start;
+}
+
+std::string fixedText(double value, int decimals)
+{
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(decimals) << value;
+    return text.str();
+}
+
+Rounds::Rounds(Effort effort) : m_effort(effort), m_begun(microsecondsNow()) {}
+
+bool Rounds::wantsMore() const
+{
+    std::size_t const done = m_ratios.size();
+    if (m_effort == Effort::Smoke)
+        return done < 2;
+    return done < kFewest || (done < kMost && microsecondsNow() < m_begun + kSpan);
 }
 
 void Rounds::add(double ours, double floor)
@@ -57,22 +71,22 @@ void Rounds::add(double ours, double floor)
 
 Comparison Rounds::result() const { return {medianOf(m_ours), medianOf(m_floor), medianOf(m_ratios)}; }
 
-Comparison compareTimed(int rounds, TimedBody const& ours, TimedBody const& floor,
+Comparison compareTimed(Effort effort, TimedBody const& ours, TimedBody const& floor,
                         std::function<void()> const& settle)
 {
-    Rounds times;
-    for (int round = 0; round < rounds; ++round) {
-        bool const oursFirst = round % 2 == 0;
+    Rounds rounds(effort);
+    while (rounds.wantsMore()) {
+        bool const oursFirst = rounds.oursIsFirst();
         double const first = oursFirst ? ours() : floor();
         double const second = oursFirst ? floor() : ours();
-        times.add(oursFirst ? first : second, oursFirst ? second : first);
+        rounds.add(oursFirst ? first : second, oursFirst ? second : first);
         if (settle)
             settle();
     }
-    return times.result();
+    return rounds.result();
 }
 
-Comparison compare(int rounds, int calls, std::function<void()> const& ours,
+Comparison compare(Effort effort, int calls, std::function<void()> const& ours,
                    std::function<void()> const& floor, std::function<void()> const& settle)
 {
     auto const repeated = [calls](std::function<void()> const& body) {
@@ -84,22 +98,16 @@ Comparison compare(int rounds, int calls, std::function<void()> const& ours,
                    calls;
         };
     };
-    return compareTimed(rounds, repeated(ours), repeated(floor), settle);
-}
-
-Row rowOf(std::string what, Comparison const& comparison, std::string goal)
-{
-    return {std::move(what), durationText(comparison.ours), durationText(comparison.floor),
-            fixed(comparison.ratio, 2), std::move(goal)};
+    return compareTimed(effort, repeated(ours), repeated(floor), settle);
 }
 
 std::string durationText(double microseconds)
 {
     if (microseconds < 1)
-        return fixed(microseconds * 1000, 0) + " ns";
+        return fixedText(microseconds * 1000, 0) + " ns";
     if (microseconds < 1000)
-        return fixed(microseconds, 1) + " µs";
-    return fixed(microseconds / 1000, 1) + " ms";
+        return fixedText(microseconds, 1) + " µs";
+    return fixedText(microseconds / 1000, 1) + " ms";
 }
 
 void require(bool holds, char const* otherwise)

@@ -11,20 +11,21 @@
 
 namespace quillet::bench {
 
-/// Medians over the rounds.
-struct Comparison {
-    double ours;  ///< microseconds of one call
-    double floor; ///< microseconds of one call
-    double ratio; ///< of the rounds' own ratios, not of the two medians
-};
-
-/// Collects a comparison's rounds: the microseconds of ours and of the floor in each.
+/// Collects a comparison's rounds: the microseconds of ours and of the floor in each. There are as many as a
+/// few seconds have room for, within bounds.
 class Rounds {
 public:
+    explicit Rounds(Effort effort);
+
+    bool wantsMore() const;
+    /// Which of the two goes first changes from round to round.
+    bool oursIsFirst() const noexcept { return m_ratios.size() % 2 == 0; }
     void add(double ours, double floor);
     Comparison result() const;
 
 private:
+    Effort m_effort;
+    double m_begun;
     std::vector<double> m_ours;
     std::vector<double> m_floor;
     std::vector<double> m_ratios;
@@ -35,18 +36,18 @@ double microsecondsOf(std::function<void()> const& body);
 
 /// A body that times a part of itself: what prepares it is not counted. Answers microseconds.
 using TimedBody = std::function<double()>;
-Comparison compareTimed(int rounds, TimedBody const& ours, TimedBody const& floor,
+/// After each round, untimed, runs settle if there is one.
+Comparison compareTimed(Effort effort, TimedBody const& ours, TimedBody const& floor,
                         std::function<void()> const& settle = {});
 
-/// In each round times a number of calls of ours and as many of the floor; which goes first changes from
-/// round to round. Afterwards, untimed, runs settle if there is one.
-Comparison compare(int rounds, int calls, std::function<void()> const& ours,
+/// In each round times a number of calls of ours and as many of the floor: so many that a round is long
+/// beside the clock's steps.
+Comparison compare(Effort effort, int calls, std::function<void()> const& ours,
                    std::function<void()> const& floor, std::function<void()> const& settle = {});
-
-Row rowOf(std::string what, Comparison const& comparison, std::string goal);
 
 /// A duration in the unit that reads best.
 std::string durationText(double microseconds);
+std::string fixedText(double value, int decimals);
 
 /// Throws std::runtime_error with the text unless it holds.
 void require(bool holds, char const* otherwise);

@@ -15,6 +15,8 @@ namespace quillet::bench {
 
 namespace {
 
+constexpr int kCalls = 50;
+
 /// Values by name in memory, in the order of their writing. It remembers what it was asked for.
 class MemoryBag final : public Owned<IPropertyBag> {
 public:
@@ -93,7 +95,7 @@ ComPtr<IStream> memoryStream()
 }
 
 /// Moves exactly the values that the control reads and writes.
-Rows measureBag(LoadedButton const& button, int rounds, int calls)
+Rows measureBag(LoadedButton const& button, Effort effort)
 {
     auto const persistent = button.as<IPersistPropertyBag>();
     MemoryBag bag;
@@ -113,7 +115,7 @@ Rows measureBag(LoadedButton const& button, int rounds, int calls)
                 value.address()->vt = VT_EMPTY;
         }
     };
-    Comparison const loading = compare(rounds, calls, loadOurs, readValues);
+    Comparison const loading = compare(effort, kCalls, loadOurs, readValues);
 
     auto const saveOurs = [&] {
         bag.clear();
@@ -124,12 +126,12 @@ Rows measureBag(LoadedButton const& button, int rounds, int calls)
         for (MemoryBag::Held const& each : held)
             bag.Write(each.name.c_str(), const_cast<VARIANT*>(&each.value.get()));
     };
-    return {rowOf("a button loaded from a bag", loading, "–"),
-            rowOf("a button saved into a bag", compare(rounds, calls, saveOurs, writeValues), "–")};
+    return {{"a button loaded from a bag", loading},
+            {"a button saved into a bag", compare(effort, kCalls, saveOurs, writeValues)}};
 }
 
 /// Moves as many bytes, and makes the one object among them, the font, from its own bytes.
-Rows measureStream(LoadedButton const& button, int rounds, int calls)
+Rows measureStream(LoadedButton const& button, Effort effort)
 {
     auto const persistent = button.as<IPersistStreamInit>();
     auto const stream = memoryStream();
@@ -171,20 +173,18 @@ Rows measureStream(LoadedButton const& button, int rounds, int calls)
         rewind(*stream.get());
         stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), &moved);
     };
-    Comparison const loading = compare(rounds, calls, loadOurs, readBytes);
-    return {rowOf("a button loaded from a stream", loading, "–"),
-            rowOf("a button saved into a stream", compare(rounds, calls, saveOurs, writeBytes), "–")};
+    Comparison const loading = compare(effort, kCalls, loadOurs, readBytes);
+    return {{"a button loaded from a stream", loading},
+            {"a button saved into a stream", compare(effort, kCalls, saveOurs, writeBytes)}};
 }
 
 } // namespace
 
 Rows measureSaving(kit::Library const& library, Effort effort)
 {
-    int const rounds = effort == Effort::Full ? 101 : 3;
-    int const calls = effort == Effort::Full ? 50 : 2;
     LoadedButton const button(library);
-    Rows rows = measureBag(button, rounds, calls);
-    for (Row& row : measureStream(button, rounds, calls))
+    Rows rows = measureBag(button, effort);
+    for (Row& row : measureStream(button, effort))
         rows.push_back(std::move(row));
     return rows;
 }
