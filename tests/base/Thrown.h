@@ -16,6 +16,6 @@ template <class Body> HRESULT thrownBy(Body&& body)
     }
 }
 
-constexpr HRESULT runTimeError(long number) { return static_cast<HRESULT>(0x800A0000L + number); }
+constexpr HRESULT runTimeError(WORD number) { return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number); }
 
 } // namespace quillet

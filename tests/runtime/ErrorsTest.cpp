@@ -19,7 +19,7 @@ constexpr wchar_t kSharedRunTime[] = L"libgcc_s_seh-1.dll";
 constexpr wchar_t kSharedRunTime[] = L"libgcc_s_dw2-1.dll";
 #endif
 
-constexpr HRESULT runTimeError(long number) { return static_cast<HRESULT>(0x800A0000 + number); }
+constexpr HRESULT runTimeError(WORD number) { return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number); }
 
 /// The component in a process that has the shared run time: from its start, where the program is linked with
 /// it, or else from after the component came.
