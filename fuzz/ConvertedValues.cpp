@@ -66,7 +66,9 @@ bool areEqual(PropertyKind kind, Variant const& a, Variant const& b)
 Variant loadedOr(PropertyBag& bag, wchar_t const* name, Variant const& fallback)
 {
     Variant loaded = bag.readProperty(name, fallback.type());
-    return loaded.type() == VT_EMPTY ? fallback : loaded;
+    if (loaded.type() == VT_EMPTY)
+        return fallback;
+    return loaded; // moved: what a bag hands out need not be a variant that the system can copy
 }
 
 void holdConversion(PropertyKind kind, Variant const& loaded)
