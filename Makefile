@@ -1,5 +1,5 @@
 # The few commands that a person types. Each first sets up what is missing (tools/setup).
-.PHONY: help build test gallery bench soak fuzz hostile schemes dist msi sign samples check clean
+.PHONY: help build test gallery pictures bench soak fuzz hostile schemes dist msi sign samples check clean
 
 help: ## this list
 	@awk -F':.*## ' '/^[a-z]+:.*## /{printf "make %-8s %s\n", $$1, $$2}' Makefile
@@ -10,8 +10,11 @@ build: ## out/x86/quilbt.ocx and out/x64/quilbt.ocx, with the gallery beside eac
 test: ## every test of both architectures
 	@tools/test
 
-gallery: ## opens a form with live buttons; ARGS="FORM" for another one
+gallery: ## opens the gallery: forms with live buttons; ARGS="FORM" for one of yours
 	@tools/gallery $(ARGS)
+
+pictures: ## the documents' pictures, taken anew from the running gallery
+	@tools/pictures
 
 bench: ## speed and size, as ratios
 	@tools/bench

@@ -17,8 +17,8 @@ ActivationContext::~ActivationContext()
         ::ReleaseActCtx(m_context);
 }
 
-ActivationContext::Scope::Scope(ActivationContext const& context) noexcept
-    : m_active(context && ::ActivateActCtx(context.m_context, &m_cookie))
+ActivationContext::Scope::Scope(ActivationContext const* context) noexcept
+    : m_active(context && *context && ::ActivateActCtx(context->m_context, &m_cookie))
 {}
 
 ActivationContext::Scope::~Scope()

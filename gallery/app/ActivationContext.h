@@ -17,10 +17,10 @@ public:
 
     explicit operator bool() const noexcept { return m_context != INVALID_HANDLE_VALUE; }
 
-    /// Its classes are known to the thread for one scope.
+    /// Its classes are known to the thread for one scope; nothing more than before for null.
     class Scope {
     public:
-        explicit Scope(ActivationContext const& context) noexcept;
+        explicit Scope(ActivationContext const* context) noexcept;
         ~Scope();
         Scope(Scope const&) = delete;
         Scope& operator=(Scope const&) = delete;

@@ -1,6 +1,7 @@
 // What the gallery says to whoever started it. A program with windows has no console of its own.
 #include "gallery/app/Console.h"
 
+#include "gallery/form/FormReader.h"
 #include "gallery/form/UniqueFile.h"
 #include "gallery/form/Utf8.h"
 
@@ -46,5 +47,7 @@ void say(Stream stream, std::wstring_view text)
     if (isError)
         ::MessageBoxW(nullptr, std::wstring(text).c_str(), L"Gallery", MB_OK | MB_ICONERROR);
 }
+
+void sayWarning(FormError const& warning) { say(Stream::Error, L"gallery: " + warning.text() + L"\n"); }
 
 } // namespace quillet::gallery

@@ -5,10 +5,14 @@
 
 namespace quillet::gallery {
 
+struct FormError;
+
 enum class Stream { Output, Error };
 
 /// Writes text to the standard stream where there is one (a pipe, a file, Wine's terminal), else to the
 /// console of the program that started this one; an error that has neither is shown in a box.
 void say(Stream stream, std::wstring_view text);
+/// Says what of a form could not be read.
+void sayWarning(FormError const& warning);
 
 } // namespace quillet::gallery

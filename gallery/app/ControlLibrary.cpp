@@ -5,9 +5,10 @@
 #include "base/Bstr.h"
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
+#include "gallery/form/FileBytes.h"
 #include "gallery/form/Names.h"
 
-#include <utility>
+#include <algorithm>
 
 namespace quillet::gallery {
 
@@ -54,12 +55,6 @@ NewControl createRegistered(std::wstring_view library, std::wstring_view classNa
     return created;
 }
 
-std::wstring_view fileNameOf(std::wstring_view path) noexcept
-{
-    std::size_t const slash = path.find_last_of(L"\\/:");
-    return slash == std::wstring_view::npos ? path : path.substr(slash + 1);
-}
-
 bool isFile(std::wstring const& path) noexcept
 {
     DWORD const attributes = ::GetFileAttributesW(path.c_str());
@@ -69,7 +64,7 @@ bool isFile(std::wstring const& path) noexcept
 } // namespace
 
 ControlLibrary::ControlLibrary(std::wstring const& path)
-    : m_library(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)),
+    : m_path(path), m_library(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)),
       m_manifest(manifestOf(path))
 {
     if (!m_library)
@@ -121,7 +116,7 @@ HRESULT ControlLibrary::make(CLSID const& classId, ComPtr<IUnknown>& object) con
 {
     auto** const out = reinterpret_cast<void**>(object.put());
     if (m_manifest) {
-        ActivationContext::Scope const active(m_manifest);
+        ActivationContext::Scope const active(&m_manifest);
         return ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IUnknown), out);
     }
     auto const getClassObject = exported<GetClassObject>(m_library.get(), "DllGetClassObject");
@@ -132,43 +127,57 @@ HRESULT ControlLibrary::make(CLSID const& classId, ComPtr<IUnknown>& object) con
     return SUCCEEDED(made) ? factory->CreateInstance(nullptr, __uuidof(IUnknown), out) : made;
 }
 
-NewControl ControlLibraries::create(std::wstring_view library, std::wstring_view className)
+void ControlLibraries::add(std::vector<ObjectLine> const& objects, std::vector<std::wstring> const& folders)
 {
-    loadAll();
+    for (ObjectLine const& object : objects) {
+        if (object.file.empty())
+            continue;
+        std::wstring const name(fileNameOf(object.file));
+        auto const folder = std::ranges::find_if(
+            folders, [&](std::wstring const& each) { return isFile(each + L"\\" + name); });
+        if (folder != folders.end())
+            load(*folder + L"\\" + name);
+        else
+            m_troubles += L"; " + name + L" is neither beside the program nor beside the form";
+    }
+}
+
+void ControlLibraries::load(std::wstring const& path)
+{
+    for (auto const& loaded : m_libraries)
+        if (sameName(loaded->path(), path))
+            return;
+    try {
+        m_libraries.push_back(std::make_unique<ControlLibrary>(path));
+    } catch (RunTimeError const& error) {
+        wchar_t text[32];
+        ::wsprintfW(text, L" (0x%08lX)", error.result());
+        m_troubles += L"; " + path + L" cannot be used" + text;
+    }
+}
+
+ControlLibrary const* ControlLibraries::find(std::wstring_view library) const noexcept
+{
     for (auto const& known : m_libraries)
         if (sameName(known->name(), library))
-            return known->create(className);
+            return known.get();
+    return nullptr;
+}
+
+NewControl ControlLibraries::create(std::wstring_view library, std::wstring_view className) const
+{
+    if (ControlLibrary const* const known = find(library))
+        return known->create(className);
     NewControl created = createRegistered(library, className);
     if (!created.failure.empty())
         created.failure += m_troubles;
     return created;
 }
 
-void ControlLibraries::loadAll()
+ActivationContext::Scope ControlLibraries::known(std::wstring_view library) const
 {
-    if (std::exchange(m_isLoaded, true))
-        return;
-    for (ObjectLine const& object : m_objects)
-        if (!object.file.empty())
-            load(fileNameOf(object.file));
-}
-
-void ControlLibraries::load(std::wstring_view fileName)
-{
-    for (std::wstring const& folder : m_folders) {
-        std::wstring const path = folder + L"\\" + std::wstring(fileName);
-        if (!isFile(path))
-            continue;
-        try {
-            m_libraries.push_back(std::make_unique<ControlLibrary>(path));
-        } catch (RunTimeError const& error) {
-            wchar_t text[32];
-            ::wsprintfW(text, L" (0x%08lX)", error.result());
-            m_troubles += L"; " + path + L" cannot be used" + text;
-        }
-        return;
-    }
-    m_troubles += L"; " + std::wstring(fileName) + L" is neither beside the program nor beside the form";
+    ControlLibrary const* const found = find(library);
+    return ActivationContext::Scope(found ? &found->manifest() : nullptr);
 }
 
 } // namespace quillet::gallery

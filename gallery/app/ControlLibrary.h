@@ -34,6 +34,8 @@ public:
 
     /// The library's name, which a form writes before the dot: Quillet in Quillet.qvFlatCommand.
     std::wstring const& name() const noexcept { return m_name; }
+    std::wstring const& path() const noexcept { return m_path; }
+    ActivationContext const& manifest() const noexcept { return m_manifest; }
     /// Makes a control of the class of that name: by the manifest beside the file, and where there is none
     /// through the file's own class object.
     NewControl create(std::wstring_view className) const;
@@ -42,32 +44,30 @@ private:
     HRESULT make(CLSID const& classId, ComPtr<IUnknown>& object) const;
     ComPtr<ITypeInfo> findClass(std::wstring_view className) const;
 
+    std::wstring m_path;
     UniqueLibrary m_library;
     ActivationContext m_manifest;
     ComPtr<ITypeLib> m_types;
     std::wstring m_name;
 };
 
-/// All files that the Object lines of a form name, loaded at the first control that needs them.
+/// All files that the Object lines of forms name.
 class ControlLibraries {
 public:
     /// Files are looked for in the folders, in that order; only their names count, never a path.
-    ControlLibraries(std::vector<ObjectLine> objects, std::vector<std::wstring> folders)
-        : m_objects(std::move(objects)), m_folders(std::move(folders))
-    {}
+    void add(std::vector<ObjectLine> const& objects, std::vector<std::wstring> const& folders);
 
     /// From the file that has a library of that name, else from what is registered on the machine.
-    NewControl create(std::wstring_view library, std::wstring_view className);
+    NewControl create(std::wstring_view library, std::wstring_view className) const;
+    /// The classes of the library, its property pages among them, are known to the thread for one scope.
+    ActivationContext::Scope known(std::wstring_view library) const;
 
 private:
-    void loadAll();
-    void load(std::wstring_view fileName);
+    ControlLibrary const* find(std::wstring_view library) const noexcept;
+    void load(std::wstring const& path);
 
-    std::vector<ObjectLine> m_objects;
-    std::vector<std::wstring> m_folders;
     std::vector<std::unique_ptr<ControlLibrary>> m_libraries;
     std::wstring m_troubles; ///< why files could not be used
-    bool m_isLoaded = false;
 };
 
 } // namespace quillet::gallery

@@ -32,6 +32,13 @@ Document::Document(std::wstring path)
       m_companions(folderOf(m_path))
 {}
 
+Document::Document(std::wstring path, std::string text, std::string pictures)
+    : m_path(std::move(path)), m_text(std::move(text)), m_tree(readForm(m_text, m_path)),
+      m_companions(folderOf(m_path))
+{
+    m_companions.replace(companionName(), Companion(std::move(pictures)));
+}
+
 std::wstring Document::companionName() const { return withExtension(fileNameOf(m_path), L".frx"); }
 
 bool Document::takeFrom(Form& form)

@@ -15,6 +15,8 @@ class Document {
 public:
     /// Reads the form; throws FormError.
     explicit Document(std::wstring path);
+    /// From a text and a companion that stand in no file; path is for messages.
+    Document(std::wstring path, std::string text, std::string pictures);
 
     std::wstring const& path() const noexcept { return m_path; }
     std::string const& text() const noexcept { return m_text; }

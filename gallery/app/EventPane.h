@@ -1,4 +1,4 @@
-// The window beside a form that shows what its controls raise.
+// The list beside a form that shows what its controls raise.
 #pragma once
 
 #include "gallery/host/Form.h"
@@ -13,17 +13,20 @@ namespace quillet::gallery {
 /// MouseMoves in a row it shows the newest.
 class EventPane {
 public:
-    /// Opens hidden, where it covers nothing of the form if the screen has room for that.
-    explicit EventPane(HWND form);
+    /// Its windows go with the parent's.
+    explicit EventPane(HWND parent);
 
-    void show() noexcept;
+    void moveTo(RECT const& place, int titleHeight) noexcept;
+    /// Empties the list. The hint stands above it instead of its title.
+    void begin(std::wstring const& hint = {});
     void add(FormEvent const& event);
 
-    /// Borrowed: it goes with the form's window, or when the user closes it.
-    HWND window() const noexcept { return m_window; }
+    /// Borrowed.
+    HWND list() const noexcept { return m_list; }
 
 private:
-    HWND m_window;
+    HWND m_title;
+    HWND m_list;
     std::wstring m_last; ///< the name of the event that the last line shows
 };
 

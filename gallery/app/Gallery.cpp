@@ -6,13 +6,11 @@
 #include "gallery/app/ControlLibrary.h"
 #include "gallery/app/Document.h"
 #include "gallery/app/EventLog.h"
-#include "gallery/app/EventPane.h"
-#include "gallery/app/EventText.h"
+#include "gallery/app/GalleryWindow.h"
 #include "gallery/app/Options.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/FormReader.h"
 #include "gallery/form/Utf8.h"
-#include "gallery/host/Form.h"
 
 #include <ole2.h>
 #include <windows.h>
@@ -39,17 +37,6 @@ std::wstring programFolder()
     return folderOf(path);
 }
 
-/// The form and, beside it, its events.
-RECT placeOnScreen(HWND form, HWND events)
-{
-    RECT place{};
-    RECT beside{};
-    ::GetWindowRect(form, &place);
-    if (events && ::GetWindowRect(events, &beside))
-        ::UnionRect(&place, &place, &beside);
-    return place;
-}
-
 void announce(RECT const& place, std::wstring const& file)
 {
     wchar_t line[96];
@@ -61,7 +48,7 @@ void announce(RECT const& place, std::wstring const& file)
         writeFileBytes(file, utf8(line));
 }
 
-bool dispatchWaiting(Form& form)
+bool dispatchWaiting(GalleryWindow& gallery)
 {
     MSG message;
     while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -69,7 +56,7 @@ bool dispatchWaiting(Form& form)
             ::PostQuitMessage(static_cast<int>(message.wParam));
             return false;
         }
-        if (!form.translate(message)) {
+        if (!gallery.translate(message)) {
             ::TranslateMessage(&message);
             ::DispatchMessageW(&message);
         }
@@ -78,9 +65,9 @@ bool dispatchWaiting(Form& form)
 }
 
 /// Runs until nothing is left to do; waiting without time makes the display show what was drawn.
-bool becomeIdle(Form& form)
+bool becomeIdle(GalleryWindow& gallery)
 {
-    while (dispatchWaiting(form)) {
+    while (dispatchWaiting(gallery)) {
         ::GdiFlush();
         if (::MsgWaitForMultipleObjectsEx(0, nullptr, 0, QS_ALLINPUT, MWMO_INPUTAVAILABLE) == WAIT_TIMEOUT)
             return true;
@@ -88,67 +75,44 @@ bool becomeIdle(Form& form)
     return false;
 }
 
-void runLoop(Form& form)
+void runLoop(GalleryWindow& gallery)
 {
-    while (dispatchWaiting(form))
+    while (dispatchWaiting(gallery))
         ::MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
 
-/// Where the events of a form go. A designer's form raises none, so it has no pane.
-struct EventOutputs {
-    std::optional<EventLog> log;
-    std::optional<EventPane> pane;
-
-    void add(FormEvent const& event)
-    {
-        if (log)
-            log->add(eventText(event));
-        if (pane)
-            pane->add(event);
-    }
-};
-
-FormOptions formOptions(Options const& options, Document& document, ControlLibraries& libraries,
-                        EventOutputs& outputs)
+/// Opens the form as a designer does and writes it back.
+void saveForm(std::wstring const& path, std::wstring const& folder)
 {
-    FormOptions how;
-    bool const designed = options.design || !options.saveFolder.empty();
-    how.mode = designed ? UserMode::Design : UserMode::Run;
-    how.record = [&](ResourceReference const& reference) { return document.record(reference); };
-    how.file = options.form;
-    how.factory = [&](std::wstring_view library, std::wstring_view className) {
-        return libraries.create(library, className);
-    };
-    how.onEvent = [&](FormEvent const& event) { outputs.add(event); };
-    how.onWarning = [](FormError const& warning) {
-        say(Stream::Error, L"gallery: " + warning.text() + L"\n");
-    };
-    how.onClosed = [] { ::PostQuitMessage(0); };
-    return how;
+    Document document(path);
+    ControlLibraries libraries;
+    libraries.add(document.tree().objects, {programFolder(), folderOf(path)});
+    FormOptions options;
+    options.mode = UserMode::Design;
+    options.file = path;
+    options.record = [&](ResourceReference const& reference) { return document.record(reference); };
+    options.factory = [&](auto library, auto className) { return libraries.create(library, className); };
+    options.onWarning = sayWarning;
+    Form form(document.tree(), std::move(options));
+    document.takeFrom(form);
+    document.save(folder);
 }
 
 void openAndRun(Options const& options)
 {
-    Document document(options.form);
-    EventOutputs outputs;
-    if (!options.logFile.empty())
-        outputs.log.emplace(options.logFile);
     OleScope const ole;
-    ControlLibraries libraries(document.tree().objects, {programFolder(), folderOf(options.form)});
-    Form form(document.tree(), formOptions(options, document, libraries, outputs));
-    if (!options.saveFolder.empty()) {
-        document.takeFrom(form);
-        return document.save(options.saveFolder);
-    }
-    if (!form.isDesign())
-        outputs.pane.emplace(form.window());
-    form.show();
-    if (outputs.pane)
-        outputs.pane->show();
-    if (options.announceReady && becomeIdle(form))
-        announce(placeOnScreen(form.window(), outputs.pane ? outputs.pane->window() : nullptr),
-                 options.readyFile);
-    runLoop(form);
+    if (!options.saveFolder.empty())
+        return saveForm(options.form, options.saveFolder);
+    std::optional<EventLog> log;
+    if (!options.logFile.empty())
+        log.emplace(options.logFile);
+    GalleryWindow gallery(programFolder(), log ? &*log : nullptr);
+    gallery.open(options.form, options.design ? UserMode::Design : UserMode::Run);
+    gallery.show();
+    RECT place{};
+    if (options.announceReady && becomeIdle(gallery) && ::GetWindowRect(gallery.window(), &place))
+        announce(place, options.readyFile);
+    runLoop(gallery);
 }
 
 } // namespace

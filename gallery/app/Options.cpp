@@ -89,7 +89,7 @@ std::optional<Options> parseOptions(std::vector<std::wstring> const& words)
             return std::nullopt;
         }
     }
-    return options.form.empty() && !options.help ? std::nullopt : std::optional(options);
+    return options.form.empty() && !options.saveFolder.empty() ? std::nullopt : std::optional(options);
 }
 
 } // namespace quillet::gallery

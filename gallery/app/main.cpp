@@ -27,6 +27,5 @@ std::vector<std::wstring> commandLineWords()
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, char*, int)
 {
-    ::SetProcessDPIAware(); // forms are measured in twips, so they scale themselves
     return quillet::gallery::runGallery(commandLineWords());
 }

@@ -40,7 +40,7 @@ Begin VB.Form frmButtons
    End
    Begin VB.Label lblHint 
       Caption         =   "Move the mouse over a button, press it, and go round with Tab or with Alt and an underlined letter."
-      ForeColor       =   &H00606060&
+      ForeColor       =   &H80000012&
       Height          =   240
       Left            =   240
       TabIndex        =   1
@@ -103,6 +103,7 @@ Begin VB.Form frmButtons
          BorderStyle     =   0
          Caption         =   "No &border"
          CentreCaption   =   -1  'True
+         ForeColor       =   &H00202020&
          Height          =   390
          Left            =   240
          TabIndex        =   6
@@ -219,6 +220,7 @@ Begin VB.Form frmButtons
             Italic          =   0   'False
             Strikethrough   =   0   'False
          EndProperty
+         BackColor       =   &H00FFFFFF&
          Caption         =   "La&rge"
          CentreCaption   =   -1  'True
          ForeColor       =   &H00A00000&

@@ -43,7 +43,7 @@ Begin VB.Form frmOptions
    Begin VB.Label lblHint 
       BackColor       =   &H80000005&
       Caption         =   "One choice in each frame: by mouse, by arrow keys, or by Alt and an underlined letter."
-      ForeColor       =   &H00606060&
+      ForeColor       =   &H80000008&
       Height          =   240
       Left            =   240
       TabIndex        =   1
@@ -255,7 +255,7 @@ Begin VB.Form frmOptions
          Width           =   2700
       End
       Begin Quillet.qvFlatCheck chkExpress 
-         BackColor       =   &H80000005&
+         BackColor       =   &H00FFEEE8&
          Caption         =   "E&xpress"
          ForeColor       =   &H007A3020&
          Height          =   270
@@ -267,7 +267,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin Quillet.qvFlatCheck chkInsured 
-         BackColor       =   &H80000005&
+         BackColor       =   &H00EAF8EA&
          Caption         =   "Insure&d"
          ForeColor       =   &H00205A20&
          Height          =   270
@@ -279,7 +279,7 @@ Begin VB.Form frmOptions
          Width           =   2625
       End
       Begin Quillet.qvFlatCheck chkLong 
-         BackColor       =   &H80000005&
+         BackColor       =   &H00E8ECFF&
          Caption         =   "Third state, and &hot"
          ForeColor       =   &H0020207A&
          Height          =   270

@@ -250,7 +250,7 @@ Begin VB.Form frmToolbar
    End
    Begin VB.Label lblHint 
       Caption         =   "The tool bar above is made of FlatToolButton, everything below of qvImageCommand."
-      ForeColor       =   &H00606060&
+      ForeColor       =   &H80000012&
       Height          =   240
       Left            =   240
       TabIndex        =   23
@@ -288,6 +288,7 @@ Begin VB.Form frmToolbar
          Width           =   2490
       End
       Begin Quillet.qvImageCommand imgChecked 
+         BackColor       =   &H00FFFFFF&
          Caption         =   "&Check button"
          CheckButton     =   -1  'True
          Checked         =   -1  'True
@@ -295,6 +296,7 @@ Begin VB.Form frmToolbar
          CheckedDarkBorderColor =   &H00E0E0E0&
          CheckedLightBorderColor =   &H00A0A0A0&
          DarkBorderColor =   &H00A0A0A0&
+         ForeColor       =   &H00703A00&
          Height          =   450
          HotBackColor    =   &H00FBE6D2&
          HotDarkBorderColor =   &H00B0702A&
@@ -319,6 +321,7 @@ Begin VB.Form frmToolbar
          BorderWidth     =   3
          Caption         =   "&Thick border"
          DarkBorderColor =   &H00909090&
+         ForeColor       =   &H00202020&
          Height          =   450
          HotBackColor    =   &H00FBE6D2&
          HotBorderWidth  =   3
@@ -344,6 +347,7 @@ Begin VB.Form frmToolbar
          BorderStyle     =   0
          Caption         =   "&No border"
          DarkBorderColor =   &H00A0A0A0&
+         ForeColor       =   &H00202020&
          Height          =   450
          HotBackColor    =   &H00FBE6D2&
          HotDarkBorderColor =   &H00B0702A&

@@ -163,6 +163,21 @@ void Form::warn(int line, std::wstring reason) const
         m_options.onWarning({m_options.file, line, std::move(reason)});
 }
 
-bool Form::translate(MSG& message) { return !m_isClosed && m_keyboard.translate(message); }
+bool Form::translate(MSG& message)
+{
+    if (m_isClosed || (message.hwnd != window() && !::IsChild(window(), message.hwnd)))
+        return false;
+    return isDesign() ? designed(message) : m_keyboard.translate(message);
+}
+
+/// A designed control hears nothing of the mouse.
+bool Form::designed(MSG const& message)
+{
+    bool const isMouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
+    FormControl* const control = isMouse ? controlOf(message.hwnd) : nullptr;
+    if (control && message.message == WM_LBUTTONDBLCLK && m_options.onDesign)
+        m_options.onDesign(*control);
+    return control != nullptr;
+}
 
 } // namespace quillet::gallery

@@ -37,11 +37,15 @@ struct FormEvent {
 
 struct FormOptions {
     UserMode mode = UserMode::Run;
-    std::wstring file; ///< only for messages
+    HWND parent = nullptr; ///< the window that the form stands in; null for a window of its own
+    HWND owner = nullptr;  ///< the window above which a dialog stays
+    std::wstring file;     ///< only for messages
     ControlFactory factory;
     /// A record of the form's companion file; throws ValueFault. Pictures are left out where there is none.
     std::function<std::string_view(ResourceReference const&)> record;
     std::function<void(FormEvent const&)> onEvent;
+    /// At design time: a double click on a control.
+    std::function<void(FormControl&)> onDesign;
     /// A control could not be made, and a placeholder stands for it, or one of its properties not be read.
     std::function<void(FormError const&)> onWarning;
     std::function<void()> onClosed;
@@ -61,7 +65,8 @@ public:
     void show();
     /// Ends the controls and the window. Nothing happens the second time.
     void close();
-    /// Gives the keyboard's rules their look at a message before it is dispatched; true when it is done.
+    /// Gives the keyboard's rules or, at design time, the designer their look at a message before it is
+    /// dispatched; true when it is done.
     bool translate(MSG& message);
 
     HWND window() const noexcept { return m_window.get(); }
@@ -107,6 +112,7 @@ private:
     std::unique_ptr<FormControl> makeControl(FormNode const& node, FormControl* container);
     void keepOneDefault();
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    bool designed(MSG const& message);
     void paint();
     void eraseBackground(HDC dc) const;
 

@@ -16,7 +16,7 @@ constexpr wchar_t kClassName[] = L"QuilletGalleryForm";
 
 // The system's own names for them follow the ANSI functions here.
 wchar_t const* const kArrowCursor = MAKEINTRESOURCEW(32512);
-wchar_t const* const kProgramIcon = MAKEINTRESOURCEW(32512);
+wchar_t const* const kProgramIcon = MAKEINTRESOURCEW(1);
 
 constexpr long kSizable = 2;
 constexpr long kStartManual = 0;
@@ -41,8 +41,8 @@ int pixelsOf(FormValues const& values, std::wstring_view name, double fallback, 
     return ::MulDiv(static_cast<int>(twips), dotsPerInch, kTwipsPerInch);
 }
 
-/// Where the client area belongs on the screen.
-RECT clientPlace(FormValues const& values, Resolution const& resolution)
+/// Where the client area belongs on the screen; in the middle of its owner when that is asked for.
+RECT clientPlace(FormValues const& values, Resolution const& resolution, HWND owner)
 {
     RECT place{};
     int const width = std::max(pixelsOf(values, L"ClientWidth", kDefaultWidth, resolution.x), 0);
@@ -51,8 +51,11 @@ RECT clientPlace(FormValues const& values, Resolution const& resolution)
         place.left = pixelsOf(values, L"ClientLeft", 0, resolution.x);
         place.top = pixelsOf(values, L"ClientTop", 0, resolution.y);
     } else {
-        place.left = std::max((::GetSystemMetrics(SM_CXSCREEN) - width) / 2, 0);
-        place.top = std::max((::GetSystemMetrics(SM_CYSCREEN) - height) / 2, 0);
+        RECT around{0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+        if (owner)
+            ::GetWindowRect(owner, &around);
+        place.left = std::max((around.left + around.right - width) / 2, 0L);
+        place.top = std::max((around.top + around.bottom - height) / 2, 0L);
     }
     place.right = place.left + width;
     place.bottom = place.top + height;
@@ -79,7 +82,7 @@ ATOM Form::windowClass() noexcept
     row.lpfnWndProc = windowProc;
     row.hInstance = ::GetModuleHandleW(nullptr);
     row.hCursor = ::LoadCursorW(nullptr, kArrowCursor);
-    row.hIcon = ::LoadIconW(nullptr, kProgramIcon);
+    row.hIcon = ::LoadIconW(row.hInstance, kProgramIcon);
     row.lpszClassName = kClassName;
     return ::RegisterClassExW(&row);
 }
@@ -87,16 +90,20 @@ ATOM Form::windowClass() noexcept
 void Form::makeWindow(FormNode const& node)
 {
     FormValues const values(node);
-    DWORD const style = styleOf(values);
-    RECT place = clientPlace(values, m_resolution);
+    bool const isChild = m_options.parent != nullptr;
+    DWORD const style = isChild ? WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS : styleOf(values);
+    RECT place = clientPlace(values, m_resolution, m_options.owner);
+    if (isChild)
+        ::OffsetRect(&place, -place.left, -place.top);
     ::AdjustWindowRectEx(&place, style, FALSE, 0);
-    bool const isPlacedBySystem = values.whole(L"StartUpPosition", kStartManual) == kStartDefault;
+    bool const isPlacedBySystem = !isChild && values.whole(L"StartUpPosition", kStartManual) == kStartDefault;
     windowClass();
-    m_window.reset(::CreateWindowExW(0, kClassName, values.text(L"Caption", node.name).c_str(), style,
-                                     isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.left),
-                                     isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.top),
-                                     place.right - place.left, place.bottom - place.top, nullptr, nullptr,
-                                     ::GetModuleHandleW(nullptr), this));
+    m_window.reset(::CreateWindowExW(
+        isChild ? WS_EX_CONTROLPARENT : 0, kClassName, values.text(L"Caption", node.name).c_str(), style,
+        isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.left),
+        isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.top), place.right - place.left,
+        place.bottom - place.top, isChild ? m_options.parent : m_options.owner, nullptr,
+        ::GetModuleHandleW(nullptr), this));
     if (!m_window)
         throw FormError{m_options.file, node.line, L"the form's window cannot be made"};
 }
@@ -105,6 +112,8 @@ void Form::show()
 {
     ::ShowWindow(window(), SW_SHOWNORMAL);
     ::UpdateWindow(window());
+    if (!::IsWindowVisible(window()))
+        return; // the focus would make the hidden window that it stands in the active one
     m_focus.restore();
     m_focus.update();
 }

@@ -6,6 +6,8 @@
 #include "gallery/form/ControlBag.h"
 #include "gallery/host/Form.h"
 
+#include <olectl.h>
+
 #include <utility>
 
 namespace quillet::gallery {
@@ -145,6 +147,8 @@ void HostedControl::drawWithoutWindow(HDC dc)
     if (m_view && !m_window)
         ::OleDraw(m_view.get(), DVASPECT_CONTENT, dc, &place);
 }
+
+void HostedControl::showPages() noexcept { doVerb(OLEIVERB_PROPERTIES, nullptr); }
 
 ComPtr<PropertyBag> HostedControl::save(bool allProperties)
 {

@@ -47,6 +47,8 @@ public:
     void drawWithoutWindow(HDC dc) override;
     void close() override;
 
+    /// Shows its property pages until the user closes them.
+    void showPages() noexcept;
     /// What the control would save, as a bag; for a control that keeps no property bag, an empty one.
     ComPtr<PropertyBag> save(bool allProperties);
     /// What it would have saved as soon as it was loaded and shown; empty at run time.

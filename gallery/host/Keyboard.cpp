@@ -27,9 +27,7 @@ bool mayBeAccessKey(MSG const& message) noexcept
 
 bool Keyboard::translate(MSG& message)
 {
-    if (!isKeyMessage(message.message) || m_form.isDesign())
-        return false;
-    if (message.hwnd != m_form.window() && !::IsChild(m_form.window(), message.hwnd))
+    if (!isKeyMessage(message.message))
         return false;
     m_form.focus().update();
     FormControl* const active = m_form.focus().active();

@@ -70,6 +70,8 @@ void drawFrame(HDC dc, RECT area, BoxLook const& look)
 {
     SelectScope const font(dc, look.font);
     ::FillRect(dc, &area, look.background);
+    if (look.edge == BoxEdge::None)
+        return;
     RECT caption = area;
     ::DrawTextW(dc, look.caption.c_str(), static_cast<int>(look.caption.size()), &caption,
                 DT_SINGLELINE | DT_CALCRECT);

@@ -8,6 +8,7 @@
 namespace quillet::gallery {
 
 enum class BoxState { Enabled, Disabled };
+enum class BoxEdge { Etched, None };
 
 struct BoxLook {
     std::wstring caption;
@@ -15,9 +16,10 @@ struct BoxLook {
     COLORREF foreColor;
     HBRUSH background;
     BoxState state;
+    BoxEdge edge;
 };
 
-/// A box with a caption in its upper edge, as a group of controls has it.
+/// A box with a caption in its upper edge, as a group of controls has it; without an edge a plain area.
 void drawFrame(HDC dc, RECT area, BoxLook const& look);
 /// A plain box with its caption in the middle.
 void drawPlaceholder(HDC dc, RECT area, BoxLook const& look);

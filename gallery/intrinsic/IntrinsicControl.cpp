@@ -74,6 +74,7 @@ IntrinsicControl::IntrinsicControl(Form& form, FormControl* container, FormNode 
     : FormControl(form, container, node), m_kind(kind),
       m_foreColor(colourOf(node, L"ForeColor", kind == IntrinsicKind::TextBox ? kWindowText : kButtonText)),
       m_backColor(colourOf(node, L"BackColor", kind == IntrinsicKind::TextBox ? kWindow : kButtonFace)),
+      m_edge(FormValues(node).whole(L"BorderStyle", 1) == 0 ? BoxEdge::None : BoxEdge::Etched),
       m_font(fontOf(node, form)), m_object(makeCounted<IntrinsicObject>(*this)),
       m_brush(::CreateSolidBrush(rgb(m_backColor)))
 {
@@ -227,8 +228,12 @@ void IntrinsicControl::paintBox(HDC dc) const
 {
     RECT area{};
     ::GetClientRect(m_window.get(), &area);
-    BoxLook const look{text(), handleOf(m_font.get()), rgb(m_foreColor), m_brush.get(),
-                       ::IsWindowEnabled(m_window.get()) ? BoxState::Enabled : BoxState::Disabled};
+    BoxLook const look{text(),
+                       handleOf(m_font.get()),
+                       rgb(m_foreColor),
+                       m_brush.get(),
+                       ::IsWindowEnabled(m_window.get()) ? BoxState::Enabled : BoxState::Disabled,
+                       m_edge};
     if (m_kind == IntrinsicKind::Frame)
         drawFrame(dc, area, look);
     else

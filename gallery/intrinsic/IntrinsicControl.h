@@ -5,6 +5,7 @@
 #include "base/Handles.h"
 #include "gallery/host/FormControl.h"
 #include "gallery/host/LateBoundObject.h"
+#include "gallery/intrinsic/BoxWindow.h"
 
 #include <ocidl.h>
 #include <olectl.h>
@@ -89,6 +90,7 @@ private:
     IntrinsicKind m_kind;
     OLE_COLOR m_foreColor;
     OLE_COLOR m_backColor;
+    BoxEdge m_edge; ///< of a frame
     ComPtr<IFont> m_font;
     ComPtr<IntrinsicObject> m_object;
     UniqueBrush m_brush;

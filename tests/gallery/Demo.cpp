@@ -27,9 +27,9 @@ std::string narrow(std::wstring_view text) { return utf8(text); }
 
 Demo::Demo(UserMode mode) : Demo(std::wstring(GALLERY_FORMS L"/buttons.frm"), mode) {}
 
-Demo::Demo(std::wstring const& file, UserMode mode)
-    : m_document(file), m_libraries(m_document.tree().objects, {programFolder()})
+Demo::Demo(std::wstring const& file, UserMode mode) : m_document(file)
 {
+    m_libraries.add(m_document.tree().objects, {programFolder()});
     FormOptions options;
     options.mode = mode;
     options.file = fileNameOf(file);

@@ -132,7 +132,7 @@ std::vector<std::wstring> linesOf(HWND list)
 TEST_F(EventOutput, thePaneLeavesPaintOutAndShowsOfMovesInARowTheNewest)
 {
     EventPane pane(kit.form().window());
-    EXPECT_THAT(linesOf(pane.window()), IsEmpty());
+    EXPECT_THAT(linesOf(pane.list()), IsEmpty());
     pane.add(event(L"cmdOne", L"MouseEnter"));
     pane.add(event(L"cmdOne", L"Paint"));
     pane.add(move(1));
@@ -141,7 +141,7 @@ TEST_F(EventOutput, thePaneLeavesPaintOutAndShowsOfMovesInARowTheNewest)
     pane.add(event(L"cmdOne", L"Click"));
     pane.add(event(L"cmdOne", L"Click"));
     pane.add(move(3));
-    EXPECT_THAT(linesOf(pane.window()),
+    EXPECT_THAT(linesOf(pane.list()),
                 ElementsAre(L"cmdOne.MouseEnter", L"cmdOne.MouseMove(0, 0, 2, 0)", L"cmdOne.Click",
                             L"cmdOne.Click", L"cmdOne.MouseMove(0, 0, 3, 0)"));
 }
@@ -150,44 +150,28 @@ TEST_F(EventOutput, thePaneKeepsTheNewestLineInSightAndDropsTheOldest)
 {
     EventPane pane(kit.form().window());
     pane.add(event(L"cmdTwo", L"Click"));
+    pane.moveTo({0, 0, 200, 100}, 20);
     for (int i = 0; i < 500; ++i)
         pane.add(event(L"cmdOne", L"Click"));
-    EXPECT_EQ(::SendMessageW(pane.window(), LB_GETCOUNT, 0, 0), 500);
-    EXPECT_EQ(linesOf(pane.window()).front(), L"cmdOne.Click");
+    EXPECT_EQ(::SendMessageW(pane.list(), LB_GETCOUNT, 0, 0), 500);
+    EXPECT_EQ(linesOf(pane.list()).front(), L"cmdOne.Click");
     RECT line{};
     RECT area{};
-    ::SendMessageW(pane.window(), LB_GETITEMRECT, 499, reinterpret_cast<LPARAM>(&line));
-    ::GetClientRect(pane.window(), &area);
+    ::SendMessageW(pane.list(), LB_GETITEMRECT, 499, reinterpret_cast<LPARAM>(&line));
+    ::GetClientRect(pane.list(), &area);
     EXPECT_GE(line.top, 0);
     EXPECT_LE(line.bottom, area.bottom);
 }
 
-TEST_F(EventOutput, thePaneStandsBesideTheFormAndTakesNoFocus)
-{
-    kit.form().show();
-    EventPane pane(kit.form().window());
-    HWND const active = ::GetActiveWindow();
-    pane.show();
-    EXPECT_TRUE(::IsWindowVisible(pane.window()));
-    EXPECT_EQ(::GetActiveWindow(), active);
-    RECT form{};
-    RECT beside{};
-    RECT common{};
-    ::GetWindowRect(kit.form().window(), &form);
-    ::GetWindowRect(pane.window(), &beside);
-    EXPECT_FALSE(::IntersectRect(&common, &form, &beside));
-    EXPECT_GT(beside.right - beside.left, 0);
-}
-
-TEST_F(EventOutput, aPaneThatIsGoneTakesNoMoreLines)
+TEST_F(EventOutput, thePaneBeginsAnewWithAHintInPlaceOfItsTitle)
 {
     EventPane pane(kit.form().window());
-    ::SendMessageW(pane.window(), WM_CLOSE, 0, 0);
-    EXPECT_FALSE(::IsWindow(pane.window()));
     pane.add(event(L"cmdOne", L"Click"));
-    EventPane other(kit.form().window());
-    kit.form().close();
-    EXPECT_FALSE(::IsWindow(other.window()));
+    pane.begin(L"Double-click something");
+    EXPECT_THAT(linesOf(pane.list()), IsEmpty());
+    EXPECT_TRUE(::FindWindowExW(kit.form().window(), nullptr, L"STATIC", L"Double-click something"));
+    pane.begin();
+    EXPECT_TRUE(::FindWindowExW(kit.form().window(), nullptr, L"STATIC", L"Events"));
 }
 
 } // namespace

@@ -67,7 +67,7 @@ TEST(Options, aLogWithoutAFileIsRefused)
     EXPECT_FALSE(parseOptions({L"a.frm", L"--log="}));
     EXPECT_FALSE(parseOptions({L"--log", L"--design", L"a.frm"}));
     EXPECT_FALSE(parseOptions({L"--log", std::wstring(), L"a.frm"}));
-    EXPECT_FALSE(parseOptions({L"--log", L"a.frm"})) << "the only word is the log, so there is no form";
+    EXPECT_FALSE(parseOptions({L"--log", L"a.frm"})) << "the only word is the log, and that is a form";
     EXPECT_FALSE(parseOptions({L"--logs", L"e.txt"}));
 }
 
@@ -76,6 +76,16 @@ TEST(Options, aFormAsTheLogIsRefusedRatherThanWrittenOver)
     EXPECT_FALSE(parseOptions({L"--log", L"a.frm", L"b.frm"}));
     EXPECT_FALSE(parseOptions({L"--log=A.FRM", L"b.frm"}));
     EXPECT_TRUE(parseOptions({L"--log", L"frm", L"b.frm"}));
+}
+
+TEST(Options, withoutAFormTheGallerysOwnIsMeant)
+{
+    for (auto const& words :
+         std::vector<std::vector<std::wstring>>{{}, {L"--design"}, {L"--log", L"e.txt"}}) {
+        auto const options = parseOptions(words);
+        ASSERT_TRUE(options);
+        EXPECT_EQ(options->form, L"");
+    }
 }
 
 TEST(Options, helpNeedsNoForm)
@@ -88,8 +98,6 @@ TEST(Options, helpNeedsNoForm)
 
 TEST(Options, whatMakesNoSenseIsRefused)
 {
-    EXPECT_FALSE(parseOptions({}));
-    EXPECT_FALSE(parseOptions({L"--design"}));
     EXPECT_FALSE(parseOptions({L"a.frm", L"b.frm"}));
     EXPECT_FALSE(parseOptions({L"--frog", L"a.frm"}));
     EXPECT_FALSE(parseOptions({L"--screenshot-ready=", L"a.frm"}));

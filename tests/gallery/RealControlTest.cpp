@@ -19,8 +19,8 @@ using ::testing::IsEmpty;
 
 TEST(RealControl, theFileBesideTheProgramMakesItsControlsWithoutRegistration)
 {
-    ControlLibraries libraries({{L"{any}", L"C:\\elsewhere\\quilbt.ocx", 0}},
-                               {L"C:\\nowhere", programFolder()});
+    ControlLibraries libraries;
+    libraries.add({{L"{any}", L"C:\\elsewhere\\quilbt.ocx", 0}}, {L"C:\\nowhere", programFolder()});
     NewControl const made = libraries.create(L"quillet", L"QVFLATCOMMAND");
     EXPECT_TRUE(made.object);
     EXPECT_TRUE(made.classInfo);
@@ -29,7 +29,8 @@ TEST(RealControl, theFileBesideTheProgramMakesItsControlsWithoutRegistration)
 
 TEST(RealControl, whatCannotBeMadeSaysWhy)
 {
-    ControlLibraries libraries({{L"{any}", L"quilbt.ocx", 0}, {L"{any}", L"gone.ocx", 0}}, {programFolder()});
+    ControlLibraries libraries;
+    libraries.add({{L"{any}", L"quilbt.ocx", 0}, {L"{any}", L"gone.ocx", 0}}, {programFolder()});
     EXPECT_EQ(libraries.create(L"Quillet", L"qvFrog").failure, L"the library has no class of that name");
     EXPECT_THAT(narrow(libraries.create(L"Frog", L"Pond").failure),
                 HasSubstr("not registered; gone.ocx is neither beside the program nor beside the form"));
@@ -42,7 +43,8 @@ TEST(RealControl, aFileThatIsNoComponentIsATroubleAndNoMore)
     HANDLE const file = ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
     ASSERT_NE(file, INVALID_HANDLE_VALUE);
     ::CloseHandle(file);
-    ControlLibraries libraries({{L"{any}", L"notes.ocx", 0}}, {programFolder()});
+    ControlLibraries libraries;
+    libraries.add({{L"{any}", L"notes.ocx", 0}}, {programFolder()});
     EXPECT_THAT(narrow(libraries.create(L"Notes", L"Note").failure), HasSubstr("notes.ocx cannot be used"));
     ::DeleteFileW(path.c_str());
 }

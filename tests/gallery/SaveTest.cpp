@@ -117,7 +117,8 @@ TEST_P(SavedForms, areTheSameByteForByteWhereNothingChanged)
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, SavedForms,
-                         testing::Values(L"buttons.frm", L"looks.frm", L"options.frm", L"toolbar.frm"),
+                         testing::Values(L"buttons.frm", L"gallery.frm", L"looks.frm", L"mail.frm",
+                                         L"options.frm", L"sendoptions.frm", L"toolbar.frm"),
                          [](auto const& tested) {
                              std::wstring const name(tested.param);
                              return std::string(name.begin(), name.end() - 4);

@@ -1,7 +1,7 @@
-// Moves and presses the real mouse over the gallery's form, from outside: pointer DEED…, where a DEED is
-// "move X Y" (pixels of the form's client area), "away" (to the screen's corner), "down", "up", "origin"
-// (says where the client area begins on the screen) or "tooltip" (waits until one shows, and says where). For
-// scripts that want to see what a user sees.
+// Moves and presses the real mouse over the gallery's form or its dialog, from outside: pointer DEED…, where
+// a DEED is "move X Y" (pixels of the form's client area), "away" (to the screen's corner), "down", "up",
+// "origin" (says where the client area begins on the screen), "dialog" (waits until one shows) or "tooltip"
+// (the same, and says where). For scripts that want to see what a user sees.
 #include <windows.h>
 
 #include <cstdio>
@@ -17,7 +17,15 @@ constexpr DWORD kBetweenLooks = 20;
 // A pixel off the corner: a new display's cursor counts as being in it, so moving there would do nothing.
 constexpr POINT kAway{1, 1};
 
-HWND galleryForm() noexcept { return ::FindWindowW(L"QuilletGalleryForm", nullptr); }
+constexpr wchar_t kForm[] = L"QuilletGalleryForm";
+
+/// A dialog where one is open, else the form in the gallery's window.
+HWND shownForm() noexcept
+{
+    HWND const dialog = ::FindWindowW(kForm, nullptr);
+    HWND const gallery = ::FindWindowW(L"QuilletGallery", nullptr);
+    return dialog || !gallery ? dialog : ::FindWindowExW(gallery, nullptr, kForm, nullptr);
+}
 
 int number(wchar_t const* word) noexcept { return static_cast<int>(std::wcstol(word, nullptr, 10)); }
 
@@ -43,13 +51,13 @@ bool moveOnScreen(POINT at)
 bool move(int x, int y)
 {
     POINT at{x, y};
-    return ::ClientToScreen(galleryForm(), &at) && moveOnScreen(at);
+    return ::ClientToScreen(shownForm(), &at) && moveOnScreen(at);
 }
 
 bool sayOrigin()
 {
     POINT origin{};
-    return ::ClientToScreen(galleryForm(), &origin) && std::printf("%ld %ld\n", origin.x, origin.y) > 0;
+    return ::ClientToScreen(shownForm(), &origin) && std::printf("%ld %ld\n", origin.x, origin.y) > 0;
 }
 
 bool turnButton(DWORD flags)
@@ -89,6 +97,8 @@ bool doOne(Words& word, Words end)
     }
     if (deed == L"away")
         return moveOnScreen(kAway);
+    if (deed == L"dialog")
+        return await([] { return ::IsWindowVisible(::FindWindowW(kForm, nullptr)) != FALSE; });
     if (deed == L"origin")
         return sayOrigin();
     if (deed == L"down")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Draws the icons of toolbar.frm, 16 and 32 pixels with soft edges, and writes toolbar.frx beside it.
-Run it in this folder; it prints the offset of each picture, which the form names."""
+"""Draws the icons of the forms, 16 and 32 pixels with soft edges, and writes the companion files beside them and the
+program's own icon. Run it in this folder; it prints the offset of each picture, which the form names."""
 import math
 import struct
 
@@ -53,11 +53,26 @@ def rows(*spans):
     return [(box(left, 2.4 + 3 * i, right, 3.8 + 3 * i), INK) for i, (left, right) in enumerate(spans)]
 
 
-def arrow(mirrored):
+def arrow(mirrored, colour=BLUE):
     flip = (lambda x: 16 - x) if mirrored else (lambda x: x)
     bend = ring(8.6, 10.2, 4.6, 2, lambda x, y: y < 10.4 or x > 8.6)
     tip = poly((1, 6.6), (6.8, 3.4), (6.8, 10.4))
-    return [(lambda x, y: bend(flip(x), y), BLUE), (lambda x, y: tip(flip(x), y), BLUE)]
+    return [(lambda x, y: bend(flip(x), y), colour), (lambda x, y: tip(flip(x), y), colour)]
+
+
+def both(first, second):
+    return lambda x, y: first(x, y) and second(x, y)
+
+
+def pencil(colour):
+    return [(poly((10.6, 1.6), (14.4, 5.4), (5.6, 14.2), (1.8, 10.4)), colour), (poly((1.8, 10.4), (5.6, 14.2), (.8, 15.2)), INK)]
+
+
+def quill():
+    """A feather on a button, for the program."""
+    vane = both(disc(3.4, 3.6, 9), disc(12.6, 12.6, 9))
+    return [(both(box(.5, .5, 15.5, 15.5), lambda x, y: math.hypot(max(abs(x - 8) - 5, 0), max(abs(y - 8) - 5, 0)) <= 2.5), BLUE),
+            (lambda x, y: vane(x - .8, y + .6), WHITE), (line(2.9, 13.4, 11.4, 4.6, .8), SKY), (line(2.9, 13.4, 4.6, 11.6, 1), WHITE)]
 
 
 ICONS = {
@@ -97,6 +112,28 @@ ICONS = {
              (poly(*[(8 + r * math.sin(i * math.pi / 5), 8.4 - r * math.cos(i * math.pi / 5))
                      for i, r in enumerate([6, 2.7] * 5)]), GOLD)],
     'ok': [(disc(8, 8, 7), GREEN), (line(4.6, 8.2, 7, 10.8, 1.8), WHITE), (line(7, 10.8, 11.6, 5.4, 1.8), WHITE)],
+    'reply': arrow(False, GREEN),
+    'forward': arrow(True),
+    'bin': [(poly((3, 5), (13, 5), (12, 15), (4, 15)), GREY), (box(2, 3, 14, 4.6), INK), (box(6, 1.4, 10, 3), INK),
+            (box(5.8, 6.6, 6.8, 13.4), WHITE), (box(9.2, 6.6, 10.2, 13.4), WHITE)],
+    'flag': [(box(3, 1, 4.4, 15), INK), (poly((4.4, 1.6), (13.6, 4.8), (4.4, 8.4)), RED)],
+    'inbox': [(poly((3.4, 2), (12.6, 2), (15, 8.6), (15, 14), (1, 14), (1, 8.6)), INK), (poly((4.2, 3.2), (11.8, 3.2), (13.7, 8.6), (2.3, 8.6)), PALE),
+              (poly((2.1, 9.6), (5.2, 9.6), (6.4, 11.4), (9.6, 11.4), (10.8, 9.6), (13.9, 9.6), (13.9, 13), (2.1, 13)), SKY)],
+    'draft': page(2, 1, 12, 15) + [(poly((12.4, 5.4), (15, 8), (9.6, 13.4), (7, 10.8)), GOLD), (poly((7, 10.8), (9.6, 13.4), (6.2, 14.2)), INK)],
+    'sent': [(poly((.8, 7.4), (15.2, 1.2), (11.4, 14.4), (7.6, 10.6)), BLUE), (poly((.8, 7.4), (15.2, 1.2), (6, 9.4)), SKY),
+             (poly((6, 9.4), (15.2, 1.2), (7.6, 10.6), (6, 14.2)), PALE)],
+    'buttons': [(box(1, 2, 15, 7.2), INK), (box(2, 3, 14, 6.2), WHITE), (box(1, 9, 15, 14.2), BLUE), (box(2, 10, 14, 13.2), SKY),
+                (box(4.4, 4.2, 11.6, 5.1), GREY), (box(4.4, 11.2, 11.6, 12.1), WHITE)],
+    'pictures': [(box(1, 2, 15, 14), INK), (box(2, 3, 14, 13), PALE), (disc(11.2, 5.8, 1.7), GOLD),
+                 (poly((2, 13), (6, 6.6), (9.6, 13)), GREEN), (poly((6.6, 13), (10, 9), (14, 13)), BLUE)],
+    'options': [(disc(4, 4.2, 3.3), INK), (disc(4, 4.2, 2.3), WHITE), (disc(4, 4.2, 1.3), BLUE), (box(9, 3.6, 15, 4.8), GREY),
+                (box(.8, 8.8, 7.2, 15.2), INK), (box(1.8, 9.8, 6.2, 14.2), WHITE), (line(2.4, 12, 3.6, 13.2, 1.2), GREEN),
+                (line(3.6, 13.2, 5.8, 10.6, 1.2), GREEN), (box(9, 11.4, 15, 12.6), GREY)],
+    'design': pencil(GOLD),
+    'write': page(2, 1, 12, 15) + [(box(4.4, 6, 9.6, 6.8), GREY), (box(4.4, 8.4, 9.6, 9.2), GREY), (box(4.4, 10.8, 8, 11.6), GREY)],
+    'gear': [(lambda x, y: math.hypot(x - 8, y - 8) <= (7 if math.cos(8 * math.atan2(y - 8, x - 8)) > 0 else 5.4), INK),
+             (disc(8, 8, 4.4), GREY), (disc(8, 8, 2), WHITE)],
+    'quill': quill(),
     'stop': [(disc(8, 8, 7), RED), (line(5.4, 5.4, 10.6, 10.6, 1.9), WHITE), (line(10.6, 5.4, 5.4, 10.6, 1.9), WHITE)],
 }
 
@@ -134,15 +171,24 @@ def pixels(picture):
     return b''.join(struct.pack('<4B', b, g, r, a) for row in reversed(picture) for r, g, b, a in row)
 
 
-def icon(picture):
+def icon_image(picture):
     side = len(picture)
     mask_row = (side + 31) // 32 * 4
     mask = b''.join(
         bytes(sum((row[x + bit][3] == 0) << (7 - bit) for bit in range(8)) for x in range(0, side, 8)).ljust(mask_row, b'\0')
         for row in reversed(picture))
-    info = struct.pack('<IiiHHIIiiII', 40, side, side * 2, 1, 32, 0, 0, 0, 0, 0, 0)
-    image = info + pixels(picture) + mask
-    return struct.pack('<HHH', 0, 1, 1) + struct.pack('<BBBBHHII', side, side, 0, 0, 1, 32, len(image), 22) + image
+    return struct.pack('<IiiHHIIiiII', 40, side, side * 2, 1, 32, 0, 0, 0, 0, 0, 0) + pixels(picture) + mask
+
+
+def icon(*pictures):
+    images = [icon_image(picture) for picture in pictures]
+    head = struct.pack('<HHH', 0, 1, len(images))
+    offset = len(head) + 16 * len(images)
+    for picture, image in zip(pictures, images):
+        side = len(picture)
+        head += struct.pack('<BBBBHHII', side, side, 0, 0, 1, 32, len(image), offset)
+        offset += len(image)
+    return head + b''.join(images)
 
 
 def bitmap(picture):
@@ -168,13 +214,29 @@ PICTURES = ([(name, 16, False, icon) for name in BAR] +
             [(name, 32, True, icon) for name in ('mail', 'save')])
 
 
-def main():
+BAR_OF_GALLERY = [(name, 16, False, icon) for name in ('buttons', 'pictures', 'options', 'mail', 'design', 'save')]
+MAIL = [(name, 16, False, icon) for name in
+        ('write', 'reply', 'forward', 'bin', 'flag', 'print', 'find', 'gear', 'inbox', 'draft', 'sent', 'star',
+         'mail', 'mail open', 'open')]
+SEND_OPTIONS = [(name, 16, False, icon) for name in ('ok', 'stop')]
+
+
+def write(form, pictures):
     companion = b''
-    for name, side, fade, kind in PICTURES:
-        print('%04X  %s %d%s %s' % (len(companion), name, side, ' faded' if fade else '', kind.__name__))
+    for name, side, fade, kind in pictures:
+        print('%s %04X  %s %d%s %s' % (form, len(companion), name, side, ' faded' if fade else '', kind.__name__))
         companion += record(kind(drawn(ICONS[name], side, fade)))
-    with open('../toolbar.frx', 'wb') as file:
+    with open('../%s.frx' % form, 'wb') as file:
         file.write(companion)
+
+
+def main():
+    write('toolbar', PICTURES)
+    write('gallery', BAR_OF_GALLERY)
+    write('mail', MAIL)
+    write('sendoptions', SEND_OPTIONS)
+    with open('../../app/gallery.ico', 'wb') as file:
+        file.write(icon(*[drawn(ICONS['quill'], side, False) for side in (16, 24, 32, 48, 64)]))
 
 
 if __name__ == '__main__':
