@@ -19,6 +19,7 @@ public:
     Borrowed& operator=(Borrowed const&) = delete;
     Record** put() noexcept { return &m_record; }
     Record const* operator->() const noexcept { return m_record; }
+    Record const& operator*() const noexcept { return *m_record; }
 
 private:
     Owner& m_owner;

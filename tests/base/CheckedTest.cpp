@@ -2,6 +2,7 @@
 #include "base/Checked.h"
 
 #include "base/Thrown.h"
+#include "kit/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +13,6 @@ namespace {
 
 constexpr long kMax = 2147483647;
 constexpr long kMin = -2147483647 - 1;
-
-constexpr HRESULT kOverflow = runTimeError(6);
 
 TEST(Checked, sumsAndDifferencesInsideTheRangeComeBackExactly)
 {

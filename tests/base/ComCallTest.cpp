@@ -4,6 +4,7 @@
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 #include "base/Thrown.h"
+#include "kit/Errors.h"
 
 #include <ocidl.h>
 
@@ -17,7 +18,6 @@ namespace {
 
 constexpr ErrorSource kSource{
     L"Quillet.qvFlatCommand", {0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}}, 77};
-constexpr HRESULT kOverflow = runTimeError(6);
 
 /// What was left as error info; taking it clears it, as a host does.
 struct Report {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/RunTimeError.h"
+#include "kit/Errors.h"
 
 namespace quillet {
 
@@ -15,7 +16,5 @@ template <class Body> HRESULT thrownBy(Body&& body)
         return error.result();
     }
 }
-
-constexpr HRESULT runTimeError(WORD number) { return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number); }
 
 } // namespace quillet

@@ -3,6 +3,7 @@
 
 #include "base/Thrown.h"
 #include "kit/Counterpart.h"
+#include "kit/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +12,7 @@
 namespace quillet {
 namespace {
 
-constexpr HRESULT kOverflow = runTimeError(6);
-constexpr HRESULT kTypeMismatch = runTimeError(13);
-
-using Object = kit::Counterpart<IUnknown>;
+using AnyObject = kit::Counterpart<IUnknown>;
 
 /// A dispatch object that nothing is asked of.
 class Dispatch final : public kit::Counterpart<IDispatch> {
@@ -83,7 +81,7 @@ TEST(Variant, aValueThatDoesNotConvertRaisesTypeMismatch)
 {
     EXPECT_EQ(thrownBy([] { Variant::ofString(L"many").toLong(); }), kTypeMismatch);
     EXPECT_EQ(thrownBy([] { Variant::ofString(L"").toShort(); }), kTypeMismatch);
-    auto const object = kit::make<Object>();
+    auto const object = kit::make<AnyObject>();
     EXPECT_EQ(thrownBy([&] { Variant::ofUnknown(object.get()).toLong(); }), kTypeMismatch);
 }
 
@@ -168,7 +166,7 @@ TEST(Variant, adoptEmptiesTheSourceAndDetachEmptiesTheOwner)
 
 TEST(Variant, putForgetsWhatWasHeld)
 {
-    auto const object = kit::make<Object>();
+    auto const object = kit::make<AnyObject>();
     Variant value = Variant::ofUnknown(object.get());
     value.put();
     EXPECT_EQ(value.type(), VT_EMPTY);
@@ -177,7 +175,7 @@ TEST(Variant, putForgetsWhatWasHeld)
 
 TEST(Variant, countsAnObjectOnceAndGivesItUpAtTheEnd)
 {
-    auto const object = kit::make<Object>();
+    auto const object = kit::make<AnyObject>();
     auto const dispatch = kit::make<Dispatch>();
     {
         Variant const first = Variant::ofUnknown(object.get());

@@ -23,7 +23,7 @@ protected:
     OffScreenDC m_surface;
 };
 
-TEST(Draw3DBorder, ofOneRingGivesTheTopLeftCornerToTheTopColourAndTheOtherThreeToTheBottomColour)
+TEST(Draw3DBorder, ofOneRingHasTheTopColourInTheTopLeftCornerAlone)
 {
     BoundSurface bound(7, 5);
     bound.surface.Draw3DBorder(kRed, kBlue, 1);

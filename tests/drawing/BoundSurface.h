@@ -4,6 +4,7 @@
 #include "base/RunTimeError.h"
 #include "drawing/OffScreenDC.h"
 #include "kit/Canvas.h"
+#include "kit/Errors.h"
 
 #include <string>
 
@@ -52,7 +53,5 @@ template <class Body> HRESULT thrownBy(Body&& body)
 
 constexpr long kMax = 2147483647;
 constexpr long kMin = -2147483647 - 1;
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
-constexpr HRESULT kObjectNotSet = static_cast<HRESULT>(0x800A005B);
 
 } // namespace quillet

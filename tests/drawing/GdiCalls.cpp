@@ -87,21 +87,21 @@ template <Name kName, class Result, class... Arguments> struct Stand<kName, Resu
 };
 
 /// One function: its name in the import table, what stands for it, and where the original is kept.
-struct Row {
+struct Redirected {
     char const* name;
     void* stand;
     void** original;
 };
 
-template <Name kName, class Function> Row row()
+template <Name kName, class Function> Redirected row()
 {
     using S = Stand<kName, Function>;
     return {kName.text, reinterpret_cast<void*>(&S::call), reinterpret_cast<void**>(&S::original)};
 }
 
-std::vector<Row> const& rows()
+std::vector<Redirected> const& rows()
 {
-    static std::vector<Row> const all = {
+    static std::vector<Redirected> const all = {
         row<"BitBlt", decltype(::BitBlt)>(),
         row<"CreateCompatibleBitmap", decltype(::CreateCompatibleBitmap)>(),
         row<"CreateCompatibleDC", decltype(::CreateCompatibleDC)>(),
@@ -127,7 +127,7 @@ std::vector<Row> const& rows()
 void standIn(HMODULE caller)
 {
     forEachImport(caller, [](char const* name, void** slot) {
-        for (Row const& row : rows())
+        for (Redirected const& row : rows())
             if (std::strcmp(name, row.name) == 0) {
                 *row.original = *slot;
                 exchangeImport(slot, row.stand);
@@ -138,7 +138,7 @@ void standIn(HMODULE caller)
 void stepAside(HMODULE caller)
 {
     forEachImport(caller, [](char const*, void** slot) {
-        for (Row const& row : rows())
+        for (Redirected const& row : rows())
             if (*slot == row.stand)
                 exchangeImport(slot, *row.original);
     });

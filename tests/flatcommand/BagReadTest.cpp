@@ -2,6 +2,7 @@
 #include "FlatButton.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/FakeBag.h"
 #include "kit/Fonts.h"
 
@@ -11,9 +12,6 @@ namespace {
 using testing::AnyOf;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
-
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
-constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
 
 class FlatBagRead : public FlatTest {
 protected:
@@ -219,7 +217,7 @@ TEST_F(FlatBagRead, writesFieldsWithoutRunningTheirSetters)
     putAllValues();
     button.changes().take();
     ASSERT_EQ(button.load(*bag.get()), S_OK);
-    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT, 0x68030002)) << "but of the two objects";
+    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT, id::MouseIcon)) << "but of the two objects";
 }
 
 // Whatever a document holds, a control loads it or refuses it.

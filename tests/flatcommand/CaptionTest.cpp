@@ -60,7 +60,7 @@ TEST_F(FlatCaption, isVisibleInTheExpectationItselfAndSoIsTheUnderline)
     EXPECT_NE(kit::differences(plain, marked), "");
 }
 
-TEST_F(FlatCaption, madeOfAnAmpersandFollowedBySaveIsDisplayedAsSaveWithItsSUnderlinedAtTheCaptionsX)
+TEST_F(FlatCaption, hasTheCharacterBehindTheAmpersandUnderlined)
 {
     expectShown(L"&Save");
     EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L's'}, Key{FALT, L'S'}));
@@ -198,6 +198,15 @@ TEST_F(FlatCaption, followsTheFont)
     expectShown(L"B&ig");
 }
 
+TEST_F(FlatCaption, isUnderlinedInTheFontOfNow)
+{
+    expectShown(L"&Old");
+    button.setFont(kit::newFont(L"Tahoma", 16, true).get());
+    expectShown(L"&Old");
+    ASSERT_EQ(button.font()->put_Bold(FALSE), S_OK); // no setter of the button's own
+    expectShown(L"&Old");
+}
+
 TEST_F(FlatCaption, leavesTheFontWithoutUnderline)
 {
     expectShown(L"Und&er");
@@ -207,6 +216,14 @@ TEST_F(FlatCaption, leavesTheFontWithoutUnderline)
     EXPECT_TRUE(kit::isUnderlined(*underlined.get())) << "the font of whoever gave it was changed";
     EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
     expectShown(L"Plain now");
+}
+
+TEST_F(FlatCaption, takesTheUnderlineOffWithoutTellingOfAChange)
+{
+    button.changes().take();
+    button.setFont(kit::copyOf(*formFont().get(), true).get());
+    EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
+    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT)) << "the setter's own, and no other";
 }
 
 TEST_F(FlatCaption, doesNotUnderlineTheFormsOwnFontNorTheFontOfASibling)

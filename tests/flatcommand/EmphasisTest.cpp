@@ -88,8 +88,7 @@ TEST_F(FlatEmphasis, aButtonThatIsNotDefaultAndHasNoFocusHasNone)
     EXPECT_EQ(repaintedAgainst(normalFace()), "");
 }
 
-TEST_F(FlatEmphasis,
-       aFocusedButtonWithBorderStyle1AndBorderWidth1ShowsATwoPixelBorderAndItsCaptionDoesNotMove)
+TEST_F(FlatEmphasis, aFocusedButtonsBorderOf1IsOf2AndItsCaptionDoesNotMove)
 {
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     button.setCaption(L"F&ocus");
@@ -195,7 +194,7 @@ TEST_F(FlatEmphasis, theFaceOfACaptionWithASmallIndentCoversTheLeftSideOfTheFram
     }
 }
 
-TEST_F(FlatEmphasis, withShowFocusRectangleTrueAndBackColor808080TheFocusFrameIsDrawnInE0E0E0)
+TEST_F(FlatEmphasis, theFocusFrameOfABackColorOf808080IsE0E0E0)
 {
     EXPECT_EQ(button->put_BackColor(0x808080), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
@@ -245,7 +244,7 @@ TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedButtonAtRestHasABlackBorderOnePixe
     EXPECT_EQ(repaintedAgainst(face), "");
 }
 
-TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedHotButtonHasTheNormalHighlightBorderOfItsState)
+TEST_F(FlatEmphasis, aFocusedHotButtonOfTheTaskPaneHasTheBorderOfItsState)
 {
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
@@ -287,7 +286,7 @@ TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAHostsOwnButtonHasTheFocus)
     setActive(nullptr);
 }
 
-TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileTheInnerObjectOfTheActiveExtenderIsAHostsOwnButton)
+TEST_F(FlatEmphasis, theDefaultButtonLosesItToAHostsOwnButtonInsideAnExtender)
 {
     auto const hostButton = kit::make<HostControl>(kHostButton);
     auto const extender = kit::make<kit::NamedObject>("Active", form.sharedRecord());

@@ -41,22 +41,17 @@ ComPtr<IFont> formFont() { return kit::newFont(L"Tahoma", 10); }
 
 FlatButton::FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place,
                        std::wstring const& name)
-    : Hosted(library, kQvFlatCommandClass, form, place, name), m_button(as<_qvFlatCommand>()),
-      m_events(kit::make<kit::EventRecorder>(kQvFlatCommandEvents)),
-      m_changes(kit::make<kit::ChangeRecorder>()),
-      m_eventConnection(object(), kQvFlatCommandEvents, m_events->unknown()),
-      m_changeConnection(object(), __uuidof(IPropertyNotifySink), m_changes->unknown())
+    : Hosted(library, kQvFlatCommandClass, form, place, name), Listener(kit::kCommandEvents),
+      m_button(as<_qvFlatCommand>())
 {
+    join(object(), kQvFlatCommandEvents);
     site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(formFont().get()).get()));
     EXPECT_TRUE(m_button) << "the object has no _qvFlatCommand";
-    EXPECT_TRUE(m_eventConnection.joined()) << "the object refuses its event sink";
-    EXPECT_TRUE(m_changeConnection.joined()) << "the object refuses a sink for changed properties";
 }
 
 void FlatButton::remove()
 {
-    m_eventConnection.cut();
-    m_changeConnection.cut();
+    stopListening();
     m_button.reset();
     Hosted::remove();
 }

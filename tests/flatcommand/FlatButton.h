@@ -3,7 +3,8 @@
 
 #include "kit/ControlTest.h"
 #include "kit/Hosted.h"
-#include "kit/Sinks.h"
+#include "kit/Listener.h"
+#include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -15,12 +16,8 @@
 
 namespace quillet::flat {
 
-constexpr DISPID kMouseEnter = 1;
-constexpr DISPID kMouseExit = 2;
-constexpr DISPID kPaint = 3;
-constexpr DISPID kClick = 4;
-constexpr DISPID kMouseDown = 6;
-constexpr DISPID kMouseUp = 8;
+namespace id = dispid::qvFlatCommand;
+constexpr DISPID kPaint = eventid::command::Paint;
 
 constexpr RECT kPlace{20, 30, 140, 70};
 
@@ -29,7 +26,7 @@ ComPtr<IFont> formFont();
 
 /// A button whose events and changed properties are recorded from the beginning. Nothing has happened to it
 /// yet.
-class FlatButton : public kit::Hosted {
+class FlatButton : public kit::Hosted, public kit::Listener {
 public:
     FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
                std::wstring const& name = L"Button1");
@@ -37,8 +34,6 @@ public:
 
     _qvFlatCommand* operator->() const noexcept { return m_button.get(); }
     _qvFlatCommand* dual() const noexcept { return m_button.get(); }
-    kit::EventRecorder& events() noexcept { return *m_events.get(); }
-    kit::ChangeRecorder& changes() noexcept { return *m_changes.get(); }
     void remove();
 
     std::wstring caption() const;
@@ -48,10 +43,6 @@ public:
 
 private:
     ComPtr<_qvFlatCommand> m_button;
-    ComPtr<kit::EventRecorder> m_events;
-    ComPtr<kit::ChangeRecorder> m_changes;
-    kit::Connection m_eventConnection;
-    kit::Connection m_changeConnection;
 };
 
 /// Every saved property and ToolTipText as "Name = value": fonts and pictures by what can be told of them.

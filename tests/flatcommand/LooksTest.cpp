@@ -128,7 +128,7 @@ TEST_F(FlatLooks, atDesignTimeAPressedStateNeverShows)
     button.leave();
 }
 
-TEST_F(FlatLooks, settingHotBackColorWhileTheButtonIsAtRestChangesNothingUntilTheMouseEnters)
+TEST_F(FlatLooks, hotBackColorSetAtRestChangesNothingUntilTheMouseEnters)
 {
     ShownButton button(library(), form);
     EXPECT_EQ(button->put_HotBackColor(RGB(9, 99, 199)), S_OK);
@@ -224,7 +224,7 @@ TEST_F(FlatLooks, tintsOfTheExpectationAreTheWorkedExamples)
     EXPECT_EQ(tint(0x000000, 0xFFFFFF, false), 0x808080U);
 }
 
-TEST_F(FlatLooks, borderStyle0WithBorderWidth5HasNoBorderAndTheCaptionStartsAtCaptionIndent)
+TEST_F(FlatLooks, borderStyle0HasNoBorderOfAnyWidthAndTheCaptionAtItsIndent)
 {
     ShownButton button(library(), form);
     button.setColors();

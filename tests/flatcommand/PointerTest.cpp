@@ -25,17 +25,13 @@ TEST_F(FlatPointer, isTheArrowAtFirst) { EXPECT_EQ(shown(), system(reinterpret_c
 
 TEST_F(FlatPointer, isTheSystemsOfThatNumber)
 {
-    struct Pointer {
-        SHORT number;
-        LPCWSTR name;
-    };
-    for (auto const& [number, name] :
-         {Pointer{1, reinterpret_cast<LPCWSTR>(IDC_ARROW)}, Pointer{2, reinterpret_cast<LPCWSTR>(IDC_CROSS)},
-          Pointer{3, reinterpret_cast<LPCWSTR>(IDC_IBEAM)},
-          Pointer{10, reinterpret_cast<LPCWSTR>(IDC_UPARROW)},
-          Pointer{11, reinterpret_cast<LPCWSTR>(IDC_WAIT)}}) {
+    auto const pointers = {IDC_ARROW,    IDC_ARROW,       IDC_CROSS,    IDC_IBEAM,  IDC_ARROW,   IDC_SIZEALL,
+                           IDC_SIZENESW, IDC_SIZENS,      IDC_SIZENWSE, IDC_SIZEWE, IDC_UPARROW, IDC_WAIT,
+                           IDC_NO,       IDC_APPSTARTING, IDC_HELP,     IDC_SIZEALL};
+    for (SHORT number = 0; auto const identifier : pointers) {
         EXPECT_EQ(button->put_MousePointer(number), S_OK);
-        EXPECT_EQ(shown(), system(name)) << number;
+        EXPECT_EQ(shown(), system(reinterpret_cast<LPCWSTR>(identifier))) << number;
+        ++number;
     }
 }
 

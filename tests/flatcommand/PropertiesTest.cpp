@@ -1,6 +1,7 @@
 // The properties of qvFlatCommand: types, initial values, and what assigning them does.
 #include "FlatButton.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/FakeBag.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
@@ -17,55 +18,45 @@ enum class Repaints { No, Yes };
 template <class T> struct Row {
     wchar_t const* name;
     DISPID id;
+    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*get)(T*);
+    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*put)(T);
     T initial;
     T other;
     Repaints repaints;
-    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*get)(T*);
-    HRESULT (STDMETHODCALLTYPE _qvFlatCommand::*put)(T);
 };
 
-using B = _qvFlatCommand;
+#define QV_PROPERTY(name) L"" #name, id::name, &_qvFlatCommand::get_##name, &_qvFlatCommand::put_##name
+
 constexpr OLE_COLOR kOther = 0x00123456;
 
 Row<OLE_COLOR> const kColors[] = {
-    {L"BackColor", 0x68030017, 0x8000000F, kOther, Repaints::Yes, &B::get_BackColor, &B::put_BackColor},
-    {L"ForeColor", 0x68030016, 0x80000012, kOther, Repaints::Yes, &B::get_ForeColor, &B::put_ForeColor},
-    {L"BorderColor", 0x68030013, 0x80000015, kOther, Repaints::Yes, &B::get_BorderColor, &B::put_BorderColor},
-    {L"HotForeColor", 0x68030012, 0x80000014, kOther, Repaints::No, &B::get_HotForeColor,
-     &B::put_HotForeColor},
-    {L"PressedForeColor", 0x68030011, 0x80000014, kOther, Repaints::No, &B::get_PressedForeColor,
-     &B::put_PressedForeColor},
-    {L"HotBackColor", 0x68030010, 0x80000010, kOther, Repaints::No, &B::get_HotBackColor,
-     &B::put_HotBackColor},
-    {L"PressedBackColor", 0x6803000F, 0x80000015, kOther, Repaints::No, &B::get_PressedBackColor,
-     &B::put_PressedBackColor},
-    {L"HotBorderColor", 0x6803000E, 0x80000015, kOther, Repaints::No, &B::get_HotBorderColor,
-     &B::put_HotBorderColor},
-    {L"PressedBorderColor", 0x6803000D, 0x80000015, kOther, Repaints::No, &B::get_PressedBorderColor,
-     &B::put_PressedBorderColor},
-    {L"DisabledForeColor", 0x68030009, 0x80000011, kOther, Repaints::Yes, &B::get_DisabledForeColor,
-     &B::put_DisabledForeColor},
+    {QV_PROPERTY(BackColor), 0x8000000F, kOther, Repaints::Yes},
+    {QV_PROPERTY(ForeColor), 0x80000012, kOther, Repaints::Yes},
+    {QV_PROPERTY(BorderColor), 0x80000015, kOther, Repaints::Yes},
+    {QV_PROPERTY(HotForeColor), 0x80000014, kOther, Repaints::No},
+    {QV_PROPERTY(PressedForeColor), 0x80000014, kOther, Repaints::No},
+    {QV_PROPERTY(HotBackColor), 0x80000010, kOther, Repaints::No},
+    {QV_PROPERTY(PressedBackColor), 0x80000015, kOther, Repaints::No},
+    {QV_PROPERTY(HotBorderColor), 0x80000015, kOther, Repaints::No},
+    {QV_PROPERTY(PressedBorderColor), 0x80000015, kOther, Repaints::No},
+    {QV_PROPERTY(DisabledForeColor), 0x80000011, kOther, Repaints::Yes},
 };
 
 Row<VARIANT_BOOL> const kBooleans[] = {
-    {L"Enabled", 0x68030015, VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes, &B::get_Enabled, &B::put_Enabled},
-    {L"CentreCaption", 0x68030007, VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes, &B::get_CentreCaption,
-     &B::put_CentreCaption},
-    {L"ShowFocusRectangle", 0x68030001, VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes,
-     &B::get_ShowFocusRectangle, &B::put_ShowFocusRectangle},
-    {L"OfficeXPColors", 0x68030031, VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes, &B::get_OfficeXPColors,
-     &B::put_OfficeXPColors},
+    {QV_PROPERTY(Enabled), VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes},
+    {QV_PROPERTY(CentreCaption), VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes},
+    {QV_PROPERTY(ShowFocusRectangle), VARIANT_TRUE, VARIANT_FALSE, Repaints::Yes},
+    {QV_PROPERTY(OfficeXPColors), VARIANT_FALSE, VARIANT_TRUE, Repaints::Yes},
 };
 
 Row<SHORT> const kShorts[] = {
-    {L"CaptionIndent", 0x68030006, 4, -300, Repaints::Yes, &B::get_CaptionIndent, &B::put_CaptionIndent},
-    {L"MousePointer", 0x68030003, 0, 2, Repaints::No, &B::get_MousePointer, &B::put_MousePointer},
+    {QV_PROPERTY(CaptionIndent), 4, -300, Repaints::Yes},
+    {QV_PROPERTY(MousePointer), 0, 2, Repaints::No},
 };
 
 using Style = pdsButtonBorderStyleConstants;
 Row<Style> const kStyles[] = {
-    {L"BorderStyle", 0x68030014, Style::Fixed, Style::None, Repaints::Yes, &B::get_BorderStyle,
-     &B::put_BorderStyle},
+    {QV_PROPERTY(BorderStyle), Style::Fixed, Style::None, Repaints::Yes},
 };
 
 class FlatProperties : public FlatTest {
@@ -158,7 +149,7 @@ TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
     std::vector<std::string> order;
     OLE_COLOR told = 0;
     button.changes().action = [&](DISPID id) {
-        order.push_back(id == 0x68030017 ? "told" : "another property");
+        order.push_back(id == id::BackColor ? "told" : "another property");
         button->get_BackColor(&told);
     };
     button.events().action = [&](kit::EventRecorder::Event const& event) {
@@ -179,7 +170,7 @@ TEST_F(FlatProperties, assignedTheSameValueAgainStillTellAndRepaint)
     button.changes().take();
     EXPECT_EQ(button->put_BackColor(0x8000000F), S_OK);
     EXPECT_EQ(button.events().count(kPaint), 1);
-    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030017));
+    EXPECT_THAT(button.changes().take(), ElementsAre(id::BackColor));
 }
 
 TEST_F(FlatProperties, readIntoNowhereAreRefused)
@@ -210,7 +201,7 @@ TEST_F(FlatProperties, toolTipTextIsKeptAndDoesNotRepaint)
     button.changes().take();
     EXPECT_EQ(button->put_ToolTipText(Bstr(L"a tip").get()), S_OK);
     EXPECT_EQ(button.events().count(kPaint), 0);
-    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030018));
+    EXPECT_THAT(button.changes().take(), ElementsAre(id::ToolTipText));
     Bstr tip;
     button->get_ToolTipText(tip.put());
     EXPECT_EQ(tip.view(), L"a tip");
@@ -225,7 +216,7 @@ TEST_F(FlatProperties, captionIsKeptWithItsMarkersAndRepaints)
     button.setCaption(L"&Save && \x00E4nder");
     EXPECT_EQ(button.caption(), L"&Save && \x00E4nder");
     EXPECT_EQ(button.events().count(kPaint), 1);
-    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030008));
+    EXPECT_THAT(button.changes().take(), ElementsAre(id::Caption));
     EXPECT_EQ(button->put_Caption(nullptr), S_OK);
     EXPECT_EQ(button.caption(), L"");
 }
@@ -262,7 +253,7 @@ TEST_F(FlatProperties, fontIsOf2160PointsAtMost)
     button.start();
     button.changes().take();
     EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2170).get()).get()),
-              static_cast<HRESULT>(0x800A017C)); // 380
+              kInvalidPropertyValue);
     EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "the old font is gone";
     EXPECT_THAT(button.changes().take(), IsEmpty());
     EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2160).get()).get()), S_OK);
@@ -277,7 +268,7 @@ TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
     auto const icon = kit::newIconPicture();
     EXPECT_EQ(button->putref_MouseIcon(icon.get()), S_OK);
     EXPECT_EQ(button.events().count(kPaint), 0);
-    EXPECT_THAT(button.changes().take(), ElementsAre(0x68030002));
+    EXPECT_THAT(button.changes().take(), ElementsAre(id::MouseIcon));
     ComPtr<IPictureDisp> kept;
     EXPECT_EQ(button->get_MouseIcon(kept.put()), S_OK);
     EXPECT_EQ(kept.get(), icon.get());
@@ -350,7 +341,7 @@ TEST_F(FlatProperties, atDesignTimeAreAssignedWithoutAnyEvent)
     EXPECT_EQ(button->Refresh(), S_OK);
     kit::pumpPending();
     EXPECT_THAT(button.events().ids(), IsEmpty());
-    EXPECT_THAT(button.changes().take(), testing::IsSupersetOf({0x68030017, 0x68030008}));
+    EXPECT_THAT(button.changes().take(), testing::IsSupersetOf({id::BackColor, id::Caption}));
 }
 
 // A colour arrives from scripts as a signed long; system colours are negative then.

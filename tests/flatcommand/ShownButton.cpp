@@ -68,7 +68,7 @@ void ShownButton::makePressed()
 {
     makeHot();
     kit::press(kit::MouseButton::Left);
-    EXPECT_TRUE(kit::pumpUntil([this] { return events().count(kMouseDown) > 0; }));
+    EXPECT_TRUE(kit::pumpUntil([this] { return count("MouseDown") > 0; }));
     EXPECT_EQ(::GetFocus(), window());
     m_pressed = true;
 }
@@ -77,7 +77,7 @@ void ShownButton::leave()
 {
     if (std::exchange(m_pressed, false)) {
         kit::release(kit::MouseButton::Left);
-        EXPECT_TRUE(kit::pumpUntil([this] { return events().count(kMouseUp) > 0; }));
+        EXPECT_TRUE(kit::pumpUntil([this] { return count("MouseUp") > 0; }));
     }
     EXPECT_TRUE(kit::moveCursorAway());
     kit::pumpPending();

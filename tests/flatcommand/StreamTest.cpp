@@ -14,6 +14,18 @@ namespace {
 
 using kit::Bytes;
 
+template <class T> void append(Bytes& bytes, T const& value)
+{
+    auto const* const first = reinterpret_cast<BYTE const*>(&value);
+    bytes.insert(bytes.end(), first, first + sizeof value);
+}
+
+void append(Bytes& bytes, std::wstring const& text)
+{
+    for (wchar_t const letter : text)
+        append(bytes, letter);
+}
+
 class FlatStream : public FlatTest {
 protected:
     kit::FakeForm form;
@@ -178,6 +190,57 @@ TEST_F(FlatStream, endingTooEarlyIsRefusedAtEveryLengthAndChangesNothing)
         ASSERT_EQ(stateOf(button), before) << length << " of " << full.size();
     }
     EXPECT_EQ(load(button, full), S_OK);
+}
+
+/// A form by hand: its mark, the version of its layout, how many values, how many bytes; then the values.
+Bytes formOf(WORD version, WORD count, Bytes const& values, DWORD size)
+{
+    Bytes bytes{'Q', 'V', 'P', 'B'};
+    append(bytes, version);
+    append(bytes, count);
+    append(bytes, size);
+    bytes.insert(bytes.end(), values.begin(), values.end());
+    return bytes;
+}
+
+/// A text named Caption that says how long it is.
+Bytes captionOf(DWORD length, std::wstring const& text)
+{
+    std::wstring const name = L"Caption";
+    Bytes bytes;
+    append(bytes, static_cast<WORD>(name.size()));
+    append(bytes, name);
+    append(bytes, WORD{VT_BSTR});
+    append(bytes, length);
+    append(bytes, text);
+    return bytes;
+}
+
+TEST_F(FlatStream, thatSaysOtherThanItHoldsIsRefusedAndChangesNothing)
+{
+    Bytes const whole = captionOf(4, L"hand");
+    auto const size = static_cast<DWORD>(whole.size());
+    ASSERT_EQ(load(button, formOf(1, 1, whole, size)), S_OK);
+    ASSERT_EQ(button.caption(), L"hand");
+    Bytes longer = whole;
+    longer.push_back(0);
+    struct Row {
+        char const* what;
+        Bytes bytes;
+    };
+    for (auto const& [what, bytes] :
+         {Row{"an older version", formOf(0, 1, whole, size)},
+          Row{"a newer version", formOf(2, 1, whole, size)},
+          Row{"a byte behind its last value", formOf(1, 1, longer, size + 1)},
+          Row{"a value behind its last", formOf(1, 0, whole, size)},
+          Row{"a body longer than the stream", formOf(1, 1, whole, size + 1)},
+          Row{"no body at all", formOf(1, 1, {}, size)},
+          Row{"a text longer than its body", formOf(1, 1, captionOf(5, L"hand"), size)},
+          Row{"a text of any length", formOf(1, 1, captionOf(0xFFFFFFFF, L"hand"), size)}}) {
+        button.setCaption(L"kept");
+        EXPECT_EQ(load(button, bytes), E_FAIL) << what;
+        EXPECT_EQ(button.caption(), L"kept") << what;
+    }
 }
 
 TEST_F(FlatStream, failingWhileItIsReadIsRefusedAndChangesNothing)

@@ -1,6 +1,7 @@
 // The three border widths: Variants that hold 16-bit integers.
 #include "FlatButton.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 
 #include <iterator>
 
@@ -8,10 +9,6 @@ namespace quillet::flat {
 namespace {
 
 using testing::IsEmpty;
-
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
-constexpr HRESULT kInvalidUseOfNull = static_cast<HRESULT>(0x800A005E);
-constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
 
 struct Width {
     char const* name;
@@ -22,10 +19,11 @@ struct Width {
 };
 
 Width const kWidths[] = {
-    {"BorderWidth", 0x6803000C, true, &_qvFlatCommand::get_BorderWidth, &_qvFlatCommand::put_BorderWidth},
-    {"HotBorderWidth", 0x6803000B, false, &_qvFlatCommand::get_HotBorderWidth,
+    {"BorderWidth", id::BorderWidth, true, &_qvFlatCommand::get_BorderWidth,
+     &_qvFlatCommand::put_BorderWidth},
+    {"HotBorderWidth", id::HotBorderWidth, false, &_qvFlatCommand::get_HotBorderWidth,
      &_qvFlatCommand::put_HotBorderWidth},
-    {"PressedBorderWidth", 0x6803000A, false, &_qvFlatCommand::get_PressedBorderWidth,
+    {"PressedBorderWidth", id::PressedBorderWidth, false, &_qvFlatCommand::get_PressedBorderWidth,
      &_qvFlatCommand::put_PressedBorderWidth},
 };
 

@@ -2,6 +2,7 @@
 #include "Mouse.h"
 #include "Pictures.h"
 #include "kit/Canvas.h"
+#include "kit/Errors.h"
 #include "kit/Painter.h"
 
 namespace quillet::image {
@@ -52,7 +53,7 @@ TEST_P(ImageAtl, runWithoutAmbientProperties)
     VARIANT_BOOL running = VARIANT_FALSE;
     EXPECT_EQ(button()->InUserMode(&running), S_OK);
     EXPECT_EQ(running, VARIANT_TRUE);
-    EXPECT_EQ(button()->putref_Image(emptyPicture().get()), static_cast<HRESULT>(0x800A01E1));
+    EXPECT_EQ(button()->putref_Image(emptyPicture().get()), kInvalidPicture);
 }
 
 TEST_P(ImageAtl, keepTheirWidthWhereNobodyChangesIt)

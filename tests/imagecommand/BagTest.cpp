@@ -2,6 +2,7 @@
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
@@ -255,11 +256,11 @@ TEST_P(ImageBag, withAValueThatDoesNotConvertIsRefusedAndChangesNothing)
     auto const before = stateOf(button);
     putAllValues();
     bag->put(L"OfficeXPColors", Variant::ofString(L"perhaps"));
-    EXPECT_EQ(load(), static_cast<HRESULT>(0x800A000D));
+    EXPECT_EQ(load(), kTypeMismatch);
     EXPECT_EQ(stateOf(button), before);
     bag->put(L"OfficeXPColors", Variant::ofShort(0));
     bag->put(L"BorderWidth", Variant::ofLong(40000));
-    EXPECT_EQ(load(), static_cast<HRESULT>(0x800A0006));
+    EXPECT_EQ(load(), kOverflow);
     EXPECT_EQ(stateOf(button), before);
 }
 

@@ -18,7 +18,7 @@ protected:
         kit::pumpPending();
         button().events().forget();
         EXPECT_TRUE(kit::dragFrom(button().window(), kBeside, kInside));
-        EXPECT_TRUE(kit::pumpUntil([&] { return button().count(kMouseMove) > 0; }));
+        EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseMove") > 0; }));
         Names names = button().release();
         std::erase(names, "Paint");
         return names;
@@ -45,7 +45,7 @@ TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatOpenedADialog)
     button().moveTo(kInside);
     bool opened = false;
     button().events().action = [&](auto const& event) {
-        if (event.id != kMouseDown)
+        if (event.id != eventid::command::MouseDown)
             return;
         opened = true;
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
@@ -66,11 +66,11 @@ TEST_P(ImageClick, needsAPressOfItsOwnAfterAMoveWithoutTheButton)
     for (auto const& [message, keys] :
          {std::pair{UINT{WM_LBUTTONDOWN}, WPARAM{MK_LBUTTON}}, {WM_MOUSEMOVE, MK_RBUTTON}, {WM_LBUTTONUP, 0}})
         ::SendMessageA(button().window(), message, keys, at);
-    EXPECT_EQ(button().count(kMouseUp), 1) << "which every release raises";
-    EXPECT_EQ(button().count(kClick), 0);
+    EXPECT_EQ(button().count("MouseUp"), 1) << "which every release raises";
+    EXPECT_EQ(button().count("Click"), 0);
 }
 
-TEST_P(ImageClick, ofTheRightOrTheMiddleButtonInQuickSuccessionIsMouseDownAndMouseUpEachTime)
+TEST_P(ImageClick, ofTheOtherButtonsInQuickSuccessionIsAllMouseDownAndMouseUp)
 {
     button().moveTo(kInside);
     for (MouseButton const which : {MouseButton::Right, MouseButton::Middle})

@@ -9,9 +9,6 @@ namespace {
 
 constexpr IID kHostButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
 
-constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
-constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
-
 /// A control of the form's own that is known by one interface.
 class HostControl final : public kit::Counterpart<IUnknown> {
 private:

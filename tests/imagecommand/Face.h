@@ -10,6 +10,10 @@
 
 namespace quillet::image {
 
+/// Colours that no scheme has.
+constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
+constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
+
 /// A plain picture and where its top left corner stands.
 struct Shown {
     Plain picture;

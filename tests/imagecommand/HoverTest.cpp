@@ -30,9 +30,9 @@ TEST_P(ImageHover, hasTheCaptureWhenItTellsOfEnteringAndNoneWhenItTellsOfLeaving
     HWND entering = nullptr;
     HWND leaving = button().window();
     button().events().action = [&](auto const& event) {
-        if (event.id == kMouseEnter)
+        if (event.id == eventid::command::MouseEnter)
             entering = ::GetCapture();
-        if (event.id == kMouseExit)
+        if (event.id == eventid::command::MouseExit)
             leaving = ::GetCapture();
     };
     button().moveTo(kInside);
@@ -65,7 +65,7 @@ TEST_P(ImageHover, aDoubleClickIsDownUpClickDoubleUp)
     button().moveTo(kInside);
     Names all = button().press();
     for (Names const& more :
-         {button().release(), button().during([] { kit::press(kit::MouseButton::Left); }, kDblClick),
+         {button().release(), button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick"),
           button().release()})
         all.insert(all.end(), more.begin(), more.end());
     std::erase(all, "Paint");
@@ -111,7 +111,7 @@ TEST_P(ImageHover, tellsButtonShiftAndTheTwipsOfThePlace)
 {
     ::SendMessageW(button().window(), WM_RBUTTONDOWN, MK_RBUTTON | MK_SHIFT | MK_CONTROL, MAKELPARAM(7, 11));
     auto const& event = button().events().events.back();
-    ASSERT_EQ(event.id, kMouseDown);
+    ASSERT_EQ(event.id, eventid::command::MouseDown);
     ASSERT_EQ(event.values.size(), 4U);
     EXPECT_EQ(event.values[0].toShort(), 2);
     EXPECT_EQ(event.values[1].toShort(), 3);

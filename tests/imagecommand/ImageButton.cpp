@@ -33,24 +33,20 @@ double twipsPerPixel()
 
 ImageButton::ImageButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind,
                          RECT const& place, std::wstring const& name)
-    : Hosted(library, kind.classId, form, place, name),
-      m_button(query<_qvImageCommand>(object(), kind.interfaceId)),
-      m_events(kit::make<kit::EventRecorder>(kind.eventsId)), m_changes(kit::make<kit::ChangeRecorder>()),
-      m_eventConnection(object(), kind.eventsId, m_events->unknown()),
-      m_changeConnection(object(), __uuidof(IPropertyNotifySink), m_changes->unknown())
+    : Hosted(library, kind.classId, form, place, name), Listener(kit::kCommandEvents),
+      m_button(query<_qvImageCommand>(object(), kind.interfaceId))
 {
+    join(object(), kind.eventsId);
     site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(formFont().get()).get()));
     site().extender().offer(L"Width", Variant::ofLong(0));
     EXPECT_TRUE(m_button) << "the object has no default interface";
-    EXPECT_TRUE(m_eventConnection.joined()) << "the object refuses its event sink";
-    EXPECT_TRUE(m_changeConnection.joined()) << "the object refuses a sink for changed properties";
 }
 
 void ImageButton::forget()
 {
     kit::pumpPending();
-    m_events->forget();
-    m_changes->take();
+    events().forget();
+    changes().take();
     form().record().forget();
 }
 
@@ -58,8 +54,7 @@ void ImageButton::remove()
 {
     if (m_pressed)
         leave();
-    m_eventConnection.cut();
-    m_changeConnection.cut();
+    stopListening();
     m_button.reset();
     Hosted::remove();
 }
@@ -122,9 +117,9 @@ void ImageButton::makeHot()
 void ImageButton::makePressed()
 {
     makeHot();
-    int const before = m_events->count(kMouseDown);
+    int const before = count("MouseDown");
     kit::press(kit::MouseButton::Left);
-    EXPECT_TRUE(kit::pumpUntil([&] { return m_events->count(kMouseDown) > before; }));
+    EXPECT_TRUE(kit::pumpUntil([&] { return count("MouseDown") > before; }));
     EXPECT_EQ(::GetFocus(), window());
     m_pressed = true;
     kit::pumpPending();
@@ -133,9 +128,9 @@ void ImageButton::makePressed()
 void ImageButton::leave()
 {
     if (std::exchange(m_pressed, false)) {
-        int const before = m_events->count(kMouseUp);
+        int const before = count("MouseUp");
         kit::release(kit::MouseButton::Left);
-        EXPECT_TRUE(kit::pumpUntil([&] { return m_events->count(kMouseUp) > before; }));
+        EXPECT_TRUE(kit::pumpUntil([&] { return count("MouseUp") > before; }));
     }
     EXPECT_TRUE(kit::moveCursorAway());
     kit::pumpPending();

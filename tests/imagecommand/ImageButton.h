@@ -4,7 +4,8 @@
 #include "kit/ControlTest.h"
 #include "kit/FakeBag.h"
 #include "kit/Hosted.h"
-#include "kit/Sinks.h"
+#include "kit/Listener.h"
+#include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -17,14 +18,9 @@
 
 namespace quillet::image {
 
-constexpr DISPID kMouseEnter = 1;
-constexpr DISPID kMouseExit = 2;
-constexpr DISPID kPaint = 3;
-constexpr DISPID kClick = 4;
-constexpr DISPID kDblClick = 5;
-constexpr DISPID kMouseDown = 6;
-constexpr DISPID kMouseMove = 7;
-constexpr DISPID kMouseUp = 8;
+using kit::Names;
+
+constexpr DISPID kPaint = eventid::command::Paint;
 
 constexpr RECT kPlace{20, 30, 140, 70};
 
@@ -47,7 +43,7 @@ double twipsPerPixel();
 
 /// A button whose events and changed properties are recorded from the beginning. Nothing has happened to it
 /// yet. The interfaces of the two classes have the same vtable: one pointer reaches both.
-class ImageButton : public kit::Hosted {
+class ImageButton : public kit::Hosted, public kit::Listener {
 public:
     ImageButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind,
                 RECT const& place = kPlace, std::wstring const& name = L"Button1");
@@ -55,9 +51,7 @@ public:
 
     _qvImageCommand* operator->() const noexcept { return m_button.get(); }
     _qvImageCommand* dual() const noexcept { return m_button.get(); }
-    kit::EventRecorder& events() noexcept { return *m_events.get(); }
-    kit::ChangeRecorder& changes() noexcept { return *m_changes.get(); }
-    int paints() { return m_events->count(kPaint); }
+    int paints() const { return count("Paint"); }
     /// How often the extender was told another width.
     int widths() { return form().record().countFrom("Extender.Width = "); }
     void forget();
@@ -85,10 +79,6 @@ public:
 
 private:
     ComPtr<_qvImageCommand> m_button;
-    ComPtr<kit::EventRecorder> m_events;
-    ComPtr<kit::ChangeRecorder> m_changes;
-    kit::Connection m_eventConnection;
-    kit::Connection m_changeConnection;
     bool m_pressed = false;
 };
 

@@ -10,8 +10,6 @@ namespace quillet::image {
 namespace {
 
 // A colour of its own for every property.
-constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
-constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
 constexpr COLORREF kHotFore = RGB(3, 103, 203), kHotBack = RGB(230, 235, 180);
 constexpr COLORREF kHotLight = RGB(4, 104, 204), kHotDark = RGB(5, 105, 205);
 constexpr COLORREF kPressedFore = RGB(6, 106, 206), kPressedBack = RGB(180, 235, 230);
@@ -21,7 +19,7 @@ constexpr COLORREF kCheckedBack = RGB(235, 180, 230), kCheckedLight = RGB(11, 11
 constexpr COLORREF kCheckedDark = RGB(12, 112, 212);
 constexpr COLORREF kUnused = RGB(255, 0, 0);
 
-COLORREF sys(int index) { return ::GetSysColor(index); }
+COLORREF desktop(int index) { return ::GetSysColor(index); }
 
 class ImageLooks : public ImageTest {
 protected:
@@ -92,21 +90,21 @@ TEST_P(ImageLooks, ofANewButtonAreThoseOfItsClass)
 {
     bool const tool = kind().isTool;
     int const edge = tool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW;
-    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), sys(edge), sys(edge)));
+    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
     button.makeHot();
-    expect(tool
-               ? face(sys(COLOR_HIGHLIGHT), sys(COLOR_BTNFACE), sys(COLOR_BTNHIGHLIGHT), sys(COLOR_BTNSHADOW))
-               : face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_BTNSHADOW), sys(COLOR_3DDKSHADOW),
-                      sys(COLOR_3DDKSHADOW)));
+    expect(tool ? face(desktop(COLOR_HIGHLIGHT), desktop(COLOR_BTNFACE), desktop(COLOR_BTNHIGHLIGHT),
+                       desktop(COLOR_BTNSHADOW))
+                : face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW), desktop(COLOR_3DDKSHADOW),
+                       desktop(COLOR_3DDKSHADOW)));
     button.makePressed();
-    expect(focused(tool ? face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_3DLIGHT), sys(COLOR_BTNHIGHLIGHT),
-                               sys(COLOR_BTNSHADOW))
-                        : face(sys(COLOR_BTNHIGHLIGHT), sys(COLOR_3DDKSHADOW), sys(COLOR_3DDKSHADOW),
-                               sys(COLOR_3DDKSHADOW))));
+    expect(focused(tool ? face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DLIGHT),
+                               desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW))
+                        : face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DDKSHADOW),
+                               desktop(COLOR_3DDKSHADOW), desktop(COLOR_3DDKSHADOW))));
     button.leave();
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(sys(COLOR_GRAYTEXT), sys(COLOR_BTNFACE), sys(edge), sys(edge)));
+    expect(face(desktop(COLOR_GRAYTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
 }
 
 TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
@@ -159,26 +157,27 @@ TEST_P(ImageLooks, ofATaskPaneButtonAreTheDesktopsWhateverItsColours)
     setColors();
     setWidths(2, 3, 1);
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
-    COLORREF const selection = sys(COLOR_HIGHLIGHT);
+    COLORREF const selection = desktop(COLOR_HIGHLIGHT);
     // A resting tool button shows no border at all at run time.
-    COLORREF const resting = kind().isTool ? sys(COLOR_BTNFACE) : sys(COLOR_BTNSHADOW);
-    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), resting, resting, 2));
+    COLORREF const resting = kind().isTool ? desktop(COLOR_BTNFACE) : desktop(COLOR_BTNSHADOW);
+    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), resting, resting, 2));
     button.makeHot();
-    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 3));
+    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 3));
     button.makePressed();
-    expect(focused(face(sys(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    expect(focused(face(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave();
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), sys(COLOR_BTNSHADOW), sys(COLOR_BTNSHADOW), 2));
+    expect(face(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), desktop(COLOR_BTNSHADOW),
+                desktop(COLOR_BTNSHADOW), 2));
 }
 
 TEST_P(ImageLooks, ofARestingTaskPaneToolButtonHaveABorderInItsBackColour)
 {
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     ASSERT_EQ(button->put_BackColor(kBack), S_OK);
-    COLORREF const edge = kind().isTool ? kBack : sys(COLOR_BTNSHADOW);
-    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), edge, edge));
+    COLORREF const edge = kind().isTool ? kBack : desktop(COLOR_BTNSHADOW);
+    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
 }
 
 TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
@@ -186,25 +185,25 @@ TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     button.setUserMode(false);
     button.repaint();
-    COLORREF const edge = kind().isTool ? sys(COLOR_HIGHLIGHT) : sys(COLOR_BTNSHADOW);
-    expect(face(sys(COLOR_BTNTEXT), sys(COLOR_BTNFACE), edge, edge));
+    COLORREF const edge = kind().isTool ? desktop(COLOR_HIGHLIGHT) : desktop(COLOR_BTNSHADOW);
+    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
 }
 
 TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
 {
     check();
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
-    COLORREF const selection = sys(COLOR_HIGHLIGHT);
-    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    COLORREF const selection = desktop(COLOR_HIGHLIGHT);
+    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makeHot();
-    expect(face(sys(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makePressed();
-    expect(focused(face(sys(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    expect(focused(face(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave(); // released over it: not checked any more
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(sys(COLOR_BTNSHADOW), sys(COLOR_BTNFACE), selection, selection));
+    expect(face(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), selection, selection));
 }
 
 TEST_P(ImageLooks, withoutABorderKeepItsWidthForTheCaption)

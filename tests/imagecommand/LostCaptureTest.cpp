@@ -9,7 +9,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr COLORREF kHotFace = RGB(23, 45, 67);
-constexpr POINT kFace{60, 20}; // where nothing is drawn but the face
+constexpr POINT kOnTheFace{60, 20}; // where nothing is drawn but the face
 
 class ImageLostCapture : public ImageInputTest {
 protected:
@@ -22,7 +22,7 @@ protected:
     bool isHot()
     {
         WindowDc const dc(button().window());
-        return ::GetPixel(dc.get(), kFace.x, kFace.y) == kHotFace;
+        return ::GetPixel(dc.get(), kOnTheFace.x, kOnTheFace.y) == kHotFace;
     }
 };
 QV_BOTH_HOSTS(ImageLostCapture);
@@ -33,7 +33,7 @@ TEST_P(ImageLostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)
     kit::pumpPending();
     EXPECT_TRUE(isHot()) << "the mouse is still there";
     EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }, kMouseExit),
+        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }, "MouseExit"),
         ElementsAre("MouseExit", "Paint"));
     EXPECT_FALSE(isHot());
 }
@@ -42,11 +42,11 @@ TEST_P(ImageLostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
 {
     bool hot = true;
     button().events().action = [&](auto const& event) {
-        if (event.id != kClick)
+        if (event.id != eventid::command::Click)
             return;
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
-            EXPECT_TRUE(kit::pumpUntil([&] { return button().count(kMouseExit) > 0; }));
+            EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseExit") > 0; }));
             hot = isHot();
         });
     };
@@ -64,7 +64,7 @@ TEST_P(ImageLostCapture, endsWithMouseExitWhenTheMouseComesBackBefore)
         ::ReleaseCapture();
         kit::moveCursorTo(button().window(), kInsideToo.x, kInsideToo.y);
     };
-    EXPECT_THAT(button().during(lost, kMouseMove),
+    EXPECT_THAT(button().during(lost, "MouseMove"),
                 ElementsAre("MouseExit", "MouseEnter", "Paint", "MouseMove"));
     EXPECT_THAT(button().moveTo(kBeside), ElementsAre("MouseExit", "Paint", "MouseMove"));
 }

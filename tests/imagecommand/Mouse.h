@@ -6,32 +6,21 @@
 #include "kit/Input.h"
 #include "kit/Pump.h"
 
-#include <algorithm>
 #include <memory>
 
 namespace quillet::image {
-
-using Names = std::vector<std::string>;
 
 constexpr POINT kInside{100, 30};
 constexpr POINT kInsideToo{90, 25};
 constexpr POINT kBeside{160, 20};
 
-inline std::string nameOf(DISPID event)
-{
-    // In their published order, counted from 1.
-    constexpr char const* kNames[] = {"?",        "MouseEnter", "MouseExit", "Paint",  "Click",
-                                      "DblClick", "MouseDown",  "MouseMove", "MouseUp"};
-    return kNames[event > 0 && event < 9 ? event : 0];
-}
-
 enum class HostKind { Form, AtlAxWin };
 
 /// A running button with the focus in one of the hosts, its events recorded.
-class HostedButton {
+class HostedButton : public kit::Listener {
 public:
     HostedButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind, HostKind host)
-        : m_events(kit::make<kit::EventRecorder>(kind.eventsId))
+        : Listener(kit::kCommandEvents)
     {
         auto const bag = kit::make<kit::FakeBag>();
         if (host == HostKind::Form) {
@@ -45,16 +34,16 @@ public:
             EXPECT_EQ(m_atl->attach(m_object.get()), S_OK);
         }
         m_dual = query<_qvImageCommand>(m_object.get(), kind.interfaceId);
-        m_connection = std::make_unique<kit::Connection>(m_object.get(), kind.eventsId, m_events->unknown());
+        join(m_object.get(), kind.eventsId);
         query<IOleWindow>(m_object.get())->GetWindow(&m_window);
         kit::pumpPending();
         EXPECT_TRUE(kit::focus(m_window));
         kit::pumpPending();
-        m_events->forget();
+        events().forget();
     }
     ~HostedButton()
     {
-        m_connection.reset();
+        stopListening();
         m_dual.reset();
         if (m_hosted)
             m_hosted->remove();
@@ -67,7 +56,6 @@ public:
     _qvImageCommand* operator->() const noexcept { return m_dual.get(); }
     HWND window() const noexcept { return m_window; }
     IUnknown* object() const noexcept { return m_object.get(); }
-    kit::EventRecorder& events() noexcept { return *m_events.get(); }
 
     bool isChecked() const
     {
@@ -75,39 +63,17 @@ public:
         EXPECT_EQ(m_dual->get_Checked(&checked), S_OK);
         return checked != VARIANT_FALSE;
     }
-    int count(DISPID event) const { return m_events->count(event); }
-    /// The names of the events since the last time; moves that follow each other stand as one.
-    Names happened()
-    {
-        Names names;
-        for (DISPID const id : m_events->ids())
-            names.push_back(nameOf(id));
-        m_events->forget();
-        auto const both = [](auto const& a, auto const& b) { return a == "MouseMove" && b == "MouseMove"; };
-        names.erase(std::ranges::unique(names, both).begin(), names.end());
-        return names;
-    }
-    /// What happened from the act until the last event came and nothing more was to come.
-    Names during(std::function<void()> const& act, DISPID last)
-    {
-        kit::pumpPending();
-        m_events->forget();
-        act();
-        EXPECT_TRUE(kit::pumpUntil([&] { return count(last) > 0; })) << nameOf(last) << " did not come";
-        kit::pumpPending();
-        return happened();
-    }
     Names moveTo(POINT at)
     {
-        return during([&] { kit::moveCursorTo(m_window, at.x, at.y); }, kMouseMove);
+        return during([&] { kit::moveCursorTo(m_window, at.x, at.y); }, "MouseMove");
     }
     Names press(kit::MouseButton which = kit::MouseButton::Left)
     {
-        return during([&] { kit::press(which); }, kMouseDown);
+        return during([&] { kit::press(which); }, "MouseDown");
     }
     Names release(kit::MouseButton which = kit::MouseButton::Left)
     {
-        return during([&] { kit::release(which); }, kMouseUp);
+        return during([&] { kit::release(which); }, "MouseUp");
     }
 
 private:
@@ -115,8 +81,6 @@ private:
     std::unique_ptr<kit::Hosted> m_hosted;
     std::unique_ptr<kit::AtlHost> m_atl;
     ComPtr<_qvImageCommand> m_dual;
-    ComPtr<kit::EventRecorder> m_events;
-    std::unique_ptr<kit::Connection> m_connection;
     HWND m_window = nullptr;
 };
 

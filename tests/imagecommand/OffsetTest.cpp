@@ -6,9 +6,6 @@
 namespace quillet::image {
 namespace {
 
-constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
-constexpr COLORREF kLight = RGB(1, 101, 201), kDark = RGB(2, 102, 202);
-
 class ImageOffset : public ImageTest {
 protected:
     ImageButton button{library(), form, kind()};

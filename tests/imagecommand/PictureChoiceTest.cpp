@@ -93,6 +93,13 @@ TEST_P(ImagePictureChoice, checkedAtRestIsPressedImageOrElseImage)
     expectShown(kImage);
 }
 
+TEST_P(ImagePictureChoice, checkedAtRestIsPressedImageAmongAll)
+{
+    setAll();
+    check();
+    expectShown(kPressed);
+}
+
 TEST_P(ImagePictureChoice, checkedWithoutBeingACheckButtonIsImage)
 {
     setPressed();

@@ -2,6 +2,7 @@
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
@@ -11,9 +12,6 @@ namespace quillet::image {
 namespace {
 
 using testing::IsEmpty;
-
-constexpr HRESULT kInvalidPicture = static_cast<HRESULT>(0x800A01E1); // 481
-constexpr HRESULT kTypeMismatch = static_cast<HRESULT>(0x800A000D);
 
 using Get = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp**);
 using Put = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp*);

@@ -84,6 +84,15 @@ ComPtr<IPictureDisp> alphaIcon(Pixels const& pixels, int side)
     return kit::newPicture(result);
 }
 
+ComPtr<IPictureDisp> maskIcon(int side)
+{
+    std::vector<BYTE> const black(static_cast<size_t>(side) *
+                                  2); // rows of 16 bits: nothing stays or is turned
+    PICTDESC result = description(PICTYPE_ICON);
+    result.icon.hicon = ::CreateIcon(nullptr, side, side, 1, 1, black.data(), black.data());
+    return kit::newPicture(result);
+}
+
 short typeOf(IPictureDisp* picture)
 {
     SHORT type = 0x55;

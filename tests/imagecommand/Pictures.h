@@ -35,6 +35,8 @@ ComPtr<IPictureDisp> metafilePicture();
 using Pixels = std::vector<std::uint32_t>;
 ComPtr<IPictureDisp> alphaBitmap(Pixels const& pixels, int side);
 ComPtr<IPictureDisp> alphaIcon(Pixels const& pixels, int side);
+/// A black square without colours of its own: an icon that is a mask alone.
+ComPtr<IPictureDisp> maskIcon(int side);
 
 short typeOf(IPictureDisp* picture);
 

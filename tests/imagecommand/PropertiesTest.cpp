@@ -3,6 +3,7 @@
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
@@ -300,7 +301,7 @@ TEST_P(ImageProperties, widthsBeyond16BitsOverflowAndChangeNothing)
         ASSERT_EQ(kit::putByName(*button.dual(), name, Variant::ofShort(7)).result, S_OK);
         button.forget();
         kit::Called const put = kit::putByName(*button.dual(), name, Variant::ofLong(40000));
-        EXPECT_EQ(put.result == DISP_E_EXCEPTION ? put.code : put.result, static_cast<HRESULT>(0x800A0006));
+        EXPECT_EQ(put.error(), kOverflow);
         EXPECT_EQ(valueOf(button, name), "7");
         EXPECT_THAT(button.changes().take(), IsEmpty());
         EXPECT_EQ(button.paints(), 0);
@@ -312,7 +313,7 @@ TEST_P(ImageProperties, checkedFontIsOf2160PointsAtMost)
     ImageButton button(library(), form, kind());
     button.load();
     auto const large = query<IFontDisp>(kit::newFont(L"Tahoma", 2170).get());
-    EXPECT_EQ(button->putref_CheckedFont(large.get()), static_cast<HRESULT>(0x800A017C)); // 380
+    EXPECT_EQ(button->putref_CheckedFont(large.get()), kInvalidPropertyValue);
 }
 
 TEST_P(ImageProperties, checkedFontIsTheVeryObjectThatWasAssigned)

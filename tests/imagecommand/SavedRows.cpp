@@ -13,13 +13,13 @@ namespace {
 constexpr long sys(long index) { return static_cast<long>(0x80000000U) | index; }
 
 constexpr long kHighlight = 0x0D;
-constexpr long kFace = 0x0F;
+constexpr long kSystemFace = 0x0F;
 constexpr long kShadow = 0x10;
 constexpr long kGrey = 0x11;
 constexpr long kText = 0x12;
 constexpr long k3dHighlight = 0x14;
-constexpr long kDark = 0x15;
-constexpr long kLight = 0x16;
+constexpr long kSystemDark = 0x15;
+constexpr long kSystemLight = 0x16;
 
 SavedRow color(wchar_t const* name, long image, long tool)
 {
@@ -39,7 +39,7 @@ SavedRow flag(wchar_t const* name, bool image, bool tool)
 SavedRow flag(wchar_t const* name, bool both) { return flag(name, both, both); }
 SavedRow object(wchar_t const* name) { return {name, VT_UNKNOWN, {}, {}, {}}; }
 
-std::string textOf(IUnknown* object)
+std::string textOfObject(IUnknown* object)
 {
     if (auto const font = query<IFont>(object))
         return kit::narrow(kit::nameOf(*font.get())) + ' ' + std::to_string(kit::pointsOf(*font.get()));
@@ -57,18 +57,18 @@ std::string textOf(IUnknown* object)
 std::vector<SavedRow> const& savedRows()
 {
     static std::vector<SavedRow> const rows{
-        color(L"BackColor", kFace),
+        color(L"BackColor", kSystemFace),
         color(L"ForeColor", kText),
         flag(L"Enabled", true),
         object(L"Font"),
         number(L"BorderStyle", 1, 0),
-        color(L"LightBorderColor", kDark, kLight),
+        color(L"LightBorderColor", kSystemDark, kSystemLight),
         color(L"HotForeColor", k3dHighlight, kHighlight),
         color(L"PressedForeColor", k3dHighlight),
-        color(L"HotBackColor", kShadow, kFace),
-        color(L"PressedBackColor", kDark, kLight),
-        color(L"HotLightBorderColor", kDark, k3dHighlight),
-        color(L"PressedLightBorderColor", kDark, k3dHighlight),
+        color(L"HotBackColor", kShadow, kSystemFace),
+        color(L"PressedBackColor", kSystemDark, kSystemLight),
+        color(L"HotLightBorderColor", kSystemDark, k3dHighlight),
+        color(L"PressedLightBorderColor", kSystemDark, k3dHighlight),
         number(L"BorderWidth", 1, 2),
         number(L"HotBorderWidth", 1, 3),
         number(L"PressedBorderWidth", 1, 4),
@@ -83,17 +83,17 @@ std::vector<SavedRow> const& savedRows()
         object(L"DisabledImage"),
         object(L"HotImage"),
         object(L"PressedImage"),
-        color(L"DarkBorderColor", kDark, kLight),
-        color(L"HotDarkBorderColor", kDark, kShadow),
-        color(L"DisabledDarkBorderColor", kFace),
-        color(L"PressedDarkBorderColor", kDark, kShadow),
-        color(L"DisabledLightBorderColor", kFace),
+        color(L"DarkBorderColor", kSystemDark, kSystemLight),
+        color(L"HotDarkBorderColor", kSystemDark, kShadow),
+        color(L"DisabledDarkBorderColor", kSystemFace),
+        color(L"PressedDarkBorderColor", kSystemDark, kShadow),
+        color(L"DisabledLightBorderColor", kSystemFace),
         flag(L"CheckButton", false),
         flag(L"Checked", false),
         color(L"CheckedForeColor", k3dHighlight, kText),
-        color(L"CheckedBackColor", kLight),
-        color(L"CheckedDarkBorderColor", kDark, kShadow),
-        color(L"CheckedLightBorderColor", kDark, k3dHighlight),
+        color(L"CheckedBackColor", kSystemLight),
+        color(L"CheckedDarkBorderColor", kSystemDark, kShadow),
+        color(L"CheckedLightBorderColor", kSystemDark, k3dHighlight),
         flag(L"AutoSizeWidth", false),
         object(L"CheckedFont"),
         flag(L"Active", true),
@@ -125,7 +125,7 @@ std::string valueOf(ImageButton const& button, wchar_t const* name)
     kit::Called const got = kit::getByName(*button.dual(), name);
     EXPECT_EQ(got.result, S_OK) << kit::narrow(name);
     return got.value.type() == VT_DISPATCH || got.value.type() == VT_UNKNOWN
-               ? textOf(got.value.toObject().get())
+               ? textOfObject(got.value.toObject().get())
                : textOf(got.value);
 }
 

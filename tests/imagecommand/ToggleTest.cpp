@@ -44,7 +44,7 @@ TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
     button().press();
     bool checked = false;
     button().events().action = [&](auto const& event) {
-        if (event.id == kMouseUp)
+        if (event.id == eventid::command::MouseUp)
             checked = button().isChecked();
     };
     button().release();
@@ -63,7 +63,7 @@ TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
     COLORREF edge = CLR_INVALID;
     COLORREF face = CLR_INVALID;
     button().events().action = [&](auto const& event) {
-        if (event.id != kMouseUp)
+        if (event.id != eventid::command::MouseUp)
             return;
         WindowDc const dc(button().window());
         edge = ::GetPixel(dc.get(), 0, 0);
@@ -109,10 +109,9 @@ TEST_P(ImageToggle, aReleaseOutsideClearsThePressAndRepaints)
 
 TEST_P(ImageToggle, happensWithoutAChangeOfProperties)
 {
-    auto const changes = kit::make<kit::ChangeRecorder>();
-    kit::Connection const connection(button().object(), __uuidof(IPropertyNotifySink), changes->unknown());
+    button().changes().take();
     EXPECT_TRUE(togglesAt(60, 20));
-    EXPECT_THAT(changes->take(), IsEmpty());
+    EXPECT_THAT(button().changes().take(), IsEmpty());
 }
 
 TEST_P(ImageToggle, otherButtonsNever)
@@ -145,7 +144,7 @@ TEST_P(ImageToggle, aSecondPressInQuickSuccessionTurnsItBack)
     button().moveTo(kInside);
     button().press();
     button().release();
-    button().during([] { kit::press(kit::MouseButton::Left); }, kDblClick);
+    button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick");
     button().release();
     EXPECT_FALSE(button().isChecked());
 }

@@ -14,9 +14,9 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::SizeIs;
 
-constexpr DISPID kMouseDown = 6;
-constexpr DISPID kMouseMove = 7;
-constexpr DISPID kMouseUp = 8;
+constexpr DISPID kMouseDown = eventid::command::MouseDown;
+constexpr DISPID kMouseMove = eventid::command::MouseMove;
+constexpr DISPID kMouseUp = eventid::command::MouseUp;
 constexpr VARTYPE kShortByReference = VT_I2 | VT_BYREF;
 constexpr VARTYPE kSingleByReference = VT_R4 | VT_BYREF;
 
@@ -35,23 +35,8 @@ std::unique_ptr<HeldKey> heldForTheMouse(BYTE key)
     return held;
 }
 
-class MouseEventArguments : public kit::ControlTest {
+class MouseEventArguments : public HoveredTest {
 protected:
-    kit::FakeForm form;
-    FormButton button{library(), form};
-
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        button.start();
-        ASSERT_TRUE(kit::focus(button.window()));
-        enter(button);
-    }
-    void TearDown() override
-    {
-        button.remove();
-        EXPECT_TRUE(kit::moveCursorAway());
-    }
     /// The last event of that kind since the events were last forgotten.
     kit::EventRecorder::Event last(DISPID id)
     {

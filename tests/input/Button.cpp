@@ -1,6 +1,7 @@
 // A running flat command button whose looks differ in colour and whose events are kept by name.
 #include "Button.h"
 
+#include "kit/Input.h"
 #include "kit/Pump.h"
 
 #include <algorithm>
@@ -16,16 +17,6 @@ constexpr COLORREF kPressedFace = RGB(208, 16, 48);
 constexpr COLORREF kCaption = RGB(0, 0, 112);
 constexpr COLORREF kDisabledCaption = RGB(112, 0, 112);
 constexpr POINT kFaceAt{110, 32}; // right of the caption and inside the focus frame
-
-// In their published order, counted from 1.
-constexpr char const* kEventNames[] = {"?",        "MouseEnter", "MouseExit", "Paint",  "Click",
-                                       "DblClick", "MouseDown",  "MouseMove", "MouseUp"};
-
-std::string nameOf(DISPID event)
-{
-    bool const known = event > 0 && event < static_cast<DISPID>(std::size(kEventNames));
-    return known ? kEventNames[event] : "event " + std::to_string(event);
-}
 
 bool shows(HDC dc, SIZE size, COLORREF color)
 {
@@ -73,64 +64,19 @@ std::string lookOf(HWND window)
     }
 }
 
-Button::Button() : m_events(kit::make<kit::EventRecorder>(kQvFlatCommandEvents)) {}
-
 void Button::adopt(IUnknown* object)
 {
     m_dual = query<_qvFlatCommand>(object);
-    ComPtr<IConnectionPoint> point;
-    as<IConnectionPointContainer>()->FindConnectionPoint(kQvFlatCommandEvents, point.put());
-    point->Advise(m_events->unknown(), &m_cookie);
-    EXPECT_NE(m_cookie, 0U) << "the button refuses its event sink";
+    join(object, kQvFlatCommandEvents);
 }
 
 void Button::rememberWindow() { as<IOleWindow>()->GetWindow(&m_window); }
 
-Names Button::happened()
+void Button::release()
 {
-    Names names;
-    for (DISPID const id : m_events->ids())
-        names.push_back(nameOf(id));
-    m_events->forget();
-    auto const bothMoves = [](std::string const& a, std::string const& b) {
-        return a == "MouseMove" && b == "MouseMove";
-    };
-    names.erase(std::ranges::unique(names, bothMoves).begin(), names.end());
-    return names;
+    abandon();
+    m_dual.reset();
 }
-
-int Button::count(char const* event) const
-{
-    return static_cast<int>(
-        std::ranges::count_if(m_events->events, [&](auto const& each) { return nameOf(each.id) == event; }));
-}
-
-Names Button::during(std::function<void()> const& act, char const* last)
-{
-    kit::pumpPending();
-    m_events->forget();
-    act();
-    EXPECT_TRUE(kit::pumpUntil([&] { return count(last) > 0; })) << last << " did not come";
-    kit::pumpPending();
-    return happened();
-}
-
-std::string Button::lastEvent() const
-{
-    return m_events->events.empty() ? std::string() : nameOf(m_events->events.back().id);
-}
-
-void Button::disconnect()
-{
-    ComPtr<IConnectionPoint> point;
-    if (auto const points = as<IConnectionPointContainer>())
-        points->FindConnectionPoint(kQvFlatCommandEvents, point.put());
-    if (!point || !m_cookie)
-        return;
-    EXPECT_EQ(point->Unadvise(std::exchange(m_cookie, 0)), S_OK);
-}
-
-void Button::release() { m_dual.reset(); }
 
 FormButton::FormButton(kit::Library const& library, kit::FakeForm& form, RECT const& place,
                        std::wstring const& name)
@@ -207,6 +153,23 @@ std::unique_ptr<Button> newButton(HostKind kind, kit::Library const& library, ki
     auto button = std::make_unique<FormButton>(library, form);
     button->start();
     return button;
+}
+
+void EachHostTest::SetUp()
+{
+    ControlTest::SetUp();
+    owner = newButton(GetParam(), library(), form);
+    ASSERT_TRUE(kit::focus(button().window()));
+    ASSERT_EQ(button().look(), "normal");
+    kit::pumpPending();
+    button().events().forget();
+}
+
+void EachHostTest::TearDown()
+{
+    owner.reset();
+    EXPECT_TRUE(kit::moveCursorAway());
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 } // namespace quillet::input

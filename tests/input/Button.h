@@ -5,7 +5,8 @@
 #include "kit/ControlTest.h"
 #include "kit/FakeBag.h"
 #include "kit/Hosted.h"
-#include "kit/Sinks.h"
+#include "kit/Listener.h"
+#include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -19,7 +20,7 @@
 
 namespace quillet::input {
 
-using Names = std::vector<std::string>;
+using kit::Names;
 
 constexpr RECT kPlace{20, 30, 140, 70};
 /// Where the cursor goes inside the button, in pixels from its top left corner; nothing is drawn there but
@@ -36,7 +37,7 @@ ComPtr<kit::FakeBag> looksBag();
 std::string lookOf(HWND window);
 
 /// A flat command button and its listener. Where it lives is a derived class's business.
-class Button {
+class Button : public kit::Listener {
 public:
     virtual ~Button() = default;
     Button(Button const&) = delete;
@@ -44,26 +45,16 @@ public:
 
     _qvFlatCommand* operator->() const noexcept { return m_dual.get(); }
     template <class T> ComPtr<T> as() const { return query<T>(m_dual.get()); }
-    kit::EventRecorder& events() noexcept { return *m_events.get(); }
     HWND window() const noexcept { return m_window; }
 
     std::string look() const { return lookOf(m_window); }
-    /// The names of the events since the last time. Moves that follow each other stand as one: how many
-    /// messages a movement makes is the system's choice.
-    Names happened();
-    /// What happened from the beginning of the act until the last event came and nothing more was to come.
-    Names during(std::function<void()> const& act, char const* last);
-    int count(char const* event) const;
-    std::string lastEvent() const;
-
-    void disconnect();
     /// Gives up the control without a word to it. Its own references are not the test's.
     virtual void release();
     /// Takes it out of its host as hosts do.
     virtual void remove() = 0;
 
 protected:
-    Button();
+    Button() : Listener(kit::kCommandEvents) {}
     /// Listens to the object.
     void adopt(IUnknown* object);
     /// The window is asked for once: it stays known when the control has gone.
@@ -71,8 +62,6 @@ protected:
 
 private:
     ComPtr<_qvFlatCommand> m_dual;
-    ComPtr<kit::EventRecorder> m_events;
-    DWORD m_cookie = 0;
     HWND m_window = nullptr;
 };
 
@@ -119,5 +108,20 @@ private:
 enum class HostKind { Form, AtlAxWin };
 std::string nameOf(HostKind kind);
 std::unique_ptr<Button> newButton(HostKind kind, kit::Library const& library, kit::FakeForm& form);
+
+/// A button in each of the hosts, with the focus, so that a press does not bring a change of focus along.
+class EachHostTest : public kit::ControlTest, public testing::WithParamInterface<HostKind> {
+protected:
+    kit::FakeForm form;
+    std::unique_ptr<Button> owner;
+
+    Button& button() { return *owner; }
+    void SetUp() override;
+    void TearDown() override;
+};
+
+#define QV_EACH_HOST(Suite)                                                                                  \
+    INSTANTIATE_TEST_SUITE_P(In, Suite, testing::Values(HostKind::Form, HostKind::AtlAxWin),                 \
+                             [](auto const& tested) { return nameOf(tested.param); })
 
 } // namespace quillet::input

@@ -9,29 +9,16 @@ namespace {
 using kit::MouseButton;
 using testing::ElementsAre;
 
-class Clicks : public kit::ControlTest, public testing::WithParamInterface<HostKind> {
+class Clicks : public EachHostTest {
 protected:
-    kit::FakeForm form;
-    std::unique_ptr<Button> owner;
-
-    Button& button() { return *owner; }
-
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        owner = newButton(GetParam(), library(), form);
-        ASSERT_TRUE(kit::focus(button().window()));
-        kit::pumpPending();
-        button().events().forget();
-    }
     void TearDown() override
     {
         kit::release(MouseButton::Left);
         button().events().action = nullptr;
         EXPECT_TRUE(kit::moveCursorAway());
         kit::pumpPending();
-        owner.reset();
         ::ReleaseCapture();
+        EachHostTest::TearDown();
     }
     /// Presses on the form, drags onto the button and lets go: the names of the events but Paint and
     /// MouseMove.
@@ -137,7 +124,7 @@ TEST_P(Clicks, comeWithoutTheMouseHeldToo)
     EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
 }
 
-TEST_P(Clicks, ofTheRightAndTheMiddleButtonInQuickSuccessionAreMouseDownAndMouseUpEachTime)
+TEST_P(Clicks, ofTheOtherButtonsInQuickSuccessionAreAllMouseDownAndMouseUp)
 {
     enter(button());
     for (MouseButton const which : {MouseButton::Right, MouseButton::Middle})
@@ -147,8 +134,7 @@ TEST_P(Clicks, ofTheRightAndTheMiddleButtonInQuickSuccessionAreMouseDownAndMouse
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(In, Clicks, testing::Values(HostKind::Form, HostKind::AtlAxWin),
-                         [](auto const& tested) { return nameOf(tested.param); });
+QV_EACH_HOST(Clicks);
 
 } // namespace
 } // namespace quillet::input

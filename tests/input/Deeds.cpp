@@ -60,7 +60,7 @@ std::vector<Deed> const& deeds()
              button.hosted().activate();
          }},
         {"Disabled", [](FormButton& button) { button->put_Enabled(VARIANT_FALSE); }},
-        {"Disconnected", [](FormButton& button) { button.disconnect(); }},
+        {"Disconnected", [](FormButton& button) { button.stopListening(); }},
         {"LoadedAgain", [](FormButton& button) { button.hosted().load(*looksBag().get()); }},
         {"FocusMovedAway", [](FormButton&) { ::SetFocus(nullptr); }},
         {"CaptureTakenAway", [](FormButton& button) { ::SetCapture(button.hosted().form().window()); }},

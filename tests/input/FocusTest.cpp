@@ -38,7 +38,7 @@ protected:
     void listenTo(FormButton& button, int number)
     {
         button.events().action = [this, number](kit::EventRecorder::Event const& event) {
-            if (event.id == kPaintEvent)
+            if (event.id == eventid::command::Paint)
                 painted.push_back(number);
         };
     }
@@ -69,14 +69,11 @@ protected:
             return Variant::ofDispatch(button(static_cast<int>(index.toLong()) + 1).operator->());
         });
     }
-
-private:
-    static constexpr DISPID kPaintEvent = 3;
 };
 
 // Each of the two that the focus moves between is painted because of its window's message; then every button
 // is painted for the loss and for the gain.
-TEST_F(FocusMoves, focusMovingBetweenTwoFlatCommandButtonsRepaintsEveryFlatCommandButtonOnTheSameContainer)
+TEST_F(FocusMoves, betweenTwoButtonsRepaintEveryButtonOfTheContainer)
 {
     add();
     add();
@@ -102,6 +99,21 @@ TEST_F(FocusMoves, toAndFromSomethingElseRepaintEveryButtonOnce)
     ASSERT_TRUE(kit::focus(window(3)));
     EXPECT_THAT(countsOfFocusOn(edit.get()), ElementsAre(1, 1, 2, 1, 1));
     EXPECT_THAT(countsOfFocusOn(window(3)), ElementsAre(1, 1, 2, 1, 1));
+}
+
+TEST_F(FocusMoves, awayRepaintEveryButtonBeforeTheContainerHearsOfIt)
+{
+    add();
+    add();
+    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+    ASSERT_TRUE(kit::focus(window(1)));
+    static constexpr int kContainerHears = 0;
+    form.record().whenNoted = [this](std::string const& call) {
+        if (call == "Site.OnFocus(lost)")
+            painted.push_back(kContainerHears);
+    };
+    EXPECT_THAT(focusOn(edit.get()), ElementsAre(1, 1, 2, kContainerHears));
+    form.record().whenNoted = nullptr;
 }
 
 TEST_F(FocusMoves, askTheContainerForEmbeddingsAndOthers)

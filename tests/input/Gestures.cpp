@@ -69,4 +69,20 @@ HeldKey::HeldKey(BYTE virtualKey) : m_key(virtualKey) { sendKey(m_key, 0); }
 
 HeldKey::~HeldKey() { sendKey(m_key, KEYEVENTF_KEYUP); }
 
+void HoveredTest::SetUp()
+{
+    ControlTest::SetUp();
+    button.start();
+    ASSERT_TRUE(kit::focus(button.window()));
+    enter(button);
+}
+
+void HoveredTest::TearDown()
+{
+    button.events().action = nullptr;
+    ::ReleaseCapture();
+    EXPECT_TRUE(kit::moveCursorAway());
+    kit::pumpPending();
+}
+
 } // namespace quillet::input

@@ -34,6 +34,16 @@ private:
     BYTE m_key;
 };
 
+/// A button in a form, with the focus and under the cursor.
+class HoveredTest : public kit::ControlTest {
+protected:
+    kit::FakeForm form;
+    FormButton button{library(), form};
+
+    void SetUp() override;
+    void TearDown() override;
+};
+
 /// Acts, and waits until a message of that number has been taken from the thread's queue and handled.
 bool actUntilHandled(UINT message, std::function<void()> const& act);
 

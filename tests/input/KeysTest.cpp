@@ -72,22 +72,7 @@ MSG accessKey(UINT message, wchar_t key)
     return result;
 }
 
-class Keys : public kit::ControlTest, public testing::WithParamInterface<HostKind> {
-protected:
-    kit::FakeForm form;
-    std::unique_ptr<Button> owner;
-
-    Button& button() { return *owner; }
-
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        owner = newButton(GetParam(), library(), form);
-        ASSERT_TRUE(kit::focus(button().window()));
-        kit::pumpPending();
-        button().events().forget();
-    }
-};
+class Keys : public EachHostTest {};
 
 TEST_P(Keys, pressingSpaceOnAFocusedButtonRaisesClickAndEnterDoesNot)
 {
@@ -136,7 +121,7 @@ TEST_P(Keys, theAccessKeyRaisesClickAndTakesTheFocus)
     }
 }
 
-TEST_P(Keys, theAccessKeyOfTheCaptionTypedWithAltReachesTheButtonThroughItsContainer)
+TEST_P(Keys, theAccessKeyTypedWithAltReachesTheButtonThroughItsContainer)
 {
     button()->put_Caption(Bstr(L"&Save").get());
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
@@ -180,8 +165,7 @@ TEST_P(Keys, theContainersWayOfPressingADefaultButtonRaisesClick)
     EXPECT_THAT(button().happened(), ElementsAre("Click"));
 }
 
-INSTANTIATE_TEST_SUITE_P(In, Keys, testing::Values(HostKind::Form, HostKind::AtlAxWin),
-                         [](auto const& tested) { return nameOf(tested.param); });
+QV_EACH_HOST(Keys);
 
 } // namespace
 } // namespace quillet::input

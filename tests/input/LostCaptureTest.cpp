@@ -8,25 +8,8 @@ namespace {
 
 using testing::ElementsAre;
 
-class LostCapture : public kit::ControlTest {
+class LostCapture : public HoveredTest {
 protected:
-    kit::FakeForm form;
-    FormButton button{library(), form};
-
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        button.start();
-        ASSERT_TRUE(kit::focus(button.window()));
-        enter(button);
-    }
-    void TearDown() override
-    {
-        button.events().action = nullptr;
-        ::ReleaseCapture();
-        EXPECT_TRUE(kit::moveCursorAway());
-        kit::pumpPending();
-    }
     /// What happens when the cursor goes to a place that is not the button's.
     Names left()
     {

@@ -8,32 +8,9 @@ namespace {
 using testing::ElementsAre;
 
 /// A button with the focus, so that a press does not bring a change of focus along.
-class States : public kit::ControlTest, public testing::WithParamInterface<HostKind> {
-protected:
-    kit::FakeForm form;
-    std::unique_ptr<Button> owner;
+class States : public EachHostTest {};
 
-    Button& button() { return *owner; }
-
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        owner = newButton(GetParam(), library(), form);
-        ASSERT_TRUE(kit::focus(button().window()));
-        ASSERT_EQ(button().look(), "normal");
-        kit::pumpPending();
-        button().events().forget();
-    }
-    void TearDown() override
-    {
-        owner.reset();
-        EXPECT_TRUE(kit::moveCursorAway());
-        EXPECT_EQ(::GetCapture(), nullptr);
-    }
-};
-
-TEST_P(States,
-       movingOntoTheButtonRaisesMouseEnterOnceAndFurtherMovesInsideOnlyMouseMoveAndLeavingMouseExitOnce)
+TEST_P(States, movesRaiseMouseEnterOnceInsideAndMouseExitOnceOutside)
 {
     EXPECT_THAT(enter(button()), ElementsAre("MouseEnter", "Paint", "MouseMove"));
     EXPECT_EQ(button().look(), "hot");
@@ -295,8 +272,7 @@ TEST_P(States, aReleaseInsideUnderAnOverlappingWindowIsAClickWithoutTheHotLook)
     leave(button());
 }
 
-INSTANTIATE_TEST_SUITE_P(In, States, testing::Values(HostKind::Form, HostKind::AtlAxWin),
-                         [](auto const& tested) { return nameOf(tested.param); });
+QV_EACH_HOST(States);
 
 } // namespace
 } // namespace quillet::input

@@ -15,7 +15,7 @@ template <class Function> Function* entry(char const* name)
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(module, name)));
 }
 
-HWND newHostWindow(HWND parent, RECT const& place)
+HWND newAtlWindow(HWND parent, RECT const& place)
 {
     if (auto* const init = entry<WinInit>("AtlAxWinInit"))
         init();
@@ -26,7 +26,7 @@ HWND newHostWindow(HWND parent, RECT const& place)
 
 } // namespace
 
-AtlHost::AtlHost(HWND parent, RECT const& place) : m_window(newHostWindow(parent, place)) {}
+AtlHost::AtlHost(HWND parent, RECT const& place) : m_window(newAtlWindow(parent, place)) {}
 
 HRESULT AtlHost::attach(IUnknown* control)
 {

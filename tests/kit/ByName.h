@@ -20,6 +20,8 @@ struct Called {
     std::wstring helpFile;
     DWORD helpContext = 0;
     Variant value;
+
+    HRESULT error() const noexcept { return result == DISP_E_EXCEPTION ? code : result; }
 };
 
 /// The member's identifier; DISPID_UNKNOWN when there is none of that name.

@@ -60,21 +60,21 @@ STDMETHODIMP FakeFrame::GetWindow(HWND* window)
 
 STDMETHODIMP FakeFrame::SetBorderSpace(LPCBORDERWIDTHS)
 {
-    m_record->note("Frame.SetBorderSpace");
+    m_record->note(m_who + ".SetBorderSpace");
     return S_OK;
 }
 
 STDMETHODIMP FakeFrame::SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR)
 {
     HRESULT result = S_OK;
-    if (m_record->asked("Frame.SetActiveObject", result, object ? "object" : "none"))
+    if (m_record->asked(m_who + ".SetActiveObject", result, object ? "object" : "none"))
         m_activeObject = object;
     return result;
 }
 
 STDMETHODIMP FakeFrame::TranslateAccelerator(MSG*, WORD)
 {
-    m_record->note("Frame.TranslateAccelerator");
+    m_record->note(m_who + ".TranslateAccelerator");
     return S_FALSE;
 }
 

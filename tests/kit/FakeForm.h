@@ -17,10 +17,13 @@ namespace quillet::kit {
 
 class FakeSite;
 
-/// Notes every call as "Frame.…". Menus, borders and status texts are refused as on a form that has none.
+/// Notes every call as "Frame.…", or by the name of a document's window. Menus, borders and status texts are
+/// refused as on a form that has none.
 class FakeFrame final : public Counterpart<IOleInPlaceFrame> {
 public:
-    FakeFrame(HWND window, SharedRecord record) : m_window(window), m_record(std::move(record)) {}
+    FakeFrame(HWND window, SharedRecord record, std::string who = "Frame")
+        : m_window(window), m_record(std::move(record)), m_who(std::move(who))
+    {}
 
     /// What was last given to SetActiveObject.
     IOleInPlaceActiveObject* activeObject() const noexcept { return m_activeObject.get(); }
@@ -44,6 +47,7 @@ private:
 
     HWND m_window;
     SharedRecord m_record;
+    std::string m_who;
     ComPtr<IOleInPlaceActiveObject> m_activeObject;
 };
 

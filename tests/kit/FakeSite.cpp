@@ -90,13 +90,14 @@ STDMETHODIMP FakeSite::GetWindow(HWND* window)
     return result;
 }
 
-STDMETHODIMP FakeSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document,
+STDMETHODIMP FakeSite::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** documentOut,
                                         RECT* positionOut, RECT* clipOut, OLEINPLACEFRAMEINFO* info)
 {
-    *document = nullptr;
+    *documentOut = nullptr;
     HRESULT const result = handOut("GetWindowContext", frame, m_frame.get());
     if (FAILED(result))
         return result;
+    *documentOut = ComPtr<IOleInPlaceUIWindow>(document.get()).detach();
     *positionOut = position;
     *clipOut = clip;
     info->fMDIApp = FALSE;

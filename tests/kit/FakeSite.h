@@ -28,6 +28,8 @@ public:
     std::map<DISPID, Variant> ambients; ///< what is not here is not found
     /// The object in the site, uncounted: the container's OnPosRectChange answers it with the rectangle.
     IOleInPlaceObject* inPlaceObject = nullptr;
+    /// The window of the form's document, of containers that have several; none at first.
+    ComPtr<FakeFrame> document;
 
     NamedObject& extender() noexcept { return *m_extender.get(); }
     void setAmbient(DISPID id, Variant value) { ambients[id] = std::move(value); }

@@ -88,6 +88,12 @@ public:
 
     bool joined() const noexcept { return m_cookie != 0; }
     HRESULT cut();
+    /// Leaves the sink where it is, and gives up the reference.
+    void abandon() noexcept
+    {
+        m_cookie = 0;
+        m_point.reset();
+    }
 
 private:
     ComPtr<IConnectionPoint> m_point;

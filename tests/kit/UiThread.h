@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 
 namespace quillet::kit {
@@ -31,3 +33,17 @@ private:
 void onNewThread(std::function<void()> const& body);
 
 } // namespace quillet::kit
+
+/// Like TEST_F; the body runs where the suite's onNewThread runs it.
+#define TEST_ON_NEW_THREAD(Suite, title)                                                                     \
+    class Suite##_##title : public Suite {                                                                   \
+        void TestBody() override                                                                             \
+        {                                                                                                    \
+            onNewThread([this] { onThread(); });                                                             \
+        }                                                                                                    \
+        void onThread();                                                                                     \
+    };                                                                                                       \
+    [[maybe_unused]] testing::TestInfo* const k##Suite##_##title =                                           \
+        testing::RegisterTest(#Suite, #title, nullptr, nullptr, __FILE__, __LINE__,                          \
+                              []() -> Suite* { return new Suite##_##title; });                               \
+    void Suite##_##title::onThread()

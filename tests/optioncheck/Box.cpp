@@ -6,33 +6,17 @@
 
 namespace quillet::box {
 
-namespace {
-
-// In their published order, counted from 1.
-constexpr char const* kEventNames[] = {"?",         "Click",     "KeyDown", "KeyPress", "KeyUp",
-                                       "MouseDown", "MouseMove", "MouseUp", "Resize"};
-
-} // namespace
-
 Kind const kOption = {"Option", kQvFlatOptionClass, kQvFlatOptionEvents, L"Option1"};
 Kind const kCheck = {"Check", kQvFlatCheckClass, kQvFlatCheckEvents, L"Check1"};
-
-std::string nameOfEvent(DISPID event)
-{
-    bool const known = event > 0 && event < static_cast<DISPID>(std::size(kEventNames));
-    return known ? kEventNames[event] : "event " + std::to_string(event);
-}
 
 ComPtr<kit::FakeBag> newBag() { return kit::make<kit::FakeBag>(); }
 
 Box::Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place,
          std::wstring const& name, Mode mode)
-    : m_kind(kind), m_hosted(library, kind.classId, form, place, name),
-      m_events(kit::make<kit::EventRecorder>(kind.eventsId))
+    : Listener(kit::kOptionCheckEvents), m_kind(kind), m_hosted(library, kind.classId, form, place, name)
 {
     m_hosted.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(mode == Mode::Run));
-    m_connection.emplace(m_hosted.object(), kind.eventsId, m_events->unknown());
-    EXPECT_TRUE(m_connection->joined()) << "the control refuses its event sink";
+    join(m_hosted.object(), kind.eventsId);
 }
 
 IDispatch& Box::dispatch() const
@@ -45,7 +29,8 @@ void Box::listen()
 {
     m_inner = hwnd();
     kit::pumpPending();
-    m_events->forget();
+    events().forget();
+    changes().take();
     m_hosted.form().record().forget();
 }
 
@@ -66,14 +51,14 @@ void Box::startNew()
 
 void Box::release()
 {
-    m_connection.reset();
+    stopListening();
     m_hosted.form().frame().forgetActiveObject();
     m_hosted.release();
 }
 
 void Box::remove()
 {
-    m_connection.reset();
+    stopListening();
     m_hosted.remove();
     m_hosted.form().frame().forgetActiveObject();
 }
@@ -94,7 +79,7 @@ Variant Box::get(wchar_t const* name) const
 HRESULT Box::put(wchar_t const* name, Variant const& value)
 {
     kit::Called const called = kit::putByName(dispatch(), name, value);
-    return called.result == DISP_E_EXCEPTION ? called.code : called.result;
+    return called.error();
 }
 
 void Box::setColours(COLORREF fore, COLORREF hot)
@@ -102,36 +87,6 @@ void Box::setColours(COLORREF fore, COLORREF hot)
     EXPECT_EQ(put(L"HotForeColor", Variant::ofLong(static_cast<long>(hot))), S_OK);
     EXPECT_EQ(put(L"ForeColor", Variant::ofLong(static_cast<long>(fore))), S_OK);
     kit::pumpPending();
-}
-
-Names Box::happened()
-{
-    Names names;
-    for (DISPID const id : m_events->ids())
-        names.push_back(nameOfEvent(id));
-    m_events->forget();
-    return names;
-}
-
-int Box::count(char const* event) const
-{
-    return static_cast<int>(std::ranges::count_if(
-        m_events->events, [&](auto const& each) { return nameOfEvent(each.id) == event; }));
-}
-
-Names Box::during(std::function<void()> const& act, char const* last)
-{
-    kit::pumpPending();
-    m_events->forget();
-    act();
-    EXPECT_TRUE(kit::pumpUntil([&] { return count(last) > 0; })) << last << " did not come";
-    kit::pumpPending();
-    Names names = happened();
-    auto const bothMoves = [](std::string const& a, std::string const& b) {
-        return a == "MouseMove" && b == "MouseMove";
-    };
-    names.erase(std::ranges::unique(names, bothMoves).begin(), names.end());
-    return names;
 }
 
 COLORREF Box::pixel(POINT at) const

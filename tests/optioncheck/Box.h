@@ -7,8 +7,9 @@
 #include "kit/FakeBag.h"
 #include "kit/Hosted.h"
 #include "kit/Input.h"
+#include "kit/Listener.h"
 #include "kit/Pump.h"
-#include "kit/Sinks.h"
+#include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -17,13 +18,12 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace quillet::box {
 
-using Names = std::vector<std::string>;
+using kit::Names;
 
 /// What tells the two controls apart from outside.
 struct Kind {
@@ -46,6 +46,8 @@ constexpr POINT kInGlyph{4, 8};
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kLightGrey = RGB(192, 192, 192);
 constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr COLORREF kFore = RGB(0, 96, 0);
+constexpr COLORREF kHot = RGB(255, 64, 0);
 
 enum class Mode { Run, Design };
 
@@ -53,7 +55,7 @@ enum class Mode { Run, Design };
 ComPtr<kit::FakeBag> newBag();
 
 /// One control with its site and its listener.
-class Box {
+class Box : public kit::Listener {
 public:
     Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
         std::wstring const& name = L"Box1", Mode mode = Mode::Run);
@@ -63,7 +65,6 @@ public:
 
     kit::Hosted& hosted() noexcept { return m_hosted; }
     kit::NamedObject& extender() noexcept { return m_hosted.site().extender(); }
-    kit::EventRecorder& events() noexcept { return *m_events.get(); }
     template <class T> ComPtr<T> as() const { return m_hosted.as<T>(); }
     IDispatch& dispatch() const;
 
@@ -85,13 +86,6 @@ public:
     Variant get(wchar_t const* name) const;
     HRESULT put(wchar_t const* name, Variant const& value);
     void setColours(COLORREF fore, COLORREF hot);
-
-    /// The events' names since the last time.
-    Names happened();
-    int count(char const* event) const;
-    /// What happened from the beginning of the act until the last event came and nothing more was to come.
-    /// Moves that follow each other stand as one.
-    Names during(std::function<void()> const& act, char const* last);
 
     /// The colour of a pixel on the screen.
     COLORREF pixel(POINT at) const;
@@ -117,12 +111,10 @@ private:
 
     Kind const& m_kind;
     kit::Hosted m_hosted;
-    ComPtr<kit::EventRecorder> m_events;
-    std::optional<kit::Connection> m_connection;
     HWND m_inner = nullptr;
 };
 
-std::string nameOfEvent(DISPID event);
+inline std::string nameOfEvent(DISPID event) { return kit::eventName(kit::kOptionCheckEvents, event); }
 
 /// A test with a form; the cursor is out of the way at first.
 class BoxTest : public kit::ControlTest {

@@ -10,10 +10,10 @@
 namespace quillet::box {
 namespace {
 
-constexpr COLORREF kFace = RGB(10, 200, 250);
+constexpr COLORREF kAround = RGB(10, 200, 250);
 constexpr COLORREF kGrey = RGB(128, 128, 128);
 
-kit::Letters const kLetters = {{'.', kFace}, {'#', kBlack}, {' ', kWhite}, {'g', kLightGrey}, {'m', kGrey}};
+kit::Letters const kLetters = {{'.', kAround}, {'#', kBlack}, {' ', kWhite}, {'g', kLightGrey}, {'m', kGrey}};
 
 constexpr char kClearCircle[] = "....####.....\n"
                                 "..##    ##...\n"
@@ -131,13 +131,14 @@ protected:
     /// 20 pixels high: the fill's point is in row 20 / 2 - 2 = 8, the glyph begins 4 rows above it.
     static constexpr int kTop = 4;
 
-    std::unique_ptr<Box> shown(Kind const& kind, long value, Mode mode = Mode::Run)
+    std::unique_ptr<Box> shown(Kind const& kind, long value, Mode mode = Mode::Run, int height = 20)
     {
+        RECT const place{20, 30, 140, 30 + height};
         auto const bag = newBag();
-        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kFace)));
+        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kAround)));
         bag->put(L"Caption", Variant::ofString(L""));
         bag->put(L"Value", Variant::ofLong(value));
-        auto box = std::make_unique<Box>(kind, library(), form, kPlace, L"Box1", mode);
+        auto box = std::make_unique<Box>(kind, library(), form, place, L"Box1", mode);
         box->start(*bag.get());
         return box;
     }
@@ -203,7 +204,8 @@ TEST_F(Glyph, isShadedAloneWhateverHappenedToThePictureBefore)
             std::string const atRest = glyphOf(*box, kTop);
             auto const expect = [&](std::string const& picture) {
                 EXPECT_EQ(glyphOf(*box, kTop), picture) << kind->name << ' ' << value;
-                EXPECT_EQ(box->pixel({60, 10}), kFace) << "the fill ran out: " << kind->name << ' ' << value;
+                EXPECT_EQ(box->pixel({60, 10}), kAround)
+                    << "the fill ran out: " << kind->name << ' ' << value;
             };
             changeBitsAboveTheColours(box->inner());
             box->enter();
@@ -246,7 +248,7 @@ TEST_F(Glyph, ofADisabledBoxIsShadedAloneWhateverRanBetween)
         ::PostMessageW(other.get(), WM_APP, 0, reinterpret_cast<LPARAM>(box->inner()));
         box->put(L"Enabled", Variant::ofBool(false));
         EXPECT_EQ(glyphOf(*box, kTop), shaded) << kind->name;
-        EXPECT_EQ(box->pixel({60, 10}), kFace) << "the fill ran out: " << kind->name;
+        EXPECT_EQ(box->pixel({60, 10}), kAround) << "the fill ran out: " << kind->name;
     }
 }
 
@@ -257,7 +259,7 @@ TEST_F(Glyph, isFilledAloneInEachOfManyPaints)
     constexpr ULONGLONG kDuration = 500; // milliseconds
     for (ULONGLONG const end = ::GetTickCount64() + kDuration; ::GetTickCount64() < end;) {
         ::RedrawWindow(option->outer(), nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN | RDW_UPDATENOW);
-        ASSERT_EQ(option->pixel({60, 10}), kFace) << "the fill ran out";
+        ASSERT_EQ(option->pixel({60, 10}), kAround) << "the fill ran out";
         ASSERT_EQ(option->pixel({0, 8}), kBlack) << "the outline is gone";
     }
 }
@@ -272,13 +274,26 @@ int fillRow(int height)
     return below % 2 == 0 ? below : below + 1;
 }
 
+// The fill's point is in row 6 of 17, and not in 7; the glyph begins 4 rows above it.
+TEST_F(Glyph, standsRoundThePointOfItsFillAtOddHeights)
+{
+    for (auto const& [height, top] :
+         {std::pair{15, 2}, std::pair{17, 2}, std::pair{19, 4}, std::pair{21, 4}, std::pair{23, 6}}) {
+        auto const check = shown(kCheck, 1, Mode::Run, height);
+        EXPECT_EQ(glyphOf(*check, top), kSetSquare) << height;
+        check->enter();
+        EXPECT_EQ(glyphOf(*check, top), with(kSetSquare, ' ', 'g')) << height;
+        check->leave();
+    }
+}
+
 TEST_F(Glyph, isShadedAtEveryHeight)
 {
     for (Kind const* kind : {&kOption, &kCheck})
         for (int height = 4; height <= 48; ++height) {
             Box box(*kind, library(), form, {20, 30, 140, 30 + height});
             auto const bag = newBag();
-            bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kFace)));
+            bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kAround)));
             bag->put(L"Enabled", Variant::ofBool(false));
             bag->put(L"Value", Variant::ofLong(1));
             box.start(*bag.get());
@@ -288,7 +303,7 @@ TEST_F(Glyph, isShadedAtEveryHeight)
             if (height >= 13) { // in a lower one the mark cuts off corners
                 EXPECT_EQ(canvas.count(kWhite), 0) << kind->name << ' ' << height;
             }
-            EXPECT_EQ(canvas.at(14, height / 2), kFace)
+            EXPECT_EQ(canvas.at(14, height / 2), kAround)
                 << "the fill ran out: " << kind->name << ' ' << height;
             changeBitsAboveTheColours(box.inner());
             box.put(L"HotForeColor", Variant::ofLong(0)); // fills once more

@@ -230,6 +230,25 @@ TEST_F(Group, isFoundThroughTheParentWhereTheSiteHasNoContainer)
     EXPECT_THAT(values(), ElementsAre(0, 1, 1));
 }
 
+// A collection that counts on must not hold up a click.
+TEST_F(Group, asksACollectionForNoMoreControlsThanAFormCanHave)
+{
+    constexpr long kMostControls = 0x7FFF;
+    add(kOption, nullptr);
+    form.record().answer("Site.GetContainer", E_NOTIMPL);
+    auto const stranger = kit::make<kit::NamedObject>("Stranger", form.sharedRecord());
+    stranger->offer(L"Object", Variant::ofDispatch(nullptr));
+    long asked = 0;
+    form.controls().offer(L"Count", Variant::ofLong(LONG_MAX));
+    form.controls().provide(L"Item", [&](Variant const&) {
+        if (++asked > kMostControls)
+            form.controls().refuse(L"Item"); // or it would go on for hours
+        return Variant::ofDispatch(stranger.get());
+    });
+    boxes[0]->setValue(1);
+    EXPECT_EQ(asked, kMostControls);
+}
+
 TEST_F(Group, needsNoContainerAtAll)
 {
     form.record().answer("Site.GetContainer", E_NOTIMPL);
@@ -306,10 +325,9 @@ TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
     auto& frame = container(1);
     add(kOption, &frame);
     add(kOption, &frame);
-    auto const sink = kit::make<kit::ChangeRecorder>();
-    kit::Connection const connection(boxes[1]->hosted().object(), IID_IPropertyNotifySink, sink->unknown());
-    sink->action = [&](DISPID) {
-        sink->action = nullptr;
+    kit::ChangeRecorder& sink = boxes[1]->changes();
+    sink.action = [&](DISPID) {
+        sink.action = nullptr;
         boxes[0]->setValue(0);
         boxes[0]->setValue(1); // a click in the middle of clearing: it does not clear a second time
     };
@@ -325,10 +343,9 @@ TEST_F(Group, outlivesASiblingThatGoesInsideTheChange)
     auto& frame = container(1);
     for (int i = 0; i < 3; ++i)
         add(kOption, &frame);
-    auto const sink = kit::make<kit::ChangeRecorder>();
-    kit::Connection const connection(boxes[1]->hosted().object(), IID_IPropertyNotifySink, sink->unknown());
-    sink->action = [&](DISPID) {
-        sink->action = nullptr;
+    kit::ChangeRecorder& sink = boxes[1]->changes();
+    sink.action = [&](DISPID) {
+        sink.action = nullptr;
         boxes[2]->remove();
     };
     boxes[0]->setValue(1);

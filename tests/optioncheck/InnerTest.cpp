@@ -35,6 +35,35 @@ TEST_P(Inner, isASystemButtonOfItsKind)
     }
 }
 
+TEST_P(Inner, isOfAClassThatGoesWithTheComponent)
+{
+    std::wstring const copy = kit::Library::folder() + L"second.ocx";
+    ASSERT_TRUE(::CopyFileW(kit::Library::path().c_str(), copy.c_str(), FALSE));
+    std::vector<std::wstring> names;
+    HMODULE module = nullptr;
+    auto const isKnown = [&](std::wstring const& name) {
+        WNDCLASSEXW known{};
+        known.cbSize = sizeof known;
+        return ::GetClassInfoExW(module, name.c_str(), &known) != FALSE;
+    };
+    {
+        kit::Library const second(copy);
+        module = second.module();
+        Box other(kind(), second, form, {20, 80, 140, 100}, L"Other");
+        other.start();
+        for (HWND const window : {other.inner(), other.outer()}) {
+            wchar_t name[64] = {};
+            ::GetClassNameW(window, name, 64);
+            EXPECT_TRUE(isKnown(name));
+            names.emplace_back(name);
+        }
+    }
+    EXPECT_EQ(::GetModuleHandleW(copy.c_str()), nullptr);
+    for (std::wstring const& name : names)
+        EXPECT_FALSE(isKnown(name)) << kit::narrow(name);
+    ::DeleteFileW(copy.c_str());
+}
+
 TEST_P(Inner, saysItsStateAndItsTextByTheSystemsMessages)
 {
     box.put(L"Caption", Variant::ofString(L"Said"));

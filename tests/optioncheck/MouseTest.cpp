@@ -8,9 +8,6 @@ using kit::MouseButton;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr COLORREF kFore = RGB(0, 96, 0);
-constexpr COLORREF kHot = RGB(255, 64, 0);
-
 class Mouse : public EachBoxTest {
 protected:
     Mouse() : box(kind(), library(), form) { box.start(); }

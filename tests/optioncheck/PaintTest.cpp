@@ -6,9 +6,6 @@
 namespace quillet::box {
 namespace {
 
-constexpr COLORREF kFore = RGB(0, 96, 0);
-constexpr COLORREF kHot = RGB(255, 64, 0);
-
 COLORREF shadow() { return ::GetSysColor(COLOR_BTNSHADOW); }
 
 class Paint : public EachBoxTest {

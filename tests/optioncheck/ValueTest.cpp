@@ -1,5 +1,6 @@
 // Value: what it takes, what it answers, what it raises, and the tab stop that goes with it.
 #include "Box.h"
+#include "kit/Errors.h"
 #include "kit/Fonts.h"
 
 namespace quillet::box {
@@ -7,24 +8,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
-constexpr HRESULT kInvalidPropertyValue = static_cast<HRESULT>(0x800A017C); // 380
-
-/// Changes of Value that the control tells of.
-class Told {
-public:
-    explicit Told(Box& box)
-        : m_sink(kit::make<kit::ChangeRecorder>()),
-          m_connection(box.hosted().object(), IID_IPropertyNotifySink, m_sink->unknown())
-    {}
-    std::vector<DISPID> take() { return m_sink->take(); }
-    kit::ChangeRecorder* operator->() noexcept { return m_sink.get(); }
-
-private:
-    ComPtr<kit::ChangeRecorder> m_sink;
-    kit::Connection m_connection;
-};
 
 using OptionValue = BoxTest;
 using CheckValue = BoxTest;
@@ -49,12 +32,12 @@ TEST_F(OptionValue, oneChoosesItAndRaisesClick)
 {
     Box box(kOption, library(), form);
     box.start();
-    Told told(box);
+    box.changes().take();
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_EQ(box.value(), 1);
     EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), BST_CHECKED);
     EXPECT_THAT(box.happened(), ElementsAre("Click"));
-    EXPECT_THAT(told.take(), ElementsAre(DISPID_VALUE));
+    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
 }
 
 TEST_F(OptionValue, otherThanOneClearsItWithoutAClick)
@@ -77,10 +60,10 @@ TEST_F(OptionValue, oneOfTheChosenIsToldButNoClick)
     box.start();
     box.setValue(1);
     box.happened();
-    Told told(box);
+    box.changes().take();
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_THAT(box.happened(), IsEmpty());
-    EXPECT_THAT(told.take(), ElementsAre(DISPID_VALUE));
+    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
 }
 
 TEST_F(OptionValue, isWhatTheAccessibleWindowSays)
@@ -133,15 +116,15 @@ TEST_F(OptionValue, isStoredThenToldAndThenTakesTheTabStopAlong)
     Box box(kOption, library(), form);
     box.start();
     box.setValue(1);
-    Told told(box);
+    box.changes().take();
     long value = -1;
     bool tabStop = false;
-    told->action = [&](DISPID) {
+    box.changes().action = [&](DISPID) {
         value = box.value();
         tabStop = box.extender().value(L"TabStop").toBool();
     };
     EXPECT_EQ(box.setValue(0), S_OK);
-    told->action = nullptr;
+    box.changes().action = nullptr;
     EXPECT_EQ(value, 0);
     EXPECT_TRUE(tabStop);
     EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
@@ -194,13 +177,13 @@ TEST_F(CheckValue, takesThreeStatesAndRaisesClickForEachChange)
 {
     Box box(kCheck, library(), form);
     box.start();
-    Told told(box);
+    box.changes().take();
     for (long const state : {1L, 2L, 0L, 2L, 1L, 0L}) {
         EXPECT_EQ(box.setValue(state), S_OK);
         EXPECT_EQ(box.value(), state);
         EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), state);
         EXPECT_THAT(box.happened(), ElementsAre("Click")) << state;
-        EXPECT_THAT(told.take(), ElementsAre(DISPID_VALUE));
+        EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
     }
 }
 
@@ -223,13 +206,13 @@ TEST_F(CheckValue, outside16BitsOverflowsBeforeAnythingChanges)
     box.setValue(2);
     box.happened();
     EXPECT_EQ(box.hosted().save(*newBag().get()), S_OK);
-    Told told(box);
+    box.changes().take();
     for (long const large : {70000L, 32768L, -32769L, 65537L}) {
         EXPECT_EQ(box.setValue(large), kOverflow) << large;
         EXPECT_EQ(box.value(), 2);
     }
     EXPECT_THAT(box.happened(), IsEmpty());
-    EXPECT_THAT(told.take(), IsEmpty());
+    EXPECT_THAT(box.changes().take(), IsEmpty());
     EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
 }
 

@@ -1,5 +1,7 @@
 // Errors in a host that has the compiler's shared run time in its process, as programs of other makers have:
 // what unwinds that library's frames must not be taken for what unwinds the component's.
+#include "kit/Errors.h"
+
 #include "base/Variant.h"
 #include "kit/ByName.h"
 #include "kit/Library.h"
@@ -18,8 +20,6 @@ constexpr wchar_t kSharedRunTime[] = L"libgcc_s_seh-1.dll";
 #else
 constexpr wchar_t kSharedRunTime[] = L"libgcc_s_dw2-1.dll";
 #endif
-
-constexpr HRESULT runTimeError(WORD number) { return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number); }
 
 /// The component in a process that has the shared run time: from its start, where the program is linked with
 /// it, or else from after the component came.

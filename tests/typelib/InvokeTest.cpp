@@ -27,9 +27,9 @@ template <> struct StoredAs<VARIANT> {
 template <class T> using Stored = typename StoredAs<T>::Type;
 
 /// Keeps what it is given.
-class FlatCommand final : public _qvFlatCommand {
+class CalledCommand final : public _qvFlatCommand {
 public:
-    FlatCommand()
+    CalledCommand()
     {
         ComPtr<ITypeInfo> dispatch;
         check(builtLibrary()->GetTypeInfoOfGuid(__uuidof(_qvFlatCommand), dispatch.put()));
@@ -157,7 +157,7 @@ protected:
         return result;
     }
 
-    FlatCommand object;
+    CalledCommand object;
 };
 
 using namespace dispid::qvFlatCommand;

@@ -14,16 +14,16 @@
 namespace quillet {
 namespace {
 
-struct Interface {
+struct Listed {
     IID id;
     Members members;
 };
 
-Interface const kInterfaces[] = {{kQvFlatCommandInterface, kQvFlatCommandMembers},
-                                 {kQvImageCommandInterface, kImageButtonMembers},
-                                 {kFlatToolButtonInterface, kImageButtonMembers},
-                                 {kQvFlatOptionInterface, kQvFlatOptionMembers},
-                                 {kQvFlatCheckInterface, kQvFlatCheckMembers}};
+Listed const kInterfaces[] = {{kQvFlatCommandInterface, kQvFlatCommandMembers},
+                              {kQvImageCommandInterface, kImageButtonMembers},
+                              {kFlatToolButtonInterface, kImageButtonMembers},
+                              {kQvFlatOptionInterface, kQvFlatOptionMembers},
+                              {kQvFlatCheckInterface, kQvFlatCheckMembers}};
 
 /// The ways in which a kind of member is called, in vtable order.
 std::vector<INVOKEKIND> callsOf(MemberKind kind)
@@ -58,7 +58,7 @@ VARTYPE typeBehind(ITypeInfo& info, TYPEDESC const& type)
 
 TEST(Members, areNamedAndPlacedAsTheLibrarySays)
 {
-    for (Interface const& each : kInterfaces) {
+    for (Listed const& each : kInterfaces) {
         ComPtr<ITypeInfo> dispatch;
         ASSERT_EQ(builtLibrary()->GetTypeInfoOfGuid(each.id, dispatch.put()), S_OK);
         ComPtr<ITypeInfo> const info = vtableView(*dispatch.get());
@@ -79,7 +79,7 @@ TEST(Members, areNamedAndPlacedAsTheLibrarySays)
 
 TEST(Members, haveTheTypesThatTheLibrarySays)
 {
-    for (Interface const& each : kInterfaces) {
+    for (Listed const& each : kInterfaces) {
         ComPtr<ITypeInfo> dispatch;
         ASSERT_EQ(builtLibrary()->GetTypeInfoOfGuid(each.id, dispatch.put()), S_OK);
         ComPtr<ITypeInfo> const info = vtableView(*dispatch.get());
@@ -96,7 +96,7 @@ TEST(Members, haveTheTypesThatTheLibrarySays)
 
 TEST(Members, nameTheParametersOfTheWindowProcedureAsTheLibraryDoes)
 {
-    for (Interface const& each : kInterfaces) {
+    for (Listed const& each : kInterfaces) {
         ComPtr<ITypeInfo> info;
         ASSERT_EQ(builtLibrary()->GetTypeInfoOfGuid(each.id, info.put()), S_OK);
         auto const member = std::ranges::find(each.members, MemberKind::WindowProcedure, &Member::kind);
