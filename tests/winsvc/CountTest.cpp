@@ -2,6 +2,7 @@
 #include "MadeWindows.h"
 #include "PlainControl.h"
 #include "ToolTips.h"
+#include "kit/Errors.h"
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
 
@@ -11,8 +12,6 @@
 
 namespace quillet::winsvc {
 namespace {
-
-constexpr RECT kAnyPlace{10, 10, 60, 40};
 
 /// A control in a form that is designed or runs.
 struct Sited {
@@ -39,179 +38,160 @@ struct Sited {
 
 class Users : public RoomTest {};
 
-TEST_F(Users, areCountedFirstThingAndTheWindowIsMadeOnce)
+TEST_ON_NEW_THREAD(Users, areCountedFirstThingAndTheWindowIsMadeOnce)
 {
-    onNewThread([] {
-        ThreadState& state = threadState();
-        EXPECT_EQ(state.toolTipUsers, 0);
-        EXPECT_FALSE(state.toolTipCreated);
-        EXPECT_EQ(state.toolTip, nullptr);
-        Sited first(true);
-        first.createToolTip();
-        EXPECT_EQ(state.toolTipUsers, 1);
-        EXPECT_TRUE(state.toolTipCreated);
-        EXPECT_EQ(state.toolTip, theToolTipWindow());
-        HWND const made = state.toolTip;
-        Sited second(true);
-        second.createToolTip();
-        EXPECT_EQ(state.toolTipUsers, 2);
-        EXPECT_EQ(state.toolTip, made);
-    });
+    ThreadState& state = threadState();
+    EXPECT_EQ(state.toolTipUsers, 0);
+    EXPECT_FALSE(state.toolTipCreated);
+    EXPECT_EQ(state.toolTip, nullptr);
+    Sited first(true);
+    first.createToolTip();
+    EXPECT_EQ(state.toolTipUsers, 1);
+    EXPECT_TRUE(state.toolTipCreated);
+    EXPECT_EQ(state.toolTip, theToolTipWindow());
+    HWND const made = state.toolTip;
+    Sited second(true);
+    second.createToolTip();
+    EXPECT_EQ(state.toolTipUsers, 2);
+    EXPECT_EQ(state.toolTip, made);
 }
 
-TEST_F(Users, firstHaveTheControlLibraryReadyAndThenAPlainTopmostWindow)
+TEST_ON_NEW_THREAD(Users, firstHaveTheControlLibraryReadyAndThenAPlainTopmostWindow)
 {
-    onNewThread([] {
-        Sited control(true);
-        control.control->hWnd();
-        MadeWindows const made;
+    Sited control(true);
+    control.control->hWnd();
+    MadeWindows const made;
+    control.createToolTip();
+    ASSERT_EQ(made.windows.size(), 1U);
+    MadeWindow const& window = made.windows.front();
+    EXPECT_TRUE(window.controlsInitialised);
+    EXPECT_EQ(window.extendedStyle, 8U);
+    EXPECT_EQ(window.className, "tooltips_class32");
+    EXPECT_FALSE(window.hasTitle);
+    EXPECT_EQ(window.style, 0U);
+    for (int const length : window.place)
+        EXPECT_EQ(static_cast<DWORD>(length), 0x80000000U);
+    EXPECT_EQ(window.parent, nullptr);
+    EXPECT_EQ(window.menu, nullptr);
+    EXPECT_EQ(window.instance, moduleInstance());
+    EXPECT_EQ(window.data, nullptr);
+}
+
+TEST_ON_NEW_THREAD(Users, whoseWindowCannotBeMadeLiveWithoutOneAndItIsNotTriedAgain)
+{
+    ThreadState const& state = threadState();
+    Sited first(true);
+    Sited second(true);
+    HWND const window = first.control->hWnd();
+    second.control->hWnd();
+    MadeWindows made;
+    made.failing = true;
+    first.createToolTip();
+    EXPECT_TRUE(state.toolTipCreated);
+    EXPECT_EQ(state.toolTip, nullptr);
+    made.failing = false;
+    second.createToolTip();
+    EXPECT_EQ(made.windows.size(), 1U);
+    EXPECT_EQ(state.toolTipUsers, 2);
+    ::SendMessageA(window, WM_MOUSEMOVE, 0, 0);
+    first.end();
+    second.end();
+    EXPECT_EQ(state.toolTipUsers, 0);
+}
+
+TEST_ON_NEW_THREAD(Users, ofDesignTimeAreCountedButMakeNoWindowAndSubclassNothing)
+{
+    ThreadState const& state = threadState();
+    Sited designed(false);
+    auto const before = ::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC);
+    designed.createToolTip();
+    EXPECT_EQ(state.toolTipUsers, 1);
+    EXPECT_FALSE(state.toolTipCreated);
+    EXPECT_EQ(state.toolTip, nullptr);
+    EXPECT_EQ(::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC), before);
+    designed.end();
+    EXPECT_EQ(state.toolTipUsers, 0);
+}
+
+TEST_ON_NEW_THREAD(Users, thatHaveAllGoneTakeTheWindowAlongButNeitherItsHandleNorItsFlag)
+{
+    ThreadState const& state = threadState();
+    Sited first(true);
+    Sited second(true);
+    first.createToolTip();
+    second.createToolTip();
+    HWND const made = state.toolTip;
+    first.end();
+    EXPECT_EQ(state.toolTipUsers, 1);
+    EXPECT_TRUE(::IsWindow(made));
+    second.end();
+    EXPECT_EQ(state.toolTipUsers, 0);
+    EXPECT_FALSE(::IsWindow(made));
+    EXPECT_TRUE(state.toolTipCreated);
+    EXPECT_EQ(state.toolTip, made);
+    Sited third(true);
+    third.createToolTip();
+    EXPECT_EQ(state.toolTipUsers, 1);
+    EXPECT_EQ(state.toolTip, made);
+    EXPECT_TRUE(toolTipWindows().empty());
+}
+
+TEST_ON_NEW_THREAD(Users, beyondThirtyTwoBitsAreAnOverflow)
+{
+    ThreadState& state = threadState();
+    Sited control(true);
+    state.toolTipUsers = std::numeric_limits<long>::max();
+    try {
         control.createToolTip();
-        ASSERT_EQ(made.windows.size(), 1U);
-        MadeWindow const& window = made.windows.front();
-        EXPECT_TRUE(window.controlsInitialised);
-        EXPECT_EQ(window.extendedStyle, 8U);
-        EXPECT_EQ(window.className, "tooltips_class32");
-        EXPECT_FALSE(window.hasTitle);
-        EXPECT_EQ(window.style, 0U);
-        for (int const length : window.place)
-            EXPECT_EQ(static_cast<DWORD>(length), 0x80000000U);
-        EXPECT_EQ(window.parent, nullptr);
-        EXPECT_EQ(window.menu, nullptr);
-        EXPECT_EQ(window.instance, moduleInstance());
-        EXPECT_EQ(window.data, nullptr);
-    });
+        ADD_FAILURE() << "no error";
+    } catch (RunTimeError const& error) {
+        EXPECT_EQ(error.result(), kOverflow);
+    }
+    EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max());
+    EXPECT_FALSE(state.toolTipCreated);
+    control.end();
+    EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max()) << "who was not counted is not uncounted";
+    state.toolTipUsers = 0;
 }
 
-TEST_F(Users, whoseWindowCannotBeMadeLiveWithoutOneAndItIsNotTriedAgain)
+TEST_ON_NEW_THREAD(Users, whoseNumberHasNoPredecessorOverflowAtTheirEnd)
 {
-    onNewThread([] {
-        ThreadState const& state = threadState();
-        Sited first(true);
-        Sited second(true);
-        HWND const window = first.control->hWnd();
-        second.control->hWnd();
-        MadeWindows made;
-        made.failing = true;
-        first.createToolTip();
-        EXPECT_TRUE(state.toolTipCreated);
-        EXPECT_EQ(state.toolTip, nullptr);
-        made.failing = false;
-        second.createToolTip();
-        EXPECT_EQ(made.windows.size(), 1U);
-        EXPECT_EQ(state.toolTipUsers, 2);
-        ::SendMessageA(window, WM_MOUSEMOVE, 0, 0);
-        first.end();
-        second.end();
-        EXPECT_EQ(state.toolTipUsers, 0);
-    });
+    ThreadState& state = threadState();
+    Sited control(false);
+    control.createToolTip();
+    state.toolTipUsers = std::numeric_limits<long>::min();
+    try {
+        control.control.toolTip().Terminate();
+        ADD_FAILURE() << "no error";
+    } catch (RunTimeError const& error) {
+        EXPECT_EQ(error.result(), kOverflow);
+    }
+    state.toolTipUsers = 1;
+    control.end();
+    EXPECT_EQ(state.toolTipUsers, 0);
 }
 
-TEST_F(Users, ofDesignTimeAreCountedButMakeNoWindowAndSubclassNothing)
+TEST_ON_NEW_THREAD(Users, whoNeverCountedAreNotUncounted)
 {
-    onNewThread([] {
-        ThreadState const& state = threadState();
-        Sited designed(false);
-        auto const before = ::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC);
-        designed.createToolTip();
-        EXPECT_EQ(state.toolTipUsers, 1);
-        EXPECT_FALSE(state.toolTipCreated);
-        EXPECT_EQ(state.toolTip, nullptr);
-        EXPECT_EQ(::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC), before);
-        designed.end();
-        EXPECT_EQ(state.toolTipUsers, 0);
-    });
+    Sited fresh(true);
+    fresh.end();
+    EXPECT_EQ(threadState().toolTipUsers, 0);
 }
 
-TEST_F(Users, thatHaveAllGoneTakeTheWindowAlongButNeitherItsHandleNorItsFlag)
+TEST_ON_NEW_THREAD(Users, ofTwoThreadsAreCountedApart)
 {
+    Sited here(true);
+    here.createToolTip();
+    EXPECT_EQ(threadState().toolTipUsers, 1);
     onNewThread([] {
-        ThreadState const& state = threadState();
-        Sited first(true);
-        Sited second(true);
-        first.createToolTip();
-        second.createToolTip();
-        HWND const made = state.toolTip;
-        first.end();
-        EXPECT_EQ(state.toolTipUsers, 1);
-        EXPECT_TRUE(::IsWindow(made));
-        second.end();
-        EXPECT_EQ(state.toolTipUsers, 0);
-        EXPECT_FALSE(::IsWindow(made));
-        EXPECT_TRUE(state.toolTipCreated);
-        EXPECT_EQ(state.toolTip, made);
-        Sited third(true);
-        third.createToolTip();
-        EXPECT_EQ(state.toolTipUsers, 1);
-        EXPECT_EQ(state.toolTip, made);
-        EXPECT_TRUE(toolTipWindows().empty());
-    });
-}
-
-TEST_F(Users, beyondThirtyTwoBitsAreAnOverflow)
-{
-    onNewThread([] {
-        ThreadState& state = threadState();
-        Sited control(true);
-        state.toolTipUsers = std::numeric_limits<long>::max();
-        try {
-            control.createToolTip();
-            ADD_FAILURE() << "no error";
-        } catch (RunTimeError const& error) {
-            EXPECT_EQ(error.result(), static_cast<HRESULT>(0x800A0006));
-        }
-        EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max());
-        EXPECT_FALSE(state.toolTipCreated);
-        control.end();
-        EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max())
-            << "who was not counted is not uncounted";
-        state.toolTipUsers = 0;
-    });
-}
-
-TEST_F(Users, whoseNumberHasNoPredecessorOverflowAtTheirEnd)
-{
-    onNewThread([] {
-        ThreadState& state = threadState();
-        Sited control(false);
-        control.createToolTip();
-        state.toolTipUsers = std::numeric_limits<long>::min();
-        try {
-            control.control.toolTip().Terminate();
-            ADD_FAILURE() << "no error";
-        } catch (RunTimeError const& error) {
-            EXPECT_EQ(error.result(), static_cast<HRESULT>(0x800A0006));
-        }
-        state.toolTipUsers = 1;
-        control.end();
-        EXPECT_EQ(state.toolTipUsers, 0);
-    });
-}
-
-TEST_F(Users, whoNeverCountedAreNotUncounted)
-{
-    onNewThread([] {
-        Sited fresh(true);
-        fresh.end();
         EXPECT_EQ(threadState().toolTipUsers, 0);
-    });
-}
-
-TEST_F(Users, ofTwoThreadsAreCountedApart)
-{
-    onNewThread([] {
-        Sited here(true);
-        here.createToolTip();
+        EXPECT_FALSE(threadState().toolTipCreated);
+        Sited there(true);
+        there.createToolTip();
         EXPECT_EQ(threadState().toolTipUsers, 1);
-        onNewThread([] {
-            EXPECT_EQ(threadState().toolTipUsers, 0);
-            EXPECT_FALSE(threadState().toolTipCreated);
-            Sited there(true);
-            there.createToolTip();
-            EXPECT_EQ(threadState().toolTipUsers, 1);
-        });
-        EXPECT_EQ(threadState().toolTipUsers, 1);
-        EXPECT_TRUE(::IsWindow(threadState().toolTip));
     });
+    EXPECT_EQ(threadState().toolTipUsers, 1);
+    EXPECT_TRUE(::IsWindow(threadState().toolTip));
 }
 
 } // namespace

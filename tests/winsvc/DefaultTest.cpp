@@ -9,8 +9,6 @@
 namespace quillet::winsvc {
 namespace {
 
-constexpr RECT kAnyPlace{10, 10, 60, 40};
-
 class DefaultButton : public RoomTest {
 protected:
     kit::FakeForm form;
@@ -54,7 +52,7 @@ TEST_F(DefaultButton, isNoneWhereTheValueIsNoBoolean)
     EXPECT_FALSE(answerFor(Variant::ofDispatch(nullptr)));
 }
 
-TEST_F(DefaultButton, onAContainerWithoutADefaultButtonNotionIsNeverTreatedAsDefaultAndNoErrorIsRaised)
+TEST_F(DefaultButton, isNeverOneOfAContainerThatKnowsNoneAndThatIsNoError)
 {
     site->extender().remove(L"Default");
     EXPECT_FALSE(isDefault(*control));

@@ -2,16 +2,20 @@
 #pragma once
 
 #include "base/Module.h"
+#include "kit/UiThread.h"
 #include "surface/Surface.h"
 #include "surface/window/ThreadState.h"
 #include "winsvc/modToolTip.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace quillet::winsvc {
+
+constexpr RECT kAnyPlace{10, 10, 60, 40};
 
 class PlainControl final : public Surface {
 public:
@@ -24,11 +28,23 @@ public:
 
     void onPaint() override;
     void onFocusMessage() override;
-    IUnknown* windowMessages() noexcept override { return &toolTip; }
+    IUnknown* windowMessages() noexcept override { return &m_guard; }
     IDispatch* dual() noexcept override { return &m_dual; }
     void onTerminate() override { toolTip.Terminate(); }
 
 private:
+    /// Stands before the services: procedures that call each other without end fail the test at once, instead
+    /// of filling the stack.
+    class Guard final : public Face<WindowMessages> {
+    public:
+        using Face::Face;
+        LRESULT handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept override;
+
+    private:
+        int m_depth = 0;
+    };
+
+    Guard m_guard{*this};
     Dual<IDispatch> m_dual{*this}; ///< of an interface that has nothing of its own
 };
 
@@ -55,7 +71,7 @@ protected:
     static void TearDownTestSuite();
     ~RoomTest() override { EXPECT_EQ(liveObjects(), 0); }
 
-    static void onNewThread(void (*body)());
+    static void onNewThread(std::function<void()> const& body);
 };
 
 } // namespace quillet::winsvc

@@ -17,7 +17,10 @@ using input::looksBag;
 using testing::ElementsAre;
 
 /// Each test's body runs on a thread of its own: what the component keeps per thread is never reset.
-class ServiceTest : public kit::ControlTest {};
+class ServiceTest : public kit::ControlTest {
+protected:
+    static void onNewThread(std::function<void()> const& body) { kit::onNewThread(body); }
+};
 
 /// A button of a running form, at a place that depends on its number.
 class RunningButton : public FormButton {

@@ -33,7 +33,7 @@ HWND windowOf(IDispatch& control)
 
 TEST_P(Slot, copiedIntoAnObjectVariableIsTheControl)
 {
-    kit::onNewThread([] {
+    onNewThread([] {
         kit::FakeForm form;
         kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
         hosted.start(*kit::make<kit::FakeBag>().get());
@@ -51,7 +51,7 @@ TEST_P(Slot, copiedIntoAnObjectVariableIsTheControl)
 
 TEST_P(Slot, stillLeadsMessagesToTheControlAndNoLongerThanItLives)
 {
-    kit::onNewThread([] {
+    onNewThread([] {
         kit::FakeForm form;
         kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
         hosted.start(*kit::make<kit::FakeBag>().get());
@@ -72,7 +72,7 @@ public:
 
 TEST_P(Slot, leadsMessagesToAControlInsideAnObjectThatKnowsNothingOfIt)
 {
-    kit::onNewThread([] {
+    onNewThread([] {
         auto const shell = kit::make<Shell>();
         auto const factory = library().factory(GetParam().classId);
         ASSERT_EQ(factory->CreateInstance(shell->unknown(), IID_IUnknown,
@@ -94,7 +94,7 @@ TEST_P(Slot, leadsMessagesToAControlInsideAnObjectThatKnowsNothingOfIt)
 // Nothing of it is the control's any more, and there is nobody to pass the message on.
 TEST_P(Slot, withAnotherObjectAnswersNothing)
 {
-    kit::onNewThread([] {
+    onNewThread([] {
         kit::FakeForm form;
         kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
         hosted.start(*kit::make<kit::FakeBag>().get());

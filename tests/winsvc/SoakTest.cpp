@@ -58,15 +58,12 @@ private:
     static constexpr size_t kBytesAtRandom = 2048;
 };
 
-TEST_F(Soak, ofThreeHundredLivesBesideAControlThatStaysLeavesNothingBehind)
+TEST_ON_NEW_THREAD(Soak, ofThreeHundredLivesBesideAControlThatStaysLeavesNothingBehind)
 {
-    kit::onNewThread([] { soak(ToolTip::Kept); });
+    soak(ToolTip::Kept);
 }
 
-TEST_F(Soak, ofThreeHundredLivesOneAtATimeLeavesNothingBehind)
-{
-    kit::onNewThread([] { soak(ToolTip::Gone); });
-}
+TEST_ON_NEW_THREAD(Soak, ofThreeHundredLivesOneAtATimeLeavesNothingBehind) { soak(ToolTip::Gone); }
 
 } // namespace
 } // namespace quillet::winsvc

@@ -28,197 +28,173 @@ struct Window {
 
 class Subclassing : public RoomTest {};
 
-TEST_F(Subclassing, putsTheDispatcherBeforeThePreviousProcedureAndTheUserIntoTheSlot)
+TEST_ON_NEW_THREAD(Subclassing, putsTheDispatcherBeforeThePreviousProcedureAndTheUserIntoTheSlot)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner const control;
-        control.toolTip().Subclass(window.handle());
-        EXPECT_EQ(window.procedure(), &SubclassWndProc);
-        EXPECT_NE(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
-        window.previous.answer = 5;
-        EXPECT_EQ(window.send(), 5);
-        EXPECT_EQ(window.previous.count(kMessage), 1);
-        control.toolTip().Unsubclass();
-    });
+    Window window;
+    PlainOwner const control;
+    control.toolTip().Subclass(window.handle());
+    EXPECT_EQ(window.procedure(), &SubclassWndProc);
+    EXPECT_NE(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
+    window.previous.answer = 5;
+    EXPECT_EQ(window.send(), 5);
+    EXPECT_EQ(window.previous.count(kMessage), 1);
+    control.toolTip().Unsubclass();
 }
 
-TEST_F(Subclassing, twiceInstallsTheDispatchProcedureOnceSoTheChainNeverPointsAtItself)
+TEST_ON_NEW_THREAD(Subclassing, twiceInstallsTheDispatchProcedureOnceSoTheChainNeverPointsAtItself)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner const control;
-        control.toolTip().Subclass(window.handle());
-        control.toolTip().Subclass(window.handle());
-        EXPECT_EQ(window.procedure(), &SubclassWndProc);
-        window.previous.answer = 5;
-        EXPECT_EQ(window.send(), 5);
-        EXPECT_EQ(window.previous.count(kMessage), 1);
-        control.toolTip().Unsubclass();
-        EXPECT_EQ(window.procedure(), window.previous.address()) << "one step back is all the way back";
-    });
+    Window window;
+    PlainOwner const control;
+    control.toolTip().Subclass(window.handle());
+    control.toolTip().Subclass(window.handle());
+    EXPECT_EQ(window.procedure(), &SubclassWndProc);
+    window.previous.answer = 5;
+    EXPECT_EQ(window.send(), 5);
+    EXPECT_EQ(window.previous.count(kMessage), 1);
+    control.toolTip().Unsubclass();
+    EXPECT_EQ(window.procedure(), window.previous.address()) << "one step back is all the way back";
 }
 
-TEST_F(Subclassing, passesAMessageOnWhoseHandlingFails)
+TEST_ON_NEW_THREAD(Subclassing, passesAMessageOnWhoseHandlingFails)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner const control;
-        control->failing = true;
-        control.toolTip().Subclass(window.handle());
-        for (UINT const message : {WM_SETFOCUS, WM_KILLFOCUS}) {
-            window.send(message);
-            EXPECT_EQ(window.previous.count(message), 1) << message;
-        }
-        control.toolTip().Unsubclass();
-    });
+    Window window;
+    PlainOwner const control;
+    control->failing = true;
+    control.toolTip().Subclass(window.handle());
+    for (UINT const message : {WM_SETFOCUS, WM_KILLFOCUS}) {
+        window.send(message);
+        EXPECT_EQ(window.previous.count(message), 1) << message;
+    }
+    control.toolTip().Unsubclass();
 }
 
-TEST_F(Subclassing, anotherWindowFirstGivesTheFormerOneBack)
+TEST_ON_NEW_THREAD(Subclassing, anotherWindowFirstGivesTheFormerOneBack)
 {
-    onNewThread([] {
-        kit::HostWindow const former(100, 100, 60, 40);
-        auto const own = ::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC);
-        Window window;
-        PlainOwner const control;
-        control.toolTip().Subclass(former.handle());
-        ASSERT_NE(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
-        control.toolTip().Subclass(window.handle());
-        EXPECT_EQ(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
-        EXPECT_EQ(window.procedure(), &SubclassWndProc);
-        control.toolTip().Unsubclass();
-    });
+    kit::HostWindow const former(100, 100, 60, 40);
+    auto const own = ::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC);
+    Window window;
+    PlainOwner const control;
+    control.toolTip().Subclass(former.handle());
+    ASSERT_NE(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
+    control.toolTip().Subclass(window.handle());
+    EXPECT_EQ(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
+    EXPECT_EQ(window.procedure(), &SubclassWndProc);
+    control.toolTip().Unsubclass();
 }
 
-TEST_F(Subclassing, onceEndedLetsMessagesGoStraightToThePreviousProcedure)
+TEST_ON_NEW_THREAD(Subclassing, onceEndedLetsMessagesGoStraightToThePreviousProcedure)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner const control;
-        LONG_PTR const emptySlot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
-        control.toolTip().Subclass(window.handle());
-        LONG_PTR const slot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
-        control.toolTip().Unsubclass();
-        EXPECT_EQ(window.procedure(), window.previous.address());
-        EXPECT_NE(slot, emptySlot);
-        EXPECT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), slot) << "the slot is left as it is";
-        std::vector<std::string> log;
-        control->log = &log;
-        window.previous.answer = 6;
-        EXPECT_EQ(window.send(), 6);
-        window.send(WM_SETFOCUS);
-        EXPECT_TRUE(log.empty());
-        control.toolTip().Unsubclass();
-        EXPECT_EQ(window.procedure(), window.previous.address()) << "ending twice is ending once";
-    });
+    Window window;
+    PlainOwner const control;
+    LONG_PTR const emptySlot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
+    control.toolTip().Subclass(window.handle());
+    LONG_PTR const slot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
+    control.toolTip().Unsubclass();
+    EXPECT_EQ(window.procedure(), window.previous.address());
+    EXPECT_NE(slot, emptySlot);
+    EXPECT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), slot) << "the slot is left as it is";
+    std::vector<std::string> log;
+    control->log = &log;
+    window.previous.answer = 6;
+    EXPECT_EQ(window.send(), 6);
+    window.send(WM_SETFOCUS);
+    EXPECT_TRUE(log.empty());
+    control.toolTip().Unsubclass();
+    EXPECT_EQ(window.procedure(), window.previous.address()) << "ending twice is ending once";
 }
 
-TEST_F(Subclassing, thatWindowsRefusesLeavesTheUserUnsubclassed)
+TEST_ON_NEW_THREAD(Subclassing, thatWindowsRefusesLeavesTheUserUnsubclassed)
 {
-    onNewThread([] {
-        HWND dead = nullptr;
-        {
-            Window const gone;
-            dead = gone.handle();
-        }
-        PlainOwner const control;
-        control.toolTip().Subclass(dead);
-        control.toolTip().Subclass(nullptr);
-        control.toolTip().Unsubclass();
-        Window window;
-        control.toolTip().Subclass(window.handle());
-        EXPECT_EQ(window.procedure(), &SubclassWndProc) << "the next one may work";
-        control.toolTip().Unsubclass();
-    });
+    HWND dead = nullptr;
+    {
+        Window const gone;
+        dead = gone.handle();
+    }
+    PlainOwner const control;
+    control.toolTip().Subclass(dead);
+    control.toolTip().Subclass(nullptr);
+    control.toolTip().Unsubclass();
+    Window window;
+    control.toolTip().Subclass(window.handle());
+    EXPECT_EQ(window.procedure(), &SubclassWndProc) << "the next one may work";
+    control.toolTip().Unsubclass();
 }
 
-TEST_F(Subclassing, ofARefusedWindowEndsTheFormerOneAllTheSame)
+TEST_ON_NEW_THREAD(Subclassing, ofARefusedWindowEndsTheFormerOneAllTheSame)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner const control;
-        control.toolTip().Subclass(window.handle());
-        control.toolTip().Subclass(nullptr);
-        EXPECT_EQ(window.procedure(), window.previous.address());
-    });
+    Window window;
+    PlainOwner const control;
+    control.toolTip().Subclass(window.handle());
+    control.toolTip().Subclass(nullptr);
+    EXPECT_EQ(window.procedure(), window.previous.address());
 }
 
-TEST_F(Subclassing, endsWithItsControl)
+TEST_ON_NEW_THREAD(Subclassing, endsWithItsControl)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner control;
-        control.toolTip().Subclass(window.handle());
+    Window window;
+    PlainOwner control;
+    control.toolTip().Subclass(window.handle());
+    control.release();
+    EXPECT_EQ(window.procedure(), window.previous.address());
+    window.previous.answer = 7;
+    EXPECT_EQ(window.send(), 7);
+}
+
+TEST_ON_NEW_THREAD(Subclassing, doesNotKeepTheControlAlive)
+{
+    Window window;
+    PlainOwner control;
+    long const before = liveObjects();
+    control.toolTip().Subclass(window.handle());
+    control.release();
+    EXPECT_LT(liveObjects(), before);
+}
+
+TEST_ON_NEW_THREAD(Subclassing, keepsTheControlAliveForTheLengthOfOneMessage)
+{
+    Window window;
+    PlainOwner control;
+    control.toolTip().Subclass(window.handle());
+    long alive = 0;
+    window.previous.answer = 8;
+    window.previous.action = [&](MSG const& seen) {
+        if (seen.message != kMessage)
+            return;
         control.release();
-        EXPECT_EQ(window.procedure(), window.previous.address());
-        window.previous.answer = 7;
-        EXPECT_EQ(window.send(), 7);
-    });
+        alive = liveObjects();
+    };
+    long const before = liveObjects();
+    EXPECT_EQ(window.send(), 8);
+    EXPECT_EQ(alive, before) << "the message's own reference";
+    EXPECT_LT(liveObjects(), before);
 }
 
-TEST_F(Subclassing, doesNotKeepTheControlAlive)
+TEST_ON_NEW_THREAD(Subclassing, dispatchAnswersZeroAndPassesNothingOnWhereTheSlotHoldsNoControl)
 {
-    onNewThread([] {
-        Window window;
-        PlainOwner control;
-        long const before = liveObjects();
+    Window window;
+    window.previous.answer = 9;
+    ASSERT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
+    EXPECT_EQ(SubclassWndProc(window.handle(), kMessage, 1, 2), 0);
+    EXPECT_EQ(SubclassWndProc(nullptr, kMessage, 1, 2), 0);
+    EXPECT_EQ(window.previous.count(kMessage), 0);
+}
+
+TEST_ON_NEW_THREAD(Subclassing, ofAUserWhoseWindowIsGoneEndsWithoutTouchingAnotherWindow)
+{
+    PlainOwner control;
+    {
+        Window const window;
         control.toolTip().Subclass(window.handle());
-        control.release();
-        EXPECT_LT(liveObjects(), before);
-    });
-}
-
-TEST_F(Subclassing, keepsTheControlAliveForTheLengthOfOneMessage)
-{
-    onNewThread([] {
-        Window window;
-        PlainOwner control;
-        control.toolTip().Subclass(window.handle());
-        long alive = 0;
-        window.previous.answer = 8;
-        window.previous.action = [&](MSG const& seen) {
-            if (seen.message != kMessage)
-                return;
-            control.release();
-            alive = liveObjects();
-        };
-        long const before = liveObjects();
-        EXPECT_EQ(window.send(), 8);
-        EXPECT_EQ(alive, before) << "the message's own reference";
-        EXPECT_LT(liveObjects(), before);
-    });
-}
-
-TEST_F(Subclassing, dispatchAnswersZeroAndPassesNothingOnWhereTheSlotHoldsNoControl)
-{
-    onNewThread([] {
-        Window window;
-        window.previous.answer = 9;
-        ASSERT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
-        EXPECT_EQ(SubclassWndProc(window.handle(), kMessage, 1, 2), 0);
-        EXPECT_EQ(SubclassWndProc(nullptr, kMessage, 1, 2), 0);
-        EXPECT_EQ(window.previous.count(kMessage), 0);
-    });
-}
-
-TEST_F(Subclassing, ofAUserWhoseWindowIsGoneEndsWithoutTouchingAnotherWindow)
-{
-    onNewThread([] {
-        PlainOwner control;
-        {
-            Window const window;
-            control.toolTip().Subclass(window.handle());
-        }
-        std::vector<std::unique_ptr<Window>> later;
-        for (int i = 0; i < 8; ++i)
-            later.push_back(std::make_unique<Window>());
-        std::vector<WNDPROC> before;
-        for (auto const& each : later)
-            before.push_back(each->procedure());
-        control.release();
-        for (size_t i = 0; i < later.size(); ++i)
-            EXPECT_EQ(later[i]->procedure(), before[i]);
-    });
+    }
+    std::vector<std::unique_ptr<Window>> later;
+    for (int i = 0; i < 8; ++i)
+        later.push_back(std::make_unique<Window>());
+    std::vector<WNDPROC> before;
+    for (auto const& each : later)
+        before.push_back(each->procedure());
+    control.release();
+    for (size_t i = 0; i < later.size(); ++i)
+        EXPECT_EQ(later[i]->procedure(), before[i]);
 }
 
 } // namespace

@@ -61,215 +61,191 @@ std::string ansi(std::wstring_view text)
 
 class TipText : public ServiceTest {};
 
-TEST_F(TipText, isTheExtendersAndNothingElseInTheRecordIsWritten)
+TEST_ON_NEW_THREAD(TipText, isTheExtendersAndNothingElseInTheRecordIsWritten)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        setText(button, L"Saves everything");
-        Request request(theToolTipWindow(), button.window());
-        Request const original = request;
-        request.sendTo(button.window());
-        ASSERT_TRUE(request.isAnswered());
-        EXPECT_STREQ(request.record.lpszText, "Saves everything");
-        EXPECT_TRUE(request.differsOnlyInTextFrom(original));
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    setText(button, L"Saves everything");
+    Request request(theToolTipWindow(), button.window());
+    Request const original = request;
+    request.sendTo(button.window());
+    ASSERT_TRUE(request.isAnswered());
+    EXPECT_STREQ(request.record.lpszText, "Saves everything");
+    EXPECT_TRUE(request.differsOnlyInTextFrom(original));
 }
 
-TEST_F(TipText, isTheExtendersOfNowAtEachAsking)
+TEST_ON_NEW_THREAD(TipText, isTheExtendersOfNowAtEachAsking)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        for (wchar_t const* const text : {L"one", L"another one", L"x"}) {
-            setText(button, text);
-            Request request(theToolTipWindow(), button.window());
-            request.sendTo(button.window());
-            ASSERT_TRUE(request.isAnswered());
-            EXPECT_EQ(request.record.lpszText, ansi(text));
-        }
-    });
-}
-
-TEST_F(TipText, isNotTheControlsOwnProperty)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        setText(button, L"the extender's");
-        EXPECT_EQ(button->put_ToolTipText(Bstr(L"the control's").get()), S_OK);
-        Request request(theToolTipWindow(), button.window());
-        request.sendTo(button.window());
-        ASSERT_TRUE(request.isAnswered());
-        EXPECT_STREQ(request.record.lpszText, "the extender's");
-    });
-}
-
-TEST_F(TipText, isConvertedToTheSystemsCodePage)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        std::wstring const text = L"Gr\x00F6\x00DF"
-                                  L"e \x20AC \x4E2D";
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    for (wchar_t const* const text : {L"one", L"another one", L"x"}) {
         setText(button, text);
         Request request(theToolTipWindow(), button.window());
         request.sendTo(button.window());
         ASSERT_TRUE(request.isAnswered());
         EXPECT_EQ(request.record.lpszText, ansi(text));
-    });
+    }
 }
 
-TEST_F(TipText, staysValidAfterTheAnswerAndWhenAnotherControlAnswers)
+TEST_ON_NEW_THREAD(TipText, isNotTheControlsOwnProperty)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton first(library(), form, 1);
-        RunningButton second(library(), form, 2);
-        first.start();
-        second.start();
-        setText(first, L"the first control's text");
-        setText(second, L"the second control's text");
-        Request asked(theToolTipWindow(), first.window());
-        asked.sendTo(first.window());
-        Request askedToo(theToolTipWindow(), second.window());
-        askedToo.sendTo(second.window());
-        setText(first, L"changed");
-        ASSERT_TRUE(asked.isAnswered());
-        ASSERT_TRUE(askedToo.isAnswered());
-        EXPECT_STREQ(asked.record.lpszText, "the first control's text");
-        EXPECT_STREQ(askedToo.record.lpszText, "the second control's text");
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    setText(button, L"the extender's");
+    EXPECT_EQ(button->put_ToolTipText(Bstr(L"the control's").get()), S_OK);
+    Request request(theToolTipWindow(), button.window());
+    request.sendTo(button.window());
+    ASSERT_TRUE(request.isAnswered());
+    EXPECT_STREQ(request.record.lpszText, "the extender's");
 }
 
-TEST_F(TipText, longerThanTheRecordsOwnSpaceIsGivenWhole)
+TEST_ON_NEW_THREAD(TipText, isConvertedToTheSystemsCodePage)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        setText(button, std::wstring(200, L'w'));
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    std::wstring const text = L"Gr\x00F6\x00DF"
+                              L"e \x20AC \x4E2D";
+    setText(button, text);
+    Request request(theToolTipWindow(), button.window());
+    request.sendTo(button.window());
+    ASSERT_TRUE(request.isAnswered());
+    EXPECT_EQ(request.record.lpszText, ansi(text));
+}
+
+TEST_ON_NEW_THREAD(TipText, staysValidAfterTheAnswerAndWhenAnotherControlAnswers)
+{
+    kit::FakeForm form;
+    RunningButton first(library(), form, 1);
+    RunningButton second(library(), form, 2);
+    first.start();
+    second.start();
+    setText(first, L"the first control's text");
+    setText(second, L"the second control's text");
+    Request asked(theToolTipWindow(), first.window());
+    asked.sendTo(first.window());
+    Request askedToo(theToolTipWindow(), second.window());
+    askedToo.sendTo(second.window());
+    setText(first, L"changed");
+    ASSERT_TRUE(asked.isAnswered());
+    ASSERT_TRUE(askedToo.isAnswered());
+    EXPECT_STREQ(asked.record.lpszText, "the first control's text");
+    EXPECT_STREQ(askedToo.record.lpszText, "the second control's text");
+}
+
+TEST_ON_NEW_THREAD(TipText, longerThanTheRecordsOwnSpaceIsGivenWhole)
+{
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    setText(button, std::wstring(200, L'w'));
+    Request request(theToolTipWindow(), button.window());
+    Request const original = request;
+    request.sendTo(button.window());
+    ASSERT_TRUE(request.isAnswered());
+    EXPECT_EQ(request.record.lpszText, std::string(200, 'w'));
+    EXPECT_TRUE(request.differsOnlyInTextFrom(original));
+}
+
+TEST_ON_NEW_THREAD(TipText, thatTheExtenderFailsToGiveLeavesTheRecordUnwritten)
+{
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    using Failing = void (*)(FormButton&);
+    Failing const failings[] = {
+        [](FormButton& b) { b.extender().refuse(L"ToolTipText"); },
+        [](FormButton& b) {
+            b.extender().offer(L"ToolTipText", Variant::ofUnknown(b.hosted().form().frame().unknown()));
+        },
+        [](FormButton& b) { b.extender().remove(L"ToolTipText"); },
+        [](FormButton& b) { b.hosted().form().record().answerNothing("Site.GetExtendedControl"); },
+        [](FormButton& b) { b.hosted().form().record().answer("Site.GetExtendedControl", E_NOTIMPL); },
+        [](FormButton& b) { b.as<IOleObject>()->SetClientSite(nullptr); },
+    };
+    for (Failing const fail : failings) {
+        fail(button);
         Request request(theToolTipWindow(), button.window());
         Request const original = request;
         request.sendTo(button.window());
-        ASSERT_TRUE(request.isAnswered());
-        EXPECT_EQ(request.record.lpszText, std::string(200, 'w'));
+        EXPECT_FALSE(request.isAnswered());
         EXPECT_TRUE(request.differsOnlyInTextFrom(original));
-    });
+    }
 }
 
-TEST_F(TipText, thatTheExtenderFailsToGiveLeavesTheRecordUnwritten)
+TEST_ON_NEW_THREAD(TipText, thatFailedOnceIsGivenAgainOnceTheExtenderHasIt)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        using Failing = void (*)(FormButton&);
-        Failing const failings[] = {
-            [](FormButton& b) { b.extender().refuse(L"ToolTipText"); },
-            [](FormButton& b) {
-                b.extender().offer(L"ToolTipText", Variant::ofUnknown(b.hosted().form().frame().unknown()));
-            },
-            [](FormButton& b) { b.extender().remove(L"ToolTipText"); },
-            [](FormButton& b) { b.hosted().form().record().answerNothing("Site.GetExtendedControl"); },
-            [](FormButton& b) { b.hosted().form().record().answer("Site.GetExtendedControl", E_NOTIMPL); },
-            [](FormButton& b) { b.as<IOleObject>()->SetClientSite(nullptr); },
-        };
-        for (Failing const fail : failings) {
-            fail(button);
-            Request request(theToolTipWindow(), button.window());
-            Request const original = request;
-            request.sendTo(button.window());
-            EXPECT_FALSE(request.isAnswered());
-            EXPECT_TRUE(request.differsOnlyInTextFrom(original));
-        }
-    });
-}
-
-TEST_F(TipText, thatFailedOnceIsGivenAgainOnceTheExtenderHasIt)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        button.extender().refuse(L"ToolTipText");
-        Request failed(theToolTipWindow(), button.window());
-        failed.sendTo(button.window());
-        EXPECT_FALSE(failed.isAnswered());
-        setText(button, L"back");
-        Request request(theToolTipWindow(), button.window());
-        request.sendTo(button.window());
-        ASSERT_TRUE(request.isAnswered());
-        EXPECT_STREQ(request.record.lpszText, "back");
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    button.extender().refuse(L"ToolTipText");
+    Request failed(theToolTipWindow(), button.window());
+    failed.sendTo(button.window());
+    EXPECT_FALSE(failed.isAnswered());
+    setText(button, L"back");
+    Request request(theToolTipWindow(), button.window());
+    request.sendTo(button.window());
+    ASSERT_TRUE(request.isAnswered());
+    EXPECT_STREQ(request.record.lpszText, "back");
 }
 
 // Whoever may the asker be: its window decides.
-TEST_F(TipText, isNotGivenToAnotherWindowThanTheToolTipWindow)
+TEST_ON_NEW_THREAD(TipText, isNotGivenToAnotherWindowThanTheToolTipWindow)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        setText(button, L"secret");
-        UniqueWindow const other(::CreateWindowExW(0, TOOLTIPS_CLASSW, L"", WS_POPUP, 0, 0, 10, 10, nullptr,
-                                                   nullptr, nullptr, nullptr));
-        for (HWND const from : {other.get(), form.window(), button.window(), HWND{}}) {
-            Request request(from, button.window());
-            Request const original = request;
-            form.record().forget();
-            request.sendTo(button.window());
-            EXPECT_TRUE(request.differsOnlyInTextFrom(original) && !request.isAnswered());
-            EXPECT_EQ(form.record().count("Extender.ToolTipText"), 0);
-        }
-    });
-}
-
-TEST_F(TipText, isNotGivenForAnotherCode)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        setText(button, L"secret");
-        for (int const code : {-521, -522, -523, -530, -519, 520, 0}) {
-            Request request(theToolTipWindow(), button.window());
-            request.record.hdr.code = static_cast<UINT>(code);
-            Request const original = request;
-            request.sendTo(button.window());
-            EXPECT_TRUE(!request.isAnswered() && request.differsOnlyInTextFrom(original)) << code;
-        }
-    });
-}
-
-TEST_F(TipText, ofANotificationWithoutARecordDoesNoHarm)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        EXPECT_EQ(::SendMessageA(button.window(), kNotify, 0, 0), 0);
-    });
-}
-
-TEST_F(TipText, askedForWhileTheExtenderTakesTheControlAwayIsCleanlyNotGiven)
-{
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        button.extender().provide(L"ToolTipText", [&](Variant const&) {
-            button.remove();
-            return Variant::ofString(L"too late");
-        });
-        Request request(theToolTipWindow(), button.window());
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    setText(button, L"secret");
+    UniqueWindow const other(::CreateWindowExW(0, TOOLTIPS_CLASSW, L"", WS_POPUP, 0, 0, 10, 10, nullptr,
+                                               nullptr, nullptr, nullptr));
+    for (HWND const from : {other.get(), form.window(), button.window(), HWND{}}) {
+        Request request(from, button.window());
+        Request const original = request;
+        form.record().forget();
         request.sendTo(button.window());
-        EXPECT_FALSE(::IsWindow(button.window()));
+        EXPECT_TRUE(request.differsOnlyInTextFrom(original) && !request.isAnswered());
+        EXPECT_EQ(form.record().count("Extender.ToolTipText"), 0);
+    }
+}
+
+TEST_ON_NEW_THREAD(TipText, isNotGivenForAnotherCode)
+{
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    setText(button, L"secret");
+    for (int const code : {-521, -522, -523, -530, -519, 520, 0}) {
+        Request request(theToolTipWindow(), button.window());
+        request.record.hdr.code = static_cast<UINT>(code);
+        Request const original = request;
+        request.sendTo(button.window());
+        EXPECT_TRUE(!request.isAnswered() && request.differsOnlyInTextFrom(original)) << code;
+    }
+}
+
+TEST_ON_NEW_THREAD(TipText, ofANotificationWithoutARecordDoesNoHarm)
+{
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    EXPECT_EQ(::SendMessageA(button.window(), kNotify, 0, 0), 0);
+}
+
+TEST_ON_NEW_THREAD(TipText, askedForWhileTheExtenderTakesTheControlAwayIsCleanlyNotGiven)
+{
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    button.extender().provide(L"ToolTipText", [&](Variant const&) {
+        button.remove();
+        return Variant::ofString(L"too late");
     });
+    Request request(theToolTipWindow(), button.window());
+    request.sendTo(button.window());
+    EXPECT_FALSE(::IsWindow(button.window()));
 }
 
 /// A button in the active window with the cursor elsewhere, and the tip that real hovering brings.
@@ -291,58 +267,52 @@ protected:
     }
 };
 
-TEST_F(ShownTip, hasTheExtendersTextAndAChangeOfItTakesEffectAtTheNextTimeTheTipShows)
+TEST_ON_NEW_THREAD(ShownTip, hasTheExtendersTextAndAChangeOfItTakesEffectAtTheNextTimeTheTipShows)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        ASSERT_TRUE(kit::focus(button.window()));
-        setText(button, L"Shown first");
-        EXPECT_EQ(shownOver(button), "Shown first");
-        hide(button);
-        setText(button, L"Shown next");
-        EXPECT_EQ(shownOver(button), "Shown next");
-        hide(button);
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    ASSERT_TRUE(kit::focus(button.window()));
+    setText(button, L"Shown first");
+    EXPECT_EQ(shownOver(button), "Shown first");
+    hide(button);
+    setText(button, L"Shown next");
+    EXPECT_EQ(shownOver(button), "Shown next");
+    hide(button);
 }
 
-TEST_F(ShownTip, goesWhenTheButtonIsPressed)
+TEST_ON_NEW_THREAD(ShownTip, goesWhenTheButtonIsPressed)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form);
-        button.start();
-        ASSERT_TRUE(kit::focus(button.window()));
-        setText(button, L"Press");
-        HWND const toolTip = theToolTipWindow();
-        EXPECT_EQ(shownOver(button), "Press");
-        input::pressDown(button);
-        EXPECT_TRUE(kit::pumpUntil([&] { return !::IsWindowVisible(toolTip); }));
-        input::letUp(button);
-        EXPECT_TRUE(kit::moveCursorAway());
-        kit::pumpPending();
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form);
+    button.start();
+    ASSERT_TRUE(kit::focus(button.window()));
+    setText(button, L"Press");
+    HWND const toolTip = theToolTipWindow();
+    EXPECT_EQ(shownOver(button), "Press");
+    input::pressDown(button);
+    EXPECT_TRUE(kit::pumpUntil([&] { return !::IsWindowVisible(toolTip); }));
+    input::letUp(button);
+    EXPECT_TRUE(kit::moveCursorAway());
+    kit::pumpPending();
 }
 
-TEST_F(ShownTip, goesWithItsControl)
+TEST_ON_NEW_THREAD(ShownTip, goesWithItsControl)
 {
-    kit::onNewThread([] {
-        kit::FakeForm form;
-        RunningButton button(library(), form, 1);
-        RunningButton other(library(), form, 2);
-        button.start();
-        other.start();
-        ASSERT_TRUE(kit::focus(button.window()));
-        setText(button, L"Gone soon");
-        EXPECT_EQ(shownOver(button), "Gone soon");
-        HWND const toolTip = theToolTipWindow();
-        button.remove();
-        EXPECT_TRUE(kit::moveCursorAway());
-        kit::pumpPending();
-        other.remove();
-        EXPECT_FALSE(::IsWindow(toolTip));
-    });
+    kit::FakeForm form;
+    RunningButton button(library(), form, 1);
+    RunningButton other(library(), form, 2);
+    button.start();
+    other.start();
+    ASSERT_TRUE(kit::focus(button.window()));
+    setText(button, L"Gone soon");
+    EXPECT_EQ(shownOver(button), "Gone soon");
+    HWND const toolTip = theToolTipWindow();
+    button.remove();
+    EXPECT_TRUE(kit::moveCursorAway());
+    kit::pumpPending();
+    other.remove();
+    EXPECT_FALSE(::IsWindow(toolTip));
 }
 
 } // namespace
