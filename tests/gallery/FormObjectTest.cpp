@@ -12,7 +12,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::string const kForm =
+std::string const kObjectForm =
     "Caption = \"A form\"\nBackColor = &H00FF0000&\n"
     "BeginProperty Font\nSize = 18\nItalic = -1\nEndProperty\n" +
     node("VB.Label", "Hint") +
@@ -41,7 +41,7 @@ std::wstring nameOf(Variant const& extender)
 
 TEST(FormObject, controlsAreCountedAndFoundByIndexFromZeroAndByName)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     Variant keeper;
     IDispatch& all = controls(kit, keeper);
     EXPECT_EQ(getByName(all, L"Count").toLong(), 5);
@@ -55,7 +55,7 @@ TEST(FormObject, controlsAreCountedAndFoundByIndexFromZeroAndByName)
 
 TEST(FormObject, forEachVisitsEveryControlInTheFormsOrder)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     Variant keeper;
     DISPPARAMS none{};
     Variant made;
@@ -73,7 +73,7 @@ TEST(FormObject, forEachVisitsEveryControlInTheFormsOrder)
 
 TEST(FormObject, aControlIsAMemberOfItsForm)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     EXPECT_EQ(nameOf(getByName(kit.form().object(), L"inner")), L"Inner");
     EXPECT_EQ(getByName(kit.form().object(), L"Caption").toString().view(), L"A form");
     putByName(kit.form().object(), L"Caption", Variant::ofString(L"New"));
@@ -94,7 +94,7 @@ std::vector<ComPtr<IUnknown>> enumerated(FormKit& kit, DWORD flags)
 
 TEST(FormObject, theContainerEnumeratesControlsThemselvesByTheirKind)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     auto const embedded = enumerated(kit, OLECONTF_EMBEDDINGS);
     ASSERT_EQ(embedded.size(), 2u);
     EXPECT_EQ(embedded[0].get(), kit.control(L"Inner").object());
@@ -107,7 +107,7 @@ TEST(FormObject, theContainerEnumeratesControlsThemselvesByTheirKind)
 
 TEST(FormObject, aSitesContainerIsTheForm)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     ComPtr<IOleContainer> container;
     ASSERT_EQ(kit.fake(L"Inner").site()->GetContainer(container.put()), S_OK);
     EXPECT_EQ(container.as<IDispatch>().get(), static_cast<IDispatch*>(&kit.form().object()));
@@ -115,7 +115,7 @@ TEST(FormObject, aSitesContainerIsTheForm)
 
 TEST(Ambients, theFormsLookAndModeReachTheControl)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     FakeControl& fake = kit.fake(L"Inner");
     EXPECT_EQ(fake.ambient(DISPID_AMBIENT_BACKCOLOR).toLong(), 0xFF0000);
     EXPECT_EQ(fake.ambient(DISPID_AMBIENT_FORECOLOR).toLong(), static_cast<long>(0x80000012));
@@ -136,7 +136,7 @@ TEST(Ambients, theFormsLookAndModeReachTheControl)
 
 TEST(Ambients, flagsHaveTheirRunTimeValues)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     FakeControl& fake = kit.fake(L"Inner");
     for (DISPID const on : {DISPID_AMBIENT_USERMODE, DISPID_AMBIENT_SUPPORTSMNEMONICS})
         EXPECT_TRUE(fake.ambient(on).toBool()) << on;
@@ -151,7 +151,7 @@ TEST(Ambients, flagsHaveTheirRunTimeValues)
 
 TEST(Ambients, theyAreFoundByNameToo)
 {
-    FormKit kit(kForm);
+    FormKit kit(kObjectForm);
     auto const ambients = query<IDispatch>(kit.fake(L"Inner").site());
     EXPECT_TRUE(getByName(*ambients.get(), L"UserMode").toBool());
     EXPECT_THROW(putByName(*ambients.get(), L"UserMode", Variant::ofBool(false)), RunTimeError);
@@ -159,7 +159,7 @@ TEST(Ambients, theyAreFoundByNameToo)
 
 TEST(Ambients, aDesignFormIsNotInUserMode)
 {
-    FormKit kit(kForm, {}, UserMode::Design);
+    FormKit kit(kObjectForm, {}, UserMode::Design);
     EXPECT_FALSE(kit.fake(L"Inner").ambient(DISPID_AMBIENT_USERMODE).toBool());
     EXPECT_FALSE(kit.fake(L"Inner").ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
 }

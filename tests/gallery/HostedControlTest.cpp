@@ -11,13 +11,13 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::string const kButton = node("Fake.Button", "One",
+std::string const kFakeButton = node("Fake.Button", "One",
                                  "Left = 150\nTop = 300\nWidth = 1500\nHeight = 450\n"
                                  "Caption = \"Go\"\nTabIndex = 4\nToolTipText = \"tip\"");
 
 TEST(HostedControl, theSiteComesFirstWhereTheControlWantsItSo)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "SetClientSite", "Load", "Advise events",
                                                     "SetExtent", "DoVerb -5"));
 }
@@ -26,7 +26,7 @@ TEST(HostedControl, theSiteComesBehindLoadingElsewhere)
 {
     FakeTraits traits;
     traits.status = OLEMISC_INSIDEOUT;
-    FormKit kit(kButton, {{L"Button", traits}});
+    FormKit kit(kFakeButton, {{L"Button", traits}});
     EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "Load", "SetClientSite", "Advise events",
                                                     "SetExtent", "DoVerb -5"));
 }
@@ -35,14 +35,14 @@ TEST(HostedControl, aControlWithoutAPropertyBagIsInitialisedAsNew)
 {
     FakeTraits traits;
     traits.loadResult = E_NOTIMPL;
-    FormKit kit(kButton, {{L"Button", traits}});
+    FormKit kit(kFakeButton, {{L"Button", traits}});
     EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "SetClientSite", "Load", "InitNew",
                                                     "Advise events", "SetExtent", "DoVerb -5"));
 }
 
 TEST(HostedControl, itsEndUndoesEverythingInOrder)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     ComPtr<FakeControl> const fake = &kit.fake(L"One");
     fake->calls.clear();
     kit.form().close();
@@ -54,7 +54,7 @@ TEST(HostedControl, itsEndUndoesEverythingInOrder)
 
 TEST(HostedControl, itsBagHasItsOwnPropertiesOnly)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     PropertyBag& loaded = *kit.fake(L"One").loaded.get();
     ASSERT_EQ(loaded.entries().size(), 1u);
     EXPECT_EQ(loaded.entries()[0].name, L"Caption");
@@ -62,7 +62,7 @@ TEST(HostedControl, itsBagHasItsOwnPropertiesOnly)
 
 TEST(HostedControl, twipsBecomeHimetricExtentsAndPixels)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     FakeControl& fake = kit.fake(L"One");
     EXPECT_EQ(fake.extent.cx, 2646); // 1500 twips, 1440 an inch, 2540 HIMETRIC an inch
     EXPECT_EQ(fake.extent.cy, 794);
@@ -86,7 +86,7 @@ TEST(HostedControl, aFormInPixelsPlacesItsControlsInPixelsButNotWhatStandsInAFra
 
 TEST(HostedControl, itsWindowStandsInItsContainersWindow)
 {
-    FormKit kit(kButton +
+    FormKit kit(kFakeButton +
                 node("VB.Frame", "Group", "Width = 3000\nHeight = 1500", node("Fake.Button", "Two")));
     EXPECT_EQ(::GetParent(kit.fake(L"One").hwnd()), kit.form().window());
     EXPECT_EQ(::GetParent(kit.fake(L"Two").hwnd()), kit.control(L"Group").window());
@@ -105,7 +105,7 @@ TEST(HostedControl, anInvisibleControlIsActivatedWhenItIsShown)
 
 TEST(HostedControl, whatTheControlAsksForInPixelsBecomesItsPlaceInTwips)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     FakeControl& fake = kit.fake(L"One");
     auto const site = query<IOleInPlaceSite>(fake.site());
     RECT const wish{20, 30, 120, 70};
@@ -119,7 +119,7 @@ TEST(HostedControl, whatTheControlAsksForInPixelsBecomesItsPlaceInTwips)
 
 TEST(HostedControl, eventsComeToTheFormUntilItCloses)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     ComPtr<FakeControl> const fake = &kit.fake(L"One");
     fake->raise(4);
     EXPECT_THAT(kit.events, ElementsAre(L"One.Event 4"));
@@ -132,7 +132,7 @@ TEST(HostedControl, aControlThatCannotBeMadeLeavesAPlaceholderAndTheRestOpens)
     FakeTraits broken;
     broken.loadResult = E_FAIL;
     FormKit kit(node("Gone.Widget", "Lost", "Left = 15") + node("Fake.Broken", "Sick") +
-                    node("VB.Nonsense", "Odd") + kButton,
+                    node("VB.Nonsense", "Odd") + kFakeButton,
                 {{L"Broken", broken}});
     ASSERT_EQ(kit.form().controls().size(), 4u);
     ASSERT_EQ(kit.warnings.size(), 2u);
@@ -153,14 +153,14 @@ TEST(HostedControl, aControlThatRefusedToLoadKeepsNoWayBackIntoTheForm)
     ComPtr<FakeControl> const fake = makeCounted<FakeControl>(broken);
     FormOptions options;
     options.factory = [&](auto, auto) { return NewControl{fake->identity(), {}, {}}; };
-    Form form(readForm(formText(kButton), L"test.frm"), std::move(options));
+    Form form(readForm(formText(kFakeButton), L"test.frm"), std::move(options));
     EXPECT_EQ(fake->site(), nullptr);
     EXPECT_EQ(fake->calls.back(), "SetClientSite null");
 }
 
 TEST(HostedControl, whatItSavesComesBackInABag)
 {
-    FormKit kit(kButton);
+    FormKit kit(kFakeButton);
     auto& hosted = dynamic_cast<HostedControl&>(kit.control(L"One"));
     EXPECT_EQ(hosted.save(false)->find(L"Caption")->toString().view(), L"Go");
 }
@@ -169,7 +169,7 @@ TEST(HostedControl, theSiteOutlivesTheFormHarmlessly)
 {
     ComPtr<IOleClientSite> site;
     {
-        FormKit kit(kButton);
+        FormKit kit(kFakeButton);
         site = kit.fake(L"One").site();
     }
     ComPtr<IOleContainer> container;

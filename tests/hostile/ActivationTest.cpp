@@ -7,8 +7,6 @@
 namespace quillet::hostile {
 namespace {
 
-constexpr RECT kPlace{20, 30, 120, 60};
-
 class HostileActivation : public HostileControlTest {
 protected:
     kit::FakeForm form;

@@ -8,7 +8,7 @@
 namespace quillet::hostile {
 namespace {
 
-constexpr DISPID kAmbients[] = {
+constexpr DISPID kEachAmbient[] = {
     DISPID_AMBIENT_BACKCOLOR, DISPID_AMBIENT_FONT,   DISPID_AMBIENT_FORECOLOR,       DISPID_AMBIENT_LOCALEID,
     DISPID_AMBIENT_USERMODE,  DISPID_AMBIENT_UIDEAD, DISPID_AMBIENT_DISPLAYASDEFAULT};
 constexpr wchar_t const* kExtended[] = {L"Name",      L"ToolTipText", L"Default", L"TabStop",
@@ -33,13 +33,13 @@ QV_ALL_CONTROLS(HostileAmbient);
 TEST_P(HostileAmbient, ofAnyTypeIsLivedWith)
 {
     for (NamedValue const& row : strangeValues()) {
-        for (DISPID const id : kAmbients)
+        for (DISPID const id : kEachAmbient)
             if (isDue(kTaken * 4))
                 live(row.name + " as ambient " + std::to_string(id),
                      [&](Life& life) { life.control.site().setAmbient(id, row.value); });
         if (isDue(kTaken))
             live(row.name + " as every ambient", [&](Life& life) {
-                for (DISPID const id : kAmbients)
+                for (DISPID const id : kEachAmbient)
                     life.control.site().setAmbient(id, row.value);
             });
     }

@@ -22,4 +22,8 @@ inline constexpr ControlKind kControls[] = {
     {"qvFlatCheck", kQvFlatCheckClass, kQvFlatCheckInterface, kQvFlatCheckEvents},
 };
 
+/// Where a control stands in its form, and a point in it.
+inline constexpr RECT kPlace{20, 30, 120, 60};
+inline constexpr POINT kInside{30, 12};
+
 } // namespace quillet::hostile

@@ -11,19 +11,19 @@ namespace quillet::hostile {
 
 namespace {
 
-void close(Life& life)
+void closes(Life& life)
 {
     if (auto const object = life.as<IOleObject>())
         object->Close(OLECLOSE_NOSAVE);
 }
 
-void setSite(Life& life, IOleClientSite* site)
+void takesSite(Life& life, IOleClientSite* site)
 {
     if (auto const object = life.as<IOleObject>())
         object->SetClientSite(site);
 }
 
-void deactivate(Life& life)
+void deactivates(Life& life)
 {
     if (auto const object = life.as<IOleInPlaceObject>())
         object->InPlaceDeactivate();
@@ -31,7 +31,7 @@ void deactivate(Life& life)
 
 void moveToOtherForm(Life& life)
 {
-    setSite(life, &life.otherSite());
+    takesSite(life, &life.otherSite());
     if (auto const object = life.as<IOleObject>())
         object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &life.otherSite(), 0, life.otherForm(), nullptr);
 }
@@ -48,7 +48,7 @@ void call(Life& life, wchar_t const* name)
         kit::callByName(*object.get(), name);
 }
 
-void quickActivate(Life& life)
+void quickActivates(Life& life)
 {
     QACONTAINER container{};
     container.cbSize = sizeof(container);
@@ -86,28 +86,28 @@ std::vector<Deed> const& deeds()
              if (auto const object = life.as<IOleInPlaceObject>())
                  object->UIDeactivate();
          }},
-        {"Deactivates", deactivate},
+        {"Deactivates", deactivates},
         {"DeactivatesAndActivates",
          [](Life& life) {
-             deactivate(life);
+             deactivates(life);
              life.control.doVerb(OLEIVERB_UIACTIVATE);
          }},
-        {"Closes", close},
+        {"Closes", closes},
         {"ClosesAndActivates",
          [](Life& life) {
-             close(life);
+             closes(life);
              life.control.doVerb(OLEIVERB_UIACTIVATE);
          }},
-        {"TakesTheSiteAway", [](Life& life) { setSite(life, nullptr); }},
+        {"TakesTheSiteAway", [](Life& life) { takesSite(life, nullptr); }},
         {"TakesTheSiteAwayAndGivesItAgain",
          [](Life& life) {
-             setSite(life, nullptr);
-             setSite(life, &life.control.site());
+             takesSite(life, nullptr);
+             takesSite(life, &life.control.site());
              life.control.activate();
          }},
-        {"GivesAnotherSite", [](Life& life) { setSite(life, &life.otherSite()); }},
+        {"GivesAnotherSite", [](Life& life) { takesSite(life, &life.otherSite()); }},
         {"MovesToAnotherForm", moveToOtherForm},
-        {"QuickActivates", quickActivate},
+        {"QuickActivates", quickActivates},
         {"Releases", [](Life& life) { life.control.release(); }},
         {"Removes", [](Life& life) { life.control.remove(); }},
         {"DestroysTheForm", [](Life& life) { ::DestroyWindow(life.form.window()); }},
@@ -121,7 +121,7 @@ std::vector<Deed> const& deeds()
         {"DestroysTheParent", destroyParent},
         {"DeactivatesAndDestroysTheParent",
          [](Life& life) {
-             deactivate(life);
+             deactivates(life);
              destroyParent(life);
          }},
         {"Unadvises", [](Life& life) { life.cutSinks(); }},

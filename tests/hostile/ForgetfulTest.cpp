@@ -13,9 +13,7 @@
 namespace quillet::hostile {
 namespace {
 
-constexpr RECT kPlace{20, 30, 120, 60};
 constexpr RECT kLarger{20, 30, 160, 80};
-constexpr POINT kInside{30, 12};
 constexpr POINT kOutside{300, 250};
 
 class ForgetfulContainer {
@@ -186,7 +184,7 @@ constexpr Way kLeaves[] = {
     {"everything", [](ForgetfulContainer& c) { c.letGo(); }},
 };
 
-void moveCursor(HWND window, POINT at)
+void moveCursorWithin(HWND window, POINT at)
 {
     ::ClientToScreen(window, &at);
     ::SetCursorPos(at.x, at.y);
@@ -199,7 +197,7 @@ void send(ForgetfulContainer const& container, UINT message, WPARAM wParam, POIN
 
 void hover(ForgetfulContainer const& container)
 {
-    moveCursor(container.window(), kInside);
+    moveCursorWithin(container.window(), kInside);
     send(container, WM_MOUSEMOVE, 0);
 }
 
@@ -221,7 +219,7 @@ void useEverything(ForgetfulContainer& container)
     if (auto const object = container.control.as<IOleInPlaceObject>())
         object->SetObjectRects(&kLarger, &kLarger);
     if (container.inputWindow() == container.window())
-        moveCursor(container.control.form().window(), kOutside);
+        moveCursorWithin(container.control.form().window(), kOutside);
     send(container, WM_MOUSEMOVE, 0, kOutside);
 }
 
@@ -329,7 +327,7 @@ TEST_P(HostileForgetful, containerThatPutsTheControlAwayHasTheMouseAtOnce)
             container.events().forget();
             way.take(container);
             EXPECT_EQ(::GetCapture(), nullptr) << way.name << (isPressed ? ", pressed" : "");
-            moveCursor(form.window(), kOutside);
+            moveCursorWithin(form.window(), kOutside);
             kit::pumpPending();
             EXPECT_THAT(container.events().ids(), testing::IsEmpty()) << way.name;
             ::ReleaseCapture();

@@ -17,8 +17,6 @@ namespace quillet::hostile {
 
 namespace {
 
-constexpr RECT kPlace{20, 30, 120, 60};
-constexpr POINT kInside{30, 12};
 constexpr int kTimes = 3; // a deed that brings its own occasion back would never end
 
 bool isOccasion(std::string const& call, std::string const& occasion)

@@ -1,17 +1,10 @@
 // Arguments that refer to nothing, where the system follows every reference without looking.
 #include "HostileTest.h"
+#include "Values.h"
 #include "kit/ByName.h"
 
 namespace quillet::hostile {
 namespace {
-
-Variant referring(VARTYPE type, void* target)
-{
-    Variant value;
-    value.address()->byref = target;
-    value.address()->vt = static_cast<VARTYPE>(type | VT_BYREF);
-    return value;
-}
 
 class HostileReference : public HostileControlTest {
 protected:

@@ -37,14 +37,6 @@ Variant ofDouble(VARTYPE type, double number)
     return value;
 }
 
-Variant referring(VARTYPE type, void* target)
-{
-    Variant value;
-    value.address()->byref = target;
-    value.address()->vt = static_cast<VARTYPE>(type | VT_BYREF);
-    return value;
-}
-
 Variant array()
 {
     Variant value;
@@ -54,6 +46,14 @@ Variant array()
 }
 
 } // namespace
+
+Variant referring(VARTYPE type, void* target)
+{
+    Variant value;
+    value.address()->byref = target;
+    value.address()->vt = static_cast<VARTYPE>(type | VT_BYREF);
+    return value;
+}
 
 std::vector<NamedValue> strangeValues()
 {

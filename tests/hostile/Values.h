@@ -13,6 +13,9 @@ struct NamedValue {
     Variant value;
 };
 
+/// A value that is kept elsewhere.
+Variant referring(VARTYPE type, void* target);
+
 /// Each automation type that has anything to do with a property, whole, empty and extreme.
 std::vector<NamedValue> strangeValues();
 

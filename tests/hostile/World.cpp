@@ -12,7 +12,6 @@ namespace quillet::hostile {
 
 namespace {
 
-constexpr RECT kPlace{20, 30, 120, 60};
 constexpr int kMostNested = 3;
 
 Step const& anyStep(Random& random)

@@ -224,6 +224,16 @@ TEST_F(Pages, refuseWhatCannotBeEditedByName)
     EXPECT_TRUE(FAILED(page->SetObjects(1, &none)));
 }
 
+TEST_F(Pages, areOfOneFrameAtATime)
+{
+    OpenPage page(library(), kGeneralPageClass);
+    auto const other = kit::make<PageSite>();
+    EXPECT_EQ(page->SetPageSite(other.get()), E_UNEXPECTED);
+    EXPECT_EQ(page->SetPageSite(nullptr), S_OK);
+    EXPECT_EQ(page->SetPageSite(other.get()), S_OK);
+    EXPECT_EQ(page->SetPageSite(nullptr), S_OK);
+}
+
 TEST_F(Pages, openOnNoControlAtAll)
 {
     for (CLSID const& each : {kGeneralPageClass, kColoursPageClass, kFontsPageClass, kPicturesPageClass}) {

@@ -169,6 +169,24 @@ TEST(SavedPicture, mayBeAnIconOrACursor)
     EXPECT_TRUE(isWholeToItsLastByte(icon({bytesOf(core) + 6 + kMask16 + kMask16})));
 }
 
+/// Whether an icon of the image is whole, and one of the image without its last byte is not.
+bool isNeededToItsLastByte(Bytes image)
+{
+    bool const isAll = isWhole(icon({image}));
+    image.pop_back();
+    return isAll && !isWhole(icon({image}));
+}
+
+TEST(SavedPicture, hasTheMaskOfAnIconOfAnyDepthWithoutAnAlphaChannel)
+{
+    // Rows of 16 pixels take 4, 8, 16, 32 and 48 bytes.
+    EXPECT_TRUE(isNeededToItsLastByte(bytesOf(header(16, 32, 1)) + 8 + 16 * 4 + kMask16));
+    EXPECT_TRUE(isNeededToItsLastByte(bytesOf(header(16, 32, 4)) + 64 + 16 * 8 + kMask16));
+    EXPECT_TRUE(isNeededToItsLastByte(bytesOf(header(16, 32, 8)) + 1024 + 16 * 16 + kMask16));
+    EXPECT_TRUE(isNeededToItsLastByte(bytesOf(header(16, 32, 16)) + 16 * 32 + kMask16));
+    EXPECT_TRUE(isNeededToItsLastByte(bytesOf(header(16, 32, 24)) + 16 * 48 + kMask16));
+}
+
 TEST(SavedPicture, mayLackTheMaskOfAnIconWithAnAlphaChannel)
 {
     EXPECT_TRUE(isWhole(icon({bytesOf(header(16, 32, 32)) + 1024 + kMask16})));

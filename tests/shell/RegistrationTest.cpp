@@ -89,9 +89,23 @@ std::wstring folder()
 
 Snapshot ofClass(HKEY root) { return classesBelow(root, {kClass, kProgIds[0], kProgIds[1]}); }
 
+struct PublishedPage {
+    wchar_t const* text;
+    wchar_t const* key;
+};
+
+PublishedPage const kPages[] = {
+    {L"Quillet general property page", L"clsid\\{a93cb06b-1d25-4d22-87da-a4d1c9cbb239}"},
+    {L"Quillet colors property page", L"clsid\\{67b28de2-1278-4efd-b7ff-346e2ba7787f}"},
+    {L"Quillet fonts property page", L"clsid\\{72df35ee-5dc8-463b-8c19-3b1544a8db5f}"},
+    {L"Quillet pictures property page", L"clsid\\{878fd9ad-b336-49d5-9489-19c3f9ede804}"},
+};
+
 Snapshot ofClasses(HKEY root)
 {
     Lines keys;
+    for (PublishedPage const& page : kPages)
+        keys.push_back(page.key);
     for (PublishedClass const& row : kClasses) {
         std::wstring const progId = lowered(std::wstring(L"Quillet.") + row.name);
         keys.insert(keys.end(), {lowered(std::wstring(L"clsid\\") + row.classId), progId, progId + L".1"});
@@ -150,6 +164,14 @@ Snapshot expectedClasses()
     Snapshot rows;
     for (PublishedClass const& row : kClasses)
         expectClass(rows, row);
+    for (auto const& [text, page] : kPages) {
+        std::wstring const key = page;
+        rows.insert({{key + L"\\", L""},
+                     {key + L"@", text},
+                     {key + L"\\inprocserver32\\", L""},
+                     {key + L"\\inprocserver32@", kit::Library::path()},
+                     {key + L"\\inprocserver32@threadingmodel", L"Apartment"}});
+    }
     return rows;
 }
 
@@ -374,14 +396,24 @@ TEST_F(Registration, withoutTheRightsForTheMachineIsForTheUser)
     expectNothing(HKEY_CURRENT_USER);
 }
 
-#ifdef _WIN64
-TEST_F(Registration, unregisteringKeepsTheNamesThatThe32BitComponentUses)
+// 64-bit Windows has the classes of both architectures, each in a view of its own.
+constexpr REGSAM kSistersView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+bool hasBothViews()
 {
+    BOOL isGuest = FALSE;
+    return sizeof(void*) == 8 || (::IsWow64Process(::GetCurrentProcess(), &isGuest) && isGuest);
+}
+
+TEST_F(Registration, unregisteringKeepsTheNamesThatTheOtherArchitectureUses)
+{
+    if (!hasBothViews())
+        GTEST_SKIP() << "of 64-bit Windows";
     ASSERT_EQ(regsvr32(L""), 0u);
     HKEY opened = nullptr;
-    ASSERT_EQ(::RegCreateKeyExW(
-                  HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + kClass + L"\\InprocServer32").c_str(), 0,
-                  nullptr, REG_OPTION_NON_VOLATILE, KEY_WRITE | KEY_WOW64_32KEY, nullptr, &opened, nullptr),
+    ASSERT_EQ(::RegCreateKeyExW(HKEY_LOCAL_MACHINE,
+                                (L"Software\\Classes\\" + kClass + L"\\InprocServer32").c_str(), 0, nullptr,
+                                REG_OPTION_NON_VOLATILE, KEY_WRITE | kSistersView, nullptr, &opened, nullptr),
               ERROR_SUCCESS);
     UniqueKey const sister(opened);
     wchar_t const path[] = L"C:\\sister\\quilbt.ocx";
@@ -396,12 +428,11 @@ TEST_F(Registration, unregisteringKeepsTheNamesThatThe32BitComponentUses)
     ASSERT_EQ(regsvr32(L""), 0u);
     HKEY classes = nullptr;
     ASSERT_EQ(::RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\CLSID", 0,
-                              KEY_ALL_ACCESS | KEY_WOW64_32KEY, &classes),
+                              KEY_ALL_ACCESS | kSistersView, &classes),
               ERROR_SUCCESS);
     UniqueKey const owned(classes);
     EXPECT_EQ(::RegDeleteTreeW(classes, kClass.substr(kClass.find(L'\\') + 1).c_str()), ERROR_SUCCESS);
 }
-#endif
 
 TEST_F(Registration, unregisteringWhatIsNotRegisteredSucceeds) { EXPECT_EQ(regsvr32(L"/u"), 0u); }
 

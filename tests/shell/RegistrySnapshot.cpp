@@ -9,7 +9,7 @@ namespace quillet {
 
 namespace {
 
-constexpr wchar_t kClasses[] = L"Software\\Classes";
+constexpr wchar_t kClassesKey[] = L"Software\\Classes";
 
 std::wstring inLowerCase(std::wstring text)
 {
@@ -68,7 +68,7 @@ void addKey(HKEY parent, std::wstring const& spelling, std::wstring const& path,
 Snapshot allClasses(HKEY root)
 {
     Snapshot snapshot;
-    addKey(root, kClasses, L"", snapshot);
+    addKey(root, kClassesKey, L"", snapshot);
     return snapshot;
 }
 
@@ -76,7 +76,7 @@ Snapshot classesBelow(HKEY root, std::vector<std::wstring> const& keys)
 {
     Snapshot snapshot;
     for (std::wstring const& key : keys)
-        addKey(root, std::wstring(kClasses) + L"\\" + key, inLowerCase(key), snapshot);
+        addKey(root, std::wstring(kClassesKey) + L"\\" + key, inLowerCase(key), snapshot);
     return snapshot;
 }
 

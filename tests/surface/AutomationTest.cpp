@@ -1,14 +1,13 @@
 // The control by name: what scripts and forms call.
 #include "SurfaceTest.h"
 #include "kit/ByName.h"
+#include "kit/Errors.h"
 #include "kit/Fonts.h"
 
 namespace quillet::hosting {
 namespace {
 
-constexpr HRESULT kOverflow = static_cast<HRESULT>(0x800A0006);
 constexpr WORD kAssignments[] = {DISPATCH_PROPERTYPUT, DISPATCH_PROPERTYPUTREF};
-constexpr HRESULT kInvalidUseOfNull = static_cast<HRESULT>(0x800A005E);
 
 Variant ofType(VARTYPE type)
 {
@@ -35,7 +34,7 @@ protected:
     {
         kit::Called const called =
             kit::invoke(*dispatch.get(), kit::idOf(*dispatch.get(), name), how, {value});
-        return called.result == DISP_E_EXCEPTION ? called.code : called.result;
+        return called.error();
     }
     Variant get(wchar_t const* name)
     {
@@ -63,14 +62,14 @@ TEST_F(Automation, hasOneDescriptionThatIsItsDualInterface)
 
 TEST_F(Automation, findsNamesWithoutRegardToCaseAndRefusesOthers)
 {
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"caption"), 0x68030008);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"CAPTION"), 0x68030008);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"caption"), id::Caption);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"CAPTION"), id::Caption);
     EXPECT_EQ(kit::idOf(*dispatch.get(), L"Font"), DISPID_FONT);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"Refresh"), 0x60030027);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"DrawButton"), 0x60030030);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"WindowProc"), 0x6003001C);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"Refresh"), id::Refresh);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"DrawButton"), id::DrawButton);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"WindowProc"), id::WindowProc);
     EXPECT_EQ(kit::idOf(*dispatch.get(), L"ShowAbout"), DISPID_ABOUTBOX);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"OfficeXPColors"), 0x68030031);
+    EXPECT_EQ(kit::idOf(*dispatch.get(), L"OfficeXPColors"), id::OfficeXPColors);
     EXPECT_EQ(kit::getByName(*dispatch.get(), L"Value").result, DISP_E_UNKNOWNNAME);
 }
 
@@ -234,8 +233,8 @@ TEST_F(Automation, doesNotTakeAMemberForOneOfAnotherKind)
     EXPECT_EQ(kit::getByName(*dispatch.get(), L"Refresh").result, DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(kit::callByName(*dispatch.get(), L"Caption").result, DISP_E_MEMBERNOTFOUND);
     constexpr WORD kEither = DISPATCH_METHOD | DISPATCH_PROPERTYGET; // hosts that cannot tell them apart
-    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, kEither).result, S_OK);
-    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x60030027, kEither).result, S_OK);
+    EXPECT_EQ(kit::invoke(*dispatch.get(), id::Caption, kEither).result, S_OK);
+    EXPECT_EQ(kit::invoke(*dispatch.get(), id::Refresh, kEither).result, S_OK);
 }
 
 TEST_F(Automation, refusesAWrongNumberOfArguments)
@@ -243,9 +242,9 @@ TEST_F(Automation, refusesAWrongNumberOfArguments)
     auto const one = Variant::ofLong(1);
     EXPECT_EQ(kit::callByName(*dispatch.get(), L"Refresh", {one}).result, DISP_E_BADPARAMCOUNT);
     EXPECT_EQ(kit::callByName(*dispatch.get(), L"WindowProc", {one, one}).result, DISP_E_BADPARAMCOUNT);
-    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, DISPATCH_PROPERTYGET, {one}).result,
+    EXPECT_EQ(kit::invoke(*dispatch.get(), id::Caption, DISPATCH_PROPERTYGET, {one}).result,
               DISP_E_BADPARAMCOUNT);
-    EXPECT_EQ(kit::invoke(*dispatch.get(), 0x68030008, DISPATCH_PROPERTYPUT, {one, one}).result,
+    EXPECT_EQ(kit::invoke(*dispatch.get(), id::Caption, DISPATCH_PROPERTYPUT, {one, one}).result,
               DISP_E_BADPARAMCOUNT);
 }
 
@@ -259,7 +258,7 @@ TEST_F(Automation, tellsWhichArgumentDoesNotConvert)
     arguments[2].bstrVal = text.get();
     DISPPARAMS parameters{arguments, nullptr, 4, 0};
     UINT bad = 77;
-    EXPECT_EQ(dispatch->Invoke(0x6003001C, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+    EXPECT_EQ(dispatch->Invoke(id::WindowProc, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
                                nullptr, nullptr, &bad),
               DISP_E_TYPEMISMATCH);
     EXPECT_EQ(bad, 2U);
@@ -271,7 +270,7 @@ TEST_F(Automation, sendsAMessageWhoseArgumentsAreInOrderOrNamed)
     DISPID ids[5] = {};
     ASSERT_EQ(dispatch->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(names), 5, LOCALE_USER_DEFAULT, ids),
               S_OK);
-    EXPECT_EQ(std::vector<DISPID>(ids, ids + 5), (std::vector<DISPID>{0x6003001C, 3, 1, 2, 0}));
+    EXPECT_EQ(std::vector<DISPID>(ids, ids + 5), (std::vector<DISPID>{id::WindowProc, 3, 1, 2, 0}));
 
     EXPECT_EQ(put(L"Caption", Variant::ofString(L"four")), S_OK);
     ::SetWindowTextA(control.window(), "twelve chars");
@@ -310,17 +309,17 @@ TEST_F(Automation, refusesCallsThatDoNotFit)
     EXPECT_EQ(kit::invoke(*dispatch.get(), 0x12345678, DISPATCH_METHOD).result, DISP_E_MEMBERNOTFOUND);
     EXPECT_TRUE(FAILED(kit::putByName(*dispatch.get(), L"hwnd", Variant::ofLong(1)).result));
     DISPPARAMS none{};
-    EXPECT_TRUE(FAILED(dispatch->Invoke(0x68030008, __uuidof(IOleObject), LOCALE_USER_DEFAULT,
+    EXPECT_TRUE(FAILED(dispatch->Invoke(id::Caption, __uuidof(IOleObject), LOCALE_USER_DEFAULT,
                                         DISPATCH_PROPERTYGET, &none, nullptr, nullptr, nullptr)))
         << "the reserved interface identifier is not null";
 }
 
 TEST_F(Automation, survivesCallsWithoutParametersOrPlaceForAnswers)
 {
-    EXPECT_TRUE(FAILED(dispatch->Invoke(0x68030008, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+    EXPECT_TRUE(FAILED(dispatch->Invoke(id::Caption, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
                                         nullptr, nullptr, nullptr, nullptr)));
     DISPPARAMS none{};
-    HRESULT const result = dispatch->Invoke(0x68030008, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+    HRESULT const result = dispatch->Invoke(id::Caption, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
                                             &none, nullptr, nullptr, nullptr);
     EXPECT_TRUE(result == S_OK || FAILED(result));
     auto* name = const_cast<wchar_t*>(L"Caption");

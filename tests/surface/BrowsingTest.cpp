@@ -2,7 +2,7 @@
 #include "SurfaceTest.h"
 #include "browse/CategorizeProperties.h"
 #include "browse/PageIds.h"
-#include "typelib/DispatchIds.h"
+#include "kit/ByName.h"
 
 #include <array>
 #include <string>
@@ -11,7 +11,6 @@
 namespace quillet::hosting {
 namespace {
 
-namespace id = dispid::qvFlatCommand;
 using testing::Contains;
 using testing::ElementsAre;
 
@@ -150,6 +149,73 @@ TEST_F(Browsing, putsEveryPropertyUnderAHeading)
     Bstr name;
     EXPECT_EQ(headings->GetCategoryName(4711, LOCALE_USER_DEFAULT, name.put()), S_FALSE);
     EXPECT_EQ(headings->GetCategoryName(-2, LOCALE_USER_DEFAULT, nullptr), E_POINTER);
+}
+
+TEST_F(Browsing, putsEachPropertyOfEachControlUnderItsHeading)
+{
+    struct Row {
+        std::wstring heading;
+        std::vector<wchar_t const*> properties;
+    };
+    Row const rows[] = {
+        {L"Appearance",
+         {L"BackColor",
+          L"ForeColor",
+          L"BorderColor",
+          L"HotForeColor",
+          L"PressedForeColor",
+          L"HotBackColor",
+          L"PressedBackColor",
+          L"HotBorderColor",
+          L"PressedBorderColor",
+          L"DisabledForeColor",
+          L"LightBorderColor",
+          L"HotLightBorderColor",
+          L"PressedLightBorderColor",
+          L"DisabledLightBorderColor",
+          L"DarkBorderColor",
+          L"HotDarkBorderColor",
+          L"PressedDarkBorderColor",
+          L"DisabledDarkBorderColor",
+          L"CheckedForeColor",
+          L"CheckedBackColor",
+          L"CheckedLightBorderColor",
+          L"CheckedDarkBorderColor",
+          L"BorderStyle",
+          L"BorderWidth",
+          L"HotBorderWidth",
+          L"PressedBorderWidth",
+          L"CentreCaption",
+          L"CaptionIndent",
+          L"ShowFocusRectangle",
+          L"OffsetPressed",
+          L"OfficeXPColors",
+          L"Image",
+          L"DisabledImage",
+          L"HotImage",
+          L"PressedImage"}},
+        {L"Behavior",
+         {L"Enabled", L"Active", L"CheckButton", L"Checked", L"Value", L"MousePointer", L"MouseIcon"}},
+        {L"Font", {L"Font", L"CheckedFont"}},
+        {L"Misc", {L"hwnd", L"hdc"}},
+        {L"Position", {L"AutoSizeWidth"}},
+        {L"Text", {L"Caption", L"ToolTipText"}},
+    };
+    int found = 0;
+    for (CLSID const& each : {kQvFlatCommandClass, kQvImageCommandClass, kFlatToolButtonClass,
+                              kQvFlatOptionClass, kQvFlatCheckClass}) {
+        auto const object = library().create(each);
+        headings = query<ICategorizeProperties>(object.get(), kCategorizeProperties);
+        for (auto const& [expected, properties] : rows)
+            for (wchar_t const* const property : properties) {
+                DISPID const known = kit::idOf(*query<IDispatch>(object.get()).get(), property);
+                if (known == DISPID_UNKNOWN)
+                    continue;
+                ++found;
+                EXPECT_EQ(heading(known), expected) << kit::narrow(property);
+            }
+    }
+    EXPECT_EQ(found, 26 + 2 * 45 + 2 * 8) << "a property that is in no row, or a name that no control has";
 }
 
 TEST_F(Browsing, offersTheVerbForThePagesAndLetsTheContainerShowThem)

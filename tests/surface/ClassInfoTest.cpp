@@ -1,26 +1,9 @@
 // What a control says about itself: its class, its events, whose errors it explains.
 #include "SurfaceTest.h"
+#include "typelib/Borrowed.h"
 
 namespace quillet::hosting {
 namespace {
-
-/// The attributes of a type, given back at the end.
-class TypeAttributes {
-public:
-    explicit TypeAttributes(ITypeInfo* info) : m_info(info) { m_info->GetTypeAttr(&m_attributes); }
-    ~TypeAttributes()
-    {
-        if (m_attributes)
-            m_info->ReleaseTypeAttr(m_attributes);
-    }
-    TypeAttributes(TypeAttributes const&) = delete;
-    TypeAttributes& operator=(TypeAttributes const&) = delete;
-    TYPEATTR const* operator->() const { return m_attributes; }
-
-private:
-    ComPtr<ITypeInfo> m_info;
-    TYPEATTR* m_attributes = nullptr;
-};
 
 class ClassInfo : public SurfaceTest {};
 
@@ -29,7 +12,7 @@ TEST_F(ClassInfo, isTheDescriptionOfItsClass)
     ComPtr<ITypeInfo> info;
     ASSERT_EQ(as<IProvideClassInfo>()->GetClassInfo(info.put()), S_OK);
     ASSERT_TRUE(info);
-    TypeAttributes const attributes(info.get());
+    TypeAttributes const attributes(*info.get());
     EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
     EXPECT_EQ(attributes->guid, kQvFlatCommandClass);
     EXPECT_EQ(as<IProvideClassInfo>()->GetClassInfo(nullptr), E_POINTER);
@@ -39,7 +22,7 @@ TEST_F(ClassInfo, leadsToADefaultSourceThatIsADispatchInterface)
 {
     ComPtr<ITypeInfo> info;
     ASSERT_EQ(as<IProvideClassInfo2>()->GetClassInfo(info.put()), S_OK);
-    TypeAttributes const attributes(info.get());
+    TypeAttributes const attributes(*info.get());
     int sources = 0;
     for (UINT i = 0; i < attributes->cImplTypes; ++i) {
         INT flags = 0;
@@ -51,7 +34,7 @@ TEST_F(ClassInfo, leadsToADefaultSourceThatIsADispatchInterface)
         ComPtr<ITypeInfo> source;
         ASSERT_EQ(info->GetRefTypeOfImplType(i, &reference), S_OK);
         ASSERT_EQ(info->GetRefTypeInfo(reference, source.put()), S_OK);
-        TypeAttributes const of(source.get());
+        TypeAttributes const of(*source.get());
         EXPECT_EQ(of->typekind, TKIND_DISPATCH);
         EXPECT_EQ(of->guid, kQvFlatCommandEvents);
         ++sources;

@@ -7,10 +7,6 @@
 namespace quillet::hosting {
 namespace {
 
-constexpr COLORREF kBack = RGB(40, 50, 60);
-constexpr COLORREF kBorder = RGB(70, 80, 90);
-constexpr COLORREF kPaper = RGB(250, 240, 230);
-
 FORMATETC formatOf(CLIPFORMAT format, DWORD medium, DWORD aspect = DVASPECT_CONTENT)
 {
     return {format, nullptr, aspect, -1, medium};

@@ -338,7 +338,7 @@ TEST_F(Sinks, mayAssignAPropertyInsideAPropertyNotification)
         button()->put_CaptionIndent(9);
     };
     EXPECT_EQ(button()->put_Caption(Bstr(L"x").get()), S_OK);
-    EXPECT_THAT(changes->take(), testing::UnorderedElementsAre(0x68030008, 0x68030006));
+    EXPECT_THAT(changes->take(), testing::UnorderedElementsAre(id::Caption, id::CaptionIndent));
 }
 
 } // namespace

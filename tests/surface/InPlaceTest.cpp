@@ -1,5 +1,6 @@
 // In-place activation: what the site is asked, and where the window is.
 #include "SurfaceTest.h"
+#include "base/Handles.h"
 #include "kit/HostWindow.h"
 #include "kit/Input.h"
 
@@ -81,6 +82,20 @@ TEST_F(InPlace, userInterfaceActivationTellsTheSiteAndTheFrame)
     ASSERT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
     EXPECT_THAT(activationCalls(), testing::UnorderedElementsAre("SetActiveObject(none)", "OnUIDeactivate"));
     EXPECT_TRUE(isShown()) << "only its user interface was deactivated";
+}
+
+TEST_F(InPlace, theDocumentsWindowHasTheActiveObjectJustAsTheFrame)
+{
+    auto const document = kit::make<kit::FakeFrame>(form.window(), form.sharedRecord(), "Document");
+    control.site().document = document;
+    begin();
+    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    EXPECT_EQ(document->activeObject(), as<IOleInPlaceActiveObject>().get());
+    EXPECT_EQ(form.frame().activeObject(), document->activeObject());
+    ASSERT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
+    EXPECT_EQ(document->activeObject(), nullptr);
+    EXPECT_EQ(form.frame().activeObject(), nullptr);
+    control.site().document.reset();
 }
 
 TEST_F(InPlace, deactivationEndsTheUserInterfaceFirstAndTellsOnce)
@@ -252,6 +267,25 @@ TEST_F(InPlace, movesToWhereTheContainerSays)
     EXPECT_EQ(placeOf(control.window()), kPlace);
     EXPECT_TRUE(FAILED(as<IOleInPlaceObject>()->SetObjectRects(nullptr, nullptr)));
     EXPECT_EQ(placeOf(control.window()), kPlace);
+}
+
+TEST_F(InPlace, showsThePartThatTheContainerDoesNotCoverWhereverItMoves)
+{
+    begin();
+    ASSERT_EQ(control.activate(), S_OK);
+    auto const moved = [&](RECT const& place, RECT const& clip) {
+        EXPECT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&place, &clip), S_OK);
+        UniqueRegion const region(::CreateRectRgn(0, 0, 0, 0));
+        RECT shown{};
+        if (::GetWindowRgn(control.window(), region.get()) != ERROR)
+            ::GetRgnBox(region.get(), &shown);
+        return shown; // in the window; all zeros for the whole of it
+    };
+    constexpr RECT kLeftHalf{0, 0, 100, 60};
+    EXPECT_EQ(moved({20, 30, 140, 70}, kLeftHalf), (RECT{0, 0, 80, 30}));
+    EXPECT_EQ(moved({50, 10, 170, 50}, kLeftHalf), (RECT{0, 0, 50, 40}));
+    EXPECT_EQ(moved({-40, -5, 80, 35}, kLeftHalf), (RECT{40, 5, 120, 40}));
+    EXPECT_EQ(moved({20, 30, 140, 70}, control.site().clip), RECT{});
 }
 
 TEST_F(InPlace, survivesTheDestructionOfTheFormsWindow)

@@ -1,6 +1,7 @@
 // IOleObject: site, names, extents, verbs, and who is told at the end.
 #include "SurfaceTest.h"
 #include "kit/Fonts.h"
+#include "kit/Memory.h"
 
 #include <algorithm>
 #include <string>
@@ -113,6 +114,21 @@ TEST_F(OleObject, acceptsAnyExtentAndEchoesItExactlyWithoutResizingItsWindow)
     }
 }
 
+TEST_F(OleObject, hasToBeSavedAgainWithAnotherExtentAndNotWithTheSame)
+{
+    ASSERT_EQ(control.initNew(), S_OK);
+    auto const persistent = as<IPersistStreamInit>();
+    auto const isDirtyAfter = [&](SIZEL extent) {
+        EXPECT_EQ(persistent->Save(kit::streamOf().get(), TRUE), S_OK);
+        EXPECT_EQ(object->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+        return persistent->IsDirty();
+    };
+    EXPECT_EQ(isDirtyAfter({300, 200}), S_OK);
+    EXPECT_EQ(isDirtyAfter({300, 200}), S_FALSE);
+    EXPECT_EQ(isDirtyAfter({301, 200}), S_OK);
+    EXPECT_EQ(isDirtyAfter({301, 201}), S_OK);
+}
+
 TEST_F(OleObject, hasAnExtentBeforeItIsGivenOne)
 {
     EXPECT_GT(extent().cx, 0);
@@ -135,6 +151,11 @@ TEST_F(OleObject, hasTheStatusOfAnInsideOutButton)
     EXPECT_EQ(status, static_cast<DWORD>(OLEMISC_SETCLIENTSITEFIRST | OLEMISC_INSIDEOUT |
                                          OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_RECOMPOSEONRESIZE |
                                          OLEMISC_CANTLINKINSIDE | OLEMISC_ACTSLIKEBUTTON));
+    for (DWORD const aspect : {DVASPECT_THUMBNAIL, DVASPECT_ICON, DVASPECT_DOCPRINT}) {
+        status = 77;
+        EXPECT_EQ(object->GetMiscStatus(aspect, &status), S_OK) << aspect;
+        EXPECT_EQ(status, 0U) << aspect;
+    }
     EXPECT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, nullptr), E_POINTER);
 }
 

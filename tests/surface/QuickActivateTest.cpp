@@ -57,7 +57,7 @@ TEST_F(Quick, joinsTheSinksThatItIsGiven)
     events->forget();
     EXPECT_EQ(button()->put_BackColor(1), S_OK);
     EXPECT_EQ(events->count(kPaint), 1);
-    EXPECT_THAT(changes->take(), testing::ElementsAre(0x68030017));
+    EXPECT_THAT(changes->take(), testing::ElementsAre(id::BackColor));
     cut(kQvFlatCommandEvents, answer.dwEventCookie);
     cut(__uuidof(IPropertyNotifySink), answer.dwPropNotifyCookie);
 }

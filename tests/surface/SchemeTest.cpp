@@ -9,11 +9,11 @@
 namespace quillet::hosting {
 namespace {
 
-struct Kind {
+struct Schemed {
     char const* name;
     CLSID classId;
 };
-void PrintTo(Kind const& kind, std::ostream* out) { *out << kind.name; }
+void PrintTo(Schemed const& kind, std::ostream* out) { *out << kind.name; }
 
 constexpr COLORREF kOddFace = RGB(3, 201, 99);
 constexpr COLORREF kOddText = RGB(151, 3, 77);
@@ -23,7 +23,7 @@ struct OddScheme : kit::SystemColours {
     OddScheme() : SystemColours({COLOR_BTNFACE, COLOR_BTNTEXT}, {kOddFace, kOddText}) {}
 };
 
-class Schemes : public kit::ControlTest, public testing::WithParamInterface<Kind> {
+class Schemes : public kit::ControlTest, public testing::WithParamInterface<Schemed> {
 protected:
     static constexpr int kWidth = kPlace.right - kPlace.left;
     static constexpr int kHeight = kPlace.bottom - kPlace.top;
@@ -86,11 +86,11 @@ TEST_P(Schemes, inAFormFromRightToLeftThePictureIsTheSame)
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Schemes,
-                         testing::Values(Kind{"qvFlatCommand", kQvFlatCommandClass},
-                                         Kind{"qvImageCommand", kQvImageCommandClass},
-                                         Kind{"FlatToolButton", kFlatToolButtonClass},
-                                         Kind{"qvFlatOption", kQvFlatOptionClass},
-                                         Kind{"qvFlatCheck", kQvFlatCheckClass}),
+                         testing::Values(Schemed{"qvFlatCommand", kQvFlatCommandClass},
+                                         Schemed{"qvImageCommand", kQvImageCommandClass},
+                                         Schemed{"FlatToolButton", kFlatToolButtonClass},
+                                         Schemed{"qvFlatOption", kQvFlatOptionClass},
+                                         Schemed{"qvFlatCheck", kQvFlatCheckClass}),
                          [](auto const& kind) { return std::string(kind.param.name); });
 
 } // namespace

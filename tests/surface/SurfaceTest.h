@@ -4,6 +4,7 @@
 #include "kit/ControlTest.h"
 #include "kit/Hosted.h"
 #include "kit/Sinks.h"
+#include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -15,9 +16,14 @@ inline bool operator==(RECT const& a, RECT const& b) { return ::EqualRect(&a, &b
 
 namespace quillet::hosting {
 
-constexpr DISPID kPaint = 3;
-constexpr DISPID kClick = 4;
+namespace id = dispid::qvFlatCommand;
+constexpr DISPID kPaint = eventid::command::Paint;
+constexpr DISPID kClick = eventid::command::Click;
 constexpr RECT kPlace{20, 30, 140, 70};
+/// Colours that no scheme has.
+constexpr COLORREF kBack = RGB(40, 50, 60);
+constexpr COLORREF kBorder = RGB(70, 80, 90);
+constexpr COLORREF kPaper = RGB(250, 240, 230);
 
 /// The flat command button stands for every control: the surface is the same for all of them.
 class SurfaceTest : public kit::ControlTest {

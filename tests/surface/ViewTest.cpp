@@ -8,9 +8,6 @@
 namespace quillet::hosting {
 namespace {
 
-constexpr COLORREF kBack = RGB(40, 50, 60);
-constexpr COLORREF kBorder = RGB(70, 80, 90);
-constexpr COLORREF kPaper = RGB(250, 240, 230);
 kit::Letters const kLetters{{'.', kBack}, {'#', kBorder}, {' ', kPaper}};
 
 constexpr char kButton[] = "                \n"
