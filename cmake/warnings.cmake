@@ -10,7 +10,7 @@ target_compile_definitions(quillet_options INTERFACE
     STRICT NOMINMAX WIN32_LEAN_AND_MEAN)
 target_compile_options(quillet_options INTERFACE
     # (COM interfaces have no virtual destructors; -Wall finds a delete that would need one.)
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Woverloaded-virtual -Werror
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual> -Werror
     -Wno-array-bounds -Wno-restrict # GCC 12 finds fault with its own string library's appending
     $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option> # which clang has no word for
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.

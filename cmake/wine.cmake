@@ -14,6 +14,8 @@ function(quillet_test name)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE quillet_options gtest gmock ${arg_LIBRARIES})
     target_precompile_headers(${name} REUSE_FROM test_headers)
+    # Some files a compilation: reading the headers takes longer than compiling what a test says.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
     add_test(NAME ${name} COMMAND ${QUILLET_WINE} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 RESOURCE_GROUPS lanes:1)
     if(arg_SECONDS)

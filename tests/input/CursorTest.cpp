@@ -83,7 +83,7 @@ protected:
 
 TEST_F(Cursor, isAskedForOnceAMessageWhereNobodyListens)
 {
-    button.disconnect();
+    button.stopListening();
     EXPECT_EQ(questions.during([&] { moveTo(kInside); }), 1);
     EXPECT_EQ(::GetCapture(), button.window());
     EXPECT_EQ(button.look(), "hot");
