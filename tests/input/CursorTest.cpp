@@ -1,4 +1,4 @@
-// How often the button asks where the cursor is: once a message, or anew whenever a listener may have moved it.
+// How often the button asks where the cursor is: once a message, and anew after a listener.
 #include "Gestures.h"
 #include "drawing/ImportTable.h"
 #include "kit/Pump.h"
