@@ -102,14 +102,20 @@ TEST_F(GalleryWindowTest, theBarOpensTheOtherForms)
     EXPECT_EQ(textOf(gallery.window()), L"Quillet - flat options");
 }
 
-TEST_F(GalleryWindowTest, everyFormOfTheBarIsThereAndOpensWhole)
+TEST(GalleryBar, opensFormsThatAreThereAndWhole)
 {
-    start(L"buttons.frm");
-    for (auto const& button : gallery.bar().controls())
-        if (button->state().name == L"tbForm") {
-            Demo const whole(formFile(button->state().tag.c_str()), UserMode::Run);
-            EXPECT_THAT(whole.warnings, testing::IsEmpty()) << narrow(button->state().tag);
-        }
+    std::vector<std::wstring> files;
+    {
+        GalleryWindow gallery(programFolder(), nullptr);
+        for (auto const& button : gallery.bar().controls())
+            if (button->state().name == L"tbForm")
+                files.push_back(button->state().tag);
+    }
+    EXPECT_FALSE(files.empty());
+    for (std::wstring const& file : files) {
+        Demo const whole(formFile(file.c_str()), UserMode::Run);
+        EXPECT_THAT(whole.warnings, testing::IsEmpty()) << narrow(file);
+    }
 }
 
 TEST_F(GalleryWindowTest, aPressedButtonOfTheBarStaysPressed)
