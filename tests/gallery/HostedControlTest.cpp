@@ -12,8 +12,8 @@ namespace {
 using ::testing::ElementsAre;
 
 std::string const kFakeButton = node("Fake.Button", "One",
-                                 "Left = 150\nTop = 300\nWidth = 1500\nHeight = 450\n"
-                                 "Caption = \"Go\"\nTabIndex = 4\nToolTipText = \"tip\"");
+                                     "Left = 150\nTop = 300\nWidth = 1500\nHeight = 450\n"
+                                     "Caption = \"Go\"\nTabIndex = 4\nToolTipText = \"tip\"");
 
 TEST(HostedControl, theSiteComesFirstWhereTheControlWantsItSo)
 {
