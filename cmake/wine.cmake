@@ -17,7 +17,7 @@ function(quillet_test name)
     # Some files a compilation: reading the headers takes longer than compiling what a test says.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
     add_test(NAME ${name} COMMAND ${QUILLET_WINE} $<TARGET_FILE:${name}>)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 RESOURCE_GROUPS lanes:1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 RESOURCE_GROUPS lanes:1)
     if(arg_SECONDS)
         set_tests_properties(${name} PROPERTIES COST ${arg_SECONDS})
     endif()
