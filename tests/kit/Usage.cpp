@@ -5,8 +5,11 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 namespace quillet::kit {
@@ -35,7 +38,8 @@ int windowsOfThread()
 
 /// Some systems serve a size of block from groups of many once a few thousand of that size were asked for,
 /// each thread from its own, and count a whole group as in use: a heap then grows where nothing is kept.
-/// Afterwards the calling thread has its groups.
+/// Afterwards the calling thread has its groups, in the process's heap and in that of the language's run
+/// time.
 void settleHeap()
 {
     thread_local bool settled = false;
@@ -46,8 +50,10 @@ void settleHeap()
     constexpr int kEnough = 4096;
     HANDLE const heap = ::GetProcessHeap();
     for (std::size_t size = kStep; size <= kLargestOfAGroup; size += kStep)
-        for (int i = 0; i < kEnough; ++i)
+        for (int i = 0; i < kEnough; ++i) {
             ::HeapFree(heap, 0, ::HeapAlloc(heap, 0, size));
+            std::free(std::malloc(size));
+        }
 }
 
 /// Bytes in use on all heaps of the process.
@@ -92,6 +98,27 @@ Usage Usage::now()
 {
     settleHeap();
     return {windowsOfThread(), placeOfNewWindow(), placeOfNewGdiHandle(), bytesInUse()};
+}
+
+void expectNothingIsLeft(int rounds, std::function<void(int)> const& round)
+{
+    constexpr int kWarmUp = 20;
+    constexpr int kPlaces = 40;          // far below one a round
+    constexpr std::size_t kBytes = 2048; // below the smallest block a round, 16 bytes
+    auto usageAfter = [&, next = 0](int many) mutable {
+        for (int const end = next + many; next < end && !testing::Test::HasFatalFailure(); ++next)
+            round(next);
+        return Usage::now();
+    };
+    Usage const before = usageAfter(kWarmUp);
+    Usage const halfway = usageAfter(rounds / 2);
+    Usage const after = usageAfter(rounds / 2);
+    EXPECT_EQ(after.windows, before.windows);
+    EXPECT_LE(after.window, before.window + kPlaces);
+    EXPECT_LE(after.gdi, before.gdi + kPlaces);
+    EXPECT_TRUE(halfway.bytes <= before.bytes + kBytes || after.bytes <= halfway.bytes + kBytes)
+        << before.bytes << " bytes in use before, " << halfway.bytes << " halfway, " << after.bytes
+        << " after";
 }
 
 } // namespace quillet::kit

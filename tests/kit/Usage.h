@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 namespace quillet::kit {
 
@@ -15,5 +16,11 @@ struct Usage {
 
     static Usage now();
 };
+
+/// Runs a number of rounds, 280 or more, after a few that fill the system's caches, and expects that nothing
+/// is held for them: windows and places stay, and in one half of the rounds at least the heaps did not grow
+/// by as much as the smallest block a round. (What is kept grows in both halves; a group of blocks is made in
+/// one.) A fatal failure in a round ends them.
+void expectNothingIsLeft(int rounds, std::function<void(int)> const& round);
 
 } // namespace quillet::kit
