@@ -32,7 +32,7 @@ HWND newHostWindow(int left, int top, int width, int height)
     hostClass.hCursor = ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
     hostClass.lpszClassName = kClassName;
     ::RegisterClassW(&hostClass); // fails from the second time on, and need not succeed then
-    // Shown without activation, it needs no window manager, whose absence costs seconds for each window.
+    // Shown without activation: a test says itself what has the focus.
     HWND const window = ::CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP | WS_CLIPCHILDREN, left,
                                           top, width, height, nullptr, nullptr, instance, nullptr);
     ::ShowWindow(window, SW_SHOWNOACTIVATE);
