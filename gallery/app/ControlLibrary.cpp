@@ -138,7 +138,7 @@ void ControlLibraries::add(std::vector<ObjectLine> const& objects, std::vector<s
         if (folder != folders.end())
             load(*folder + L"\\" + name);
         else
-            m_troubles += L"; " + name + L" is neither beside the program nor beside the form";
+            m_troubles.append(L"; ").append(name).append(L" is neither beside the program nor beside the form");
     }
 }
 
