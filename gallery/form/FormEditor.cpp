@@ -154,6 +154,15 @@ PropertyBlock const* findFont(FormNode const& node, std::wstring_view name)
     return found == node.blocks.rend() ? nullptr : &*found;
 }
 
+std::optional<std::string_view> recordIn(Companion const& companion, unsigned long offset)
+{
+    try {
+        return companion.record(offset);
+    } catch (ValueFault const&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 FormEditor::FormEditor(std::string_view original, Companions& companions, std::wstring companionName)
@@ -296,18 +305,16 @@ std::optional<std::string_view> FormEditor::recordOf(FormProperty const* propert
     auto const* const reference = property ? std::get_if<ResourceReference>(&property->value) : nullptr;
     if (!reference || reference->isText != (isText == IsText::Yes))
         return std::nullopt;
-    try {
-        return isOwn(*reference) ? m_companion.record(reference->offset) : m_companions.record(*reference);
-    } catch (ValueFault const&) {
-        return std::nullopt;
-    }
+    Companion const& companion = isOwn(*reference) ? m_companion : m_companions.file(reference->file);
+    return recordIn(companion, reference->offset);
 }
 
+/// Whether a property refers to nothing in the companion file as it was read: a record that was added since
+/// is another's.
 bool FormEditor::isLost(FormProperty const& property) const
 {
     auto const* const reference = std::get_if<ResourceReference>(&property.value);
-    return reference && isOwn(*reference) &&
-           !recordOf(&property, reference->isText ? IsText::Yes : IsText::No);
+    return reference && isOwn(*reference) && !recordIn(m_companions.file(m_companionName), reference->offset);
 }
 
 } // namespace quillet::gallery

@@ -156,6 +156,14 @@ TEST(FormEditor, losesALineThatLeadsNowhereBeforeANewRecordIsTakenForIt)
     EXPECT_EQ(readAgain(saved, L"Text"), L"a\nb");
 }
 
+TEST(FormEditor, losesALineThatLeadsToWhereARecordIsAdded)
+{
+    Edited const form(formWith("      Odd = $\"a.frx\":0000\r\n")); // the companion file is empty
+    auto const bag = form.bag();
+    bag->set(L"Caption", Variant::ofString(L"two\r\nlines"));
+    EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Odd"), L"nothing");
+}
+
 TEST(FormEditor, leavesAReferenceThatLeadsNowhereWhileNothingIsAdded)
 {
     std::string const text = formWith("      Image = \"a.frx\":0000\r\n");
