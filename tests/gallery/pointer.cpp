@@ -41,6 +41,7 @@ template <class Check> bool await(Check const& check)
 /// The display may not follow at once.
 bool moveOnScreen(POINT at)
 {
+    ::GetDesktopWindow(); // makes the desktop, where this is the first program on it
     return await([at] {
         ::SetCursorPos(at.x, at.y);
         POINT now{};
