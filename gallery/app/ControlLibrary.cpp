@@ -133,12 +133,15 @@ void ControlLibraries::add(std::vector<ObjectLine> const& objects, std::vector<s
         if (object.file.empty())
             continue;
         std::wstring const name(fileNameOf(object.file));
-        auto const folder = std::ranges::find_if(
-            folders, [&](std::wstring const& each) { return isFile(each + L"\\" + name); });
+        auto const pathIn = [&](std::wstring const& folder) {
+            return std::wstring(folder).append(L"\\").append(name);
+        };
+        auto const folder =
+            std::ranges::find_if(folders, [&](std::wstring const& each) { return isFile(pathIn(each)); });
         if (folder != folders.end())
-            load(*folder + L"\\" + name);
+            load(pathIn(*folder));
         else
-            m_troubles.append(L"; ").append(name).append(L" is neither beside the program nor beside the form");
+            m_troubles += L"; " + name + L" is neither beside the program nor beside the form";
     }
 }
 
