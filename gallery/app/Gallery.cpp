@@ -3,10 +3,9 @@
 
 #include "base/RunTimeError.h"
 #include "gallery/app/Console.h"
-#include "gallery/app/ControlLibrary.h"
-#include "gallery/app/Document.h"
 #include "gallery/app/EventLog.h"
 #include "gallery/app/GalleryWindow.h"
+#include "gallery/app/OpenForm.h"
 #include "gallery/app/Options.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/FormReader.h"
@@ -84,18 +83,12 @@ void runLoop(GalleryWindow& gallery)
 /// Opens the form as a designer does and writes it back.
 void saveForm(std::wstring const& path, std::wstring const& folder)
 {
-    Document document(path);
     ControlLibraries libraries;
-    libraries.add(document.tree().objects, {programFolder(), folderOf(path)});
+    OpenForm opened(Document(path), libraries, programFolder());
     FormOptions options;
     options.mode = UserMode::Design;
-    options.file = path;
-    options.record = [&](ResourceReference const& reference) { return document.record(reference); };
-    options.factory = [&](auto library, auto className) { return libraries.create(library, className); };
-    options.onWarning = sayWarning;
-    Form form(document.tree(), std::move(options));
-    document.takeFrom(form);
-    document.save(folder);
+    opened.make(std::move(options));
+    opened.save(folder);
 }
 
 void openAndRun(Options const& options)

@@ -5,7 +5,6 @@
 #include "base/LateBound.h"
 #include "base/RunTimeError.h"
 #include "gallery/app/Choice.h"
-#include "gallery/app/Console.h"
 #include "gallery/app/EventText.h"
 #include "gallery/app/ResourceIds.h"
 #include "gallery/form/FileBytes.h"
@@ -96,36 +95,29 @@ void GalleryWindow::makeWindow()
 
 void GalleryWindow::makeBar()
 {
-    m_barDocument =
-        std::make_unique<Document>(L"gallery.frm", resource(GALLERY_BAR), resource(GALLERY_BAR_PICTURES));
     FormOptions options;
+    options.parent = window();
     options.onEvent = [this](FormEvent const& event) {
         if (event.name == L"Click")
             later([this, &control = event.control] { barClicked(control); });
-        if (event.name ==
-            L"MouseUp") // of a double click, too, which turns a check button over without a click
+        // Of a double click, too, which turns a check button over without a click.
+        if (event.name == L"MouseUp")
             later([this] { showChoice(); });
     };
-    m_bar = makeForm(*m_barDocument, std::move(options));
-    m_bar->show();
+    m_bar = opened(Document(L"gallery.frm", resource(GALLERY_BAR), resource(GALLERY_BAR_PICTURES)));
+    m_bar->make(std::move(options));
+    bar().show();
 }
 
-std::unique_ptr<Form> GalleryWindow::makeForm(Document& document, FormOptions options)
+std::unique_ptr<OpenForm> GalleryWindow::opened(Document document)
 {
-    m_libraries.add(document.tree().objects, {m_programFolder, folderOf(document.path())});
-    if (!options.owner)
-        options.parent = window();
-    options.file = document.path();
-    options.record = [&](ResourceReference const& reference) { return document.record(reference); };
-    options.factory = [this](auto library, auto className) { return m_libraries.create(library, className); };
-    options.onWarning = sayWarning;
-    return std::make_unique<Form>(document.tree(), std::move(options));
+    return std::make_unique<OpenForm>(std::move(document), m_libraries, m_programFolder);
 }
 
 /// A form of the bar lies where the open form does, else in the gallery's own folder.
 std::wstring GalleryWindow::pathOf(std::wstring const& fileName) const
 {
-    std::wstring const beside = m_document ? folderOf(m_document->path()) + L"\\" + fileName : fileName;
+    std::wstring const beside = m_open ? m_open->folder() + L"\\" + fileName : fileName;
     for (std::wstring const& path : {beside, m_programFolder + L"\\forms\\" + fileName})
         if (isFile(path))
             return path;
@@ -135,14 +127,13 @@ std::wstring GalleryWindow::pathOf(std::wstring const& fileName) const
 void GalleryWindow::open(std::wstring const& path, UserMode mode)
 {
     std::wstring wanted = path;
-    for (auto const& button : m_bar->controls())
+    for (auto const& button : bar().controls())
         if (wanted.empty() && isFormButton(*button))
             wanted = pathOf(button->state().tag);
-    auto document = std::make_unique<Document>(wanted);
+    auto next = opened(Document(wanted));
     closeDialog();
-    m_form.reset();
-    m_document = std::move(document);
-    m_isSaved = true;
+    m_open.reset();
+    m_open = std::move(next);
     showDocument(mode);
     fit();
     settle();
@@ -152,40 +143,40 @@ void GalleryWindow::showDocument(UserMode mode)
 {
     m_deeds.clear(); // they may be about its controls
     closeDialog();
-    m_form.reset();
     FormOptions options;
     options.mode = mode;
+    options.parent = window();
     options.onEvent = [this](FormEvent const& event) { heard(event); };
     options.onDesign = [this](FormControl& control) { later([this, &control] { showPages(control); }); };
-    m_form = makeForm(*m_document, std::move(options));
+    m_open->make(std::move(options));
     bool const isDesign = mode == UserMode::Design;
     m_pane->begin(isDesign ? kDesignHint : L"");
-    ::SetWindowTextW(window(), (m_form->caption() + (isDesign ? L" [design]" : L"")).c_str());
-    ::SetWindowPos(m_form->window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ::SetWindowTextW(window(), (form().caption() + (isDesign ? L" [design]" : L"")).c_str());
+    ::SetWindowPos(form().window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     showChoice();
 }
 
 /// The bar says what is open, and how; a button whose form is not there does nothing.
 void GalleryWindow::showChoice()
 {
-    if (!m_form)
+    if (!shownForm())
         return;
-    std::wstring const name = fileNameOf(m_document->path());
-    for (auto const& button : m_bar->controls())
+    std::wstring const name = fileNameOf(m_open->document().path());
+    for (auto const& button : bar().controls())
         if (isFormButton(*button)) {
             put(*button, L"Checked", sameName(button->state().tag, name));
             put(*button, L"Enabled", isFile(pathOf(button->state().tag)));
         }
-    put(*m_bar->find(L"tbDesign"), L"Checked", m_form->isDesign());
-    m_bar->find(L"tbSave")->setVisible(m_form->isDesign());
+    put(*bar().find(L"tbDesign"), L"Checked", form().isDesign());
+    bar().find(L"tbSave")->setVisible(form().isDesign());
 }
 
 /// As large as the bar, the form and the events need.
 void GalleryWindow::fit()
 {
-    Resolution const& resolution = m_form->resolution();
-    SIZE const form = clientSize(m_form->window());
-    RECT place{0, 0, form.cx + resolution.pixelsX(kEventsWidth), form.cy + clientSize(m_bar->window()).cy};
+    Resolution const& resolution = form().resolution();
+    SIZE const inner = clientSize(form().window());
+    RECT place{0, 0, inner.cx + resolution.pixelsX(kEventsWidth), inner.cy + clientSize(bar().window()).cy};
     ::AdjustWindowRectEx(&place, WS_OVERLAPPEDWINDOW, FALSE, WS_EX_CONTROLPARENT);
     SIZE const size{place.right - place.left, place.bottom - place.top};
     if (::IsWindowVisible(window())) {
@@ -202,20 +193,20 @@ void GalleryWindow::fit()
 void GalleryWindow::settle()
 {
     layOut();
-    m_form->show();
+    form().show();
 }
 
 void GalleryWindow::layOut()
 {
-    if (!m_form)
+    if (!shownForm())
         return;
-    Resolution const& resolution = m_form->resolution();
+    Resolution const& resolution = form().resolution();
     SIZE const client = clientSize(window());
-    int const top = clientSize(m_bar->window()).cy;
+    int const top = clientSize(bar().window()).cy;
     int const margin = resolution.pixelsX(kMargin);
     int const right = std::max(0L, client.cx - resolution.pixelsX(kEventsWidth));
-    ::MoveWindow(m_bar->window(), 0, 0, client.cx, top, TRUE);
-    ::MoveWindow(m_form->window(), 0, top, right, client.cy - top, TRUE);
+    ::MoveWindow(bar().window(), 0, 0, client.cx, top, TRUE);
+    ::MoveWindow(form().window(), 0, top, right, client.cy - top, TRUE);
     m_pane->moveTo({right, top, client.cx - margin, client.cy - margin}, resolution.pixelsY(kEventsTitle));
 }
 
@@ -227,14 +218,14 @@ void GalleryWindow::show()
 
 bool GalleryWindow::translate(MSG& message)
 {
-    if (m_dialog && m_dialog->translate(message))
+    if (dialog() && dialog()->translate(message))
         return true;
-    bool const isTab = message.message == WM_KEYDOWN && message.wParam == VK_TAB && !m_dialog;
+    bool const isTab = message.message == WM_KEYDOWN && message.wParam == VK_TAB && !dialog();
     if (isTab && ::GetKeyState(VK_CONTROL) < 0) {
         later([this, step = ::GetKeyState(VK_SHIFT) < 0 ? -1 : 1] { openNext(step); });
         return true;
     }
-    return (m_form && m_form->translate(message)) || (m_bar && m_bar->translate(message));
+    return (shownForm() && form().translate(message)) || (m_bar && bar().translate(message));
 }
 
 void GalleryWindow::heard(FormEvent const& event)
@@ -248,7 +239,7 @@ void GalleryWindow::heard(FormEvent const& event)
     if (event.name != L"Click")
         return;
     choose(control);
-    bool const isOfDialog = m_dialog && &control.form() == m_dialog.get();
+    bool const isOfDialog = &control.form() == dialog();
     if (isOfDialog && (control.state().isDefault || control.state().isCancel))
         later([this] { closeDialog(); });
     if (!isOfDialog && isFormFile(control.state().tag))
@@ -257,7 +248,7 @@ void GalleryWindow::heard(FormEvent const& event)
 
 void GalleryWindow::barClicked(FormControl& button)
 {
-    UserMode const mode = m_form->options().mode;
+    UserMode const mode = form().options().mode;
     if (sameName(button.state().name, L"tbDesign"))
         changeMode();
     else if (sameName(button.state().name, L"tbSave"))
@@ -271,7 +262,7 @@ void GalleryWindow::barClicked(FormControl& button)
 void GalleryWindow::openNext(int step)
 {
     std::vector<FormControl*> buttons;
-    for (auto const& button : m_bar->controls())
+    for (auto const& button : bar().controls())
         if (isFormButton(*button) && button->isEnabled())
             buttons.push_back(button.get());
     auto const now = std::ranges::find_if(buttons, [](FormControl* button) {
@@ -285,8 +276,8 @@ void GalleryWindow::openNext(int step)
 
 void GalleryWindow::changeMode()
 {
-    takeDesign();
-    showDocument(m_form->isDesign() ? UserMode::Run : UserMode::Design);
+    m_open->takeDesign();
+    showDocument(form().isDesign() ? UserMode::Run : UserMode::Design);
     settle();
 }
 
@@ -302,15 +293,15 @@ void GalleryWindow::showPages(FormControl& control)
 
 void GalleryWindow::openDialog(std::wstring const& file)
 {
-    auto document = std::make_unique<Document>(pathOf(file));
+    auto next = opened(Document(pathOf(file)));
     FormOptions options;
     options.owner = window();
     options.onEvent = [this](FormEvent const& event) { heard(event); };
     options.onClosed = [this] { later([this] { closeDialog(); }); };
-    m_dialogDocument = std::move(document);
-    m_dialog = makeForm(*m_dialogDocument, std::move(options));
+    next->make(std::move(options));
+    m_dialog = std::move(next);
     ::EnableWindow(window(), FALSE);
-    m_dialog->show();
+    dialog()->show();
 }
 
 void GalleryWindow::closeDialog()
@@ -323,17 +314,9 @@ void GalleryWindow::closeDialog()
     ::SetForegroundWindow(window());
 }
 
-void GalleryWindow::takeDesign()
-{
-    if (m_form && m_form->isDesign() && m_document->takeFrom(*m_form))
-        m_isSaved = false;
-}
-
 void GalleryWindow::save()
 {
-    takeDesign();
-    m_document->save(folderOf(m_document->path()));
-    m_isSaved = true;
+    m_open->save(m_open->folder());
     // What the controls saved is what they were loaded with from here on.
     showDocument(UserMode::Design);
     settle();
@@ -341,13 +324,12 @@ void GalleryWindow::save()
 
 bool GalleryWindow::mayGo()
 {
-    takeDesign();
-    if (m_isSaved)
+    if (!m_open || m_open->takeDesign())
         return true;
-    std::wstring const question = L"Save the changes to " + fileNameOf(m_document->path()) + L"?";
+    std::wstring const question = L"Save the changes to " + fileNameOf(m_open->document().path()) + L"?";
     int const answer = ::MessageBoxW(window(), question.c_str(), kProgram, MB_YESNOCANCEL | MB_ICONQUESTION);
     if (answer == IDYES)
-        m_document->save(folderOf(m_document->path()));
+        m_open->save(m_open->folder());
     return answer != IDCANCEL;
 }
 
@@ -355,7 +337,7 @@ void GalleryWindow::close()
 {
     m_deeds.clear();
     closeDialog();
-    m_form.reset();
+    m_open.reset();
     m_bar.reset();
     m_window.reset();
 }
@@ -399,8 +381,8 @@ LRESULT GalleryWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
         layOut();
         return 0;
     case WM_SETFOCUS:
-        if (m_form)
-            ::SetFocus(m_form->window());
+        if (shownForm())
+            ::SetFocus(form().window());
         return 0;
     case kRunLater:
         runLater();

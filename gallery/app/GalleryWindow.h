@@ -3,10 +3,9 @@
 
 #include "base/Handles.h"
 #include "gallery/app/ControlLibrary.h"
-#include "gallery/app/Document.h"
 #include "gallery/app/EventLog.h"
 #include "gallery/app/EventPane.h"
-#include "gallery/host/Form.h"
+#include "gallery/app/OpenForm.h"
 
 #include <windows.h>
 
@@ -36,10 +35,10 @@ public:
     bool translate(MSG& message);
 
     HWND window() const noexcept { return m_window.get(); }
-    Form& bar() noexcept { return *m_bar; }
-    Form& form() noexcept { return *m_form; }
+    Form& bar() noexcept { return *m_bar->form(); }
+    Form& form() noexcept { return *shownForm(); }
     /// A dialog that a button of the form has opened; null when there is none.
-    Form* dialog() noexcept { return m_dialog.get(); }
+    Form* dialog() noexcept { return m_dialog ? m_dialog->form() : nullptr; }
     HWND events() const noexcept { return m_pane->list(); }
 
 private:
@@ -48,7 +47,9 @@ private:
 
     void makeWindow();
     void makeBar();
-    std::unique_ptr<Form> makeForm(Document& document, FormOptions options);
+    std::unique_ptr<OpenForm> opened(Document document);
+    /// Null while none is open.
+    Form* shownForm() const noexcept { return m_open ? m_open->form() : nullptr; }
     void showDocument(UserMode mode);
     void showChoice();
     void fit();
@@ -64,9 +65,8 @@ private:
     void openNext(int step);
     std::wstring pathOf(std::wstring const& fileName) const;
 
-    /// Takes over what was designed; whether nothing is lost when the form goes now.
+    /// Whether nothing is lost when the form goes now; what was designed may be saved first.
     bool mayGo();
-    void takeDesign();
     void save();
     void close();
 
@@ -79,14 +79,10 @@ private:
     UniqueWindow m_window;
     std::unique_ptr<EventPane> m_pane;
     ControlLibraries m_libraries;
-    std::unique_ptr<Document> m_barDocument;
-    std::unique_ptr<Form> m_bar;
-    std::unique_ptr<Document> m_document;
-    std::unique_ptr<Form> m_form;
-    std::unique_ptr<Document> m_dialogDocument;
-    std::unique_ptr<Form> m_dialog;
+    std::unique_ptr<OpenForm> m_bar;
+    std::unique_ptr<OpenForm> m_open;
+    std::unique_ptr<OpenForm> m_dialog;
     std::deque<std::function<void()>> m_deeds;
-    bool m_isSaved = true;
 };
 
 } // namespace quillet::gallery
