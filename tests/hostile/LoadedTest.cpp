@@ -85,7 +85,7 @@ TEST_P(HostileData, withAFontOfAnImpossibleSizeIsLoadedInTheFormsFont)
     Target target;
     kit::Bytes bytes = target.full;
     kit::Bytes const tenPoints{0xA0, 0x86, 0x01, 0x00}; // as a saved font has them
-    auto const size = std::ranges::search(bytes, tenPoints).begin();
+    auto const size = std::search(bytes.begin(), bytes.end(), tenPoints.begin(), tenPoints.end());
     ASSERT_NE(size, bytes.end());
     size[3] = 0x19; // 42,000 points
     EXPECT_EQ(target.life.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get()), S_FALSE)

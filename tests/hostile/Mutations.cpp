@@ -73,7 +73,7 @@ void forgeLength(Bytes& bytes, Random& random)
 void damageObject(Bytes& bytes, Random& random)
 {
     Bytes const pictureMark{'l', 't', 0, 0};
-    auto const picture = std::ranges::search(bytes, pictureMark).begin();
+    auto const picture = std::search(bytes.begin(), bytes.end(), pictureMark.begin(), pictureMark.end());
     auto const begin = picture == bytes.end() ? at(bytes, placeIn(bytes, random)) : picture;
     auto const rest = static_cast<size_t>(bytes.end() - begin);
     for (unsigned count = 1 + random() % 6; count > 0; --count)

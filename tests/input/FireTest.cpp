@@ -55,7 +55,7 @@ TEST_P(InsideAnEvent, theControlSurvivesOrEndsCleanly)
     kit::pumpPending();
     button.events().forget();
     int times = 0;
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&, &occasion = occasion, &deed = deed](kit::EventRecorder::Event const&) {
         if (button.count(occasion.event) == 0 || times++ > 0)
             return;
         deed.act(button);

@@ -70,7 +70,7 @@ Names Listener::happened()
     auto const bothMoves = [](std::string const& a, std::string const& b) {
         return a == "MouseMove" && b == "MouseMove";
     };
-    names.erase(std::ranges::unique(names, bothMoves).begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end(), bothMoves), names.end());
     return names;
 }
 

@@ -13,7 +13,7 @@ ComPtr<kit::FakeBag> newBag() { return kit::make<kit::FakeBag>(); }
 
 Box::Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place,
          std::wstring const& name, Mode mode)
-    : Listener(kit::kOptionCheckEvents), m_kind(kind), m_hosted(library, kind.classId, form, place, name)
+    : Listener(kit::kOptionCheckEvents), m_hosted(library, kind.classId, form, place, name)
 {
     m_hosted.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(mode == Mode::Run));
     join(m_hosted.object(), kind.eventsId);

@@ -109,7 +109,6 @@ public:
 private:
     void listen();
 
-    Kind const& m_kind;
     kit::Hosted m_hosted;
     HWND m_inner = nullptr;
 };

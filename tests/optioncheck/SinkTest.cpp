@@ -86,7 +86,7 @@ TEST_P(Sink, mayDoItInsideTheEvent)
     Box box(*kind, library(), form);
     box.start();
     bool done = false;
-    box.events().action = [&](auto const& event) {
+    box.events().action = [&, &occasion = occasion, &deed = deed](auto const& event) {
         if (done || nameOfEvent(event.id) != occasion.event)
             return;
         done = true;

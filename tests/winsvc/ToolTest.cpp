@@ -195,7 +195,7 @@ TEST_ON_NEW_THREAD(Relay, ofADoubleClickLeavesOutTheSecondPress)
           std::tuple{MouseButton::Middle, 519U, 520U}}) {
         ToolTipWatch const watch;
         for (int i = 0; i < 2; ++i)
-            EXPECT_TRUE(input::actUntilHandled(up, [&] {
+            EXPECT_TRUE(input::actUntilHandled(up, [which = which] {
                 kit::press(which);
                 kit::release(which);
             }));
