@@ -32,8 +32,9 @@ Variant defaultOf(PropertyKind kind) { return plainFallback(kind, 0); }
 Variant savedAndLoaded(PropertyKind kind, Variant const& kept)
 {
     SavedValues written;
-    static_cast<PropertyBag&>(written).writeProperty(kName, savedProperty(kind, kept),
-                                                     savedProperty(kind, defaultOf(kind)));
+    if (kind != PropertyKind::Picture ||
+        !isEmptyPicture(kept.get().punkVal)) // an empty picture stands for none
+        written.writeProperty(kName, savedProperty(kind, kept));
     auto const stream = ComPtr<MemoryStream>::adopt(new MemoryStream());
     written.toStream(*stream.get());
     hold(stream->bytes().size() == written.size(), "the size is told as it is written");

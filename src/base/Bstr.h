@@ -42,7 +42,8 @@ public:
         return &m_text;
     }
     /// A string for an out-parameter: never null, as some script hosts read it unchecked.
-    BSTR copy() const;
+    static BSTR copyOf(std::wstring_view text);
+    BSTR copy() const { return copyOf(view()); }
 
     std::wstring_view view() const noexcept { return viewOf(m_text); }
     static std::wstring_view viewOf(BSTR text) noexcept

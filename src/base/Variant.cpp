@@ -91,7 +91,7 @@ Variant Variant::ofBool(bool value) noexcept
 Variant Variant::ofString(std::wstring_view text)
 {
     Variant result;
-    result.m_value.bstrVal = Bstr(text).copy();
+    result.m_value.bstrVal = Bstr::copyOf(text);
     result.m_value.vt = VT_BSTR;
     return result;
 }

@@ -45,9 +45,12 @@ public:
     /// The value in another type. Type mismatch (13) or Overflow (6) where it does not convert, Invalid use
     /// of Null (94) for Null.
     Variant convertedTo(VARTYPE type) const;
-    short toShort() const { return convertedTo(VT_I2).m_value.iVal; }
-    long toLong() const { return convertedTo(VT_I4).m_value.lVal; }
-    bool toBool() const { return convertedTo(VT_BOOL).m_value.boolVal != VARIANT_FALSE; }
+    short toShort() const { return type() == VT_I2 ? m_value.iVal : convertedTo(VT_I2).m_value.iVal; }
+    long toLong() const { return type() == VT_I4 ? m_value.lVal : convertedTo(VT_I4).m_value.lVal; }
+    bool toBool() const
+    {
+        return (type() == VT_BOOL ? m_value.boolVal : convertedTo(VT_BOOL).m_value.boolVal) != VARIANT_FALSE;
+    }
     Bstr toString() const;
     /// The object held, by any of the object types and references to them; empty for none.
     /// Type mismatch for a value that is not an object.

@@ -1,42 +1,11 @@
-// Saved properties by name: what all carriers share, and a container's own bag.
+// A container's own bag, whatever it can convert.
 #include "saving/PropertyBag.h"
 
 #include "base/RunTimeError.h"
-#include "saving/StandardFont.h"
-#include "saving/StandardPicture.h"
 
 namespace quillet {
 
 namespace {
-
-/// An empty picture stands for none.
-IUnknown* savedObject(IUnknown* object) noexcept
-{
-    auto const picture = query<IPicture>(object);
-    return picture && isEmptyPicture(picture.get()) ? nullptr : object;
-}
-
-/// Objects are equal when they are the same one, or fonts of the same look.
-bool sameObject(IUnknown* a, IUnknown* b) noexcept
-{
-    a = savedObject(a);
-    b = savedObject(b);
-    if (a == b)
-        return true;
-    auto const fontA = query<IFont>(a);
-    auto const fontB = query<IFont>(b);
-    return fontA && fontB && equalFonts(fontA.get(), fontB.get());
-}
-
-/// Whether two values of the same type are equal.
-bool sameValue(Variant const& a, Variant const& b)
-{
-    if (a.type() == VT_UNKNOWN)
-        return sameObject(a.toObject().get(), b.toObject().get());
-    if (a.type() == VT_BSTR)
-        return Bstr::viewOf(a.get().bstrVal) == Bstr::viewOf(b.get().bstrVal);
-    return a.toLong() == b.toLong();
-}
 
 /// Whether a bag has a value and could not convert it. One that has none answers E_INVALIDARG or E_FAIL.
 bool isConversionFailure(HRESULT result) noexcept
@@ -46,15 +15,7 @@ bool isConversionFailure(HRESULT result) noexcept
 
 } // namespace
 
-bool PropertyBag::writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback)
-{
-    if (value.type() == fallback.type() && sameValue(value, fallback))
-        return false;
-    write(name, value);
-    return true;
-}
-
-Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
+Variant HostPropertyBag::readProperty(wchar_t const* name, VARTYPE type)
 {
     // First the type that is wanted. A bag that cannot convert is asked for whatever it has.
     for (VARTYPE const asked : {type, VARTYPE{VT_EMPTY}}) {
@@ -71,7 +32,7 @@ Variant HostPropertyBag::read(wchar_t const* name, VARTYPE type)
     throw RunTimeError(ErrorNumber::TypeMismatch);
 }
 
-void HostPropertyBag::write(wchar_t const* name, Variant value)
+void HostPropertyBag::writeProperty(wchar_t const* name, Variant value)
 {
     check(m_bag->Write(name, value.address()));
 }

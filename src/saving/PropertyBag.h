@@ -14,19 +14,13 @@ public:
     virtual ~PropertyBag() = default;
 
     /// The value saved under the name, in whatever type it came though one is asked for; empty for none.
-    Variant readProperty(wchar_t const* name, VARTYPE type) { return read(name, type); }
-    /// Saves the value unless it equals the fallback in type, too, which no value does where that is empty.
-    /// Whether it was saved.
-    bool writeProperty(wchar_t const* name, Variant const& value, Variant const& fallback);
+    virtual Variant readProperty(wchar_t const* name, VARTYPE type) = 0;
+    virtual void writeProperty(wchar_t const* name, Variant value) = 0;
 
 protected:
     PropertyBag() = default;
     PropertyBag(PropertyBag const&) = default;
     PropertyBag& operator=(PropertyBag const&) = default;
-
-private:
-    virtual Variant read(wchar_t const* name, VARTYPE type) = 0;
-    virtual void write(wchar_t const* name, Variant value) = 0;
 };
 
 /// A container's own property bag.
@@ -34,10 +28,10 @@ class HostPropertyBag final : public PropertyBag {
 public:
     HostPropertyBag(IPropertyBag& bag, IErrorLog* log) noexcept : m_bag(&bag), m_log(log) {}
 
-private:
-    Variant read(wchar_t const* name, VARTYPE type) override;
-    void write(wchar_t const* name, Variant value) override;
+    Variant readProperty(wchar_t const* name, VARTYPE type) override;
+    void writeProperty(wchar_t const* name, Variant value) override;
 
+private:
     ComPtr<IPropertyBag> m_bag;
     ComPtr<IErrorLog> m_log;
 };

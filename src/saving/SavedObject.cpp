@@ -46,7 +46,7 @@ ComPtr<IUnknown> emptyObject(SavedObject::Kind kind)
 {
     switch (kind) {
     case SavedObject::Kind::Font:
-        return systemFont().as<IUnknown>();
+        return unloadedFont().as<IUnknown>();
     case SavedObject::Kind::Picture:
         return unloadedPicture().as<IUnknown>();
     case SavedObject::Kind::None:

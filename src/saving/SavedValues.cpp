@@ -17,18 +17,29 @@ namespace {
 
 constexpr DWORD kMagic = 0x42505651; // "QVPB"
 constexpr WORD kVersion = 1;
-constexpr DWORD kHeaderSize = 12;
+/// What a form begins with.
+struct Header {
+    DWORD magic = kMagic;
+    WORD version = kVersion;
+    WORD count = 0;   ///< of values
+    DWORD length = 0; ///< of what follows, in bytes
+};
+static_assert(sizeof(Header) == 12, "as it is stored");
 constexpr DWORD kLimit = 64u << 20; // far above any real form: a forged length must not take all memory
 
 /// Appends values to the bytes of a form.
 class Writer {
 public:
+    Writer() { m_bytes.reserve(kUsualSize); }
+
     template <class T> void put(T value) { append(&value, sizeof(value)); }
     void putText(std::wstring_view text) { append(text.data(), text.size() * sizeof(wchar_t)); }
     void putBytes(std::vector<BYTE> const& bytes) { append(bytes.data(), bytes.size()); }
     std::vector<BYTE> take() { return std::move(m_bytes); }
 
 private:
+    static constexpr size_t kUsualSize = 1024; ///< of a form without pictures
+
     void append(void const* data, size_t size)
     {
         auto const* const first = static_cast<BYTE const*>(data);
@@ -189,16 +200,14 @@ std::vector<BYTE> readBody(IStream& stream, DWORD size)
 
 SavedValues SavedValues::fromStream(IStream& stream)
 {
-    std::vector<BYTE> header(kHeaderSize);
-    readExactly(stream, header.data(), kHeaderSize);
-    Reader head(std::move(header));
-    if (head.take<DWORD>() != kMagic || head.take<WORD>() != kVersion)
+    Header header;
+    readExactly(stream, &header, sizeof(header));
+    if (header.magic != kMagic || header.version != kVersion)
         throw RunTimeError(E_FAIL);
-    auto const count = head.take<WORD>();
 
-    Reader in(readBody(stream, head.take<DWORD>()));
+    Reader in(readBody(stream, header.length));
     SavedValues result;
-    for (WORD i = 0; i < count; ++i) {
+    for (WORD i = 0; i < header.count; ++i) {
         auto const length = in.take<WORD>();
         std::wstring name = in.takeText(length);
         Variant value = takeValue(in, result.m_loss);
@@ -211,23 +220,20 @@ SavedValues SavedValues::fromStream(IStream& stream)
 
 std::vector<BYTE> SavedValues::bytes() const
 {
-    Writer body;
+    Writer form;
+    Header header = {.count = static_cast<WORD>(m_values.size())};
+    form.put(header);
     for (Named const& row : m_values) {
-        body.put(static_cast<WORD>(row.name.size()));
-        body.putText(row.name);
-        putValue(body, row.value);
+        form.put(static_cast<WORD>(row.name.size()));
+        form.putText(row.name);
+        putValue(form, row.value);
     }
-    std::vector<BYTE> const values = body.take();
-    if (values.size() > kLimit)
+    std::vector<BYTE> bytes = form.take();
+    if (bytes.size() - sizeof(header) > kLimit)
         throw RunTimeError(E_OUTOFMEMORY);
-
-    Writer whole;
-    whole.put(kMagic);
-    whole.put(kVersion);
-    whole.put(static_cast<WORD>(m_values.size()));
-    whole.put(static_cast<DWORD>(values.size()));
-    whole.putBytes(values);
-    return whole.take();
+    header.length = static_cast<DWORD>(bytes.size() - sizeof(header));
+    std::memcpy(bytes.data(), &header, sizeof(header)); // once more, as its length is known now
+    return bytes;
 }
 
 void SavedValues::toStream(IStream& stream) const
@@ -241,15 +247,16 @@ void SavedValues::toStream(IStream& stream) const
 
 ULONG SavedValues::size() const { return static_cast<ULONG>(bytes().size()); }
 
-Variant SavedValues::read(wchar_t const* name, VARTYPE)
+Variant SavedValues::readProperty(wchar_t const* name, VARTYPE)
 {
+    std::wstring_view const wanted = name;
     for (Named const& row : m_values)
-        if (row.name == name)
+        if (row.name == wanted)
             return row.value;
     return {};
 }
 
-void SavedValues::write(wchar_t const* name, Variant value)
+void SavedValues::writeProperty(wchar_t const* name, Variant value)
 {
     if (value.type() == VT_UNKNOWN && isMetafile(value.toObject().get())) {
         m_loss = ErrorNumber::InvalidPicture;

@@ -33,14 +33,15 @@ public:
     /// The binary form's size in bytes.
     ULONG size() const;
 
+    Variant readProperty(wchar_t const* name, VARTYPE type) override;
+    void writeProperty(wchar_t const* name, Variant value) override;
+
 private:
     struct Named {
         std::wstring name;
         Variant value;
     };
 
-    Variant read(wchar_t const* name, VARTYPE type) override;
-    void write(wchar_t const* name, Variant value) override;
     std::vector<BYTE> bytes() const;
 
     std::vector<Named> m_values;

@@ -19,22 +19,40 @@ ComPtr<IFont> copyOfFont(IUnknown* font) noexcept
     return copy;
 }
 
+namespace {
+
+ComPtr<IFont> newFont(FONTDESC description)
+{
+    description.cbSizeofstruct = sizeof(description);
+    ComPtr<IFont> font;
+    check(::OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.put())));
+    return font;
+}
+
+} // namespace
+
+ComPtr<IFont> unloadedFont()
+{
+    FONTDESC description = {};
+    description.lpstrName = const_cast<LPOLESTR>(L"MS Sans Serif");
+    description.cySize.int64 = 8 * 10000;
+    description.sWeight = FW_NORMAL;
+    return newFont(description);
+}
+
 ComPtr<IFont> systemFont()
 {
     LOGFONTW shape = {};
     ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof(shape), &shape);
 
     FONTDESC description = {};
-    description.cbSizeofstruct = sizeof(description);
     description.lpstrName = shape.lfFaceName;
     // Points times 10,000, from a height in pixels (negative: of the characters alone).
     description.cySize.int64 =
         static_cast<LONGLONG>(::labs(shape.lfHeight)) * 72 * 10000 / screenResolution().y;
     description.sWeight = static_cast<SHORT>(shape.lfWeight);
     description.sCharset = shape.lfCharSet;
-    ComPtr<IFont> font;
-    check(::OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.put())));
-    return font;
+    return newFont(description);
 }
 
 bool equalFonts(IFont* a, IFont* b) noexcept

@@ -17,6 +17,9 @@ ComPtr<IFont> copyOfFont(IUnknown* font) noexcept;
 /// The system's user-interface font as a standard font object.
 ComPtr<IFont> systemFont();
 
+/// A font object that is to load its data.
+ComPtr<IFont> unloadedFont();
+
 /// Whether two fonts look the same.
 bool equalFonts(IFont* a, IFont* b) noexcept;
 

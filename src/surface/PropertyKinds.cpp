@@ -111,11 +111,13 @@ Variant assignedProperty(PropertyKind kind, Variant const& value)
     return converted;
 }
 
-Variant savedProperty(PropertyKind kind, Variant const& kept)
+Variant savedProperty(PropertyKind kind, Variant kept)
 {
     bool const fits = kind != PropertyKind::Style || kept.get().lVal == static_cast<short>(kept.get().lVal);
     // What is too large for its saved type is saved as it is, not lost.
-    return fits ? kept.convertedTo(savedType(kind)) : kept;
+    if (!fits || kept.type() == savedType(kind))
+        return kept;
+    return kept.convertedTo(savedType(kind));
 }
 
 Variant plainFallback(PropertyKind kind, long fallback)

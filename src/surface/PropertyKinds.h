@@ -38,7 +38,7 @@ Variant assignedProperty(PropertyKind kind, Variant const& value);
 /// Type mismatch for a font or picture that lacks what properties of that kind need of it.
 void requireKind(PropertyKind kind, IUnknown* object);
 /// A kept value in the type in which the kind is saved.
-Variant savedProperty(PropertyKind kind, Variant const& kept);
+Variant savedProperty(PropertyKind kind, Variant kept);
 /// The default of a kind that has one value for all controls.
 Variant plainFallback(PropertyKind kind, long fallback);
 

@@ -3,10 +3,10 @@
 
 #include "base/Compiler.h"
 #include "base/RunTimeError.h"
+#include "saving/StandardFont.h"
+#include "saving/StandardPicture.h"
 
-#include <algorithm>
 #include <cstring>
-#include <string_view>
 #include <vector>
 
 namespace quillet {
@@ -178,16 +178,39 @@ void setDefaultsOf(Surface& control, std::span<PropertyRow const> rows)
             storeFallback(control, row);
 }
 
-/// Whether a value is seen to be its default where it stands. Others have to be compared as they are saved.
-bool isPlainlyDefault(Surface const& control, PropertyRow const& row)
+/// Whether a font is the container's.
+bool isAmbientFont(Surface const& control, IUnknown* object)
 {
-    if (isFont(row.kind)) {
-        auto const own = query<IFont>(valueOf(control, row.access).toObject().get());
-        auto const shared = control.container().sharedFont();
-        return own && shared && own->IsEqual(shared.get()) == S_OK;
+    auto const font = query<IFont>(object);
+    auto const shared = control.container().sharedFont();
+    if (font && shared && font->IsEqual(shared.get()) == S_OK)
+        return true;
+    return equalFonts(font.get(), control.container().ambientFont().get());
+}
+
+/// Whether a value that is kept by functions is its row's default.
+bool isDefaultValue(Surface const& control, PropertyRow const& row, Variant const& value)
+{
+    switch (keptType(row.kind)) {
+    case VT_BOOL:
+        return (value.get().boolVal != VARIANT_FALSE) == (row.fallback != 0);
+    case VT_I2:
+        return value.get().iVal == row.fallback;
+    case VT_I4:
+        return value.get().lVal == row.fallback;
+    case VT_BSTR:
+        return Bstr::viewOf(value.get().bstrVal) == row.fallbackText;
+    default: // an empty picture stands for none
+        return isFont(row.kind) ? isAmbientFont(control, value.get().punkVal)
+                                : isEmptyPicture(value.get().punkVal);
     }
+}
+
+/// Whether a property is at its default, seen where it stands as far as it can be.
+bool isDefault(Surface const& control, PropertyRow const& row)
+{
     if (!row.access.field)
-        return false;
+        return isDefaultValue(control, row, row.access.get(control));
     switch (row.access.type) {
     case FieldType::Bool:
         return fieldOf<bool>(control, row.access) == (row.fallback != 0);
@@ -200,10 +223,11 @@ bool isPlainlyDefault(Surface const& control, PropertyRow const& row)
     case FieldType::Text:
         return fieldOf<Bstr>(control, row.access).view() == row.fallbackText;
     case FieldType::Font:
+        return isAmbientFont(control, fieldOf<ComPtr<IFontDisp>>(control, row.access).get());
     case FieldType::Picture:
-        return false;
+        return isEmptyPicture(fieldOf<ComPtr<IPictureDisp>>(control, row.access).get());
     }
-    return false;
+    unreachable();
 }
 
 /// What a bag has for a row; empty where it is the default, but for objects: those come as they are stored.
@@ -318,19 +342,14 @@ void PropertyTable::read(Surface& control, PropertyBag& bag) const
 
 void PropertyTable::write(Surface const& control, PropertyBag& bag) const
 {
-    std::vector<std::wstring_view> written;
+    bool firstIsWritten = false;
     for (Row const& row : m_rows) {
-        if (row.saved == Saved::No)
-            continue;
         // Where a name stands twice the last value counts, so it is written even where it is the default.
-        bool const again = std::ranges::find(written, row.name) != written.end();
-        if (!again && isPlainlyDefault(control, row))
+        bool const again = isRow(row, m_twice.second) && firstIsWritten;
+        if (row.saved == Saved::No || (!again && isDefault(control, row)))
             continue;
-        bool const stored =
-            bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)),
-                              again ? Variant() : savedProperty(row.kind, fallbackOf(control, row)));
-        if (stored)
-            written.push_back(row.name);
+        bag.writeProperty(row.name, savedProperty(row.kind, valueOf(control, row.access)));
+        firstIsWritten |= isRow(row, m_twice.first);
     }
 }
 

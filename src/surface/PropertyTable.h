@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -113,9 +114,13 @@ public:
                                      LoadedObjects objects = LoadedObjects::ThroughSetters)
         : m_rows(rows), m_objects(objects)
     {
-        for (std::uint8_t i = 0; i < rows.size(); ++i)
+        for (std::uint8_t i = 0; i < rows.size(); ++i) {
             if (rows[i].id != DISPID_UNKNOWN)
                 claim(m_places[placeOf(rows[i].id)], i);
+            for (std::uint8_t before = 0; before < i; ++before)
+                if (std::wstring_view(rows[before].name) == rows[i].name)
+                    m_twice = {before, i};
+        }
     }
 
     Row const& rowOf(DISPID id) const;
@@ -163,11 +168,17 @@ private:
         return places;
     }
 
+    bool isRow(Row const& row, std::uint8_t place) const noexcept { return &row - m_rows.data() == place; }
     void assign(Surface& control, Row const& row, Variant const& converted) const;
     void storeObject(Surface& control, Row const& row, Variant const& value) const;
 
     std::span<Row const> m_rows;
     std::array<std::uint8_t, 128> m_places = noRows();
+    /// The two rows of a name that stands twice.
+    struct {
+        std::uint8_t first = kNoRow;
+        std::uint8_t second = kNoRow;
+    } m_twice;
     LoadedObjects m_objects;
 };
 
