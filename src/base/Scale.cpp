@@ -7,7 +7,9 @@ namespace quillet {
 
 Resolution screenResolution() noexcept
 {
-    WindowDc const screen(nullptr);
+    // Like the screen, and not of it: for a DC of the screen some systems ask their window server, which takes
+    // as long as a fill.
+    UniqueMemoryDc const screen(::CreateCompatibleDC(nullptr));
     return {::GetDeviceCaps(screen.get(), LOGPIXELSX), ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
 }
 

@@ -37,7 +37,7 @@ bool CommandButton::enterOrExit(bool over)
     if (over == hasMouseCapture(own))
         return false;
     bool const exitIsDue = std::exchange(m_entered, over) && over; // the capture was lost without one
-    setMouseCapture(own, over);
+    changeMouseCapture(own, over);
     if (exitIsDue)
         raiseEvent(eventid::command::MouseExit);
     raiseEvent(over ? eventid::command::MouseEnter : eventid::command::MouseExit);

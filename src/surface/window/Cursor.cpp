@@ -22,7 +22,8 @@ POINT cursorNow() noexcept
 CursorMoment::CursorMoment() : m_outer(std::exchange(threadState().cursorMoment, this)) {}
 
 CursorMoment::CursorMoment(Events const& raised)
-    : m_outer(std::exchange(threadState().cursorMoment, raised.areHeard() ? nullptr : this))
+    : m_windowsStay(true),
+      m_outer(std::exchange(threadState().cursorMoment, raised.areHeard() ? nullptr : this))
 {}
 
 CursorMoment::~CursorMoment() { threadState().cursorMoment = m_outer; }
@@ -34,8 +35,17 @@ POINT CursorMoment::cursor() noexcept
         m_cursor = cursorNow();
         m_messagePlace = messagePlace;
         m_asked = true;
+        m_window.reset();
     }
     return m_cursor;
+}
+
+HWND CursorMoment::window() noexcept
+{
+    POINT const at = cursor();
+    if (!m_window || !m_windowsStay)
+        m_window = ::WindowFromPoint(at);
+    return *m_window;
 }
 
 bool isUnderCursor(HWND window)
@@ -44,8 +54,9 @@ bool isUnderCursor(HWND window)
     POINT const cursor = moment ? moment->cursor() : cursorNow();
     RECT place = {};
     // Comparing places comes first: it spares most windows the search, which costs as much as a fill.
-    return ::GetWindowRect(window, &place) && ::PtInRect(&place, cursor) &&
-           ::WindowFromPoint(cursor) == window;
+    if (!::GetWindowRect(window, &place) || !::PtInRect(&place, cursor))
+        return false;
+    return (moment ? moment->window() : ::WindowFromPoint(cursor)) == window;
 }
 
 void awaitLeaving(HWND window)

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 namespace quillet {
 
 class Events;
@@ -14,7 +16,7 @@ bool isUnderCursor(HWND window);
 void awaitLeaving(HWND window);
 
 /// While one lives, the cursor counts as being where it was when first asked for, until a message tells the
-/// thread of another place. For controls that are painted one after another, and for a message that asks more
+/// thread of another place; within one message, so does the window there. For controls that are painted one after another, and for a message that asks more
 /// than once: on systems that have to ask their display, asking each time costs as much as half a paint.
 class CursorMoment {
 public:
@@ -28,11 +30,15 @@ public:
     CursorMoment& operator=(CursorMoment const&) = delete;
 
     POINT cursor() noexcept;
+    /// The window there. During a walk whoever listens to a control that was painted may change which it is.
+    HWND window() noexcept;
 
 private:
+    bool m_windowsStay = false;
     bool m_asked = false;
     POINT m_cursor = {};
     DWORD m_messagePlace = 0;
+    std::optional<HWND> m_window;
     CursorMoment* m_outer;
 };
 

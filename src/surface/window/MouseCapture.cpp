@@ -5,14 +5,19 @@ namespace quillet {
 
 bool hasMouseCapture(HWND window) noexcept { return window && ::GetCapture() == window; }
 
-bool setMouseCapture(HWND window, bool capture) noexcept
+void changeMouseCapture(HWND window, bool capture) noexcept
 {
-    if (capture == hasMouseCapture(window))
-        return false;
     if (capture)
         ::SetCapture(window);
     else
         ::ReleaseCapture();
+}
+
+bool setMouseCapture(HWND window, bool capture) noexcept
+{
+    if (capture == hasMouseCapture(window))
+        return false;
+    changeMouseCapture(window, capture);
     return true;
 }
 

@@ -19,4 +19,7 @@ inline bool isCaptureLost(HWND window, LPARAM taker) noexcept
 /// button its window holds the capture, so the move that leaves comes to it, too.
 bool setMouseCapture(HWND window, bool capture) noexcept;
 
+/// The same for whoever has asked who has the mouse and found that it changes.
+void changeMouseCapture(HWND window, bool capture) noexcept;
+
 } // namespace quillet
