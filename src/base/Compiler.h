@@ -25,6 +25,16 @@ namespace quillet {
 #define QV_INTERFACE_UUID(type, ...)
 #endif
 
+/// Compiled for size, functions of a few steps stay calls, and what rarely runs is taken into what often
+/// does: these stand where a single assignment of a property would be felt.
+#ifdef _MSC_VER
+#define QV_ALWAYS_INLINE __forceinline
+#define QV_NEVER_INLINE __declspec(noinline)
+#else
+#define QV_ALWAYS_INLINE [[gnu::always_inline]] inline
+#define QV_NEVER_INLINE [[gnu::noinline]]
+#endif
+
 /// Stands before a function that others than our sources call. The component is compiled as one, and what
 /// nobody calls in it goes.
 #if defined(__GNUC__) && !defined(__clang__)

@@ -284,6 +284,12 @@ HRESULT PropertyTable::getMember(Surface& control, DISPID id, VARTYPE type, void
     });
 }
 
+QV_NEVER_INLINE void PropertyTable::putArgument(Surface& control, Row const& row, VARTYPE type,
+                                                void const* value) const
+{
+    put(control, row, argumentValue(row.kind, type, value));
+}
+
 HRESULT PropertyTable::putMember(Surface& control, DISPID id, VARTYPE type, void const* value) const noexcept
 {
     return control.call([&] {
@@ -294,7 +300,7 @@ HRESULT PropertyTable::putMember(Surface& control, DISPID id, VARTYPE type, void
         if (isStored)
             changed(control, row);
         else
-            put(control, row, argumentValue(row.kind, type, value));
+            putArgument(control, row, type, value);
     });
 }
 

@@ -169,6 +169,7 @@ private:
     }
 
     bool isRow(Row const& row, std::uint8_t place) const noexcept { return &row - m_rows.data() == place; }
+    void putArgument(Surface& control, Row const& row, VARTYPE type, void const* value) const;
     void assign(Surface& control, Row const& row, Variant const& converted) const;
     void storeObject(Surface& control, Row const& row, Variant const& value) const;
 

@@ -3,6 +3,7 @@
 
 #include "base/ComCall.h"
 #include "base/ComPtr.h"
+#include "base/Compiler.h"
 #include "base/Module.h"
 #include "base/RunTimeError.h"
 #include "base/Scale.h"
@@ -39,6 +40,18 @@ inline bool isEmpty(SIZE size) noexcept { return size.cx <= 0 || size.cy <= 0; }
 /// Whether the container that changes a property should hear of a changed look, too.
 enum class ViewChange { No, Yes };
 
+/// Keeps an object alive for one scope.
+class KeptAlive {
+public:
+    QV_ALWAYS_INLINE explicit KeptAlive(IUnknown& object) noexcept : m_object(object) { m_object.AddRef(); }
+    QV_ALWAYS_INLINE ~KeptAlive() { m_object.Release(); }
+    KeptAlive(KeptAlive const&) = delete;
+    KeptAlive& operator=(KeptAlive const&) = delete;
+
+private:
+    IUnknown& m_object;
+};
+
 /// A control derives from this, overrides the handlers that it needs and uses the services. All COM faces
 /// but the control's own dual interface are members here. Handlers may throw; the boundary of whoever
 /// called the surface turns that into the call's result.
@@ -53,7 +66,7 @@ public:
     ControlClass const& controlClass() const noexcept { return m_class; }
 
     /// Keeps the control alive while one of its own calls runs: a sink may release it inside any event.
-    ComPtr<IUnknown> keepAlive() const noexcept { return m_outer; }
+    QV_ALWAYS_INLINE KeptAlive keepAlive() const noexcept { return KeptAlive(*m_outer); }
 
     /// The control's dual interface, uncounted.
     virtual IDispatch* dual() noexcept = 0;
@@ -64,7 +77,11 @@ public:
     template <class Body> HRESULT call(Body&& body) noexcept
     {
         auto const alive = keepAlive();
-        return comCall(m_class.errorSource(), std::forward<Body>(body));
+        try {
+            return resultOf(std::forward<Body>(body));
+        } catch (...) {
+            return reportCaught(m_class.errorSource()); // put together where there is an error
+        }
     }
 
     // Services for the control and for the faces.
