@@ -87,7 +87,7 @@ ComPtr<IFont> copyOfFont(IUnknown* font) noexcept
     return copy;
 }
 
-ComPtr<IFont> systemFont() { return ComPtr<IFont>::adopt(new fuzz::FontObject()); }
+ComPtr<IFont> unloadedFont() { return ComPtr<IFont>::adopt(new fuzz::FontObject()); }
 
 bool equalFonts(IFont* a, IFont* b) noexcept { return a->IsEqual(b) == S_OK; }
 
