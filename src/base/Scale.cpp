@@ -7,8 +7,8 @@ namespace quillet {
 
 Resolution screenResolution() noexcept
 {
-    // Like the screen, and not of it: for a DC of the screen some systems ask their window server, which takes
-    // as long as a fill.
+    // Like the screen, and not of it: for a DC of the screen some systems ask their window server, which
+    // takes as long as a fill.
     UniqueMemoryDc const screen(::CreateCompatibleDC(nullptr));
     return {::GetDeviceCaps(screen.get(), LOGPIXELSX), ::GetDeviceCaps(screen.get(), LOGPIXELSY)};
 }

@@ -16,8 +16,9 @@ bool isUnderCursor(HWND window);
 void awaitLeaving(HWND window);
 
 /// While one lives, the cursor counts as being where it was when first asked for, until a message tells the
-/// thread of another place; within one message, so does the window there. For controls that are painted one after another, and for a message that asks more
-/// than once: on systems that have to ask their display, asking each time costs as much as half a paint.
+/// thread of another place; within one message, so does the window there. For controls that are painted one
+/// after another, and for a message that asks more than once: on systems that have to ask their display,
+/// asking each time costs as much as half a paint.
 class CursorMoment {
 public:
     /// For a walk over a form's controls.
