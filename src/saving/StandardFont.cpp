@@ -35,7 +35,7 @@ ComPtr<IFont> unloadedFont()
 {
     FONTDESC description = {};
     description.lpstrName = const_cast<LPOLESTR>(L"MS Sans Serif");
-    description.cySize.int64 = 8 * 10000;
+    description.cySize.int64 = 8 * 10000LL;
     description.sWeight = FW_NORMAL;
     return newFont(description);
 }

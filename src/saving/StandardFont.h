@@ -25,7 +25,7 @@ bool equalFonts(IFont* a, IFont* b) noexcept;
 
 /// Whether a font size, in ten thousandths of a point, can be meant: drawing letters of a forged size takes
 /// some systems minutes.
-constexpr bool isHonestFontSize(LONGLONG size) noexcept { return size >= 0 && size <= 2160 * 10000; }
+constexpr bool isHonestFontSize(LONGLONG size) noexcept { return size >= 0 && size <= 2160 * 10000LL; }
 
 /// The width of a caption as it is written, in whole pixels of the screen. Throws where the font has no
 /// handle to give.

@@ -101,12 +101,12 @@ bool storeNumber(Surface& control, PropertyAccess const& access, long number)
 template <class Argument> Argument taken(void const* value) noexcept
 {
     Argument argument;
-    std::memcpy(&argument, value, sizeof(argument));
+    std::memcpy(&argument, value, sizeof(Argument));
     return argument;
 }
 template <class Argument> void give(void* out, Argument value) noexcept
 {
-    std::memcpy(out, &value, sizeof(value));
+    std::memcpy(out, &value, sizeof(Argument));
 }
 
 /// A member's argument as a variant.

@@ -114,7 +114,8 @@ public:
                                      LoadedObjects objects = LoadedObjects::ThroughSetters)
         : m_rows(rows), m_objects(objects)
     {
-        for (std::uint8_t i = 0; i < rows.size(); ++i) {
+        auto const count = static_cast<std::uint8_t>(rows.size());
+        for (std::uint8_t i = 0; i < count; ++i) {
             if (rows[i].id != DISPID_UNKNOWN)
                 claim(m_places[placeOf(rows[i].id)], i);
             for (std::uint8_t before = 0; before < i; ++before)

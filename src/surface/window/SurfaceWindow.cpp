@@ -59,7 +59,7 @@ void SurfaceWindow::create(HWND parent)
     if (!m_window) {
         RunTimeError const reason = lastError();
         leaveParking();
-        throw reason;
+        throw RunTimeError(reason);
     }
     // Windows inherit the layout from right to left of their form. Controls do without: their points count
     // from the left.
