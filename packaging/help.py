@@ -119,7 +119,7 @@ def compile_help(folder):
 def main(folder):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
-    shutil.copytree(DOCS / "pictures", folder / "pictures")
+    shutil.copytree(DOCS / "pictures", folder / "pictures", ignore=shutil.ignore_patterns("*@2x.*"))
     files, contents, index = [], [], []
     for page, name, number in pages():
         title, body = html_of(page)
