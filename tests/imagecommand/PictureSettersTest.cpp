@@ -4,6 +4,7 @@
 #include "kit/ByName.h"
 #include "kit/Errors.h"
 #include "kit/Fonts.h"
+#include "kit/ModalDialog.h"
 #include "kit/Pump.h"
 
 #include <optional>
@@ -45,56 +46,39 @@ struct Said {
 constexpr WORD kBoxIcon = 20; // the dialog's item with the icon, and the text beside it
 constexpr WORD kBoxText = 0xFFFF;
 
-BOOL CALLBACK findBox(HWND window, LPARAM found)
-{
-    wchar_t name[16];
-    ::GetClassNameW(window, name, 16);
-    if (std::wstring(name) != L"#32770")
-        return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-/// Reads the message box that opens while body runs, and closes it.
+/// Reads the message box that opens while it lives, and closes it.
 class BoxReader {
 public:
-    BoxReader() : m_timer(::SetTimer(nullptr, 0, 20, &BoxReader::look)) { s_said.reset(); }
-    ~BoxReader() { ::KillTimer(nullptr, m_timer); }
-    BoxReader(BoxReader const&) = delete;
-    BoxReader& operator=(BoxReader const&) = delete;
-
-    std::optional<Said> const& said() const { return s_said; }
+    std::optional<Said> const& said() const { return m_said; }
 
 private:
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
+    static bool showsExclamation(HWND box)
     {
-        HWND box = nullptr;
-        ::EnumThreadWindows(::GetCurrentThreadId(), findBox, reinterpret_cast<LPARAM>(&box));
-        if (!box || s_said)
+        auto const exclamation = ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_EXCLAMATION));
+        if (auto const icon = ::SendDlgItemMessageW(box, kBoxIcon, STM_GETICON, 0, 0))
+            return reinterpret_cast<HICON>(icon) == exclamation;
+        bool shows = false; // some systems number it like the text
+        for (HWND item = ::GetWindow(box, GW_CHILD); item; item = ::GetWindow(item, GW_HWNDNEXT))
+            if (auto const own = ::SendMessageW(item, STM_GETICON, 0, 0))
+                shows = reinterpret_cast<HICON>(own) == exclamation;
+        return shows;
+    }
+    void read(HWND box)
+    {
+        if (m_said)
             return;
-        Said said;
         wchar_t text[200]{};
         ::GetDlgItemTextW(box, kBoxText, text, 200);
-        said.text = text;
-        auto const icon = reinterpret_cast<HICON>(::SendDlgItemMessageW(box, kBoxIcon, STM_GETICON, 0, 0));
-        if (!icon) { // some systems number it like the text
-            for (HWND item = ::GetWindow(box, GW_CHILD); item; item = ::GetWindow(item, GW_HWNDNEXT))
-                if (auto const own = reinterpret_cast<HICON>(::SendMessageW(item, STM_GETICON, 0, 0)))
-                    said.exclamation =
-                        own == ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_EXCLAMATION));
-        } else {
-            said.exclamation = icon == ::LoadIconW(nullptr, reinterpret_cast<LPCWSTR>(IDI_EXCLAMATION));
-        }
-        said.onlyOk = ::GetDlgItem(box, IDOK) && !::GetDlgItem(box, IDCANCEL) && !::GetDlgItem(box, IDNO);
-        s_said = said;
+        bool const onlyOk =
+            ::GetDlgItem(box, IDOK) && !::GetDlgItem(box, IDCANCEL) && !::GetDlgItem(box, IDNO);
+        m_said = Said{text, showsExclamation(box), onlyOk};
         ::PostMessageW(box, WM_COMMAND, IDOK, 0);
         ::EndDialog(box, IDOK);
     }
 
-    static std::optional<Said> s_said;
-    UINT_PTR m_timer;
+    std::optional<Said> m_said;
+    kit::DialogWatch m_watch{[this](HWND dialog) { read(dialog); }};
 };
-std::optional<Said> BoxReader::s_said;
 
 class ImagePictureSetters : public ImageTest {
 protected:
@@ -166,29 +150,28 @@ TEST_P(ImagePictureSetters, refuseWhatIsNoPictureAtAll)
 
 TEST_P(ImagePictureSetters, atDesignTimeTellTheDesignerAndKeepWhatTheyHad)
 {
-    for (PictureRow const& row : kRows) {
-        auto const before = pictureOf(kImage);
-        ASSERT_EQ(assign(row, before.get()), S_OK);
-        button.setUserMode(false);
-        button.forget();
-        // A box takes seconds where there is no window manager: each property gets one of both.
-        auto const refused = &row == kRows ? metafilePicture() : emptyPicture();
-        BoxReader const box;
-        EXPECT_EQ(assign(row, refused.get()), S_OK) << kit::narrow(row.name);
-        ASSERT_TRUE(box.said()) << kit::narrow(row.name);
-        EXPECT_EQ(box.said()->text, row.refusal);
-        EXPECT_TRUE(box.said()->exclamation);
-        EXPECT_TRUE(box.said()->onlyOk);
-        EXPECT_EQ(stored(row).get(), before.get()) << kit::narrow(row.name);
-        expectNothingHappened();
-        button.setUserMode(true);
-    }
+    for (PictureRow const& row : kRows)
+        for (auto const& refused : {metafilePicture(), emptyPicture()}) {
+            auto const before = pictureOf(kImage);
+            ASSERT_EQ(assign(row, before.get()), S_OK);
+            button.setUserMode(false);
+            button.forget();
+            BoxReader box;
+            EXPECT_EQ(assign(row, refused.get()), S_OK) << kit::narrow(row.name);
+            ASSERT_TRUE(box.said()) << kit::narrow(row.name);
+            EXPECT_EQ(box.said()->text, row.refusal);
+            EXPECT_TRUE(box.said()->exclamation);
+            EXPECT_TRUE(box.said()->onlyOk);
+            EXPECT_EQ(stored(row).get(), before.get()) << kit::narrow(row.name);
+            expectNothingHappened();
+            button.setUserMode(true);
+        }
 }
 
 TEST_P(ImagePictureSetters, tellTheUserInsteadOfTheProgramWhileActiveIsFalse)
 {
     ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
-    BoxReader const box;
+    BoxReader box;
     EXPECT_EQ(assign(kRows[2], emptyPicture().get()), S_OK);
     ASSERT_TRUE(box.said());
     EXPECT_EQ(box.said()->text, kRows[2].refusal);

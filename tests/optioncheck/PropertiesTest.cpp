@@ -2,6 +2,7 @@
 #include "Box.h"
 #include "kit/Errors.h"
 #include "kit/Fonts.h"
+#include "kit/ModalDialog.h"
 
 #include <ole2.h>
 
@@ -27,38 +28,6 @@ protected:
 };
 
 class NewBox : public EachBoxTest {};
-
-/// Dialogs of this thread are closed as soon as they show.
-class DialogCloser {
-public:
-    DialogCloser() : m_timer(::SetTimer(nullptr, 0, 20, &DialogCloser::look)) { s_seen = 0; }
-    ~DialogCloser() { ::KillTimer(nullptr, m_timer); }
-    DialogCloser(DialogCloser const&) = delete;
-    DialogCloser& operator=(DialogCloser const&) = delete;
-
-    int seen() const noexcept { return s_seen; }
-
-private:
-    static BOOL CALLBACK close(HWND window, LPARAM)
-    {
-        wchar_t name[16] = {};
-        ::GetClassNameW(window, name, 16);
-        if (std::wstring(name) != L"#32770" || !::IsWindowVisible(window))
-            return TRUE;
-        ++s_seen;
-        ::PostMessageW(window, WM_CLOSE, 0, 0);
-        return FALSE;
-    }
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
-    {
-        if (!s_seen)
-            ::EnumThreadWindows(::GetCurrentThreadId(), &DialogCloser::close, 0);
-    }
-
-    static int s_seen;
-    UINT_PTR m_timer;
-};
-int DialogCloser::s_seen = 0;
 
 TEST_P(NewBox, hasTheNameOfItsExtenderAndTheAmbientFont)
 {
@@ -226,9 +195,13 @@ TEST_P(Properties, refreshPaintsTheInnerButton)
 
 TEST_P(Properties, showAboutWaitsForItsBox)
 {
-    DialogCloser const closer;
+    int seen = 0;
+    kit::DialogWatch const watch([&](HWND dialog) {
+        ++seen;
+        ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
     EXPECT_EQ(kit::callByName(box.dispatch(), L"ShowAbout").result, S_OK);
-    EXPECT_EQ(closer.seen(), 1);
+    EXPECT_EQ(seen, 1);
     EXPECT_TRUE(::IsWindowEnabled(form.window()));
 }
 
