@@ -6,7 +6,6 @@
 #include "kit/Canvas.h"
 #include "kit/HostWindow.h"
 #include "kit/Input.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 #include "kit/Usage.h"
 #include "typelib/Guids.h"

@@ -4,8 +4,8 @@
 #include "bench/Places.h"
 #include "bench/Rounds.h"
 #include "bench/ShownImageButton.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 
 #include <memory>

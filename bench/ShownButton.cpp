@@ -3,8 +3,8 @@
 
 #include "base/RunTimeError.h"
 #include "bench/Rounds.h"
+#include "kit/Canvas.h"
 #include "kit/Input.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 #include "typelib/Guids.h"
 

@@ -1,8 +1,9 @@
-// The boundary: what a host sees of what was thrown, and that nothing passes.
+// The boundary: what a host sees of what was thrown, that nothing passes; and the count of what is alive.
 #include "base/ComCall.h"
 
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
+#include "base/Module.h"
 #include "base/Thrown.h"
 #include "kit/Errors.h"
 
@@ -187,6 +188,52 @@ TEST_F(Boundary, aResultThatIsNoFailureThrowsNothing)
 {
     EXPECT_EQ(thrownBy([] { check(S_FALSE); }), S_OK);
     EXPECT_EQ(thrownBy([] { check(S_FALSE, IID_IFont); }), S_OK);
+}
+
+TEST(Module, countsAnObjectForAsLongAsItLives)
+{
+    long const before = liveObjects();
+    {
+        LiveObject const first;
+        LiveObject const second;
+        EXPECT_EQ(liveObjects(), before + 2);
+    }
+    EXPECT_EQ(liveObjects(), before);
+}
+
+TEST(Module, countsALockUntilItIsTakenBack)
+{
+    long const before = liveObjects();
+    addLiveObject();
+    EXPECT_EQ(liveObjects(), before + 1);
+    removeLiveObject();
+    EXPECT_EQ(liveObjects(), before);
+}
+
+DWORD WINAPI makeAndFree(void*)
+{
+    for (int i = 0; i < 100000; ++i)
+        LiveObject const object;
+    return 0;
+}
+
+TEST(Module, countsWhatSeveralThreadsMakeAndFree)
+{
+    long const before = liveObjects();
+    HANDLE const threads[] = {::CreateThread(nullptr, 0, &makeAndFree, nullptr, 0, nullptr),
+                              ::CreateThread(nullptr, 0, &makeAndFree, nullptr, 0, nullptr)};
+    EXPECT_EQ(::WaitForMultipleObjects(2, threads, TRUE, 60000), DWORD{WAIT_OBJECT_0});
+    for (HANDLE const handle : threads)
+        ::CloseHandle(handle);
+    EXPECT_EQ(liveObjects(), before);
+}
+
+TEST(Module, remembersItsInstance)
+{
+    HINSTANCE const before = moduleInstance();
+    setModuleInstance(::GetModuleHandleW(nullptr));
+    EXPECT_EQ(moduleInstance(), ::GetModuleHandleW(nullptr));
+    setModuleInstance(before);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "kit/Counterpart.h"
-#include "kit/Record.h"
 
 #include <ocidl.h>
 #include <windows.h>

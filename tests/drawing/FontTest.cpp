@@ -3,8 +3,8 @@
 #include "drawing/BoundSurface.h"
 #include "drawing/FakeFont.h"
 #include "drawing/GdiCalls.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 
 #include <gtest/gtest.h>
 

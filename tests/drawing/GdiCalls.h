@@ -1,7 +1,7 @@
 // Notes the GDI calls of this program or of one that it has loaded, in order, and makes some of them fail.
 #pragma once
 
-#include "kit/Record.h"
+#include "kit/Counterpart.h"
 
 #include <windows.h>
 

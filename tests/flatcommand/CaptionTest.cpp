@@ -1,7 +1,7 @@
 // The caption of qvFlatCommand: where it stands, and its access key.
-#include "ShownButton.h"
+#include "FlatButton.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 
 namespace quillet::flat {

@@ -1,8 +1,8 @@
 // Which qvFlatCommand is emphasised: the one with the focus, or else the form's default button.
-#include "ShownButton.h"
+#include "FlatButton.h"
 #include "kit/Input.h"
+#include "kit/MessageWatch.h"
 #include "kit/Pump.h"
-#include "kit/SwallowedMessage.h"
 
 namespace quillet::flat {
 namespace {

@@ -1,8 +1,8 @@
 // The expected picture of a qvFlatCommand, worked out by hand and painted with plain GDI calls.
 #include "Face.h"
 
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // The looks of qvFlatCommand, pixel by pixel.
-#include "ShownButton.h"
+#include "FlatButton.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
 

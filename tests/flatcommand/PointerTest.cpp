@@ -1,5 +1,5 @@
 // The mouse pointer that shows over qvFlatCommand.
-#include "ShownButton.h"
+#include "FlatButton.h"
 #include "kit/Fonts.h"
 
 namespace quillet::flat {

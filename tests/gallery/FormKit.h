@@ -1,17 +1,32 @@
-// Opens forms in tests: with fake controls, and with what they raise written down.
+// Opens forms in tests, with fake controls or with the component's own, and writes down what they raise.
 #pragma once
 
+#include "base/LateBound.h"
 #include "gallery/FakeControl.h"
-#include "gallery/Members.h"
+#include "gallery/app/ControlLibrary.h"
+#include "gallery/app/Document.h"
 #include "gallery/form/FormReader.h"
 #include "gallery/host/Form.h"
 
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillet::gallery::test {
+
+inline Variant getByName(IDispatch& object, wchar_t const* name) { return propertyByName(&object, name); }
+inline void putByName(IDispatch& object, wchar_t const* name, Variant value)
+{
+    putPropertyByName(&object, name, std::move(value));
+}
+
+constexpr DWORD kPatience = 5000; // milliseconds
+
+/// A form that is shipped.
+inline std::wstring formFile(wchar_t const* name) { return std::wstring(GALLERY_FORMS L"/") + name; }
 
 /// Begin … End of one node.
 std::string node(std::string const& fullClass, std::string const& name, std::string const& lines = "",
@@ -45,6 +60,39 @@ public:
 
 private:
     std::map<std::wstring, FakeTraits> m_traits;
+    std::unique_ptr<Form> m_form;
+};
+
+std::wstring programFolder();
+std::string narrow(std::wstring_view text);
+/// Types a key while another may be held, as a keyboard does.
+void typeKey(BYTE key, BYTE held = 0);
+
+/// The form with everything that it raises written down.
+class Demo {
+public:
+    explicit Demo(UserMode mode = UserMode::Run);
+    Demo(std::wstring const& file, UserMode mode);
+
+    Form& form() { return *m_form; }
+    Document& document() { return m_document; }
+    FormControl& control(wchar_t const* name) { return *m_form->find(name); }
+    IDispatch& extender(wchar_t const* name);
+    void focusOn(wchar_t const* name);
+
+    /// One key message, the way that the message loop handles it.
+    void key(UINT message, WPARAM key);
+    /// Pumps messages until the event has been raised; whether it was.
+    bool waitFor(std::string const& event);
+    void pump();
+
+    std::vector<std::string> events; ///< names: cmdSave.Click
+    std::vector<std::string> lines;  ///< the same events as the gallery's log has them
+    std::vector<std::string> warnings;
+
+private:
+    Document m_document;
+    ControlLibraries m_libraries;
     std::unique_ptr<Form> m_form;
 };
 

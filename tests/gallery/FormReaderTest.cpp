@@ -1,7 +1,9 @@
-// Reading of form files: every kind of line and of value, and the place and reason of every error.
+// Reading of form files and the binary file beside them: every kind of line, value and record, and every
+// error.
 #include "gallery/form/FormReader.h"
 
 #include "gallery/app/Document.h"
+#include "gallery/form/Companion.h"
 #include "gallery/form/FormValue.h"
 
 #include <gmock/gmock.h>
@@ -11,6 +13,7 @@ namespace quillet::gallery {
 namespace {
 
 using ::testing::HasSubstr;
+using namespace std::string_literals;
 
 constexpr char kSample[] = "VERSION 5.00\r\n"
                            "Object = \"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}#1.0#0\"; \"quilbt.ocx\"\r\n"
@@ -290,6 +293,38 @@ TEST(FormReader, everyOfTwentyThousandDamagedFormsIsReadOrRefusedWithALineOfItsO
     }
     EXPECT_GT(readable, 1000);
     EXPECT_GT(refused, 1000);
+}
+
+TEST(Companion, holdsRecordsBehindTheirLengths)
+{
+    Companion companion;
+    EXPECT_EQ(companion.add("one"), 0U);
+    EXPECT_EQ(companion.add(""), 7U);
+    EXPECT_EQ(companion.add("three"), 11U);
+    EXPECT_EQ(companion.bytes(), "\3\0\0\0one\0\0\0\0\5\0\0\0three"s);
+    EXPECT_EQ(companion.record(0), "one");
+    EXPECT_EQ(companion.record(7), "");
+    EXPECT_EQ(companion.record(11), "three");
+}
+
+TEST(Companion, hasNothingOutsideItsBytes)
+{
+    Companion const companion("\3\0\0\0one"s);
+    for (unsigned long const offset : {4UL, 7UL, 8UL, 0x7FFFFFFFUL, 0xFFFFFFFFUL})
+        EXPECT_THROW(companion.record(offset), ValueFault) << offset;
+    EXPECT_THROW(Companion().record(0), ValueFault);
+}
+
+TEST(Companion, refusesARecordThatEndsTooEarly)
+{
+    EXPECT_THROW(Companion("\4\0\0\0one"s).record(0), ValueFault);
+    EXPECT_THROW(Companion("\xFF\xFF\xFF\xFFone"s).record(0), ValueFault);
+}
+
+TEST(Companions, ofAFileThatIsNotThereHaveNoRecords)
+{
+    Companions companions(L"C:\\no such folder");
+    EXPECT_THROW(companions.record({L"gone.frx", 0, false}), ValueFault);
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 // The gallery's window: changing between forms, choosing in them, dialogs, designing and saving.
 #include "gallery/app/GalleryWindow.h"
 
-#include "gallery/Demo.h"
+#include "gallery/FormKit.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/host/Extender.h"
-
-#include <commctrl.h>
+#include "kit/ModalDialog.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,10 +13,6 @@ namespace quillet::gallery::test {
 namespace {
 
 using ::testing::HasSubstr;
-
-constexpr DWORD kPatience = 5000; // milliseconds
-
-std::wstring formFile(wchar_t const* name) { return std::wstring(GALLERY_FORMS L"/") + name; }
 
 std::wstring textOf(HWND window)
 {
@@ -220,37 +215,18 @@ TEST_F(GalleryWindowTest, aDialogsOwnCloseButtonEndsIt)
     EXPECT_TRUE(::IsWindowEnabled(gallery.window()));
 }
 
-std::vector<std::wstring> s_pages;
-
-/// Notes the titles of the property pages and closes their frame.
-void CALLBACK lookAtPages(HWND, UINT, UINT_PTR timer, DWORD)
-{
-    HWND const frame = ::FindWindowW(L"#32770", nullptr);
-    HWND const tabs = frame ? ::FindWindowExW(frame, nullptr, L"SysTabControl32", nullptr) : nullptr;
-    if (!tabs)
-        return;
-    ::KillTimer(nullptr, timer);
-    for (WPARAM i = 0; i < static_cast<WPARAM>(::SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0)); ++i) {
-        wchar_t title[64] = L"";
-        TCITEMW item{};
-        item.mask = TCIF_TEXT;
-        item.pszText = title;
-        item.cchTextMax = 64;
-        ::SendMessageW(tabs, TCM_GETITEMW, i, reinterpret_cast<LPARAM>(&item));
-        s_pages.emplace_back(title);
-    }
-    ::PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
-}
-
 TEST_F(GalleryWindowTest, aDoubleClickAtDesignTimeOpensThePropertyPages)
 {
     start(L"buttons.frm", UserMode::Design);
     EXPECT_EQ(textOf(gallery.window()), L"Quillet - flat buttons [design]");
-    s_pages.clear();
-    ::SetTimer(nullptr, 0, 20, &lookAtPages);
+    std::vector<std::wstring> pages;
+    kit::DialogWatch const watch([&](HWND frame) {
+        pages = kit::pageTitles(frame);
+        ::PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
+    });
     click(*gallery.form().find(L"cmdPlain"), 2);
-    EXPECT_TRUE(waitUntil([] { return !s_pages.empty(); }));
-    EXPECT_THAT(s_pages, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
+    EXPECT_TRUE(waitUntil([&] { return !pages.empty(); }));
+    EXPECT_THAT(pages, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
 }
 
 TEST_F(GalleryWindowTest, aDesignedOptionHearsNothingOfTheMouse)

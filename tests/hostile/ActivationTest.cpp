@@ -1,6 +1,5 @@
 // Activation that the container begins again, ends or moves elsewhere in the middle of it.
 #include "HostileTest.h"
-#include "WindowWatch.h"
 #include "kit/Hosted.h"
 #include "kit/Pump.h"
 

@@ -1,7 +1,6 @@
 // A container in the manner of real ones: it subclasses the window that a control gave it, forgets that when
 // it lets go of the control, and keeps references of its own for longer.
 #include "HostileTest.h"
-#include "WindowWatch.h"
 #include "kit/ByName.h"
 #include "kit/FakeBag.h"
 #include "kit/Hosted.h"

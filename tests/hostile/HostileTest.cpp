@@ -1,32 +1,24 @@
-// What every hostile case begins and ends with: nothing of the component may be left behind.
+// What every hostile case begins and ends with, and another party's eyes on a control's windows.
 #include "HostileTest.h"
 
+#include "Life.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
 
 #include <iterator>
+#include <map>
+#include <string>
 
 namespace quillet::hostile {
 
 namespace {
 
-constexpr UINT kLook = 20; // milliseconds
-
-BOOL CALLBACK closeDialog(HWND window, LPARAM)
+/// Message boxes and property frames that a control opens.
+void closeDialog(HWND dialog)
 {
-    char name[16] = {};
-    ::GetClassNameA(window, name, static_cast<int>(std::size(name)));
-    if (std::string(name) == "#32770" && ::IsWindowVisible(window)) {
-        ::PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-        ::PostMessageW(window, WM_COMMAND, IDOK, 0);
-        ::PostMessageW(window, WM_CLOSE, 0, 0);
-    }
-    return TRUE;
-}
-
-void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
-{
-    ::EnumThreadWindows(::GetCurrentThreadId(), closeDialog, 0);
+    ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    ::PostMessageW(dialog, WM_CLOSE, 0, 0);
 }
 
 bool isOwn(std::string const& name)
@@ -51,16 +43,14 @@ BOOL CALLBACK collectAll(HWND window, LPARAM names)
 
 } // namespace
 
-DialogCloser::DialogCloser() : m_timer(::SetTimer(nullptr, 0, kLook, look)) {}
-
-DialogCloser::~DialogCloser() { ::KillTimer(nullptr, m_timer); }
-
 std::vector<std::string> ownWindows()
 {
     std::vector<std::string> names;
     ::EnumThreadWindows(::GetCurrentThreadId(), collectAll, reinterpret_cast<LPARAM>(&names));
     return names;
 }
+
+HostileTest::HostileTest() : m_closer(closeDialog) {}
 
 void HostileTest::SetUp()
 {
@@ -81,6 +71,62 @@ void HostileTest::expectNothingLeft()
                                               << Journal::text();
     EXPECT_THAT(ownWindows(), testing::IsEmpty()) << "windows of the component are left after\n"
                                                   << Journal::text();
+}
+
+namespace {
+
+struct Watch {
+    WNDPROC previous;
+    Life* life;
+};
+
+/// By the 32 bits of a handle that count: after some 32,000 windows, systems differ in the others from call
+/// to call.
+std::map<LONG, Watch>& watches()
+{
+    static std::map<LONG, Watch> all;
+    return all;
+}
+
+LRESULT CALLBACK watching(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto const found = watches().find(HandleToLong(window));
+    if (found == watches().end())
+        return ::DefWindowProcA(window, message, wParam, lParam);
+    Watch const watch = found->second;
+    std::string const number = '(' + std::to_string(message) + ')';
+    watch.life->noted("Before" + number);
+    LRESULT const result = ::CallWindowProcA(watch.previous, window, message, wParam, lParam);
+    watch.life->noted("After" + number);
+    return result;
+}
+
+} // namespace
+
+HWND surfaceIn(HWND form)
+{
+    for (HWND child = ::GetWindow(form, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        char name[32] = {};
+        ::GetClassNameA(child, name, static_cast<int>(std::size(name)));
+        if (std::string(name).starts_with("QuilletSurface"))
+            return child;
+    }
+    return nullptr;
+}
+
+void watchMessages(HWND window, Life& life)
+{
+    if (!window || watches().contains(HandleToLong(window)))
+        return;
+    auto const previous = ::GetWindowLongPtrA(window, GWLP_WNDPROC);
+    watches()[HandleToLong(window)] = {reinterpret_cast<WNDPROC>(previous), &life};
+    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&watching));
+}
+
+void forgetWatches()
+{
+    std::erase_if(watches(),
+                  [](auto const& each) { return !::IsWindow(static_cast<HWND>(LongToHandle(each.first))); });
 }
 
 } // namespace quillet::hostile

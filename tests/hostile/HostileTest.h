@@ -1,10 +1,13 @@
-// What every hostile case begins and ends with: nothing of the component may be left behind.
+// What every hostile case begins and ends with: the five controls, nothing left behind, and eyes on their
+// windows.
 #pragma once
 
-#include "Controls.h"
 #include "Journal.h"
-#include "Options.h"
 #include "kit/ControlTest.h"
+#include "kit/ModalDialog.h"
+#include "typelib/Guids.h"
+
+#include <windows.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,17 +17,24 @@
 
 namespace quillet::hostile {
 
-/// Closes the message boxes and property frames that a control opens, so that no case waits for a user.
-class DialogCloser {
-public:
-    DialogCloser();
-    ~DialogCloser();
-    DialogCloser(DialogCloser const&) = delete;
-    DialogCloser& operator=(DialogCloser const&) = delete;
-
-private:
-    UINT_PTR m_timer;
+struct ControlKind {
+    char const* name;
+    CLSID classId;
+    IID interfaceId;
+    IID eventsId;
 };
+
+inline constexpr ControlKind kControls[] = {
+    {"qvFlatCommand", kQvFlatCommandClass, kQvFlatCommandInterface, kQvFlatCommandEvents},
+    {"qvImageCommand", kQvImageCommandClass, kQvImageCommandInterface, kQvImageCommandEvents},
+    {"FlatToolButton", kFlatToolButtonClass, kFlatToolButtonInterface, kFlatToolButtonEvents},
+    {"qvFlatOption", kQvFlatOptionClass, kQvFlatOptionInterface, kQvFlatOptionEvents},
+    {"qvFlatCheck", kQvFlatCheckClass, kQvFlatCheckInterface, kQvFlatCheckEvents},
+};
+
+/// Where a control stands in its form, and a point in it.
+inline constexpr RECT kPlace{20, 30, 120, 60};
+inline constexpr POINT kInside{30, 12};
 
 /// The component's windows on this thread: their classes.
 std::vector<std::string> ownWindows();
@@ -36,11 +46,12 @@ public:
     static void expectNothingLeft();
 
 protected:
+    HostileTest();
     void SetUp() override;
     void TearDown() override;
 
 private:
-    DialogCloser m_closer;
+    kit::DialogWatch m_closer; ///< so that no case waits for a user
 };
 
 /// A case for each of the five controls.
@@ -52,5 +63,15 @@ protected:
 #define QV_ALL_CONTROLS(suite)                                                                               \
     INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(kControls),                                       \
                              [](auto const& each) { return std::string(each.param.name); })
+
+class Life;
+
+/// The first window of a control's surface in a form's; null when there is none.
+HWND surfaceIn(HWND form);
+
+/// Subclasses the window once: the life is told "Before(message)" and "After(message)" for each message.
+void watchMessages(HWND window, Life& life);
+/// Windows that are gone are not watched any more.
+void forgetWatches();
 
 } // namespace quillet::hostile

@@ -1,6 +1,8 @@
-// What a run is doing: told when it fails, crashes or hangs.
+// How the room runs: how long and from which seed, and what it is doing, told when it fails, crashes or
+// hangs.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace quillet::hostile {
@@ -21,5 +23,21 @@ public:
     /// For the start of the program: from here on crashes and hangs are told, and end it.
     static void watch();
 };
+
+/// How long and from which seed the random runs go.
+struct Options {
+    unsigned seed = 20261121; ///< the same in every plain test run
+    int runs = 0;             ///< of each kind of random run; 0 for the few of a plain test run
+    bool isLong() const noexcept { return runs > 0; }
+    /// How many runs to make where a plain test run makes so many.
+    int runsOr(int plain) const noexcept { return isLong() ? runs : plain; }
+};
+
+/// Whether the next row of a long table is to be run: every one in the long form, else one of so many, which
+/// depends on the seed.
+bool isDue(std::size_t every) noexcept;
+
+/// The command line's, once the program has begun.
+Options& options() noexcept;
 
 } // namespace quillet::hostile

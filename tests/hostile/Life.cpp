@@ -2,7 +2,6 @@
 #include "Life.h"
 
 #include "HostileTest.h"
-#include "WindowWatch.h"
 #include "kit/ByName.h"
 #include "kit/Canvas.h"
 #include "kit/Fonts.h"

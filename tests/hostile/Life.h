@@ -1,7 +1,7 @@
 // One control's life in a container, from its making to its release, with somebody who misbehaves in it.
 #pragma once
 
-#include "Controls.h"
+#include "HostileTest.h"
 #include "kit/FakeBag.h"
 #include "kit/FakeForm.h"
 #include "kit/Hosted.h"

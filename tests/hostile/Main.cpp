@@ -7,7 +7,6 @@
 // A run that fails, crashes or hangs tells its seed and its steps so far. "make hostile RUNS=20000" runs the
 // long form on both architectures.
 #include "Journal.h"
-#include "Options.h"
 
 #include <ole2.h>
 #include <windows.h>

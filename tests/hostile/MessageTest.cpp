@@ -1,7 +1,9 @@
-// Another party that subclassed the control's windows and does something to the control in the middle of a
-// message, before or after the control has seen it.
+// Messages to the control's windows: somebody who subclassed them does something to the control in the middle
+// of one, or sends what only the system sends.
 #include "Deeds.h"
 #include "HostileTest.h"
+#include "kit/ByName.h"
+#include "kit/Hosted.h"
 
 #include <set>
 
@@ -13,7 +15,7 @@ struct Row {
     UINT message;
 };
 
-constexpr Row kMessages[] = {
+constexpr Row kWatched[] = {
     {"WM_LBUTTONDOWN", WM_LBUTTONDOWN},
     {"WM_LBUTTONUP", WM_LBUTTONUP},
     {"WM_LBUTTONDBLCLK", WM_LBUTTONDBLCLK},
@@ -41,7 +43,7 @@ QV_ALL_CONTROLS(HostileSubclass);
 TEST_P(HostileSubclass, thatDoesSomethingToTheControlInAnyMessageIsLivedWith)
 {
     std::vector<Occasion> occasions;
-    for (Row const& row : kMessages)
+    for (Row const& row : kWatched)
         for (char const* const when : {"Before(", "After("})
             occasions.push_back({when + std::to_string(row.message) + ')', 4});
     liveThroughDeeds(kind(), occasions, 150);
@@ -59,8 +61,52 @@ TEST_P(HostileSubclass, seesTheMessagesThatTheTableGoesThrough)
         life.live();
         life.heard = nullptr;
     }
-    for (Row const& row : kMessages)
+    for (Row const& row : kWatched)
         EXPECT_TRUE(seen.contains("After(" + std::to_string(row.message) + ')')) << row.name;
+}
+
+class HostileForgery : public HostileControlTest {
+protected:
+    kit::FakeForm form;
+    kit::Hosted control{library(), kind().classId, form, kPlace};
+
+    void TearDown() override
+    {
+        control.remove();
+        HostileControlTest::TearDown();
+    }
+};
+QV_ALL_CONTROLS(HostileForgery);
+
+TEST_P(HostileForgery, ofAWindowsEndLeavesTheNextWindowAlone)
+{
+    control.start();
+    HWND const first = surfaceIn(form.window());
+    ASSERT_NE(first, nullptr);
+    ::SendMessageA(first, WM_NCDESTROY, 0, 0);
+    HWND const next = control.window();
+    ASSERT_TRUE(::IsWindow(next));
+    ASSERT_NE(next, first);
+    ::DestroyWindow(first);
+    EXPECT_EQ(control.window(), next) << "the first window's real end was taken for the next one's";
+    control.remove();
+    EXPECT_FALSE(::IsWindow(next));
+    expectNothingLeft();
+}
+
+TEST_P(HostileForgery, ofAnInnerWindowsEndLeavesNothingThatFindsTheControl)
+{
+    control.start();
+    HWND const inner = ::GetWindow(surfaceIn(form.window()), GW_CHILD);
+    if (!inner)
+        return; // a command button has none
+    ::SendMessageA(inner, WM_NCDESTROY, 0, 0);
+    ::SetParent(inner, form.window()); // it outlives the control there
+    control.remove();
+    for (UINT const message : {WM_PAINT, WM_LBUTTONDOWN, WM_KEYDOWN, WM_SETFOCUS})
+        ::SendMessageA(inner, message, 0, 0);
+    ::DestroyWindow(inner);
+    expectNothingLeft();
 }
 
 } // namespace

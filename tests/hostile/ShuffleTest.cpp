@@ -1,6 +1,10 @@
-// Calls in random orders that no container makes, on several controls at once.
+// Calls in random orders on several controls at once; and nothing grows by many lives with those who
+// misbehave.
+#include "Deeds.h"
 #include "HostileTest.h"
 #include "World.h"
+#include "kit/UiThread.h"
+#include "kit/Usage.h"
 
 namespace quillet::hostile {
 namespace {
@@ -38,6 +42,39 @@ TEST_F(HostileOrder, thatOnceFailedIsLivedWith)
         run(seed);
         ASSERT_FALSE(HasFailure()) << Journal::text();
     }
+}
+
+// Far below one handle, or the smallest block, a round.
+constexpr int kHandlesAtRandom = 40;
+constexpr size_t kBytesAtRandom = 8192;
+
+class HostileUsage : public HostileControlTest {};
+QV_ALL_CONTROLS(HostileUsage);
+
+TEST_P(HostileUsage, isFlatOverLivesThatEndInEveryWay)
+{
+    kit::onNewThread([&] {
+        auto const round = [&] {
+            for (size_t i = 0; i < deeds().size(); i += options().isLong() ? 1 : 6) {
+                Deed const& deed = deeds()[i];
+                Journal::begin(deed.name);
+                Life life(kind());
+                life.asksAccessibleObject = false; // some systems leave a kilobyte for each handed over
+                life.arm("Event(3)", deed);        // a command button's Paint, a box's KeyPress
+                life.live();
+            }
+        };
+        round(); // until caches of the system's have what they keep
+        kit::Usage const before = kit::Usage::now();
+        int const rounds = options().isLong() ? 10 : 2;
+        for (int i = 0; i < rounds; ++i)
+            round();
+        kit::Usage const after = kit::Usage::now();
+        EXPECT_EQ(after.windows, before.windows);
+        EXPECT_LE(after.window, before.window + kHandlesAtRandom);
+        EXPECT_LE(after.gdi, before.gdi + kHandlesAtRandom);
+        EXPECT_LE(after.bytes, before.bytes + kBytesAtRandom) << rounds << " rounds";
+    });
 }
 
 } // namespace

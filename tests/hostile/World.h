@@ -1,7 +1,7 @@
 // Several controls alive at once on one form, and the steps that a generator takes them through.
 #pragma once
 
-#include "Controls.h"
+#include "HostileTest.h"
 #include "kit/FakeForm.h"
 #include "kit/Hosted.h"
 #include "kit/Sinks.h"

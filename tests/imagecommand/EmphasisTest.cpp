@@ -1,8 +1,8 @@
 // Which image button is emphasised: the one with the focus, or else the form's default button.
 #include "Face.h"
 #include "kit/Input.h"
+#include "kit/MessageWatch.h"
 #include "kit/Pump.h"
-#include "kit/SwallowedMessage.h"
 
 namespace quillet::image {
 namespace {

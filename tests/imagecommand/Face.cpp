@@ -1,8 +1,8 @@
 // The expected picture of an image button, worked out by hand and painted with plain calls.
 #include "Face.h"
 
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 // The looks of both classes, pixel by pixel, in the user's colours and in the task-pane scheme.
 #include "Face.h"
 #include "kit/ByName.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
 #include "kit/Input.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 
 namespace quillet::image {

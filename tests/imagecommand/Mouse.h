@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ImageButton.h"
-#include "kit/AtlHost.h"
+#include "kit/HostWindow.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
 

@@ -1,7 +1,14 @@
-// Which of its pictures a button shows.
+// Which of its pictures a button shows, and what of a picture is seen through.
 #include "Face.h"
+#include "kit/ByName.h"
+#include "kit/Fonts.h"
 #include "kit/Input.h"
+#include "kit/Memory.h"
 #include "kit/Pump.h"
+
+#include <olectl.h>
+
+#include <cstdlib>
 
 namespace quillet::image {
 namespace {
@@ -157,6 +164,109 @@ TEST_P(ImagePictureChoice, isNothingWhereThereIsNoImage)
     bare.makeHot();
     EXPECT_EQ(pixelAt(bare, 60, 20), kHot.color);
     bare.leave();
+}
+
+constexpr COLORREF kBack = RGB(200, 100, 0);
+constexpr int kSide = 16;
+
+/// Rows of four: clear, a quarter, three quarters, solid; all of them green.
+Pixels ramp()
+{
+    Pixels pixels;
+    for (int y = 0; y < kSide; ++y)
+        for (int x = 0; x < kSide; ++x) {
+            constexpr std::uint32_t kAlpha[] = {0, 64, 192, 255};
+            pixels.push_back(kAlpha[x / 4] << 24 | 0x00FF00);
+        }
+    return pixels;
+}
+
+/// That much of the one over the rest of the other.
+int mixed(int over, int under, int alpha) { return (over * alpha + under * (255 - alpha) + 127) / 255; }
+
+class ImageTransparency : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        button.load();
+        ASSERT_EQ(button->put_BackColor(kBack), S_OK);
+    }
+    void expectPixel(int column, int alpha)
+    {
+        COLORREF const shown = pixelAt(button, (120 - kSide) / 2 + column, 20);
+        // Systems round the mixture their own way.
+        EXPECT_NEAR(GetRValue(shown), mixed(0, GetRValue(kBack), alpha), 2) << column;
+        EXPECT_NEAR(GetGValue(shown), mixed(255, GetGValue(kBack), alpha), 2) << column;
+        EXPECT_NEAR(GetBValue(shown), mixed(0, GetBValue(kBack), alpha), 2) << column;
+    }
+    void expectRamp()
+    {
+        expectPixel(1, 0);
+        expectPixel(5, 64);
+        expectPixel(9, 192);
+        expectPixel(14, 255);
+    }
+};
+QV_BOTH_CLASSES(ImageTransparency);
+
+TEST_P(ImageTransparency, ofAnIconIsKept)
+{
+    ASSERT_EQ(button->putref_Image(alphaIcon(ramp(), kSide).get()), S_OK);
+    expectRamp();
+    button.repaint();
+    expectRamp(); // and the face below is new each time
+}
+
+TEST_P(ImageTransparency, ofABitmapIsKept)
+{
+    ASSERT_EQ(button->putref_Image(alphaBitmap(ramp(), kSide).get()), S_OK);
+    expectRamp();
+    button.repaint();
+    expectRamp();
+}
+
+TEST_P(ImageTransparency, ofABitmapThatNeverMeantItsAlphaIsNone)
+{
+    Pixels const green(static_cast<size_t>(kSide * kSide), 0x00FF00U);
+    ASSERT_EQ(button->putref_Image(alphaBitmap(green, kSide).get()), S_OK);
+    EXPECT_EQ(pixelAt(button, 60, 20), RGB(0, 255, 0));
+}
+
+TEST_P(ImageTransparency, ofAnIconIsKeptInAViewOfTheControl)
+{
+    ASSERT_EQ(button->putref_Image(alphaIcon(ramp(), kSide).get()), S_OK);
+    kit::Canvas canvas(120, 40, RGB(1, 2, 3));
+    RECTL const bounds{0, 0, 120, 40};
+    ASSERT_EQ(button.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(),
+                                             &bounds, nullptr, nullptr, 0),
+              S_OK);
+    EXPECT_EQ(canvas.at(53, 20), kBack);
+    EXPECT_EQ(canvas.at(66, 20), RGB(0, 255, 0));
+}
+
+TEST_P(ImageTransparency, doesNotMatterWhereThePictureIsInUseElsewhere)
+{
+    auto const picture = pictureOf(kImage);
+    ASSERT_EQ(button->putref_Image(picture.get()), S_OK);
+    OLE_HANDLE handle = 0;
+    ASSERT_EQ(query<IPicture>(picture.get())->get_Handle(&handle), S_OK);
+    UniqueMemoryDc const dc(::CreateCompatibleDC(nullptr));
+    SelectScope const busy(dc.get(), static_cast<HBITMAP>(LongToHandle(static_cast<LONG>(handle))));
+    button.repaint();
+    EXPECT_NE(pixelAt(button, 60, 20), CLR_INVALID); // whatever it shows, it goes on
+}
+
+TEST_P(ImageTransparency, ofAMetafileThatWasLoadedIsItsOwn)
+{
+    auto const bag = kit::make<kit::FakeBag>();
+    bag->put(L"Image", Variant::ofDispatch(metafilePicture().get()));
+    bag->put(L"BackColor", Variant::ofLong(kBack));
+    ASSERT_EQ(button.Hosted::load(*bag.get()), S_OK);
+    button.repaint();
+    EXPECT_EQ(pixelAt(button, 3, 3), kBack);
 }
 
 } // namespace

@@ -1,12 +1,17 @@
-// Both classes in a stream and in a storage.
+// Both classes in a stream: whole, with a damaged picture, and damaged throughout.
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"
 #include "kit/Fonts.h"
 #include "kit/Memory.h"
 
+#include <algorithm>
+#include <random>
+
 namespace quillet::image {
 namespace {
+
+using kit::Bytes;
 
 class ImageStream : public ImageTest {
 protected:
@@ -102,6 +107,104 @@ TEST_P(ImageStream, ofTheOtherClassIsReadWithTheOwnDefaults)
         if (row.type != VT_UNKNOWN) {
             EXPECT_EQ(valueOf(reader, row.name), textOf(row.defaultOf(other)));
         }
+}
+
+class ImageDamage : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+
+    void SetUp() override
+    {
+        ImageTest::SetUp();
+        ASSERT_EQ(button.setSite(), S_OK);
+        ASSERT_EQ(button.initNew(), S_OK);
+        button.setCaption(L"&Print");
+        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+        ASSERT_EQ(button->putref_HotImage(pictureOf(kHot).get()), S_OK);
+        ASSERT_EQ(button->put_CheckButton(VARIANT_TRUE), S_OK);
+    }
+    Bytes saved()
+    {
+        auto const stream = kit::streamOf();
+        EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+        return kit::bytesOf(*stream.get());
+    }
+    HRESULT load(Bytes const& bytes)
+    {
+        return button.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+    }
+    /// The place of the first picture's own bytes: they begin with its mark and its length.
+    static Bytes::iterator firstPicture(Bytes& bytes)
+    {
+        Bytes const mark{'l', 't', 0, 0};
+        return std::search(bytes.begin(), bytes.end(), mark.begin(), mark.end());
+    }
+};
+QV_BOTH_CLASSES(ImageDamage);
+
+TEST_P(ImageDamage, ofAPictureIsToldAndTheRestOfTheControlIsLoaded)
+{
+    Bytes bytes = saved();
+    auto const picture = firstPicture(bytes);
+    ASSERT_NE(picture, bytes.end());
+    std::fill_n(picture, 24, BYTE{0xEE});
+    ::SetErrorInfo(0, nullptr);
+    EXPECT_EQ(load(bytes), S_FALSE);
+    ComPtr<IErrorInfo> info;
+    ASSERT_EQ(::GetErrorInfo(0, info.put()), S_OK);
+    Bstr text;
+    ASSERT_EQ(info->GetDescription(text.put()), S_OK);
+    EXPECT_EQ(text.view(), L"Invalid picture");
+    EXPECT_EQ(valueOf(button, L"Image"), "none");
+    EXPECT_NE(valueOf(button, L"HotImage"), "none");
+    EXPECT_EQ(button.caption(), L"&Print");
+    EXPECT_EQ(valueOf(button, L"CheckButton"), "-1");
+    EXPECT_EQ(button.as<IPersistStreamInit>()->IsDirty(), S_OK) << "what it would save is something else";
+}
+
+TEST_P(ImageDamage, ofAnIconsHeightLeavesTheIconOut)
+{
+    ASSERT_EQ(button->putref_Image(kit::newIconPicture().get()), S_OK);
+    Bytes bytes = saved();
+    auto const picture = firstPicture(bytes);
+    ASSERT_NE(picture, bytes.end());
+    constexpr ptrdiff_t kHeight = 8 + 6 + 16 + 8; // behind its frame, the directory, an entry, size and width
+    ASSERT_EQ(picture[kHeight], 2 * picture[kHeight - 4]) << "rows of colours, and as many of the mask";
+    picture[kHeight + 3] = 0x20; // more than 536,870,912 rows: systems that believe it read behind the data
+    EXPECT_EQ(load(bytes), S_FALSE);
+    EXPECT_EQ(valueOf(button, L"Image"), "none");
+    EXPECT_NE(valueOf(button, L"HotImage"), "none");
+    EXPECT_EQ(button.caption(), L"&Print");
+}
+
+TEST_P(ImageDamage, atAnyLengthIsRefusedAndChangesNothing)
+{
+    Bytes const full = saved();
+    auto const before = stateOf(button);
+    for (size_t length = 0; length < full.size(); length += length < 200 ? 1 : 37) {
+        ASSERT_TRUE(FAILED(load(Bytes(full.begin(), full.begin() + static_cast<ptrdiff_t>(length)))))
+            << length;
+        ASSERT_EQ(stateOf(button), before) << length;
+    }
+}
+
+TEST_P(ImageDamage, atRandomIsLoadedOrRefused)
+{
+    Bytes const full = saved();
+    std::mt19937 random(20260131);
+    int loaded = 0;
+    int refused = 0;
+    for (int round = 0; round < 1500; ++round) {
+        Bytes damaged = full;
+        for (unsigned changes = 1 + random() % 4; changes > 0; --changes)
+            damaged[random() % damaged.size()] = static_cast<BYTE>(random());
+        ++(SUCCEEDED(load(damaged)) ? loaded : refused);
+        button->DrawButton();
+    }
+    EXPECT_GT(loaded, 0);
+    EXPECT_GT(refused, 0);
+    EXPECT_EQ(load(full), S_OK);
+    EXPECT_EQ(button.caption(), L"&Print");
 }
 
 } // namespace

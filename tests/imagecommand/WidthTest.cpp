@@ -1,7 +1,7 @@
 // The width that follows picture and caption, to the twip, and the ways it reaches the container.
 #include "Face.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 #include "kit/Pump.h"
 
 #include <cmath>

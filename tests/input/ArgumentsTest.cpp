@@ -1,5 +1,5 @@
 // What the mouse events hand to their sinks: button, shift state and place.
-#include "Gestures.h"
+#include "Button.h"
 #include "kit/Pump.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // A flat command button on a form in design mode: it only paints.
-#include "Gestures.h"
+#include "Button.h"
 #include "kit/ByName.h"
 #include "kit/Pump.h"
 

@@ -1,6 +1,6 @@
 // Ends in the middle: a sink does away with the control, or with what it lives on, inside an event.
+#include "Button.h"
 #include "Deeds.h"
-#include "Gestures.h"
 #include "kit/Pump.h"
 
 #include <ole2.h>

@@ -1,5 +1,5 @@
 // Keys, access keys and the container's own way of pressing a button.
-#include "Gestures.h"
+#include "Button.h"
 #include "kit/ByName.h"
 #include "kit/Pump.h"
 

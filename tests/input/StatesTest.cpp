@@ -1,5 +1,5 @@
 // The visual states of a flat command button under a real mouse: every transition, and what it raises.
-#include "Gestures.h"
+#include "Button.h"
 #include "kit/Pump.h"
 
 namespace quillet::input {

@@ -1,4 +1,5 @@
-// A picture in memory that GDI draws on and that tests read back as letters.
+// Pictures in memory that tests draw with plain GDI calls, none of them the library's, and read back as
+// letters.
 #pragma once
 
 #include "base/Handles.h"
@@ -57,5 +58,18 @@ private:
 
 /// Says which pixels differ: empty when the two pictures are equal, else their sizes or the first few pixels.
 std::string differences(Canvas const& expected, Canvas const& actual);
+
+/// The size of a text in whole pixels.
+SIZE textSize(HFONT font, std::wstring const& text);
+
+/// A text as the system's code page has it: what it has no place for becomes something else.
+std::wstring inCodePage(std::wstring const& text);
+
+/// Writes a text with its top left corner at a point: only the box changes, which is filled first.
+void paintText(Canvas& canvas, RECT const& box, POINT at, std::wstring const& text, HFONT font, COLORREF fore,
+               COLORREF back);
+
+/// What a window shows on the screen.
+void readWindow(HWND window, Canvas& canvas);
 
 } // namespace quillet::kit

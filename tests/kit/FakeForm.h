@@ -5,7 +5,6 @@
 #include "kit/Counterpart.h"
 #include "kit/HostWindow.h"
 #include "kit/NamedObject.h"
-#include "kit/Record.h"
 
 #include <windows.h>
 

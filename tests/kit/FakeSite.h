@@ -5,7 +5,6 @@
 #include "kit/Counterpart.h"
 #include "kit/FakeForm.h"
 #include "kit/NamedObject.h"
-#include "kit/Record.h"
 
 #include <ocidl.h>
 #include <olectl.h>

@@ -2,7 +2,6 @@
 #include "kit/Memory.h"
 
 #include "base/RunTimeError.h"
-#include "kit/RefusingStream.h"
 
 #include <ole2.h>
 

@@ -1,4 +1,4 @@
-// Seeing the messages of a thread's windows as they pass, without being in their way.
+// The messages of a thread's windows: seen as they pass, or one kind kept by a host that subclassed last.
 #include "kit/MessageWatch.h"
 
 #include <utility>
@@ -58,6 +58,33 @@ bool isOfClass(HWND window, wchar_t const* className)
 {
     wchar_t name[64];
     return ::GetClassNameW(window, name, 64) && ::lstrcmpiW(name, className) == 0;
+}
+
+namespace {
+
+thread_local SwallowedMessage const* t_present = nullptr; // a window procedure is given nothing to find it by
+
+} // namespace
+
+SwallowedMessage::SwallowedMessage(HWND window, UINT message)
+    : m_window(window), m_message(message),
+      m_before(reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(window, GWLP_WNDPROC)))
+{
+    t_present = this;
+    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure));
+}
+
+SwallowedMessage::~SwallowedMessage()
+{
+    ::SetWindowLongPtrA(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_before));
+    t_present = nullptr;
+}
+
+LRESULT CALLBACK SwallowedMessage::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == t_present->m_message
+               ? 0
+               : ::CallWindowProcA(t_present->m_before, window, message, wParam, lParam);
 }
 
 } // namespace quillet::kit

@@ -1,4 +1,4 @@
-// Seeing the messages of a thread's windows as they pass, without being in their way.
+// The messages of a thread's windows: seen as they pass, or one kind kept by a host that subclassed last.
 #pragma once
 
 #include "base/Handles.h"
@@ -32,5 +32,22 @@ private:
 
 /// Whether the window is of that class.
 bool isOfClass(HWND window, wchar_t const* className);
+
+/// A host that subclassed a window last and keeps one kind of message to itself: for one scope, of one window
+/// on a thread.
+class SwallowedMessage {
+public:
+    SwallowedMessage(HWND window, UINT message);
+    ~SwallowedMessage();
+    SwallowedMessage(SwallowedMessage const&) = delete;
+    SwallowedMessage& operator=(SwallowedMessage const&) = delete;
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND m_window;
+    UINT m_message;
+    WNDPROC m_before;
+};
 
 } // namespace quillet::kit

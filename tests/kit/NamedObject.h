@@ -3,7 +3,6 @@
 
 #include "base/Variant.h"
 #include "kit/Counterpart.h"
-#include "kit/Record.h"
 
 #include <oaidl.h>
 #include <windows.h>

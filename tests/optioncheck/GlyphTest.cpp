@@ -1,7 +1,7 @@
 // The circle and the square, pixel by pixel, against pictures drawn by hand.
 #include "Box.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 
 #include <algorithm>
 #include <cstdint>

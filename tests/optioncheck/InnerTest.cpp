@@ -1,7 +1,7 @@
 // The window inside: one of the system's button class, owned and covered by the control.
 #include "Box.h"
+#include "kit/Canvas.h"
 #include "kit/Fonts.h"
-#include "kit/Painter.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
-// One property page open in a window, with buttons to edit.
+// One property page open in a window, with buttons to edit, and a help viewer that records what it is to
+// show.
 #pragma once
 
 #include "kit/ControlTest.h"
@@ -9,6 +10,7 @@
 
 #include <commctrl.h>
 #include <ocidl.h>
+#include <windows.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -71,5 +73,27 @@ private:
 std::wstring textOf(HWND window);
 /// Chooses an entry of a list or of a combination box as a user does: its parent is told.
 void choose(HWND list, std::wstring const& entry);
+
+struct HelpCall {
+    HWND caller = nullptr;
+    std::wstring file;
+    UINT command = 0;
+    DWORD_PTR topic = 0;
+};
+
+/// While it lives, the component that loads the system's help viewer gets this one. One at a time.
+class FakeHelp {
+public:
+    explicit FakeHelp(HMODULE component);
+    ~FakeHelp();
+    FakeHelp(FakeHelp const&) = delete;
+    FakeHelp& operator=(FakeHelp const&) = delete;
+
+    HelpCall last;
+    bool shows = true; ///< whether it opens its window
+
+private:
+    HMODULE m_component;
+};
 
 } // namespace quillet::pages

@@ -1,10 +1,10 @@
 // Pages opened, changed and applied under a real window.
-#include "FakeHelp.h"
 #include "OpenPage.h"
 #include "base/Bstr.h"
 #include "base/Variant.h"
 #include "browse/PageIds.h"
 #include "kit/Input.h"
+#include "kit/ModalDialog.h"
 #include "kit/Pump.h"
 #include "typelib/DispatchIds.h"
 
@@ -27,27 +27,24 @@ std::wstring captionOf(_qvFlatCommand& button)
     return std::wstring(caption.view());
 }
 
-/// Closes the message box that is about to open, from a timer; what it said is in text.
+/// Closes the message box that is about to open; what it said is in text.
 class BoxCloser {
 public:
-    BoxCloser() : m_timer(::SetTimer(nullptr, 0, 20, &BoxCloser::look)) { s_text.clear(); }
-    ~BoxCloser() { ::KillTimer(nullptr, m_timer); }
-    BoxCloser(BoxCloser const&) = delete;
-    BoxCloser& operator=(BoxCloser const&) = delete;
-    std::wstring const& text() const { return s_text; }
+    std::wstring const& text() const { return m_text; }
 
 private:
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
+    void close(HWND box)
     {
-        if (HWND const box = ::FindWindowW(L"#32770", L"General")) {
-            for (HWND each = ::GetWindow(box, GW_CHILD); each; each = ::GetWindow(each, GW_HWNDNEXT))
-                if (textOf(each).find(L':') != std::wstring::npos)
-                    s_text = textOf(each);
-            ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-        }
+        if (textOf(box) != L"General")
+            return;
+        for (std::wstring const& each : kit::textsIn(box))
+            if (each.find(L':') != std::wstring::npos)
+                m_text = each;
+        ::PostMessageW(box, WM_COMMAND, IDOK, 0);
     }
-    static inline std::wstring s_text;
-    UINT_PTR m_timer;
+
+    std::wstring m_text;
+    kit::DialogWatch m_watch{[this](HWND dialog) { close(dialog); }};
 };
 
 std::wstring helpFile() { return kit::Library::folder() + L"quillet.chm"; }
@@ -183,7 +180,7 @@ TEST_F(Pages, aRefusedValueIsToldAndStaysToBeMended)
     ASSERT_EQ(page.open(), S_OK);
     ::SetWindowTextW(page.fieldOf(L"BorderWidth"), L"40000");
     {
-        BoxCloser const closer;
+        BoxCloser closer;
         EXPECT_EQ(page->Apply(), E_FAIL);
         EXPECT_EQ(closer.text(), L"BorderWidth: Overflow");
     }

@@ -1,5 +1,4 @@
 // The rules of identity, alone and as part of another object.
-#include "Interfaces.h"
 #include "SurfaceTest.h"
 
 namespace quillet::hosting {

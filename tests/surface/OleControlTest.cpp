@@ -1,5 +1,7 @@
-// IOleControl: accelerators, ambient properties, frozen events.
+// IOleControl: accelerators, ambient properties, frozen events; keys and mnemonics as a container hands them
+// over.
 #include "SurfaceTest.h"
+#include "kit/ByName.h"
 #include "kit/Fonts.h"
 
 namespace quillet::hosting {
@@ -110,6 +112,100 @@ TEST_F(OleControlFace, takesUserModeAsAnyNumber)
     control.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofLong(1));
     face->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
     EXPECT_EQ(paintsOfARepaint(), 1);
+}
+
+class Keyboard : public SurfaceTest {
+protected:
+    void SetUp() override
+    {
+        SurfaceTest::SetUp();
+        control.start();
+        ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+        record().forget();
+    }
+    HRESULT translate(UINT message, WPARAM wParam)
+    {
+        MSG given{};
+        given.hwnd = control.window();
+        given.message = message;
+        given.wParam = wParam;
+        return as<IOleInPlaceActiveObject>()->TranslateAccelerator(&given);
+    }
+    int offered() { return record().countFrom("Site.TranslateAccelerator"); }
+};
+
+TEST_F(Keyboard, mouseMessagesAreNotTranslatedAndNotOffered)
+{
+    record().answer("Site.TranslateAccelerator", S_OK);
+    for (UINT message = WM_MOUSEFIRST; message <= WM_MOUSELAST; ++message)
+        EXPECT_EQ(translate(message, 0), S_FALSE) << message;
+    EXPECT_EQ(offered(), 0);
+}
+
+// Some containers take every key that they are offered: the click would be lost.
+TEST_F(Keyboard, spaceIsNotTranslatedAndNotOffered)
+{
+    record().answer("Site.TranslateAccelerator", S_OK);
+    EXPECT_EQ(translate(WM_KEYDOWN, VK_SPACE), S_FALSE);
+    EXPECT_EQ(translate(WM_CHAR, L' '), S_FALSE);
+    EXPECT_EQ(translate(WM_KEYUP, VK_SPACE), S_FALSE);
+    EXPECT_EQ(offered(), 0);
+}
+
+TEST_F(Keyboard, navigationIsOfferedAndTakenWhenTheContainerTakesIt)
+{
+    for (WPARAM const key : {VK_TAB, VK_ESCAPE, VK_RETURN, VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
+        record().forget();
+        record().answer("Site.TranslateAccelerator", S_OK);
+        EXPECT_EQ(translate(WM_KEYDOWN, key), S_OK) << key;
+        EXPECT_EQ(offered(), 1) << key;
+        record().answer("Site.TranslateAccelerator", S_FALSE);
+        EXPECT_EQ(translate(WM_KEYDOWN, key), S_FALSE) << key;
+        record().answer("Site.TranslateAccelerator", E_NOTIMPL);
+        EXPECT_EQ(translate(WM_KEYDOWN, key), S_FALSE) << key;
+    }
+}
+
+TEST_F(Keyboard, nothingIsOfferedWhereTheSiteTakesNoKeys)
+{
+    control.site().hide(__uuidof(IOleControlSite));
+    ASSERT_EQ(control.setSite(), S_OK);
+    EXPECT_EQ(translate(WM_KEYDOWN, VK_TAB), S_FALSE);
+    EXPECT_EQ(offered(), 0);
+}
+
+TEST_F(Keyboard, noMessageAtAllIsRefused)
+{
+    EXPECT_TRUE(FAILED(as<IOleInPlaceActiveObject>()->TranslateAccelerator(nullptr)));
+}
+
+TEST_F(Keyboard, dialogsHearThatItIsAButton)
+{
+    LRESULT const code = ::SendMessageW(control.window(), WM_GETDLGCODE, 0, 0);
+    EXPECT_TRUE(code & DLGC_BUTTON);
+    EXPECT_TRUE(code & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON));
+    EXPECT_FALSE(code & (DLGC_WANTALLKEYS | DLGC_WANTTAB | DLGC_WANTARROWS));
+}
+
+TEST_F(Keyboard, theDoClickMemberClicks)
+{
+    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
+    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
+    EXPECT_EQ(kit::invoke(*as<IDispatch>().get(), DISPID_DOCLICK, DISPATCH_METHOD).result, S_OK);
+    EXPECT_EQ(events->count(kClick), 1);
+}
+
+TEST_F(Keyboard, aMnemonicClicks)
+{
+    EXPECT_EQ(button()->put_Caption(Bstr(L"&Click").get()), S_OK);
+    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
+    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
+    MSG message{};
+    message.hwnd = form.window();
+    message.message = WM_SYSCHAR;
+    message.wParam = L'c';
+    EXPECT_EQ(as<IOleControl>()->OnMnemonic(&message), S_OK);
+    EXPECT_EQ(events->count(kClick), 1);
 }
 
 } // namespace

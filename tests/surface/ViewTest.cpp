@@ -1,7 +1,6 @@
 // Drawing into any device context, and who is told of a changed look.
 #include "SurfaceTest.h"
 #include "kit/Canvas.h"
-#include "kit/Painter.h"
 
 #include <ocidl.h>
 

@@ -1,10 +1,13 @@
-// The users of the tooltip window, by the thread's own numbers.
+// The users of the tooltip window: by the thread's own numbers, on two threads at once, and over many lives.
 #include "MadeWindows.h"
 #include "PlainControl.h"
+#include "ServiceTest.h"
 #include "ToolTips.h"
+#include "input/Button.h"
 #include "kit/Errors.h"
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
+#include "kit/Usage.h"
 
 #include <ole2.h>
 
@@ -193,6 +196,136 @@ TEST_ON_NEW_THREAD(Users, ofTwoThreadsAreCountedApart)
     EXPECT_EQ(threadState().toolTipUsers, 1);
     EXPECT_TRUE(::IsWindow(threadState().toolTip));
 }
+
+/// A running button of one thread, used on that thread alone.
+struct OnThread {
+    std::unique_ptr<kit::FakeForm> form;
+    std::unique_ptr<RunningButton> button;
+    HWND toolTip = nullptr;
+
+    void start(kit::Library const& library)
+    {
+        form = std::make_unique<kit::FakeForm>();
+        button = std::make_unique<RunningButton>(library, *form);
+        button->start();
+        toolTip = theToolTipWindow();
+    }
+    void end()
+    {
+        button.reset();
+        form.reset();
+    }
+};
+
+class TwoThreads : public ServiceTest {};
+
+TEST_F(TwoThreads, haveAToolTipWindowEachAndOneEndsWithoutTheOther)
+{
+    OnThread first;
+    OnThread second;
+    kit::UiThread one;
+    kit::UiThread two;
+    one.run([&] { first.start(library()); });
+    two.run([&] { second.start(library()); });
+    EXPECT_NE(first.toolTip, second.toolTip);
+    EXPECT_NE(::GetWindowThreadProcessId(first.toolTip, nullptr),
+              ::GetWindowThreadProcessId(second.toolTip, nullptr));
+    one.run([&] { first.end(); });
+    EXPECT_FALSE(::IsWindow(first.toolTip));
+    EXPECT_TRUE(::IsWindow(second.toolTip));
+    two.run([&] {
+        ToolTipWatch const watch;
+        ::SendMessageA(second.button->window(), WM_MOUSEMOVE, 0, 0);
+        EXPECT_THAT(watch.relayed(), ElementsAre(WM_MOUSEMOVE));
+        second.end();
+    });
+    EXPECT_FALSE(::IsWindow(second.toolTip));
+}
+
+TEST_F(TwoThreads, answerTheirOwnToolTipWindowOnly)
+{
+    OnThread first;
+    OnThread second;
+    kit::UiThread one;
+    kit::UiThread two;
+    one.run([&] { first.start(library()); });
+    two.run([&] { second.start(library()); });
+    one.run([&] {
+        first.button->extender().offer(L"ToolTipText", Variant::ofString(L"mine"));
+        char untouched[] = "untouched";
+        for (HWND const from : {first.toolTip, second.toolTip}) {
+            NMTTDISPINFOA request{};
+            request.hdr = {from, 0, static_cast<UINT>(-520)};
+            request.lpszText = untouched;
+            ::SendMessageA(first.button->window(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&request));
+            EXPECT_STREQ(request.lpszText, from == first.toolTip ? "mine" : "untouched");
+        }
+        first.end();
+    });
+    two.run([&] { second.end(); });
+}
+
+TEST_F(TwoThreads, keepTheCreatedFlagApart)
+{
+    OnThread first;
+    kit::UiThread one;
+    one.run([&] {
+        first.start(library());
+        first.end();
+        kit::FakeForm form;
+        RunningButton again(library(), form);
+        again.start();
+        EXPECT_TRUE(toolTipWindows().empty());
+    });
+    OnThread second;
+    kit::UiThread two;
+    two.run([&] {
+        second.start(library());
+        EXPECT_NE(second.toolTip, nullptr) << "this thread never had one";
+        second.end();
+    });
+}
+
+/// Create, load, activate, hover, press, show the way out, destroy.
+void liveOnce(kit::Library const& library, kit::FakeForm& form, int number)
+{
+    RunningButton button(library, form, number);
+    button.start();
+    button.extender().offer(L"ToolTipText", Variant::ofString(L"Soaked"));
+    ASSERT_TRUE(kit::moveCursorTo(button.window(), number % 2 ? 60 : 90, 20));
+    ASSERT_TRUE(kit::pumpUntil([&] { return button.count("MouseEnter") > 0; }));
+    kit::press(kit::MouseButton::Left);
+    kit::release(kit::MouseButton::Left);
+    ASSERT_TRUE(kit::pumpUntil([&] { return button.count("Click") > 0; }));
+    button.remove();
+    ASSERT_EQ(::GetCapture(), nullptr);
+}
+
+/// Whether the thread's tooltip window lives throughout, or goes with the first of the controls.
+enum class ToolTip { Kept, Gone };
+
+class Soak : public ServiceTest {
+protected:
+    static void soak(ToolTip toolTip)
+    {
+        kit::FakeForm form;
+        RunningButton keeper(library(), form, 4);
+        if (toolTip == ToolTip::Kept)
+            keeper.start();
+        kit::expectNothingIsLeft(300, [&](int i) {
+            liveOnce(library(), form, 1 + i % 2);
+            form.record().forget();
+            keeper.events().forget();
+        });
+    }
+};
+
+TEST_ON_NEW_THREAD(Soak, ofThreeHundredLivesBesideAControlThatStaysLeavesNothingBehind)
+{
+    soak(ToolTip::Kept);
+}
+
+TEST_ON_NEW_THREAD(Soak, ofThreeHundredLivesOneAtATimeLeavesNothingBehind) { soak(ToolTip::Gone); }
 
 } // namespace
 } // namespace quillet::winsvc

@@ -1,5 +1,5 @@
 // Window messages of a subclassed control: what reaches its window's previous procedure, when and how.
-#include "PreviousProcedure.h"
+#include "PlainControl.h"
 #include "ServiceTest.h"
 #include "kit/ByName.h"
 

@@ -1,4 +1,5 @@
-// The least that uses the window services: a control without a look, for tests of the room itself.
+// The least that uses the window services, for tests of the room itself, and the procedure of a window before
+// them.
 #pragma once
 
 #include "base/Module.h"
@@ -6,6 +7,8 @@
 #include "surface/Surface.h"
 #include "surface/window/ThreadState.h"
 #include "winsvc/modToolTip.h"
+
+#include <windows.h>
 
 #include <gtest/gtest.h>
 
@@ -72,6 +75,29 @@ protected:
     ~RoomTest() override { EXPECT_EQ(liveObjects(), 0); }
 
     static void onNewThread(std::function<void()> const& body);
+};
+
+/// Stands before a window's own procedure from the beginning. One at a time on a thread.
+class PreviousProcedure {
+public:
+    explicit PreviousProcedure(HWND window);
+    ~PreviousProcedure();
+    PreviousProcedure(PreviousProcedure const&) = delete;
+    PreviousProcedure& operator=(PreviousProcedure const&) = delete;
+
+    std::vector<MSG> seen; ///< window and the four values; neither time nor point
+    std::function<void(MSG const&)> action;
+    /// What messages from WM_APP on are answered with; they go no further.
+    LRESULT answer = 0;
+
+    int count(UINT message) const;
+    WNDPROC address() const noexcept { return &procedure; }
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    HWND m_window;
+    WNDPROC m_own;
 };
 
 } // namespace quillet::winsvc

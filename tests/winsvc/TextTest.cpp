@@ -1,6 +1,6 @@
 // The text of a tip: asked for at each showing, answered with the extender's.
 #include "ServiceTest.h"
-#include "input/Gestures.h"
+#include "input/Button.h"
 
 #include <cstring>
 

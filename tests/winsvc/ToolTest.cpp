@@ -1,6 +1,6 @@
 // What the tooltip window is told: its activation, its tools, and the mouse messages of their windows.
 #include "ServiceTest.h"
-#include "input/Gestures.h"
+#include "input/Button.h"
 
 namespace quillet::winsvc {
 namespace {

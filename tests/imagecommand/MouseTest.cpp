@@ -1,10 +1,13 @@
-// The mouse over an image button: entering, leaving, pressing, and which of it repaints.
+// The mouse over an image button: hot or not, what is a click, and somebody else who takes the capture.
 #include "Mouse.h"
-#include "kit/Painter.h"
+
+#include "kit/Canvas.h"
+#include "kit/ModalDialog.h"
 
 namespace quillet::image {
 namespace {
 
+using kit::MouseButton;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -166,6 +169,152 @@ TEST_P(ImageHover, survivesASinkThatClosesTheButtonInEveryEvent)
     EXPECT_TRUE(kit::pumpUntil([&] { return !button().events().events.empty(); }));
     kit::pumpPending();
     EXPECT_EQ(button()->DrawButton(), S_OK);
+}
+
+class ImageClick : public ImageInputTest {
+protected:
+    /// Presses on the form, drags onto the button and lets go: the names of the events but Paint, MouseMove
+    /// and MouseEnter.
+    Names draggedOntoAndLetGo()
+    {
+        kit::moveCursorTo(button().window(), kBeside.x, kBeside.y);
+        kit::pumpPending();
+        button().events().forget();
+        EXPECT_TRUE(kit::dragFrom(button().window(), kBeside, kInside));
+        EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseMove") > 0; }));
+        Names names = button().release();
+        std::erase(names, "Paint");
+        return names;
+    }
+    void letGoSomewhereElse()
+    {
+        kit::release(MouseButton::Left);
+        EXPECT_TRUE(kit::pumpUntil([] { return ::GetKeyState(VK_LBUTTON) >= 0; }));
+    }
+};
+QV_BOTH_HOSTS(ImageClick);
+
+TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatWasDraggedOffAndLetGoOutside)
+{
+    button().moveTo(kInside);
+    button().press();
+    button().moveTo(kBeside);
+    letGoSomewhereElse();
+    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
+}
+
+TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatOpenedADialog)
+{
+    button().moveTo(kInside);
+    bool opened = false;
+    button().events().action = [&](auto const& event) {
+        if (event.id != eventid::command::MouseDown)
+            return;
+        opened = true;
+        kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
+            kit::moveCursorTo(dialog, 20, 20);
+            letGoSomewhereElse();
+        });
+    };
+    button().press();
+    button().events().action = nullptr;
+    ASSERT_TRUE(opened);
+    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
+}
+
+TEST_P(ImageClick, needsAPressOfItsOwnAfterAMoveWithoutTheButton)
+{
+    button().moveTo(kInside);
+    LPARAM const at = MAKELPARAM(kInside.x, kInside.y);
+    for (auto const& [message, keys] :
+         {std::pair{UINT{WM_LBUTTONDOWN}, WPARAM{MK_LBUTTON}}, {WM_MOUSEMOVE, MK_RBUTTON}, {WM_LBUTTONUP, 0}})
+        ::SendMessageA(button().window(), message, keys, at);
+    EXPECT_EQ(button().count("MouseUp"), 1) << "which every release raises";
+    EXPECT_EQ(button().count("Click"), 0);
+}
+
+TEST_P(ImageClick, ofTheOtherButtonsInQuickSuccessionIsAllMouseDownAndMouseUp)
+{
+    button().moveTo(kInside);
+    for (MouseButton const which : {MouseButton::Right, MouseButton::Middle})
+        for (int times = 0; times < 3; ++times) {
+            EXPECT_THAT(button().press(which), ElementsAre("MouseDown")) << times;
+            EXPECT_THAT(button().release(which), ElementsAre("MouseUp")) << times;
+        }
+}
+
+constexpr COLORREF kHotFace = RGB(23, 45, 67);
+constexpr POINT kOnTheFace{60, 20}; // where nothing is drawn but the face
+
+class ImageLostCapture : public ImageInputTest {
+protected:
+    void SetUp() override
+    {
+        ImageInputTest::SetUp();
+        ASSERT_EQ(button()->put_HotBackColor(kHotFace), S_OK);
+        button().moveTo(kInside);
+    }
+    bool isHot()
+    {
+        WindowDc const dc(button().window());
+        return ::GetPixel(dc.get(), kOnTheFace.x, kOnTheFace.y) == kHotFace;
+    }
+};
+QV_BOTH_HOSTS(ImageLostCapture);
+
+TEST_P(ImageLostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)
+{
+    ::SetCapture(form.window());
+    kit::pumpPending();
+    EXPECT_TRUE(isHot()) << "the mouse is still there";
+    EXPECT_THAT(
+        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }, "MouseExit"),
+        ElementsAre("MouseExit", "Paint"));
+    EXPECT_FALSE(isHot());
+}
+
+TEST_P(ImageLostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
+{
+    bool hot = true;
+    button().events().action = [&](auto const& event) {
+        if (event.id != eventid::command::Click)
+            return;
+        kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
+            kit::moveCursorTo(dialog, 20, 20);
+            EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseExit") > 0; }));
+            hot = isHot();
+        });
+    };
+    button().press();
+    button().release();
+    button().events().action = nullptr;
+    EXPECT_FALSE(hot);
+    EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+}
+
+TEST_P(ImageLostCapture, endsWithMouseExitWhenTheMouseComesBackBefore)
+{
+    // Giving the capture up makes the system look again where the cursor is: that alone may be a move.
+    auto const lost = [&] {
+        ::ReleaseCapture();
+        kit::moveCursorTo(button().window(), kInsideToo.x, kInsideToo.y);
+    };
+    EXPECT_THAT(button().during(lost, "MouseMove"),
+                ElementsAre("MouseExit", "MouseEnter", "Paint", "MouseMove"));
+    EXPECT_THAT(button().moveTo(kBeside), ElementsAre("MouseExit", "Paint", "MouseMove"));
+}
+
+TEST_P(ImageLostCapture, byBecomingInactiveRaisesNothingNotEvenLater)
+{
+    ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
+    button().events().forget();
+    kit::moveCursorTo(button().window(), kBeside.x, kBeside.y);
+    kit::pumpPending();
+    ::SendMessageA(button().window(), WM_MOUSELEAVE, 0, 0);
+    ASSERT_EQ(button()->put_Active(VARIANT_TRUE), S_OK);
+    ::SendMessageA(button().window(), WM_MOUSELEAVE, 0, 0);
+    EXPECT_THAT(button().happened(), IsEmpty());
+    EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
 }
 
 } // namespace

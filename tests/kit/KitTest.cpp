@@ -1,14 +1,25 @@
-// The counterparts themselves: a test that trusts them must be able to.
+// The kit itself: a test that trusts its counterparts, pictures, input and counts must be able to.
+#include "Usage.h"
 #include "base/Module.h"
+#include "kit/Canvas.h"
 #include "kit/FakeBag.h"
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
 #include "kit/Fonts.h"
+#include "kit/HostWindow.h"
+#include "kit/Input.h"
 #include "kit/Memory.h"
+#include "kit/Pump.h"
 #include "kit/Sinks.h"
 
+#include <windows.h>
+
 #include <gmock/gmock.h>
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
 
 namespace quillet::kit {
 namespace {
@@ -170,6 +181,124 @@ TEST_F(Counterparts, fontsOfTwoSizesDifferAndACopyMayBeUnderlined)
     auto const line = copyOf(*small.get(), true);
     EXPECT_TRUE(isUnderlined(*line.get()));
     EXPECT_FALSE(isUnderlined(*small.get()));
+}
+
+constexpr COLORREF kRed = RGB(200, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 201);
+Letters const kLetters{{'.', RGB(1, 2, 3)}, {'r', kRed}, {'b', kBlue}};
+
+TEST(Canvas, showsWhatGdiDrewAndWhatNobodyNamed)
+{
+    Canvas canvas(5, 3, RGB(1, 2, 3));
+    ::SetPixel(canvas.dc(), 0, 0, kRed);
+    ::SetPixel(canvas.dc(), 4, 2, kBlue);
+    ::SetPixel(canvas.dc(), 2, 1, RGB(9, 9, 9));
+    EXPECT_EQ(canvas.picture(kLetters), "r....\n"
+                                        "..?..\n"
+                                        "....b\n");
+    EXPECT_EQ(canvas.picture(kLetters, 3, 1, 5, 3), "..\n.b\n");
+    EXPECT_EQ(canvas.at(0, 0), kRed);
+    EXPECT_EQ(canvas.at(5, 0), CLR_INVALID);
+    EXPECT_EQ(canvas.count(RGB(1, 2, 3)), 12);
+}
+
+TEST(Canvas, fillsARectangleAndCutsItAtTheEdges)
+{
+    Canvas canvas(4, 3, RGB(1, 2, 3));
+    canvas.fill(1, 1, 3, 2, kRed);
+    canvas.fill(3, -5, 99, 99, kBlue);
+    canvas.fill(3, 0, 1, 3, kRed); // turned round: nothing
+    EXPECT_EQ(canvas.picture(kLetters), "...b\n"
+                                        ".rrb\n"
+                                        "...b\n");
+    EXPECT_EQ(::GetPixel(canvas.dc(), 1, 1), kRed);
+}
+
+TEST(Canvas, differencesNamePixelsAndAreEmptyForEqualPictures)
+{
+    Canvas expected(4, 3, kRed);
+    Canvas actual(4, 3, kRed);
+    EXPECT_EQ(differences(expected, actual), "");
+    actual.fill(2, 1, 3, 2, kBlue);
+    EXPECT_EQ(differences(expected, actual),
+              "(2, 1): 0x0000C8 was expected, found 0xC90000\n1 pixels differ");
+    EXPECT_EQ(differences(Canvas(4, 4), actual), "4 x 4 was expected, found 4 x 3");
+}
+
+TEST(Painter, writesTextInsideItsBoxOnly)
+{
+    Canvas canvas(60, 40, kBlue);
+    auto const font = static_cast<HFONT>(::GetStockObject(SYSTEM_FONT));
+    SIZE const size = textSize(font, L"Wide");
+    paintText(canvas, {10, 5, 30, 35}, {12, 8}, L"Wide", font, kRed, RGB(255, 255, 255));
+    EXPECT_GT(size.cx, 18) << "the text must be wider than its box";
+    EXPECT_EQ(canvas.count(kBlue), 60 * 40 - 20 * 30);
+    EXPECT_GT(canvas.count(kRed), 0);
+}
+
+std::wstring textOf(HWND window)
+{
+    wchar_t text[64];
+    return std::wstring(text, static_cast<size_t>(::GetWindowTextW(window, text, 64)));
+}
+
+TEST(Input, theCursorReachesAForm)
+{
+    FakeForm const form;
+    ASSERT_TRUE(moveCursorTo(form.window(), 20, 20));
+    POINT cursor;
+    ::GetCursorPos(&cursor);
+    EXPECT_TRUE(pumpUntil([&] { return ::WindowFromPoint(cursor) == form.window(); }));
+    ASSERT_TRUE(moveCursorAway());
+}
+
+TEST(Input, keysReachTheWindowThatHasTheFocus)
+{
+    FakeForm const form;
+    auto const first = newEditBox(form.window(), {5, 5, 50, 25});
+    auto const second = newEditBox(form.window(), {5, 35, 50, 55});
+    ASSERT_TRUE(focus(first.get()));
+    ASSERT_TRUE(focus(second.get()));
+    typeKey('K');
+    EXPECT_TRUE(pumpUntil([&] { return textOf(second.get()) == L"k"; }));
+    EXPECT_EQ(textOf(first.get()), L"");
+}
+
+TEST(Input, aClickReachesTheWindowUnderTheCursor)
+{
+    FakeForm const form;
+    auto const edit = newEditBox(form.window(), {5, 5, 50, 25});
+    auto const other = newEditBox(form.window(), {5, 35, 50, 55});
+    ASSERT_TRUE(focus(other.get()));
+    ASSERT_TRUE(moveCursorTo(edit.get(), 4, 4));
+    press(MouseButton::Left);
+    EXPECT_TRUE(pumpUntil([&] { return ::GetFocus() == edit.get(); }));
+    release(MouseButton::Left);
+    EXPECT_TRUE(pumpUntil([] { return ::GetCapture() == nullptr; }));
+    ASSERT_TRUE(moveCursorAway());
+}
+
+constexpr int kRounds = 300;
+
+TEST(Usage, ofRoundsThatKeepNothingIsFlat)
+{
+    expectNothingIsLeft(kRounds, [](int round) { std::free(std::malloc(16 + round)); });
+}
+
+TEST(Usage, noticesTheSmallestBlockKeptInEachRound)
+{
+    EXPECT_NONFATAL_FAILURE(
+        expectNothingIsLeft(kRounds, [](int) { EXPECT_NE(::HeapAlloc(::GetProcessHeap(), 0, 16), nullptr); }),
+        "bytes in use before");
+    EXPECT_NONFATAL_FAILURE(expectNothingIsLeft(kRounds, [](int) { EXPECT_NE(std::malloc(16), nullptr); }),
+                            "bytes in use before");
+}
+
+TEST(Usage, noticesABrushKeptInEachRound)
+{
+    EXPECT_NONFATAL_FAILURE(
+        expectNothingIsLeft(kRounds, [](int round) { EXPECT_NE(::CreateSolidBrush(round), nullptr); }),
+        "gdi");
 }
 
 } // namespace

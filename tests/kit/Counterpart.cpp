@@ -1,5 +1,5 @@
 // What counterparts were asked, in order, and how they are to answer.
-#include "kit/Record.h"
+#include "kit/Counterpart.h"
 
 #include <algorithm>
 
