@@ -54,6 +54,7 @@ using InAtlAxWin = EachBoxTest;
 TEST_P(InAtlAxWin, worksByMouseAndKeys)
 {
     AtlBox box(kind(), library(), form.window(), kPlace);
+    ASSERT_TRUE(kit::focus(form.window())); // or keys go to no program at all
     ASSERT_TRUE(kit::moveCursorTo(box.inner(), kInside.x, kInside.y));
     ASSERT_TRUE(kit::pumpUntil([&] { return box.count("MouseMove") > 0; }));
     EXPECT_EQ(::GetCapture(), box.inner());
