@@ -3,6 +3,7 @@
 
 #include "gallery/form/FormTree.h"
 
+#include <ocidl.h>
 #include <windows.h>
 
 #include <string>
@@ -30,6 +31,10 @@ public:
     bool flag(std::wstring_view name, bool fallback) const noexcept
     {
         return whole(name, fallback ? -1 : 0) != 0;
+    }
+    OLE_COLOR colour(std::wstring_view name, OLE_COLOR fallback) const noexcept
+    {
+        return static_cast<OLE_COLOR>(whole(name, static_cast<long>(fallback)));
     }
 
 private:

@@ -3,6 +3,7 @@
 
 #include "base/ComCall.h"
 #include "base/RunTimeError.h"
+#include "drawing/SystemColours.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
 #include "gallery/form/Names.h"
@@ -17,9 +18,6 @@
 namespace quillet::gallery {
 
 namespace {
-
-constexpr long kButtonFace = static_cast<long>(0x8000000F);
-constexpr long kButtonText = static_cast<long>(0x80000012);
 
 constexpr long kScaleTwips = 1;
 constexpr long kScalePoints = 2;
@@ -51,8 +49,8 @@ std::wstring hexOf(HRESULT result)
 Form::Form(FormTree const& tree, FormOptions options)
     : m_options(std::move(options)), m_name(tree.form.name), m_coding(tree.coding),
       m_scaleMode(FormValues(tree.form).whole(L"ScaleMode", kScaleTwips)),
-      m_backColor(static_cast<OLE_COLOR>(FormValues(tree.form).whole(L"BackColor", kButtonFace))),
-      m_foreColor(static_cast<OLE_COLOR>(FormValues(tree.form).whole(L"ForeColor", kButtonText))),
+      m_backColor(FormValues(tree.form).colour(L"BackColor", colour::kButtonFace)),
+      m_foreColor(FormValues(tree.form).colour(L"ForeColor", colour::kButtonText)),
       m_font(formFont(tree.form)), m_object(makeCounted<FormObject>(*this)),
       m_frame(makeCounted<InPlaceFrame>(*this)), m_focus(*this), m_keyboard(*this)
 {

@@ -1,6 +1,7 @@
 // The form's own simple controls: making them, their values and what they raise.
 #include "gallery/intrinsic/IntrinsicControl.h"
 
+#include "drawing/SystemColours.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
 #include "gallery/host/Form.h"
@@ -39,20 +40,13 @@ IntrinsicKind kindOf(std::wstring_view fullClass) noexcept
     return IntrinsicKind::Placeholder;
 }
 
-constexpr OLE_COLOR kButtonFace = 0x8000000F;
-constexpr OLE_COLOR kButtonText = 0x80000012;
-constexpr OLE_COLOR kWindow = 0x80000005;
-constexpr OLE_COLOR kWindowText = 0x80000008;
+constexpr OLE_COLOR kWindow = colour::ofDesktop(COLOR_WINDOW);
+constexpr OLE_COLOR kWindowText = colour::ofDesktop(COLOR_WINDOWTEXT);
 
 COLORREF rgb(OLE_COLOR color) noexcept
 {
     COLORREF result = 0;
     return SUCCEEDED(::OleTranslateColor(color, nullptr, &result)) ? result : 0;
-}
-
-OLE_COLOR colourOf(FormNode const& node, std::wstring_view name, OLE_COLOR fallback) noexcept
-{
-    return static_cast<OLE_COLOR>(FormValues(node).whole(name, static_cast<long>(fallback)));
 }
 
 /// The node's own font; a control that says nothing has the form's.
@@ -72,8 +66,10 @@ IntrinsicControl::IntrinsicControl(Form& form, FormControl* container, FormNode 
 IntrinsicControl::IntrinsicControl(Form& form, FormControl* container, FormNode const& node,
                                    IntrinsicKind kind)
     : FormControl(form, container, node), m_kind(kind),
-      m_foreColor(colourOf(node, L"ForeColor", kind == IntrinsicKind::TextBox ? kWindowText : kButtonText)),
-      m_backColor(colourOf(node, L"BackColor", kind == IntrinsicKind::TextBox ? kWindow : kButtonFace)),
+      m_foreColor(FormValues(node).colour(
+          L"ForeColor", kind == IntrinsicKind::TextBox ? kWindowText : colour::kButtonText)),
+      m_backColor(FormValues(node).colour(L"BackColor",
+                                          kind == IntrinsicKind::TextBox ? kWindow : colour::kButtonFace)),
       m_edge(FormValues(node).whole(L"BorderStyle", 1) == 0 ? BoxEdge::None : BoxEdge::Etched),
       m_font(fontOf(node, form)), m_object(makeCounted<IntrinsicObject>(*this)),
       m_brush(::CreateSolidBrush(rgb(m_backColor)))

@@ -22,9 +22,9 @@ protected:
     void expectShown(wchar_t const* caption)
     {
         button.setCaption(caption);
-        Face face = normalFace();
-        face.caption = caption;
-        EXPECT_EQ(button.differencesFrom(face), "") << kit::narrow(caption);
+        Look look = normalLook();
+        look.caption = caption;
+        EXPECT_EQ(button.differencesFrom(look), "") << kit::narrow(caption);
     }
     std::vector<Key> accelerators()
     {
@@ -47,15 +47,15 @@ protected:
 // Were there no font, empty pictures would be equal.
 TEST_F(FlatCaption, isVisibleInTheExpectationItselfAndSoIsTheUnderline)
 {
-    Face face = normalFace();
+    Look look = normalLook();
     kit::Canvas without(120, 40);
     kit::Canvas plain(120, 40);
     kit::Canvas marked(120, 40);
-    paint(without, face, *formFont().get());
-    face.caption = L"Save";
-    paint(plain, face, *formFont().get());
-    face.caption = L"&Save";
-    paint(marked, face, *formFont().get());
+    paint(without, look, *formFont().get());
+    look.caption = L"Save";
+    paint(plain, look, *formFont().get());
+    look.caption = L"&Save";
+    paint(marked, look, *formFont().get());
     EXPECT_NE(kit::differences(without, plain), "");
     EXPECT_NE(kit::differences(plain, marked), "");
 }
@@ -113,14 +113,14 @@ TEST_F(FlatCaption, hasItsMarkAtThe32767thCharacterAtMost)
 TEST_F(FlatCaption, withAMarkBeyond16BitsEndsThePaintSilently)
 {
     expectShown(L"&Old");
-    Face face = normalFace();
-    face.caption = L"&Old";
+    Look look = normalLook();
+    look.caption = L"&Old";
     std::wstring const before(32767, L' ');
     button.events().forget();
     EXPECT_EQ(button->put_Caption(Bstr(before + L"&k").get()), S_OK);
     EXPECT_EQ(button.events().count(kPaint), 1);
     EXPECT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.differencesFrom(face), "") << "a paint that ends early shows nothing";
+    EXPECT_EQ(button.differencesFrom(look), "") << "a paint that ends early shows nothing";
     EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'o'}, Key{FALT, L'O'}));
     expectShown(L"&New");
 }
@@ -129,10 +129,10 @@ TEST_F(FlatCaption, longerThanTheButtonIsCutAtTheBorder)
 {
     expectShown(L"A rather &long caption that goes on and on and on");
     EXPECT_EQ(button->put_CaptionIndent(100), S_OK);
-    Face face = normalFace();
-    face.caption = button.caption();
-    face.indent = 100;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = button.caption();
+    look.indent = 100;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatCaption, startsItsIndentInsideTheBorderOfTheState)
@@ -141,11 +141,11 @@ TEST_F(FlatCaption, startsItsIndentInsideTheBorderOfTheState)
     for (short const indent : std::initializer_list<short>{0, 1, 25, -3}) {
         EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
         EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
-        Face face = normalFace();
-        face.caption = L"&Indented";
-        face.indent = indent;
-        face.borderWidth = 3;
-        EXPECT_EQ(button.differencesFrom(face), "") << indent;
+        Look look = normalLook();
+        look.caption = L"&Indented";
+        look.indent = indent;
+        look.borderWidth = 3;
+        EXPECT_EQ(button.differencesFrom(look), "") << indent;
     }
 }
 
@@ -154,16 +154,16 @@ TEST_F(FlatCaption, isCentredBothWaysAndRoundedToTheEvenPixel)
 {
     button.setCaption(L"Cen&tre");
     EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Face face = normalFace();
-    face.caption = L"Cen&tre";
-    face.centred = true;
+    Look look = normalLook();
+    look.caption = L"Cen&tre";
+    look.centred = true;
     for (int extra = 0; extra < 4; ++extra) {
         button.site().position = {20, 30, 140 + extra, 70 + extra};
         ASSERT_EQ(
             button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
             S_OK);
         ASSERT_EQ(button->Refresh(), S_OK);
-        EXPECT_EQ(button.differencesFrom(face), "") << extra;
+        EXPECT_EQ(button.differencesFrom(look), "") << extra;
     }
 }
 
@@ -172,10 +172,10 @@ TEST_F(FlatCaption, centredIgnoresTheIndent)
     button.setCaption(L"Centre");
     EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_CaptionIndent(40), S_OK);
-    Face face = normalFace();
-    face.caption = L"Centre";
-    face.centred = true;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"Centre";
+    look.centred = true;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 // What the code page has no place for is drawn as something else, which has another width.
@@ -185,10 +185,10 @@ TEST_F(FlatCaption, standsWhereItStandsWhenItIsWrittenInTheCodePage)
         for (bool const centred : {false, true}) {
             button.setCaption(caption);
             EXPECT_EQ(button->put_CentreCaption(centred ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
-            Face face = normalFace();
-            face.caption = kit::inCodePage(caption);
-            face.centred = centred;
-            EXPECT_EQ(button.differencesFrom(face), "") << kit::narrow(caption) << centred;
+            Look look = normalLook();
+            look.caption = kit::inCodePage(caption);
+            look.centred = centred;
+            EXPECT_EQ(button.differencesFrom(look), "") << kit::narrow(caption) << centred;
         }
 }
 
@@ -236,9 +236,9 @@ TEST_F(FlatCaption, doesNotUnderlineTheFormsOwnFontNorTheFontOfASibling)
     button.setCaption(L"&One");
     sibling.setCaption(L"T&wo");
     EXPECT_FALSE(kit::isUnderlined(*shared.get()));
-    Face face = normalFace();
-    face.caption = L"&One";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"&One";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatCaption, tellsTheContainerOfAccessKeysOnlyWhenTheyChange)

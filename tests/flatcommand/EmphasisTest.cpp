@@ -33,17 +33,17 @@ private:
     IID m_known;
 };
 
-Face emphasised(Face face)
+Look emphasised(Look look)
 {
-    face.emphasis = 1;
-    return face;
+    look.emphasis = 1;
+    return look;
 }
 
-Face focused(Face face)
+Look focused(Look look)
 {
-    face.emphasis = 1;
-    face.frame = 0x808080;
-    return face;
+    look.emphasis = 1;
+    look.frame = 0x808080;
+    return look;
 }
 
 class FlatEmphasis : public FlatTest {
@@ -62,10 +62,10 @@ protected:
     {
         form.object().offer(L"ActiveControl", Variant::ofDispatch(control));
     }
-    std::string repaintedAgainst(Face const& face)
+    std::string repaintedAgainst(Look const& look)
     {
         EXPECT_EQ(button->Refresh(), S_OK);
-        return button.differencesFrom(face);
+        return button.differencesFrom(look);
     }
     /// Focus of a control of this library, as the form's extender of it and as the control itself.
     void checkSibling(CLSID const& classId, bool emphasis)
@@ -73,11 +73,11 @@ protected:
         kit::Hosted sibling(library(), classId, form, {20, 80, 140, 120}, L"Sibling");
         ASSERT_TRUE(sibling.object());
         sibling.start();
-        Face const face = emphasis ? emphasised(normalFace()) : normalFace();
+        Look const look = emphasis ? emphasised(normalLook()) : normalLook();
         setActive(sibling.as<IDispatch>().get());
-        EXPECT_EQ(repaintedAgainst(face), "") << "as the control itself";
+        EXPECT_EQ(repaintedAgainst(look), "") << "as the control itself";
         setActive(&sibling.site().extender());
-        EXPECT_EQ(repaintedAgainst(face), "") << "as its extender";
+        EXPECT_EQ(repaintedAgainst(look), "") << "as its extender";
         setActive(nullptr);
     }
 };
@@ -85,21 +85,21 @@ protected:
 TEST_F(FlatEmphasis, aButtonThatIsNotDefaultAndHasNoFocusHasNone)
 {
     button.site().extender().offer(L"Default", Variant::ofBool(false));
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, aFocusedButtonsBorderOf1IsOf2AndItsCaptionDoesNotMove)
 {
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     button.setCaption(L"F&ocus");
-    Face face = normalFace();
-    face.caption = L"F&ocus";
-    EXPECT_EQ(repaintedAgainst(face), "");
-    POINT const before = captionPlace(face, button.size(), *button.font().get());
+    Look look = normalLook();
+    look.caption = L"F&ocus";
+    EXPECT_EQ(repaintedAgainst(look), "");
+    POINT const before = captionPlace(look, button.size(), *button.font().get());
     ASSERT_TRUE(kit::focus(button.window()));
-    face = focused(face);
-    EXPECT_EQ(repaintedAgainst(face), "");
-    POINT const after = captionPlace(face, button.size(), *button.font().get());
+    look = focused(look);
+    EXPECT_EQ(repaintedAgainst(look), "");
+    POINT const after = captionPlace(look, button.size(), *button.font().get());
     EXPECT_EQ(before.x, after.x);
     EXPECT_EQ(before.y, after.y);
 }
@@ -108,9 +108,9 @@ TEST_F(FlatEmphasis, aFocusedButtonLosesItAgainWithTheFocus)
 {
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "");
     ASSERT_TRUE(kit::focus(edit.get()));
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, aFocusedButtonKeepsItWhateverMessagesSay)
@@ -118,11 +118,11 @@ TEST_F(FlatEmphasis, aFocusedButtonKeepsItWhateverMessagesSay)
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     ASSERT_TRUE(kit::focus(button.window()));
     ::SendMessageA(button.window(), WM_KILLFOCUS, 0, 0);
-    EXPECT_EQ(button.differencesFrom(focused(normalFace())), "");
-    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "");
+    EXPECT_EQ(button.differencesFrom(focused(normalLook())), "");
+    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "");
     LONG result = 0;
     EXPECT_EQ(button->WindowProc(HandleToLong(button.window()), WM_KILLFOCUS, 0, 0, &result), S_OK);
-    EXPECT_EQ(repaintedAgainst(focused(normalFace())), "") << "published";
+    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "") << "published";
 }
 
 TEST_F(FlatEmphasis, ofTheButtonThatTheFocusLeavesIsGoneWhoeverSwallowedTheMessage)
@@ -132,8 +132,8 @@ TEST_F(FlatEmphasis, ofTheButtonThatTheFocusLeavesIsGoneWhoeverSwallowedTheMessa
     ASSERT_TRUE(kit::focus(button.window()));
     kit::SwallowedMessage const swallowed(button.window(), WM_KILLFOCUS);
     ASSERT_TRUE(kit::focus(next.window()));
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
-    EXPECT_EQ(next.differencesFrom(focused(normalFace())), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
+    EXPECT_EQ(next.differencesFrom(focused(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
@@ -143,7 +143,7 @@ TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
     int paints = 0;
     next.events().action = [&](auto const& event) {
         if (event.id == kPaint && ++paints == 1) {
-            EXPECT_EQ(next.differencesFrom(focused(normalFace())), "");
+            EXPECT_EQ(next.differencesFrom(focused(normalLook())), "");
         }
     };
     ASSERT_TRUE(kit::focus(next.window()));
@@ -177,7 +177,7 @@ TEST_F(FlatEmphasis, withoutShowFocusRectangleAFocusedButtonHasTheBorderAndNoFra
 {
     EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 // The caption starts where it does without the focus, and from there to the right its face covers the frame.
@@ -187,10 +187,10 @@ TEST_F(FlatEmphasis, theFaceOfACaptionWithASmallIndentCoversTheLeftSideOfTheFram
     ASSERT_TRUE(kit::focus(button.window()));
     for (SHORT const indent : std::initializer_list<SHORT>{0, 2, 3, 4}) {
         EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
-        Face face = focused(normalFace());
-        face.caption = L"&Cover";
-        face.indent = indent;
-        EXPECT_EQ(repaintedAgainst(face), "") << indent;
+        Look look = focused(normalLook());
+        look.caption = L"&Cover";
+        look.indent = indent;
+        EXPECT_EQ(repaintedAgainst(look), "") << indent;
     }
 }
 
@@ -198,14 +198,14 @@ TEST_F(FlatEmphasis, theFocusFrameOfABackColorOf808080IsE0E0E0)
 {
     EXPECT_EQ(button->put_BackColor(0x808080), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    Face face = focused(normalFace());
-    face.back = 0x808080;
-    face.frame = 0xE0E0E0;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = focused(normalLook());
+    look.back = 0x808080;
+    look.frame = 0xE0E0E0;
+    EXPECT_EQ(repaintedAgainst(look), "");
     EXPECT_EQ(button->put_BackColor(0x808081), S_OK);
-    face.back = 0x808081;
-    face.frame = 0x808080;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    look.back = 0x808081;
+    look.frame = 0x808080;
+    EXPECT_EQ(repaintedAgainst(look), "");
 }
 
 // A system colour counts by what it is on this desktop.
@@ -217,10 +217,10 @@ TEST_F(FlatEmphasis, theFrameColourFollowsTheResolvedBackColour)
     ASSERT_LE(grey, COLOR_MENUBAR) << "this desktop has no mid grey";
     EXPECT_EQ(button->put_BackColor(0x80000000U | static_cast<OLE_COLOR>(grey)), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    Face face = focused(normalFace());
-    face.back = 0x808080;
-    face.frame = 0xE0E0E0;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = focused(normalLook());
+    look.back = 0x808080;
+    look.frame = 0xE0E0E0;
+    EXPECT_EQ(repaintedAgainst(look), "");
 }
 
 TEST_F(FlatEmphasis, hotAndFocusedTheHotBorderIsOnePixelThicker)
@@ -228,10 +228,10 @@ TEST_F(FlatEmphasis, hotAndFocusedTheHotBorderIsOnePixelThicker)
     ASSERT_TRUE(kit::focus(button.window()));
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(3).get()), S_OK);
     button.makeHot();
-    Face face = focused(hotFace());
-    face.borderWidth = 3;
-    face.frame = hotFace().back == 0x808080 ? 0xE0E0E0 : 0x808080;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = focused(hotLook());
+    look.borderWidth = 3;
+    look.frame = hotLook().back == 0x808080 ? 0xE0E0E0 : 0x808080;
+    EXPECT_EQ(repaintedAgainst(look), "");
     button.leave();
 }
 
@@ -239,9 +239,9 @@ TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedButtonAtRestHasABlackBorderOnePixe
 {
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    Face face = focused(taskPaneNormalFace());
-    face.border = 0;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = focused(taskPaneNormalLook());
+    look.border = 0;
+    EXPECT_EQ(repaintedAgainst(look), "");
 }
 
 TEST_F(FlatEmphasis, aFocusedHotButtonOfTheTaskPaneHasTheBorderOfItsState)
@@ -250,31 +250,31 @@ TEST_F(FlatEmphasis, aFocusedHotButtonOfTheTaskPaneHasTheBorderOfItsState)
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
     button.makeHot();
-    Face face = taskPaneHotFace();
-    face.borderWidth = 2;
-    face.frame = 0x808080;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = taskPaneHotLook();
+    look.borderWidth = 2;
+    look.frame = 0x808080;
+    EXPECT_EQ(repaintedAgainst(look), "");
     button.leave();
 }
 
 TEST_F(FlatEmphasis, inTheTaskPaneLookTheDefaultButtonAtRestHasABlackBorderOnePixelThicker)
 {
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
-    Face face = emphasised(taskPaneNormalFace());
-    face.border = 0;
-    EXPECT_EQ(repaintedAgainst(face), "");
+    Look look = emphasised(taskPaneNormalLook());
+    look.border = 0;
+    EXPECT_EQ(repaintedAgainst(look), "");
     button.makeHot();
-    EXPECT_EQ(button.differencesFrom(taskPaneHotFace()), "");
+    EXPECT_EQ(button.differencesFrom(taskPaneHotLook()), "");
     button.leave();
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    EXPECT_EQ(button.differencesFrom(taskPaneDisabledFace()), "");
+    EXPECT_EQ(button.differencesFrom(taskPaneDisabledLook()), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAnotherKindOfControlHasTheFocus)
 {
     auto const textBox = kit::make<HostControl>(IID_IPicture);
     setActive(textBox.get());
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
     setActive(nullptr);
 }
 
@@ -282,7 +282,7 @@ TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAHostsOwnButtonHasTheFocus)
 {
     auto const hostButton = kit::make<HostControl>(kHostButton);
     setActive(hostButton.get());
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
     setActive(nullptr);
 }
 
@@ -292,7 +292,7 @@ TEST_F(FlatEmphasis, theDefaultButtonLosesItToAHostsOwnButtonInsideAnExtender)
     auto const extender = kit::make<kit::NamedObject>("Active", form.sharedRecord());
     extender->offer(L"Object", Variant::ofDispatch(hostButton.get()));
     setActive(extender.get());
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
     setActive(nullptr);
 }
 
@@ -314,57 +314,57 @@ TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAFlatToolButtonHasTheFocus)
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlIsMissing)
 {
     form.object().remove(L"ActiveControl");
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlCannotBeRead)
 {
     form.object().refuse(L"ActiveControl", E_FAIL);
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereThereIsNoActiveControl)
 {
     setActive(nullptr);
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
     form.object().offer(L"ActiveControl", Variant());
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheExtenderHasNoParent)
 {
     button.site().extender().remove(L"Parent");
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
     button.site().extender().offer(L"Parent", Variant::ofLong(5));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheExtenderHasNoSuchMark)
 {
     button.site().extender().remove(L"Default");
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheMarkCannotBeRead)
 {
     button.site().extender().refuse(L"Default", E_FAIL);
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereThereIsNoExtender)
 {
     form.record().answerNothing("Site.GetExtendedControl");
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultMarkMayBeAnyNumberThatIsNotZero)
 {
     button.site().extender().offer(L"Default", Variant::ofLong(1));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
     button.site().extender().offer(L"Default", Variant::ofLong(0));
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 TEST_F(FlatEmphasis, atDesignTimeAFocusedButtonHasNoFrame)
@@ -373,14 +373,14 @@ TEST_F(FlatEmphasis, atDesignTimeAFocusedButtonHasNoFrame)
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalFace())), "");
+    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasNoneAtDesignTime)
 {
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
-    EXPECT_EQ(repaintedAgainst(normalFace()), "");
+    EXPECT_EQ(repaintedAgainst(normalLook()), "");
 }
 
 } // namespace

@@ -115,12 +115,12 @@ SIZE ShownButton::size() const
 
 void ShownButton::read(kit::Canvas& canvas) const { kit::readWindow(window(), canvas); }
 
-std::string ShownButton::differencesFrom(Face const& face) const
+std::string ShownButton::differencesFrom(Look const& look) const
 {
     SIZE const now = size();
     kit::Canvas expected(now.cx, now.cy);
     kit::Canvas shown(now.cx, now.cy);
-    paint(expected, face, *font().get());
+    paint(expected, look, *font().get());
     read(shown);
     return kit::differences(expected, shown);
 }

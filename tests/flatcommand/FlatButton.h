@@ -2,8 +2,8 @@
 // show.
 #pragma once
 
-#include "Face.h"
 #include "FlatButton.h"
+#include "Look.h"
 #include "kit/ControlTest.h"
 #include "kit/Hosted.h"
 #include "kit/Listener.h"
@@ -66,8 +66,8 @@ public:
     SIZE size() const;
     /// What the window shows now.
     void read(kit::Canvas& canvas) const;
-    /// Empty when the window shows the expected face; else the pixels that differ.
-    std::string differencesFrom(Face const& face) const;
+    /// Empty when the window shows the expected look; else the pixels that differ.
+    std::string differencesFrom(Look const& look) const;
     /// The same for a picture as text, for buttons small enough.
     std::string picture(kit::Letters const& letters) const;
 

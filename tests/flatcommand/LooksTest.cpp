@@ -14,15 +14,15 @@ protected:
 TEST_F(FlatLooks, normalShowsForeBackAndBorderColourAndTheCaptionAtItsIndent)
 {
     ShownButton button(library(), form);
-    Face face = normalFace();
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.setCaption(L"Plain");
-    face.caption = L"Plain";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look.caption = L"Plain";
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.setColors();
-    face = {kFore, kBack, kBorder};
-    face.caption = L"Plain";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look = {kFore, kBack, kBorder};
+    look.caption = L"Plain";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
@@ -31,20 +31,20 @@ TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
     button.setCaption(L"&Hot");
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(4).get()), S_OK);
     button.makeHot();
-    Face face = hotFace();
-    face.caption = L"&Hot";
-    face.borderWidth = 4;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = hotLook();
+    look.caption = L"&Hot";
+    look.borderWidth = 4;
+    EXPECT_EQ(button.differencesFrom(look), "");
     button->put_HotForeColor(RGB(1, 1, 1));
     button->put_HotBackColor(RGB(200, 200, 1));
     button->put_HotBorderColor(RGB(3, 200, 3));
     ASSERT_EQ(button->Refresh(), S_OK);
-    face.fore = RGB(1, 1, 1);
-    face.back = RGB(200, 200, 1);
-    face.border = RGB(3, 200, 3);
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look.fore = RGB(1, 1, 1);
+    look.back = RGB(200, 200, 1);
+    look.border = RGB(3, 200, 3);
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.leave();
-    Face normal = normalFace();
+    Look normal = normalLook();
     normal.caption = L"&Hot";
     EXPECT_EQ(button.differencesFrom(normal), "");
 }
@@ -60,14 +60,14 @@ TEST_F(FlatLooks, drawButtonDrawsTheStateThatTheLastPaintingFound)
     };
     moveTo({20, 180, 140, 220});
     EXPECT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
     EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    EXPECT_EQ(button.differencesFrom(hotLook()), "");
     moveTo(kPlace);
     EXPECT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.differencesFrom(hotFace()), "");
+    EXPECT_EQ(button.differencesFrom(hotLook()), "");
     EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
 }
 
 TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
@@ -79,19 +79,19 @@ TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
     EXPECT_EQ(button->put_PressedForeColor(RGB(1, 200, 1)), S_OK);
     EXPECT_EQ(button->put_PressedBorderColor(RGB(200, 3, 3)), S_OK);
     button.makePressed();
-    Face face = pressedFace();
-    face.caption = L"&Press";
-    face.fore = RGB(1, 200, 1);
-    face.border = RGB(200, 3, 3);
-    face.borderWidth = 3;
-    face.emphasis = 1; // the press gave it the focus
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = pressedLook();
+    look.caption = L"&Press";
+    look.fore = RGB(1, 200, 1);
+    look.border = RGB(200, 3, 3);
+    look.borderWidth = 3;
+    look.emphasis = 1; // the press gave it the focus
+    EXPECT_EQ(button.differencesFrom(look), "");
     EXPECT_EQ(button->put_PressedBackColor(RGB(5, 55, 155)), S_OK);
     ASSERT_EQ(button->Refresh(), S_OK);
-    face.back = RGB(5, 55, 155);
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look.back = RGB(5, 55, 155);
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.leave();
-    Face normal = normalFace();
+    Look normal = normalLook();
     normal.caption = L"&Press";
     normal.emphasis = 1;
     EXPECT_EQ(button.differencesFrom(normal), "");
@@ -104,11 +104,11 @@ TEST_F(FlatLooks, taskPanePressedIsTheDeepBlendWithASelectionBorderAndNoEmphasis
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_PressedBorderWidth(Variant::ofShort(2).get()), S_OK);
     button.makePressed();
-    Face face = taskPanePressedFace();
-    face.caption = L"T&ask";
-    face.borderWidth = 2;
-    face.frame = face.back == 0x808080 ? 0xE0E0E0 : 0x808080;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = taskPanePressedLook();
+    look.caption = L"T&ask";
+    look.borderWidth = 2;
+    look.frame = look.back == 0x808080 ? 0xE0E0E0 : 0x808080;
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.leave();
 }
 
@@ -120,9 +120,9 @@ TEST_F(FlatLooks, atDesignTimeAPressedStateNeverShows)
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
     ASSERT_EQ(button->DrawButton(), S_OK);
-    Face face = normalFace();
-    face.emphasis = 1;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.emphasis = 1;
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(true));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
     button.leave();
@@ -133,13 +133,13 @@ TEST_F(FlatLooks, hotBackColorSetAtRestChangesNothingUntilTheMouseEnters)
     ShownButton button(library(), form);
     EXPECT_EQ(button->put_HotBackColor(RGB(9, 99, 199)), S_OK);
     kit::pumpPending();
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
     ASSERT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
     button.makeHot();
-    Face face = hotFace();
-    face.back = RGB(9, 99, 199);
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = hotLook();
+    look.back = RGB(9, 99, 199);
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.leave();
 }
 
@@ -150,16 +150,16 @@ TEST_F(FlatLooks, disabledDiffersFromNormalByItsCaptionColourAlone)
     button.setColors();
     button.setWidth(2);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    Face face{::GetSysColor(COLOR_GRAYTEXT), kBack, kBorder};
-    face.caption = L"&Off";
-    face.borderWidth = 2;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look{::GetSysColor(COLOR_GRAYTEXT), kBack, kBorder};
+    look.caption = L"&Off";
+    look.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(look), "");
     EXPECT_EQ(button->put_DisabledForeColor(RGB(250, 1, 2)), S_OK);
-    face.fore = RGB(250, 1, 2);
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look.fore = RGB(250, 1, 2);
+    EXPECT_EQ(button.differencesFrom(look), "");
     EXPECT_EQ(button->put_Enabled(VARIANT_TRUE), S_OK);
-    face.fore = kFore;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    look.fore = kFore;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, disabledStaysDisabledUnderTheCursor)
@@ -167,7 +167,7 @@ TEST_F(FlatLooks, disabledStaysDisabledUnderTheCursor)
     ShownButton button(library(), form);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     button.makeHot();
-    EXPECT_EQ(button.differencesFrom(disabledFace()), "");
+    EXPECT_EQ(button.differencesFrom(disabledLook()), "");
     button.leave();
 }
 
@@ -178,10 +178,10 @@ TEST_F(FlatLooks, taskPaneAtRestIsTextOnFaceInShadowWhateverTheColourProperties)
     button.setWidth(2);
     button.setCaption(L"T&ask");
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
-    Face face = taskPaneNormalFace();
-    face.caption = L"T&ask";
-    face.borderWidth = 2;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = taskPaneNormalLook();
+    look.caption = L"T&ask";
+    look.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, taskPaneHotIsABlendWithASelectionBorder)
@@ -192,10 +192,10 @@ TEST_F(FlatLooks, taskPaneHotIsABlendWithASelectionBorder)
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
     button.makeHot();
-    Face face = taskPaneHotFace();
-    face.caption = L"T&ask";
-    face.borderWidth = 2;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = taskPaneHotLook();
+    look.caption = L"T&ask";
+    look.borderWidth = 2;
+    EXPECT_EQ(button.differencesFrom(look), "");
     button.leave();
 }
 
@@ -206,9 +206,9 @@ TEST_F(FlatLooks, taskPaneDisabledIsShadowOnFaceInShadow)
     button.setCaption(L"T&ask");
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    Face face = taskPaneDisabledFace();
-    face.caption = L"T&ask";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = taskPaneDisabledLook();
+    look.caption = L"T&ask";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 // The worked examples of the blend, so that the expectation above is itself checked.
@@ -231,12 +231,12 @@ TEST_F(FlatLooks, borderStyle0HasNoBorderOfAnyWidthAndTheCaptionAtItsIndent)
     button.setCaption(L"&Bare");
     EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
     button.setWidth(5);
-    Face face{kFore, kBack, kBorder};
-    face.caption = L"&Bare";
-    face.bordered = false;
-    face.borderWidth = 5;
-    EXPECT_EQ(button.differencesFrom(face), "");
-    EXPECT_EQ(captionPlace(face, button.size(), *button.font().get()).x, 4);
+    Look look{kFore, kBack, kBorder};
+    look.caption = L"&Bare";
+    look.bordered = false;
+    look.borderWidth = 5;
+    EXPECT_EQ(button.differencesFrom(look), "");
+    EXPECT_EQ(captionPlace(look, button.size(), *button.font().get()).x, 4);
 }
 
 TEST_F(FlatLooks, borderStyle0WithTheFocusHasTheFrameAloneTwoPixelsFromTheEdge)
@@ -246,20 +246,20 @@ TEST_F(FlatLooks, borderStyle0WithTheFocusHasTheFrameAloneTwoPixelsFromTheEdge)
     EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
     ASSERT_EQ(button->Refresh(), S_OK);
-    Face face = normalFace();
-    face.caption = L"&Bare";
-    face.bordered = false;
-    face.frame = 0x808080;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"&Bare";
+    look.bordered = false;
+    look.frame = 0x808080;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, anUnknownBorderStyleDrawsNoBorder)
 {
     ShownButton button(library(), form);
     EXPECT_EQ(button->put_BorderStyle(static_cast<pdsButtonBorderStyleConstants>(2)), S_OK);
-    Face face = normalFace();
-    face.bordered = false;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.bordered = false;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, aColourThatCannotBeTranslatedIsUsedAsStored)
@@ -276,13 +276,13 @@ TEST_F(FlatLooks, atDesignTimeAHotStateNeverShows)
 {
     ShownButton button(library(), form);
     button.makeHot();
-    ASSERT_EQ(button.differencesFrom(hotFace()), "");
+    ASSERT_EQ(button.differencesFrom(hotLook()), "");
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
     ASSERT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
     ASSERT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
     button.leave();
 }
 
@@ -293,9 +293,9 @@ TEST_F(FlatLooks, atDesignTimeADisabledControlIsDrawnDisabled)
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button->DrawButton(), S_OK);
-    Face face = disabledFace();
-    face.caption = L"&Off";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = disabledLook();
+    look.caption = L"&Off";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
@@ -306,9 +306,9 @@ TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
     ASSERT_EQ(button->Refresh(), S_OK);
-    Face face = normalFace();
-    face.caption = L"&Off";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"&Off";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 } // namespace

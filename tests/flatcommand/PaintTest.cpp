@@ -50,11 +50,11 @@ TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
 {
     std::string found = "no event";
     button.events().action = [&](kit::EventRecorder::Event const& event) {
-        Face face = normalFace();
-        face.back = RGB(7, 8, 9);
-        face.caption = L"Seen";
+        Look look = normalLook();
+        look.back = RGB(7, 8, 9);
+        look.caption = L"Seen";
         if (event.id == kPaint)
-            found = button.differencesFrom(face);
+            found = button.differencesFrom(look);
     };
     EXPECT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
     button.setCaption(L"Seen");
@@ -79,9 +79,9 @@ TEST_F(FlatPaint, putsBackWhatAnotherWindowPaintedOver)
     }
     ::InvalidateRect(button.window(), nullptr, FALSE);
     kit::pumpPending();
-    Face face = normalFace();
-    face.caption = L"&Back";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"&Back";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatPaint, fillsANewSizeToItsEdges)
@@ -92,7 +92,7 @@ TEST_F(FlatPaint, fillsANewSizeToItsEdges)
     kit::pumpPending();
     EXPECT_EQ(button.size().cx, 200);
     EXPECT_EQ(button.size().cy, 100);
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
 }
 
 TEST_F(FlatPaint, ofAButtonWithoutAnyPixelsIsHarmless)
@@ -123,9 +123,9 @@ TEST_F(FlatPaint, mayAssignAPropertyAgainWithoutHangingUp)
     EXPECT_EQ(button->Refresh(), S_OK);
     button.events().action = nullptr;
     EXPECT_EQ(rounds, 4);
-    Face face = normalFace();
-    face.back = 3;
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.back = 3;
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatPaint, isNotRaisedAtDesignTime)
@@ -137,7 +137,7 @@ TEST_F(FlatPaint, isNotRaisedAtDesignTime)
     ::InvalidateRect(button.window(), nullptr, TRUE);
     kit::pumpPending();
     EXPECT_TRUE(button.events().ids().empty());
-    EXPECT_EQ(button.differencesFrom(normalFace()), "");
+    EXPECT_EQ(button.differencesFrom(normalLook()), "");
 }
 
 using Calls = std::vector<std::string>;
@@ -147,14 +147,14 @@ class FlatPaintCalls : public FlatTest {
 protected:
     kit::FakeForm form;
     ShownButton button{library(), form};
-    Face face{kFore, kBack, kBorder};
+    Look look{kFore, kBack, kBorder};
 
     void SetUp() override
     {
         FlatTest::SetUp();
         button.setColors();
         button.setCaption(L"Sa&ve");
-        face.caption = L"Sa&ve";
+        look.caption = L"Sa&ve";
     }
     /// What the component asks GDI for while it draws.
     Calls drawnBy(void (*draw)(FlatButton&))
@@ -177,7 +177,7 @@ protected:
         EXPECT_THAT(calls, testing::ElementsAre(
                                "CreateCompatibleDC ? -> dc1", "CreateCompatibleBitmap ? 120 40 -> bitmap1",
                                "BitBlt ? 0 0 120 40 dc1 0 0 cc0020", "DeleteObject bitmap1"));
-        EXPECT_EQ(button.differencesFrom(face), "");
+        EXPECT_EQ(button.differencesFrom(look), "");
     }
 };
 
@@ -186,17 +186,17 @@ TEST_F(FlatPaintCalls, atRestAreBorderFaceAndCaptionOnTheSurfaceAndOneCopy) { ex
 TEST_F(FlatPaintCalls, withTheFocusHaveTheFrameBetweenFaceAndCaptionWhichDoesNotMove)
 {
     ASSERT_TRUE(kit::focus(button.window()));
-    face.emphasis = 1;
-    face.frame = 0x808080;
+    look.emphasis = 1;
+    look.frame = 0x808080;
     expectComposed();
 }
 
-TEST_F(FlatPaintCalls, withoutABorderBeginWithTheFace)
+TEST_F(FlatPaintCalls, withoutABorderBeginWithTheLook)
 {
     EXPECT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
     button.setCaption(L"Plain");
-    face.bordered = false;
-    face.caption = L"Plain";
+    look.bordered = false;
+    look.caption = L"Plain";
     expectComposed();
 }
 

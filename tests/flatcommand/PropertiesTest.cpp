@@ -6,6 +6,8 @@
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
 
+#include <algorithm>
+
 namespace quillet::flat {
 namespace {
 
@@ -59,6 +61,15 @@ Row<Style> const kStyles[] = {
     {QV_PROPERTY(BorderStyle), Style::Fixed, Style::None, Repaints::Yes},
 };
 
+/// Those of truth last: a button that is not enabled any more looks otherwise.
+template <class Use> void forEachRow(Use const& use)
+{
+    std::ranges::for_each(kColors, use);
+    std::ranges::for_each(kShorts, use);
+    std::ranges::for_each(kStyles, use);
+    std::ranges::for_each(kBooleans, use);
+}
+
 class FlatProperties : public FlatTest {
 protected:
     kit::FakeForm form;
@@ -96,14 +107,7 @@ TEST_F(FlatProperties, ofANewInstanceHaveTheirInitialValues)
     FlatButton button(library(), form);
     button.setSite();
     ASSERT_EQ(button.initNew(), S_OK);
-    for (auto const& row : kColors)
-        checkInitial(button, row);
-    for (auto const& row : kBooleans)
-        checkInitial(button, row);
-    for (auto const& row : kShorts)
-        checkInitial(button, row);
-    for (auto const& row : kStyles)
-        checkInitial(button, row);
+    forEachRow([&](auto const& row) { checkInitial(button, row); });
     EXPECT_EQ(button.caption(), L"Button1");
     Bstr tip(L"poison");
     EXPECT_EQ(button->get_ToolTipText(tip.put()), S_OK);
@@ -117,14 +121,7 @@ TEST_F(FlatProperties, ofANewInstanceHaveTheirInitialValues)
 TEST_F(FlatProperties, haveTheirInitialValuesAlreadyBeforeAnybodyInitialises)
 {
     FlatButton button(library(), form);
-    for (auto const& row : kColors)
-        checkInitial(button, row);
-    for (auto const& row : kBooleans)
-        checkInitial(button, row);
-    for (auto const& row : kShorts)
-        checkInitial(button, row);
-    for (auto const& row : kStyles)
-        checkInitial(button, row);
+    forEachRow([&](auto const& row) { checkInitial(button, row); });
     EXPECT_TRUE(button.font());
 }
 
@@ -132,14 +129,7 @@ TEST_F(FlatProperties, assignedKeepTheValueTellTheContainerAndRepaintOnlyForTheR
 {
     FlatButton button(library(), form);
     button.start();
-    for (auto const& row : kColors)
-        checkAssigned(button, row);
-    for (auto const& row : kShorts)
-        checkAssigned(button, row);
-    for (auto const& row : kStyles)
-        checkAssigned(button, row);
-    for (auto const& row : kBooleans)
-        checkAssigned(button, row);
+    forEachRow([&](auto const& row) { checkAssigned(button, row); });
 }
 
 TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
@@ -177,14 +167,7 @@ TEST_F(FlatProperties, readIntoNowhereAreRefused)
 {
     FlatButton button(library(), form);
     button.setSite();
-    for (auto const& row : kColors)
-        checkNullRefused(button, row);
-    for (auto const& row : kBooleans)
-        checkNullRefused(button, row);
-    for (auto const& row : kShorts)
-        checkNullRefused(button, row);
-    for (auto const& row : kStyles)
-        checkNullRefused(button, row);
+    forEachRow([&](auto const& row) { checkNullRefused(button, row); });
     EXPECT_EQ(button->get_Caption(nullptr), E_POINTER);
     EXPECT_EQ(button->get_ToolTipText(nullptr), E_POINTER);
     EXPECT_EQ(button->get_Font(nullptr), E_POINTER);

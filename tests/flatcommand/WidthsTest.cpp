@@ -218,7 +218,7 @@ protected:
     kit::FakeForm form;
 };
 
-TEST_F(FlatRings, normalIsABorderOfOnePixelRoundTheFace)
+TEST_F(FlatRings, normalIsABorderOfOnePixelRoundTheLook)
 {
     ShownButton button(library(), form, kSmall);
     button.setColors();
@@ -306,9 +306,9 @@ TEST_F(FlatRings, extremeWidthsAndIndentsEndThePaintSilently)
     EXPECT_EQ(button.events().count(kPaint), paints);
     button.setWidth(1);
     EXPECT_EQ(button->put_CaptionIndent(4), S_OK);
-    Face face = normalFace();
-    face.caption = L"&Far";
-    EXPECT_EQ(button.differencesFrom(face), "");
+    Look look = normalLook();
+    look.caption = L"&Far";
+    EXPECT_EQ(button.differencesFrom(look), "");
 }
 
 TEST_F(FlatRings, aBorderWiderThanTheButtonIsAllBorder)

@@ -1,5 +1,5 @@
 // Which image button is emphasised: the one with the focus, or else the form's default button.
-#include "Face.h"
+#include "Look.h"
 #include "kit/Input.h"
 #include "kit/MessageWatch.h"
 #include "kit/Pump.h"
@@ -39,10 +39,10 @@ protected:
     std::string shows(bool emphasis)
     {
         EXPECT_EQ(button->DrawButton(), S_OK);
-        Face face{kFore, kBack, kLight, kDark, emphasis ? 2 : 1};
-        face.caption = L"&Default";
-        face.captionLeft = face.border + 4;
-        return differencesFrom(button, face);
+        Look look{kFore, kBack, kLight, kDark, emphasis ? 2 : 1};
+        look.caption = L"&Default";
+        look.captionLeft = look.border + 4;
+        return differencesFrom(button, look);
     }
     void checkSibling(CLSID const& classId, bool emphasis)
     {
@@ -72,15 +72,15 @@ TEST_P(ImageEmphasis, theFocusedButtonHasItAndItShowsWhenTheFocusComesAndGoes)
     button.site().extender().offer(L"Default", Variant::ofBool(false));
     ASSERT_TRUE(kit::focus(button.window()));
     kit::pumpPending();
-    Face face{kFore, kBack, kLight, kDark, 2};
-    face.caption = L"&Default";
-    face.captionLeft = 2 + 4;
-    EXPECT_EQ(differencesFrom(button, face), "") << "the focus repaints";
+    Look look{kFore, kBack, kLight, kDark, 2};
+    look.caption = L"&Default";
+    look.captionLeft = 2 + 4;
+    EXPECT_EQ(differencesFrom(button, look), "") << "the focus repaints";
     ASSERT_TRUE(kit::focus(edit.get()));
     kit::pumpPending();
-    face.border = 1;
-    face.captionLeft = 1 + 4;
-    EXPECT_EQ(differencesFrom(button, face), "") << "and its loss, too";
+    look.border = 1;
+    look.captionLeft = 1 + 4;
+    EXPECT_EQ(differencesFrom(button, look), "") << "and its loss, too";
 }
 
 TEST_P(ImageEmphasis, theFocusedButtonKeepsItWhateverMessagesSay)
@@ -111,13 +111,13 @@ TEST_P(ImageEmphasis, isGoneWithTheFocusWhoeverSwallowedTheMessage)
 TEST_P(ImageEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
 {
     button.site().extender().offer(L"Default", Variant::ofBool(false));
-    Face face{kFore, kBack, kLight, kDark, 2};
-    face.caption = L"&Default";
-    face.captionLeft = 2 + 4; // inside the border as drawn
+    Look look{kFore, kBack, kLight, kDark, 2};
+    look.caption = L"&Default";
+    look.captionLeft = 2 + 4; // inside the border as drawn
     int paints = 0;
     button.events().action = [&](auto const& event) {
         if (event.id == kPaint && ++paints == 1) {
-            EXPECT_EQ(differencesFrom(button, face), "");
+            EXPECT_EQ(differencesFrom(button, look), "");
         }
     };
     ASSERT_TRUE(kit::focus(button.window()));
@@ -195,16 +195,16 @@ TEST_P(ImageEmphasis, isTheSameInTheTaskPaneLookAndChangesNoColour)
 {
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     COLORREF const edge = ::GetSysColor(kind().isTool ? COLOR_BTNFACE : COLOR_BTNSHADOW);
-    Face face{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 2};
-    face.caption = L"&Default";
-    face.captionLeft = 2 + 4;
-    EXPECT_EQ(differencesFrom(button, face), "");
+    Look look{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 2};
+    look.caption = L"&Default";
+    look.captionLeft = 2 + 4;
+    EXPECT_EQ(differencesFrom(button, look), "");
     button.makeHot();
     COLORREF const selection = ::GetSysColor(COLOR_HIGHLIGHT);
-    face = {::GetSysColor(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 2};
-    face.caption = L"&Default";
-    face.captionLeft = 2 + 4;
-    EXPECT_EQ(differencesFrom(button, face), "");
+    look = {::GetSysColor(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 2};
+    look.caption = L"&Default";
+    look.captionLeft = 2 + 4;
+    EXPECT_EQ(differencesFrom(button, look), "");
 }
 
 TEST_P(ImageEmphasis, needsABorder)
@@ -212,23 +212,23 @@ TEST_P(ImageEmphasis, needsABorder)
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    Face face{kFore, kBack, kLight, kDark, 0};
-    face.caption = L"&Default";
-    face.captionLeft = 3 + 4; // the look's border counts, drawn or not
-    EXPECT_EQ(differencesFrom(button, face), "");
+    Look look{kFore, kBack, kLight, kDark, 0};
+    look.caption = L"&Default";
+    look.captionLeft = 3 + 4; // the look's border counts, drawn or not
+    EXPECT_EQ(differencesFrom(button, look), "");
 }
 
 TEST_P(ImageEmphasis, movesNoCentredCaptionAndNoneBesideAPicture)
 {
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
-    Face face{kFore, kBack, kLight, kDark, 2};
-    face.caption = L"&Default";
-    face.captionLeft = 1 + 4 + kImage.width + 1; // by the border without its emphasis, like the picture
-    face.shown = Shown{kImage, 1 + 4, (40 - kImage.height) / 2};
-    EXPECT_EQ(differencesFrom(button, face), "");
+    Look look{kFore, kBack, kLight, kDark, 2};
+    look.caption = L"&Default";
+    look.captionLeft = 1 + 4 + kImage.width + 1; // by the border without its emphasis, like the picture
+    look.shown = Shown{kImage, 1 + 4, (40 - kImage.height) / 2};
+    EXPECT_EQ(differencesFrom(button, look), "");
     ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    face.centred = true;
-    EXPECT_EQ(differencesFrom(button, face), "");
+    look.centred = true;
+    EXPECT_EQ(differencesFrom(button, look), "");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // Image buttons in other hosts: the system's own, which has no ambient properties, and a form in design mode.
-#include "Face.h"
+#include "Look.h"
 #include "Mouse.h"
 #include "Pictures.h"
 #include "kit/ByName.h"
@@ -92,7 +92,7 @@ protected:
         button.load();
         button.forget();
     }
-    Face resting() const
+    Look resting() const
     {
         COLORREF const edge = ::GetSysColor(kind().isTool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW);
         return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge};
@@ -134,9 +134,9 @@ TEST_P(ImageDesign, showsADisabledButtonAtRest)
 {
     button.setCaption(L"&Off");
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    Face face = resting();
-    face.caption = L"&Off";
-    EXPECT_EQ(differencesFrom(button, face), "");
+    Look look = resting();
+    look.caption = L"&Off";
+    EXPECT_EQ(differencesFrom(button, look), "");
 }
 
 TEST_P(ImageDesign, paintsWhenItIsShownAndWhenItsSizeChanges)

@@ -1,5 +1,5 @@
 // The looks of both classes, pixel by pixel, in the user's colours and in the task-pane scheme.
-#include "Face.h"
+#include "Look.h"
 #include "kit/ByName.h"
 #include "kit/Canvas.h"
 #include "kit/Fonts.h"
@@ -68,20 +68,20 @@ protected:
         button.makeCheckButton();
         EXPECT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
     }
-    static Face face(COLORREF fore, COLORREF back, COLORREF light, COLORREF dark, int border = 1)
+    static Look look(COLORREF fore, COLORREF back, COLORREF light, COLORREF dark, int border = 1)
     {
-        Face result{fore, back, light, dark, border};
+        Look result{fore, back, light, dark, border};
         result.caption = L"&Look";
         result.captionLeft = border + 4;
         return result;
     }
-    void expect(Face const& expected) { EXPECT_EQ(differencesFrom(button, expected), ""); }
+    void expect(Look const& expected) { EXPECT_EQ(differencesFrom(button, expected), ""); }
     /// Pressed, the button has the focus: its border is one pixel wider and its caption stands further in.
-    static Face focused(Face face)
+    static Look focused(Look look)
     {
-        ++face.border;
-        ++face.captionLeft;
-        return face;
+        ++look.border;
+        ++look.captionLeft;
+        return look;
     }
 };
 QV_BOTH_CLASSES(ImageLooks);
@@ -90,66 +90,66 @@ TEST_P(ImageLooks, ofANewButtonAreThoseOfItsClass)
 {
     bool const tool = kind().isTool;
     int const edge = tool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW;
-    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
+    expect(look(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
     button.makeHot();
-    expect(tool ? face(desktop(COLOR_HIGHLIGHT), desktop(COLOR_BTNFACE), desktop(COLOR_BTNHIGHLIGHT),
+    expect(tool ? look(desktop(COLOR_HIGHLIGHT), desktop(COLOR_BTNFACE), desktop(COLOR_BTNHIGHLIGHT),
                        desktop(COLOR_BTNSHADOW))
-                : face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW), desktop(COLOR_3DDKSHADOW),
+                : look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW), desktop(COLOR_3DDKSHADOW),
                        desktop(COLOR_3DDKSHADOW)));
     button.makePressed();
-    expect(focused(tool ? face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DLIGHT),
+    expect(focused(tool ? look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DLIGHT),
                                desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW))
-                        : face(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DDKSHADOW),
+                        : look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DDKSHADOW),
                                desktop(COLOR_3DDKSHADOW), desktop(COLOR_3DDKSHADOW))));
     button.leave();
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(desktop(COLOR_GRAYTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
+    expect(look(desktop(COLOR_GRAYTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
 }
 
 TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
 {
     setColors();
     setWidths(2, 3, 4);
-    expect(face(kFore, kBack, kLight, kDark, 2));
+    expect(look(kFore, kBack, kLight, kDark, 2));
     button.makeHot();
-    expect(face(kHotFore, kHotBack, kHotLight, kHotDark, 3));
+    expect(look(kHotFore, kHotBack, kHotLight, kHotDark, 3));
     button.makePressed();
-    expect(focused(face(kPressedFore, kPressedBack, kPressedLight, kPressedDark, 4)));
+    expect(focused(look(kPressedFore, kPressedBack, kPressedLight, kPressedDark, 4)));
     button.leave();
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(kDisabledFore, kBack, kLight, kDark, 2));
+    expect(look(kDisabledFore, kBack, kLight, kDark, 2));
     button.makeHot();
-    expect(face(kDisabledFore, kBack, kLight, kDark, 2));
+    expect(look(kDisabledFore, kBack, kLight, kDark, 2));
 }
 
-TEST_P(ImageLooks, checkedTakeTheCheckedBordersAndAtRestTheCheckedFace)
+TEST_P(ImageLooks, checkedTakeTheCheckedBordersAndAtRestTheCheckedLook)
 {
     setColors();
     check();
-    expect(face(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
+    expect(look(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
     button.makeHot();
-    expect(face(kHotFore, kHotBack, kCheckedLight, kCheckedDark));
+    expect(look(kHotFore, kHotBack, kCheckedLight, kCheckedDark));
     button.makePressed();
-    expect(focused(face(kPressedFore, kPressedBack, kCheckedLight, kCheckedDark)));
+    expect(focused(look(kPressedFore, kPressedBack, kCheckedLight, kCheckedDark)));
     button.leave(); // released over it: not checked any more
     ASSERT_FALSE(button.isChecked());
-    expect(focused(face(kFore, kBack, kLight, kDark)));
+    expect(focused(look(kFore, kBack, kLight, kDark)));
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(kDisabledFore, kBack, kCheckedLight, kCheckedDark));
+    expect(look(kDisabledFore, kBack, kCheckedLight, kCheckedDark));
 }
 
 TEST_P(ImageLooks, needBothFlagsToBeChecked)
 {
     setColors();
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
-    expect(face(kFore, kBack, kLight, kDark));
+    expect(look(kFore, kBack, kLight, kDark));
     ASSERT_EQ(button->put_Checked(VARIANT_FALSE), S_OK);
     button.makeCheckButton();
-    expect(face(kFore, kBack, kLight, kDark));
+    expect(look(kFore, kBack, kLight, kDark));
 }
 
 TEST_P(ImageLooks, ofATaskPaneButtonAreTheDesktopsWhateverItsColours)
@@ -160,15 +160,15 @@ TEST_P(ImageLooks, ofATaskPaneButtonAreTheDesktopsWhateverItsColours)
     COLORREF const selection = desktop(COLOR_HIGHLIGHT);
     // A resting tool button shows no border at all at run time.
     COLORREF const resting = kind().isTool ? desktop(COLOR_BTNFACE) : desktop(COLOR_BTNSHADOW);
-    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), resting, resting, 2));
+    expect(look(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), resting, resting, 2));
     button.makeHot();
-    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 3));
+    expect(look(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection, 3));
     button.makePressed();
-    expect(focused(face(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    expect(focused(look(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave();
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), desktop(COLOR_BTNSHADOW),
+    expect(look(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), desktop(COLOR_BTNSHADOW),
                 desktop(COLOR_BTNSHADOW), 2));
 }
 
@@ -177,7 +177,7 @@ TEST_P(ImageLooks, ofARestingTaskPaneToolButtonHaveABorderInItsBackColour)
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     ASSERT_EQ(button->put_BackColor(kBack), S_OK);
     COLORREF const edge = kind().isTool ? kBack : desktop(COLOR_BTNSHADOW);
-    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
+    expect(look(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
 }
 
 TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
@@ -186,7 +186,7 @@ TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
     button.setUserMode(false);
     button.repaint();
     COLORREF const edge = kind().isTool ? desktop(COLOR_HIGHLIGHT) : desktop(COLOR_BTNSHADOW);
-    expect(face(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
+    expect(look(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), edge, edge));
 }
 
 TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
@@ -194,16 +194,16 @@ TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
     check();
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     COLORREF const selection = desktop(COLOR_HIGHLIGHT);
-    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    expect(look(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makeHot();
-    expect(face(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
+    expect(look(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
     button.makePressed();
-    expect(focused(face(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
+    expect(focused(look(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave(); // released over it: not checked any more
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
     ASSERT_TRUE(kit::focus(edit.get()));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), selection, selection));
+    expect(look(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), selection, selection));
 }
 
 TEST_P(ImageLooks, withoutABorderKeepItsWidthForTheCaption)
@@ -211,11 +211,11 @@ TEST_P(ImageLooks, withoutABorderKeepItsWidthForTheCaption)
     setColors();
     setWidths(5, 7, 1);
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
-    Face bare = face(kFore, kBack, kLight, kDark, 0);
+    Look bare = look(kFore, kBack, kLight, kDark, 0);
     bare.captionLeft = 5 + 4;
     expect(bare);
     button.makeHot();
-    bare = face(kHotFore, kHotBack, kHotLight, kHotDark, 0);
+    bare = look(kHotFore, kHotBack, kHotLight, kHotDark, 0);
     bare.captionLeft = 7 + 4;
     expect(bare);
 }
@@ -224,7 +224,7 @@ TEST_P(ImageLooks, ofASunkenStyleHaveNoBorder)
 {
     setColors();
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
-    Face bare = face(kFore, kBack, kLight, kDark, 0);
+    Look bare = look(kFore, kBack, kLight, kDark, 0);
     bare.captionLeft = 1 + 4;
     expect(bare);
 }
@@ -234,14 +234,14 @@ TEST_P(ImageLooks, startTheCaptionAtItsIndentOrCentreIt)
     setColors();
     for (short const indent : std::initializer_list<short>{0, 30, -3}) {
         ASSERT_EQ(button->put_CaptionIndent(indent), S_OK);
-        Face expected = face(kFore, kBack, kLight, kDark);
+        Look expected = look(kFore, kBack, kLight, kDark);
         expected.captionLeft = 1 + indent;
         expect(expected);
     }
     ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
     for (wchar_t const* const text : {L"Ce&ntre", L"i", L"&mm", L"And && and", L""}) {
         button.setCaption(text);
-        Face expected = face(kFore, kBack, kLight, kDark);
+        Look expected = look(kFore, kBack, kLight, kDark);
         expected.caption = text;
         expected.centred = true;
         expect(expected);
@@ -253,7 +253,7 @@ TEST_P(ImageLooks, cutACaptionThatIsTooLongAtTheBorder)
     setColors();
     setWidths(3, 1, 1);
     button.setCaption(L"A rather &long caption that goes on and on");
-    Face expected = face(kFore, kBack, kLight, kDark, 3);
+    Look expected = look(kFore, kBack, kLight, kDark, 3);
     expected.caption = button.caption();
     expect(expected);
 }
@@ -276,7 +276,7 @@ TEST_P(ImageLooks, doNotChangeWithPropertiesThatAreOnlyStored)
 {
     setColors();
     check();
-    Face const before = face(kFore, kCheckedBack, kCheckedLight, kCheckedDark);
+    Look const before = look(kFore, kCheckedBack, kCheckedLight, kCheckedDark);
     expect(before);
     for (wchar_t const* const name :
          {L"CheckedForeColor", L"DisabledDarkBorderColor", L"DisabledLightBorderColor"}) {
@@ -296,12 +296,12 @@ TEST_P(ImageLooks, doNotChangeWithPropertiesThatAreOnlyStored)
 TEST_P(ImageLooks, ofHotAndPressedPropertiesWaitForTheirState)
 {
     setColors();
-    Face const resting = face(kFore, kBack, kLight, kDark);
+    Look const resting = look(kFore, kBack, kLight, kDark);
     button->put_HotBackColor(RGB(9, 99, 199));
     button.repaint();
     expect(resting);
     button.makeHot();
-    expect(face(kHotFore, RGB(9, 99, 199), kHotLight, kHotDark));
+    expect(look(kHotFore, RGB(9, 99, 199), kHotLight, kHotDark));
 }
 
 TEST_P(ImageLooks, doNotGoByTheFontForCheckedButtons)
@@ -311,7 +311,7 @@ TEST_P(ImageLooks, doNotGoByTheFontForCheckedButtons)
     auto const large = kit::newFont(L"Tahoma", 20, true);
     ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
     button.repaint();
-    expect(face(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
+    expect(look(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
 }
 
 TEST_P(ImageLooks, whileNotActiveAreTheNormalOneUnderTheCursorAndDisabled)
@@ -319,9 +319,9 @@ TEST_P(ImageLooks, whileNotActiveAreTheNormalOneUnderTheCursorAndDisabled)
     setColors();
     ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
     button.makeHot();
-    expect(face(kFore, kBack, kLight, kDark));
+    expect(look(kFore, kBack, kLight, kDark));
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(face(kFore, kBack, kLight, kDark));
+    expect(look(kFore, kBack, kLight, kDark));
 }
 
 TEST_P(ImageLooks, ofAPressedButtonThatIsDisabledAndEnabledAgainAreNotPressed)
@@ -342,9 +342,9 @@ TEST_P(ImageLooks, areDecidedByAPaintAndNotByTheHostsCallOfDrawButton)
     button.makeHot();
     ::SetCursorPos(0, 0); // the message of the move waits
     ASSERT_EQ(button->DrawButton(), S_OK);
-    expect(face(kHotFore, kHotBack, kHotLight, kHotDark));
+    expect(look(kHotFore, kHotBack, kHotLight, kHotDark));
     ASSERT_EQ(button->put_LightBorderColor(kLight), S_OK);
-    expect(face(kFore, kBack, kLight, kDark));
+    expect(look(kFore, kBack, kLight, kDark));
 }
 
 TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
@@ -353,7 +353,7 @@ TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     std::string found = "no event";
     button.events().action = [&](auto const&) {
-        Face expected = face(kFore, RGB(7, 8, 9), kLight, kDark);
+        Look expected = look(kFore, RGB(7, 8, 9), kLight, kDark);
         expected.shown = Shown{kImage, 5, middle(button.size().cy, kImage.height)};
         expected.captionLeft = 5 + kImage.width + 1;
         found = differencesFrom(button, expected);
@@ -374,10 +374,10 @@ TEST_P(ImageLooks, areTheSameInAViewOfTheControl)
     ASSERT_EQ(button.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, shown.dc(),
                                              &bounds, nullptr, nullptr, 0),
               S_OK);
-    Face face = this->face(kFore, kBack, kLight, kDark);
-    face.shown = Shown{kImage, 5, middle(size.cy, kImage.height)};
-    face.captionLeft = 5 + kImage.width + 1;
-    paint(expected, face, *button.font().get());
+    Look look = this->look(kFore, kBack, kLight, kDark);
+    look.shown = Shown{kImage, 5, middle(size.cy, kImage.height)};
+    look.captionLeft = 5 + kImage.width + 1;
+    paint(expected, look, *button.font().get());
     EXPECT_EQ(kit::differences(expected, shown), "");
 }
 

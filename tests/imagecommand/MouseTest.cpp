@@ -243,7 +243,7 @@ TEST_P(ImageClick, ofTheOtherButtonsInQuickSuccessionIsAllMouseDownAndMouseUp)
         }
 }
 
-constexpr COLORREF kHotFace = RGB(23, 45, 67);
+constexpr COLORREF kHotLook = RGB(23, 45, 67);
 constexpr POINT kOnTheFace{60, 20}; // where nothing is drawn but the face
 
 class ImageLostCapture : public ImageInputTest {
@@ -251,13 +251,13 @@ protected:
     void SetUp() override
     {
         ImageInputTest::SetUp();
-        ASSERT_EQ(button()->put_HotBackColor(kHotFace), S_OK);
+        ASSERT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
         button().moveTo(kInside);
     }
     bool isHot()
     {
         WindowDc const dc(button().window());
-        return ::GetPixel(dc.get(), kOnTheFace.x, kOnTheFace.y) == kHotFace;
+        return ::GetPixel(dc.get(), kOnTheFace.x, kOnTheFace.y) == kHotLook;
     }
 };
 QV_BOTH_HOSTS(ImageLostCapture);

@@ -1,5 +1,5 @@
 // Which of its pictures a button shows, and what of a picture is seen through.
-#include "Face.h"
+#include "Look.h"
 #include "kit/ByName.h"
 #include "kit/Fonts.h"
 #include "kit/Input.h"

@@ -1,5 +1,5 @@
 // Where picture and caption stand, to the pixel, and how far they move while a button is pressed or checked.
-#include "Face.h"
+#include "Look.h"
 #include "kit/ByName.h"
 #include "kit/Errors.h"
 #include "kit/Fonts.h"
@@ -39,11 +39,11 @@ protected:
             S_OK);
         kit::pumpPending();
     }
-    Face face(int border = 1) const { return {kFore, kBack, kLight, kDark, border}; }
+    Look look(int border = 1) const { return {kFore, kBack, kLight, kDark, border}; }
     /// The picture stands there, and the caption, if there is one, beside it.
     void expectAt(int left, int top, Plain const& picture = kImage, int border = 1)
     {
-        Face expected = face(border);
+        Look expected = look(border);
         expected.caption = button.caption();
         expected.captionLeft = left + picture.width + kGap;
         expected.shown = Shown{picture, left, top};
@@ -131,7 +131,7 @@ TEST_P(ImagePicturePlace, leavesACentredCaptionWhereItIs)
 {
     setCaption(L"&Go");
     ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Face expected = face();
+    Look expected = look();
     expected.caption = L"&Go";
     expected.centred = true;
     expected.shown = Shown{kImage, 1 + kMargin, 14};
@@ -142,7 +142,7 @@ TEST_P(ImagePicturePlace, liesOverTheCaption)
 {
     setCaption(L"MMMMMMMMMMMMMMMMMMMMMMMM");
     ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Face expected = face();
+    Look expected = look();
     expected.caption = button.caption();
     expected.centred = true;
     expected.shown = Shown{kImage, 1 + kMargin, 14};
@@ -179,7 +179,7 @@ TEST_P(ImagePicturePlace, movesTheCaptionOfAButtonThatHasAPictureInOneLookOnly)
     for (auto const put : {&_qvImageCommand::put_DarkBorderColor, &_qvImageCommand::put_HotDarkBorderColor})
         (bare.dual()->*put)(kDark);
     bare.setCaption(L"&Open");
-    Face expected = face();
+    Look expected = look();
     expected.caption = L"&Open";
     expected.captionLeft = 1 + 7;
     EXPECT_EQ(differencesFrom(bare, expected), "");
@@ -262,14 +262,14 @@ protected:
     }
     void expectMoved(int pixels)
     {
-        Face face{kFore, kBack, kLight, kDark, ::GetFocus() == button.window() ? 2 : 1};
-        face.caption = button.caption();
-        bool const named = !face.caption.empty();
+        Look look{kFore, kBack, kLight, kDark, ::GetFocus() == button.window() ? 2 : 1};
+        look.caption = button.caption();
+        bool const named = !look.caption.empty();
         int const left = named ? 5 : (120 - kImage.width) / 2;
-        face.shown = Shown{kImage, left + pixels, (40 - kImage.height) / 2 + pixels};
-        face.captionLeft = left + kImage.width + 1;
-        face.offset = pixels;
-        EXPECT_EQ(differencesFrom(button, face), "");
+        look.shown = Shown{kImage, left + pixels, (40 - kImage.height) / 2 + pixels};
+        look.captionLeft = left + kImage.width + 1;
+        look.offset = pixels;
+        EXPECT_EQ(differencesFrom(button, look), "");
     }
 };
 QV_BOTH_CLASSES(ImageOffset);
@@ -348,13 +348,13 @@ TEST_P(ImageOffset, movesACentredCaptionAndOneWithoutPicture)
     bare->put_CheckedLightBorderColor(kLight);
     bare->put_CheckedDarkBorderColor(kDark);
     bare.setCaption(L"&Down");
-    Face face{kFore, kBack, kLight, kDark};
-    face.caption = L"&Down";
-    face.offset = 1;
-    EXPECT_EQ(differencesFrom(bare, face), "");
+    Look look{kFore, kBack, kLight, kDark};
+    look.caption = L"&Down";
+    look.offset = 1;
+    EXPECT_EQ(differencesFrom(bare, look), "");
     bare->put_CentreCaption(VARIANT_TRUE);
-    face.centred = true;
-    EXPECT_EQ(differencesFrom(bare, face), "");
+    look.centred = true;
+    EXPECT_EQ(differencesFrom(bare, look), "");
 }
 
 } // namespace

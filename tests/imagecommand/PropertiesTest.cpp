@@ -1,5 +1,5 @@
 // The properties of both classes: their initial values, and what assigning each of them does.
-#include "Face.h"
+#include "Look.h"
 #include "Pictures.h"
 #include "SavedRows.h"
 #include "kit/ByName.h"

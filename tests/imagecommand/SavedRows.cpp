@@ -13,7 +13,7 @@ namespace {
 constexpr long sys(long index) { return static_cast<long>(0x80000000U) | index; }
 
 constexpr long kHighlight = 0x0D;
-constexpr long kSystemFace = 0x0F;
+constexpr long kSystemLook = 0x0F;
 constexpr long kShadow = 0x10;
 constexpr long kGrey = 0x11;
 constexpr long kText = 0x12;
@@ -57,7 +57,7 @@ std::string textOfObject(IUnknown* object)
 std::vector<SavedRow> const& savedRows()
 {
     static std::vector<SavedRow> const rows{
-        color(L"BackColor", kSystemFace),
+        color(L"BackColor", kSystemLook),
         color(L"ForeColor", kText),
         flag(L"Enabled", true),
         object(L"Font"),
@@ -65,7 +65,7 @@ std::vector<SavedRow> const& savedRows()
         color(L"LightBorderColor", kSystemDark, kSystemLight),
         color(L"HotForeColor", k3dHighlight, kHighlight),
         color(L"PressedForeColor", k3dHighlight),
-        color(L"HotBackColor", kShadow, kSystemFace),
+        color(L"HotBackColor", kShadow, kSystemLook),
         color(L"PressedBackColor", kSystemDark, kSystemLight),
         color(L"HotLightBorderColor", kSystemDark, k3dHighlight),
         color(L"PressedLightBorderColor", kSystemDark, k3dHighlight),
@@ -85,9 +85,9 @@ std::vector<SavedRow> const& savedRows()
         object(L"PressedImage"),
         color(L"DarkBorderColor", kSystemDark, kSystemLight),
         color(L"HotDarkBorderColor", kSystemDark, kShadow),
-        color(L"DisabledDarkBorderColor", kSystemFace),
+        color(L"DisabledDarkBorderColor", kSystemLook),
         color(L"PressedDarkBorderColor", kSystemDark, kShadow),
-        color(L"DisabledLightBorderColor", kSystemFace),
+        color(L"DisabledLightBorderColor", kSystemLook),
         flag(L"CheckButton", false),
         flag(L"Checked", false),
         color(L"CheckedForeColor", k3dHighlight, kText),

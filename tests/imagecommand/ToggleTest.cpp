@@ -55,24 +55,24 @@ TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
 TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
 {
     constexpr COLORREF kEdge = RGB(12, 34, 56);
-    constexpr COLORREF kHotFace = RGB(23, 45, 67);
+    constexpr COLORREF kHotLook = RGB(23, 45, 67);
     ASSERT_EQ(button()->put_CheckedLightBorderColor(kEdge), S_OK);
-    ASSERT_EQ(button()->put_HotBackColor(kHotFace), S_OK);
+    ASSERT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
     button().moveTo(kInside);
     button().press();
     COLORREF edge = CLR_INVALID;
-    COLORREF face = CLR_INVALID;
+    COLORREF look = CLR_INVALID;
     button().events().action = [&](auto const& event) {
         if (event.id != eventid::command::MouseUp)
             return;
         WindowDc const dc(button().window());
         edge = ::GetPixel(dc.get(), 0, 0);
-        face = ::GetPixel(dc.get(), 60, 20);
+        look = ::GetPixel(dc.get(), 60, 20);
     };
     button().release();
     button().events().action = nullptr;
     EXPECT_EQ(edge, kEdge);
-    EXPECT_EQ(face, kHotFace);
+    EXPECT_EQ(look, kHotLook);
 }
 
 TEST_P(ImageToggle, countsTheRightAndTheBottomEdgeAsInside)

@@ -1,5 +1,5 @@
 // The width that follows picture and caption, to the twip, and the ways it reaches the container.
-#include "Face.h"
+#include "Look.h"
 #include "kit/Canvas.h"
 #include "kit/Fonts.h"
 #include "kit/Pump.h"
@@ -77,15 +77,15 @@ TEST_P(ImageWidth, isFilledExactlyByPictureGapAndCaption)
     setImage();
     button.setCaption(L"WWW");
     kit::pumpPending();
-    Face face{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), 0, 0};
+    Look look{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), 0, 0};
     OLE_COLOR light = 0;
     button->get_LightBorderColor(&light);
-    face.light = face.dark = ::GetSysColor(static_cast<int>(light & 0xFF));
-    face.caption = L"WWW";
-    face.captionLeft = 1 + 4 + 16 + 1;
-    face.shown = Shown{kImage, 5, 14};
-    EXPECT_EQ(button.size().cx, face.captionLeft + textWidth(L"WWW") + 1);
-    EXPECT_EQ(differencesFrom(button, face), "");
+    look.light = look.dark = ::GetSysColor(static_cast<int>(light & 0xFF));
+    look.caption = L"WWW";
+    look.captionLeft = 1 + 4 + 16 + 1;
+    look.shown = Shown{kImage, 5, 14};
+    EXPECT_EQ(button.size().cx, look.captionLeft + textWidth(L"WWW") + 1);
+    EXPECT_EQ(differencesFrom(button, look), "");
     button.site().extender().onWrite(L"Width", {});
 }
 

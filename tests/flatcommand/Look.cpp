@@ -1,5 +1,5 @@
 // The expected picture of a qvFlatCommand, worked out by hand and painted with plain GDI calls.
-#include "Face.h"
+#include "Look.h"
 
 #include "kit/Canvas.h"
 #include "kit/Fonts.h"
@@ -13,7 +13,7 @@ namespace {
 /// The nearest whole number, halves to the even one.
 int rounded(double value) { return static_cast<int>(std::nearbyint(value)); }
 
-int borderOf(Face const& face) { return face.bordered ? face.borderWidth + face.emphasis : 0; }
+int borderOf(Look const& look) { return look.bordered ? look.borderWidth + look.emphasis : 0; }
 
 int tintOf(int face, int selection, bool deep)
 {
@@ -31,58 +31,58 @@ std::pair<std::wstring, size_t> shownCaption(std::wstring text)
 }
 
 /// Writes one piece of the caption and answers its width.
-int paintPiece(kit::Canvas& canvas, Face const& face, POINT at, int inset, std::wstring const& text,
+int paintPiece(kit::Canvas& canvas, Look const& look, POINT at, int inset, std::wstring const& text,
                IFont& font)
 {
     RECT const box{at.x, inset + 1, canvas.width() - inset - 1, canvas.height() - inset - 1};
-    kit::paintText(canvas, box, at, text, kit::handleOf(font), face.fore, face.back);
+    kit::paintText(canvas, box, at, text, kit::handleOf(font), look.fore, look.back);
     return static_cast<int>(kit::textSize(kit::handleOf(font), text).cx);
 }
 
 } // namespace
 
-Face normalFace()
+Look normalLook()
 {
     return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_3DDKSHADOW)};
 }
 
-Face hotFace()
+Look hotLook()
 {
     return {::GetSysColor(COLOR_3DHIGHLIGHT), ::GetSysColor(COLOR_BTNSHADOW),
             ::GetSysColor(COLOR_3DDKSHADOW)};
 }
 
-Face pressedFace()
+Look pressedLook()
 {
     return {::GetSysColor(COLOR_3DHIGHLIGHT), ::GetSysColor(COLOR_3DDKSHADOW),
             ::GetSysColor(COLOR_3DDKSHADOW)};
 }
 
-Face disabledFace()
+Look disabledLook()
 {
     return {::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_3DDKSHADOW)};
 }
 
-Face taskPaneNormalFace()
+Look taskPaneNormalLook()
 {
     return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)};
 }
 
-Face taskPaneHotFace()
+Look taskPaneHotLook()
 {
     return {::GetSysColor(COLOR_BTNTEXT),
             tint(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT), false),
             ::GetSysColor(COLOR_HIGHLIGHT)};
 }
 
-Face taskPanePressedFace()
+Look taskPanePressedLook()
 {
     return {::GetSysColor(COLOR_3DHIGHLIGHT),
             tint(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT), true),
             ::GetSysColor(COLOR_HIGHLIGHT)};
 }
 
-Face taskPaneDisabledFace()
+Look taskPaneDisabledLook()
 {
     return {::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)};
 }
@@ -94,39 +94,39 @@ COLORREF tint(COLORREF face, COLORREF selection, bool deep)
                tintOf(GetBValue(face), GetBValue(selection), deep));
 }
 
-POINT captionPlace(Face const& face, SIZE size, IFont& font)
+POINT captionPlace(Look const& look, SIZE size, IFont& font)
 {
-    SIZE const text = kit::textSize(kit::handleOf(font), shownCaption(face.caption).first);
+    SIZE const text = kit::textSize(kit::handleOf(font), shownCaption(look.caption).first);
     // Neither the emphasis nor the focus frame moves the caption.
-    int const left = (face.bordered ? face.borderWidth : 0) + face.indent;
-    return {face.centred ? rounded(size.cx / 2.0 - text.cx / 2.0) : left,
+    int const left = (look.bordered ? look.borderWidth : 0) + look.indent;
+    return {look.centred ? rounded(size.cx / 2.0 - text.cx / 2.0) : left,
             rounded(size.cy / 2.0 - text.cy / 2.0)};
 }
 
-void paint(kit::Canvas& canvas, Face const& face, IFont& font)
+void paint(kit::Canvas& canvas, Look const& look, IFont& font)
 {
     int const width = canvas.width();
     int const height = canvas.height();
-    int inset = borderOf(face);
+    int inset = borderOf(look);
     // Emphasis without a border is counted nowhere.
-    canvas.fill(face.bordered ? face.border : face.back);
-    canvas.fill(inset, inset, width - inset, height - inset, face.back);
-    if (face.frame) {
+    canvas.fill(look.bordered ? look.border : look.back);
+    canvas.fill(inset, inset, width - inset, height - inset, look.back);
+    if (look.frame) {
         inset += 2;
-        canvas.fill(inset, inset, width - inset, height - inset, *face.frame);
-        canvas.fill(inset + 1, inset + 1, width - inset - 1, height - inset - 1, face.back);
+        canvas.fill(inset, inset, width - inset, height - inset, *look.frame);
+        canvas.fill(inset + 1, inset + 1, width - inset - 1, height - inset - 1, look.back);
     }
-    auto const [shown, marker] = shownCaption(face.caption);
-    POINT at = captionPlace(face, {width, height}, font);
+    auto const [shown, marker] = shownCaption(look.caption);
+    POINT at = captionPlace(look, {width, height}, font);
     auto const plain = kit::copyOf(font, false);
     if (marker == std::wstring::npos) {
-        paintPiece(canvas, face, at, inset, shown, *plain.get());
+        paintPiece(canvas, look, at, inset, shown, *plain.get());
         return;
     }
     auto const underlined = kit::copyOf(font, true);
-    at.x += paintPiece(canvas, face, at, inset, shown.substr(0, marker), *plain.get());
-    at.x += paintPiece(canvas, face, at, inset, shown.substr(marker, 1), *underlined.get());
-    paintPiece(canvas, face, at, inset, shown.substr(std::min(marker + 1, shown.size())), *plain.get());
+    at.x += paintPiece(canvas, look, at, inset, shown.substr(0, marker), *plain.get());
+    at.x += paintPiece(canvas, look, at, inset, shown.substr(marker, 1), *underlined.get());
+    paintPiece(canvas, look, at, inset, shown.substr(std::min(marker + 1, shown.size())), *plain.get());
 }
 
 } // namespace quillet::flat

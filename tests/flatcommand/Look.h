@@ -12,7 +12,7 @@
 namespace quillet::flat {
 
 /// What one paint must show.
-struct Face {
+struct Look {
     COLORREF fore;
     COLORREF back;
     COLORREF border;
@@ -26,22 +26,22 @@ struct Face {
 };
 
 /// The looks of a button whose colours are as they come.
-Face normalFace();
-Face hotFace();
-Face pressedFace();
-Face disabledFace();
+Look normalLook();
+Look hotLook();
+Look pressedLook();
+Look disabledLook();
 /// The same in the task-pane scheme.
-Face taskPaneNormalFace();
-Face taskPaneHotFace();
-Face taskPanePressedFace();
-Face taskPaneDisabledFace();
+Look taskPaneNormalLook();
+Look taskPaneHotLook();
+Look taskPanePressedLook();
+Look taskPaneDisabledLook();
 
 /// The tint of the task-pane scheme: half of the selection colour and half of the face, lifted.
 COLORREF tint(COLORREF face, COLORREF selection, bool deep);
 
 /// Where the caption stands.
-POINT captionPlace(Face const& face, SIZE size, IFont& font);
+POINT captionPlace(Look const& look, SIZE size, IFont& font);
 
-void paint(kit::Canvas& canvas, Face const& face, IFont& font);
+void paint(kit::Canvas& canvas, Look const& look, IFont& font);
 
 } // namespace quillet::flat

@@ -22,7 +22,7 @@ struct Shown {
 };
 
 /// What one paint must show.
-struct Face {
+struct Look {
     COLORREF fore;
     COLORREF back;
     COLORREF light;
@@ -35,10 +35,10 @@ struct Face {
     std::optional<Shown> shown = {};
 };
 
-void paint(kit::Canvas& canvas, Face const& face, IFont& font);
+void paint(kit::Canvas& canvas, Look const& look, IFont& font);
 
-/// Empty when the button shows the face; else the pixels that differ.
-std::string differencesFrom(ImageButton& button, Face const& face);
+/// Empty when the button shows the look; else the pixels that differ.
+std::string differencesFrom(ImageButton& button, Look const& look);
 
 /// The colour of one pixel that the button shows.
 COLORREF pixelAt(ImageButton& button, int x, int y);
