@@ -3,7 +3,9 @@
 #pragma once
 
 #include "base/Handles.h"
+#include "base/RunTimeError.h"
 
+#include <olectl.h>
 #include <windows.h>
 
 #include <string>
@@ -17,6 +19,19 @@ SIZE sizeOf(HDC dc, HFONT font, std::string const& text);
 int centred(int space, int length);
 /// Fills a rectangle and writes a text into it, in one call.
 void fill(HDC dc, RECT const& rectangle, COLORREF color, int x = 0, int y = 0, std::string const& text = {});
+
+/// How a button is asked for one of its colours.
+template <class Button> using GetColour = HRESULT (STDMETHODCALLTYPE Button::*)(OLE_COLOR*);
+
+/// That colour as it is drawn.
+template <class Button> COLORREF colourOf(Button& button, GetColour<Button> get)
+{
+    OLE_COLOR colour = 0;
+    check((button.*get)(&colour));
+    COLORREF translated = 0;
+    check(::OleTranslateColor(colour, nullptr, &translated));
+    return translated;
+}
 
 struct BareLook {
     COLORREF fore;

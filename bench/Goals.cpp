@@ -9,29 +9,29 @@ namespace quillet::bench {
 
 namespace {
 
-enum class Held { Ratio, Ours };
+enum class Bound { Ratio, Ours };
 
 struct Goal {
     std::string_view what; ///< the beginning of its rows
-    Held held;
+    Bound bound;
     double most;
 };
 
 constexpr bool kIs32Bits = sizeof(void*) == 4;
 
 constexpr Goal kGoals[] = {
-    {"growth of GDI places", Held::Ours, 16}, // the system's caches breathe a little
-    {"one paint, ", Held::Ratio, 1.05},
-    {"mouse enters and leaves, a lean follower", Held::Ratio, 1.10},
-    {"one of 100 buttons made, shown and painted", Held::Ratio, 1.20},
-    {"one of 1000 buttons made, shown and painted", Held::Ratio, 1.20},
-    {"one of 100 buttons taken away", Held::Ratio, 1.10},
-    {"one of 1000 buttons taken away", Held::Ratio, 1.10},
-    {"a property written through the interface", Held::Ours, 0.030},
-    {"a button loaded from", Held::Ratio, 5},
-    {"a button saved into", Held::Ratio, 5},
-    {"size of quilbt.ocx", Held::Ours, kIs32Bits ? 330 : 300},
-    {"quilbt.ocx loaded and unloaded", Held::Ratio, 1.3},
+    {"growth of GDI places", Bound::Ours, 16}, // the system's caches breathe a little
+    {"one paint, ", Bound::Ratio, 1.05},
+    {"mouse enters and leaves, a lean follower", Bound::Ratio, 1.10},
+    {"one of 100 buttons made, shown and painted", Bound::Ratio, 1.20},
+    {"one of 1000 buttons made, shown and painted", Bound::Ratio, 1.20},
+    {"one of 100 buttons taken away", Bound::Ratio, 1.10},
+    {"one of 1000 buttons taken away", Bound::Ratio, 1.10},
+    {"a property written through the interface", Bound::Ours, 0.030},
+    {"a button loaded from", Bound::Ratio, 5},
+    {"a button saved into", Bound::Ratio, 5},
+    {"size of quilbt.ocx", Bound::Ours, kIs32Bits ? 330 : 300},
+    {"quilbt.ocx loaded and unloaded", Bound::Ratio, 1.3},
 };
 
 Goal const* goalOf(Row const& row)
@@ -66,13 +66,13 @@ std::string goalText(Row const& row)
     Goal const* const goal = goalOf(row);
     if (!goal)
         return "–";
-    return "≤ " + (goal->held == Held::Ratio ? ratioText(goal->most) : figureText(goal->most, row.unit));
+    return "≤ " + (goal->bound == Bound::Ratio ? ratioText(goal->most) : figureText(goal->most, row.unit));
 }
 
 bool isShortOfGoal(Row const& row)
 {
     Goal const* const goal = goalOf(row);
-    return goal && (goal->held == Held::Ratio ? row.measured.ratio : row.measured.ours) > goal->most;
+    return goal && (goal->bound == Bound::Ratio ? row.measured.ratio : row.measured.ours) > goal->most;
 }
 
 } // namespace quillet::bench

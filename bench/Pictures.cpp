@@ -14,7 +14,7 @@ namespace quillet::bench {
 
 namespace {
 
-constexpr POINT kOutside{ShownImageButton::kSize.cx + 30, ShownImageButton::kMiddle.y};
+constexpr POINT kBesideIt{ShownImageButton::kSize.cx + 30, ShownImageButton::kMiddle.y};
 
 struct PictureRow {
     char const* name;
@@ -64,7 +64,7 @@ Row measureHover(ShownImageButton& button, std::string const& name, Effort effor
     auto const enteredAndLeft = [&] {
         double const entered = movedTo(button.window(), ShownImageButton::kMiddle);
         require(::GetCapture() == button.window(), "the button does not see the mouse come");
-        return entered + movedTo(button.window(), kOutside);
+        return entered + movedTo(button.window(), kBesideIt);
     };
     auto const bothPainted = [&] {
         return microsecondsOf([&] {

@@ -12,30 +12,20 @@ namespace quillet::bench {
 
 namespace {
 
-using B = _qvFlatCommand;
-using GetColor = HRESULT (STDMETHODCALLTYPE B::*)(OLE_COLOR*);
+using Flat = _qvFlatCommand;
 
 /// The properties that make each look, in the order of the looks.
 struct Colors {
-    GetColor fore;
-    GetColor back;
-    GetColor border;
+    GetColour<Flat> fore;
+    GetColour<Flat> back;
+    GetColour<Flat> border;
 };
 constexpr Colors kColors[] = {
-    {&B::get_ForeColor, &B::get_BackColor, &B::get_BorderColor},
-    {&B::get_HotForeColor, &B::get_HotBackColor, &B::get_HotBorderColor},
-    {&B::get_PressedForeColor, &B::get_PressedBackColor, &B::get_PressedBorderColor},
-    {&B::get_DisabledForeColor, &B::get_BackColor, &B::get_BorderColor},
+    {&Flat::get_ForeColor, &Flat::get_BackColor, &Flat::get_BorderColor},
+    {&Flat::get_HotForeColor, &Flat::get_HotBackColor, &Flat::get_HotBorderColor},
+    {&Flat::get_PressedForeColor, &Flat::get_PressedBackColor, &Flat::get_PressedBorderColor},
+    {&Flat::get_DisabledForeColor, &Flat::get_BackColor, &Flat::get_BorderColor},
 };
-
-COLORREF colorOf(_qvFlatCommand& button, GetColor get)
-{
-    OLE_COLOR color = 0;
-    check((button.*get)(&color));
-    COLORREF translated = 0;
-    check(::OleTranslateColor(color, nullptr, &translated));
-    return translated;
-}
 
 void requireMoved(bool moved) { require(moved, "the cursor does not move"); }
 
@@ -100,7 +90,7 @@ BarePainter ShownButton::barePainter() const
 BareLook ShownButton::bareLook(Look look) const
 {
     Colors const& row = kColors[static_cast<int>(look)];
-    return {colorOf(control(), row.fore), colorOf(control(), row.back), colorOf(control(), row.border),
+    return {colourOf(control(), row.fore), colourOf(control(), row.back), colourOf(control(), row.border),
             ::GetFocus() == m_buttonWindow};
 }
 

@@ -19,17 +19,7 @@ ImageKind const kImageKinds[2] = {{"image command", kQvImageCommandClass, kQvIma
 
 namespace {
 
-using B = _qvImageCommand;
-using GetColor = HRESULT (STDMETHODCALLTYPE B::*)(OLE_COLOR*);
-
-COLORREF colorOf(B& button, GetColor get)
-{
-    OLE_COLOR color = 0;
-    check((button.*get)(&color));
-    COLORREF translated = 0;
-    check(::OleTranslateColor(color, nullptr, &translated));
-    return translated;
-}
+using WithImage = _qvImageCommand;
 
 BareImage bareImage(IPictureDisp* object)
 {
@@ -103,12 +93,15 @@ BareImagePainter ShownImageButton::barePainter() const
 
 BareImageLook ShownImageButton::bareLook(ImageLook look) const
 {
-    B& button = control();
+    WithImage& button = control();
     if (look == ImageLook::Hot)
-        return {colorOf(button, &B::get_HotForeColor), colorOf(button, &B::get_HotBackColor),
-                colorOf(button, &B::get_HotLightBorderColor), colorOf(button, &B::get_HotDarkBorderColor)};
-    return {colorOf(button, &B::get_ForeColor), colorOf(button, &B::get_BackColor),
-            colorOf(button, &B::get_LightBorderColor), colorOf(button, &B::get_DarkBorderColor)};
+        return {colourOf(button, &WithImage::get_HotForeColor),
+                colourOf(button, &WithImage::get_HotBackColor),
+                colourOf(button, &WithImage::get_HotLightBorderColor),
+                colourOf(button, &WithImage::get_HotDarkBorderColor)};
+    return {colourOf(button, &WithImage::get_ForeColor), colourOf(button, &WithImage::get_BackColor),
+            colourOf(button, &WithImage::get_LightBorderColor),
+            colourOf(button, &WithImage::get_DarkBorderColor)};
 }
 
 } // namespace quillet::bench

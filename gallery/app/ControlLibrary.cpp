@@ -55,12 +55,6 @@ NewControl createRegistered(std::wstring_view library, std::wstring_view classNa
     return created;
 }
 
-bool isFile(std::wstring const& path) noexcept
-{
-    DWORD const attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
 } // namespace
 
 ControlLibrary::ControlLibrary(std::wstring const& path)

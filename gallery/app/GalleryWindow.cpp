@@ -18,9 +18,7 @@ namespace quillet::gallery {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"QuilletGallery";
-// The system's own name for it follows the ANSI functions here.
-wchar_t const* const kArrowCursor = MAKEINTRESOURCEW(32512);
+constexpr wchar_t kGalleryClass[] = L"QuilletGallery";
 constexpr UINT kRunLater = WM_APP;
 constexpr long kEventsWidth = 4050; // twips
 constexpr long kEventsTitle = 330;
@@ -57,11 +55,6 @@ bool isFormFile(std::wstring_view name) noexcept
     return name.size() > kEnding.size() && sameName(name.substr(name.size() - kEnding.size()), kEnding);
 }
 
-bool isFile(std::wstring const& path) noexcept
-{
-    return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
 } // namespace
 
 GalleryWindow::GalleryWindow(std::wstring programFolder, EventLog* log)
@@ -81,12 +74,12 @@ void GalleryWindow::makeWindow()
     row.cbSize = sizeof row;
     row.lpfnWndProc = windowProc;
     row.hInstance = program;
-    row.hCursor = ::LoadCursorW(nullptr, kArrowCursor);
+    row.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
     row.hIcon = ::LoadIconW(program, MAKEINTRESOURCEW(GALLERY_ICON));
     row.hbrBackground = ::GetSysColorBrush(COLOR_BTNFACE);
-    row.lpszClassName = kClassName;
+    row.lpszClassName = kGalleryClass;
     ::RegisterClassExW(&row);
-    m_window.reset(::CreateWindowExW(WS_EX_CONTROLPARENT, kClassName, kProgram,
+    m_window.reset(::CreateWindowExW(WS_EX_CONTROLPARENT, kGalleryClass, kProgram,
                                      WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0,
                                      0, nullptr, nullptr, program, this));
     if (!m_window)

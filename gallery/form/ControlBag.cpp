@@ -46,8 +46,6 @@ constexpr std::wstring_view kExtenderNames[] = {
 /// How a form writes a property of the control whose name the extender has taken.
 constexpr std::wstring_view kOwnPrefix = L"Object.";
 
-constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
-
 bool isMarkedOwn(std::wstring_view name) noexcept
 {
     return name.size() > kOwnPrefix.size() && sameName(name.substr(0, kOwnPrefix.size()), kOwnPrefix);

@@ -9,8 +9,12 @@
 #include <windows.h>
 
 #include <string>
+#include <string_view>
 
 namespace quillet::gallery {
+
+/// The class of standard fonts, as forms write it.
+inline constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 
 /// What BeginProperty Font says; the defaults are those of a form that says nothing.
 struct FontFace {

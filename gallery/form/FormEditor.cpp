@@ -18,7 +18,6 @@ namespace quillet::gallery {
 
 namespace {
 
-constexpr std::wstring_view kStandardFont = L"{0BE35203-8F91-11CE-9DE3-00AA004BB851}";
 constexpr std::wstring_view kIndent = L"   ";
 constexpr std::size_t kNameWidth = 16;
 

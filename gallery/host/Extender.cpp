@@ -9,8 +9,6 @@ namespace quillet::gallery {
 
 namespace {
 
-using Row = Member<FormControl>;
-
 /// Where the form's own identifiers begin, away from those of controls and from the standard ones.
 constexpr DISPID kFirstId = static_cast<DISPID>(0x80010000);
 
@@ -72,7 +70,7 @@ Variant setFocus(FormControl& control, Arguments const&)
     return {};
 }
 
-constexpr Row kMembers[] = {
+constexpr Member<FormControl> kExtenderMembers[] = {
     {L"Name", kFirstId, getText<&ExtenderState::name>, nullptr},
     {L"Object", kFirstId + 1,
      [](FormControl& c, Arguments const&) { return Variant::ofDispatch(c.automation()); }, nullptr},
@@ -99,7 +97,7 @@ constexpr Row kMembers[] = {
 };
 
 /// What only a control that acts like a button has.
-constexpr Row kButtonMembers[] = {
+constexpr Member<FormControl> kButtonMembers[] = {
     {L"Default", kFirstId + 32, getFlag<&ExtenderState::isDefault>,
      [](FormControl& c, Variant const& value) { c.setDefault(value.toBool()); }},
     {L"Cancel", kFirstId + 33, getFlag<&ExtenderState::isCancel>,
@@ -121,11 +119,11 @@ FormControl& Extender::connected() const
 
 DISPID Extender::idOf(std::wstring_view name)
 {
-    if (Row const* const row = findMember<FormControl>(kMembers, name))
+    if (Member<FormControl> const* const row = findMember<FormControl>(kExtenderMembers, name))
         return row->id;
     if (!connected().actsLikeButton())
         return DISPID_UNKNOWN;
-    Row const* const row = findMember<FormControl>(kButtonMembers, name);
+    Member<FormControl> const* const row = findMember<FormControl>(kButtonMembers, name);
     return row ? row->id : DISPID_UNKNOWN;
 }
 
@@ -135,7 +133,7 @@ Variant Extender::invoke(DISPID id, WORD flags, Arguments const& arguments)
     bool const isButtons = id >= kButtonMembers[0].id;
     if (isButtons && control.actsLikeButton())
         return invokeMember<FormControl>(kButtonMembers, control, id, flags, arguments);
-    return invokeMember<FormControl>(kMembers, control, id, flags, arguments);
+    return invokeMember<FormControl>(kExtenderMembers, control, id, flags, arguments);
 }
 
 HRESULT STDMETHODCALLTYPE Extender::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,

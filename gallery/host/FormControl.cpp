@@ -15,8 +15,8 @@ namespace {
 /// Far off every screen, and small enough for every conversion.
 constexpr double kFarthest = 1'000'000;
 
-constexpr double kDefaultWidth = 1215;
-constexpr double kDefaultHeight = 375;
+constexpr double kControlWidth = 1215;
+constexpr double kControlHeight = 375;
 
 long twips(double value, double perUnit) noexcept
 {
@@ -30,8 +30,8 @@ Place placeOf(FormValues const& values, Form const& form, bool isOnForm)
     double const unitX = isOnForm ? form.twipsPerUnitX() : 1;
     double const unitY = isOnForm ? form.twipsPerUnitY() : 1;
     return {twips(values.number(L"Left", 0), unitX), twips(values.number(L"Top", 0), unitY),
-            std::max(twips(values.number(L"Width", kDefaultWidth / unitX), unitX), 0L),
-            std::max(twips(values.number(L"Height", kDefaultHeight / unitY), unitY), 0L)};
+            std::max(twips(values.number(L"Width", kControlWidth / unitX), unitX), 0L),
+            std::max(twips(values.number(L"Height", kControlHeight / unitY), unitY), 0L)};
 }
 
 ExtenderState stateOf(FormNode const& node, Form const& form, bool isOnForm)

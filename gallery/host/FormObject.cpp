@@ -52,7 +52,7 @@ Variant controls(Form& form, Arguments const& arguments)
     return item;
 }
 
-constexpr Member<Form> kMembers[] = {
+constexpr Member<Form> kFormMembers[] = {
     {L"Name", 1, [](Form& f, Arguments const&) { return Variant::ofString(f.name()); }, nullptr},
     {L"Caption", 2, [](Form& f, Arguments const&) { return Variant::ofString(f.caption()); },
      [](Form& f, Variant const& value) { f.setCaption(std::wstring(value.toString().view())); }},
@@ -129,7 +129,7 @@ Form& FormObject::form() const
 
 DISPID FormObject::idOf(std::wstring_view name)
 {
-    if (Member<Form> const* const row = findMember<Form>(kMembers, name))
+    if (Member<Form> const* const row = findMember<Form>(kFormMembers, name))
         return row->id;
     return controlId(form(), name);
 }
@@ -138,7 +138,7 @@ Variant FormObject::invoke(DISPID id, WORD flags, Arguments const& arguments)
 {
     if (id >= kFirstControl && !isPut(flags))
         return itemAt(form(), Variant::ofLong(id - kFirstControl));
-    return invokeMember<Form>(kMembers, form(), id, flags, arguments);
+    return invokeMember<Form>(kFormMembers, form(), id, flags, arguments);
 }
 
 HRESULT STDMETHODCALLTYPE FormObject::EnumObjects(DWORD flags, IEnumUnknown** out)

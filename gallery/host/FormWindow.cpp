@@ -1,5 +1,6 @@
 // The window of a form: its style and place, its messages and its background.
 #include "base/ComCall.h"
+#include "drawing/Colour.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
 #include "gallery/host/Form.h"
@@ -12,18 +13,16 @@ namespace quillet::gallery {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"QuilletGalleryForm";
+constexpr wchar_t kFormClass[] = L"QuilletGalleryForm";
 
-// The system's own names for them follow the ANSI functions here.
-wchar_t const* const kArrowCursor = MAKEINTRESOURCEW(32512);
 wchar_t const* const kProgramIcon = MAKEINTRESOURCEW(1);
 
 constexpr long kSizable = 2;
 constexpr long kStartManual = 0;
 constexpr long kStartDefault = 3;
 constexpr int kGridTwips = 120;
-constexpr double kDefaultWidth = 4680;
-constexpr double kDefaultHeight = 3195;
+constexpr double kFormWidth = 4680;
+constexpr double kFormHeight = 3195;
 constexpr double kLargest = 100'000;
 
 DWORD styleOf(FormValues const& values) noexcept
@@ -45,8 +44,8 @@ int pixelsOf(FormValues const& values, std::wstring_view name, double fallback, 
 RECT clientPlace(FormValues const& values, Resolution const& resolution, HWND owner)
 {
     RECT place{};
-    int const width = std::max(pixelsOf(values, L"ClientWidth", kDefaultWidth, resolution.x), 0);
-    int const height = std::max(pixelsOf(values, L"ClientHeight", kDefaultHeight, resolution.y), 0);
+    int const width = std::max(pixelsOf(values, L"ClientWidth", kFormWidth, resolution.x), 0);
+    int const height = std::max(pixelsOf(values, L"ClientHeight", kFormHeight, resolution.y), 0);
     if (values.whole(L"StartUpPosition", kStartManual) == kStartManual) {
         place.left = pixelsOf(values, L"ClientLeft", 0, resolution.x);
         place.top = pixelsOf(values, L"ClientTop", 0, resolution.y);
@@ -62,12 +61,6 @@ RECT clientPlace(FormValues const& values, Resolution const& resolution, HWND ow
     return place;
 }
 
-COLORREF rgb(OLE_COLOR color) noexcept
-{
-    COLORREF result = 0;
-    return SUCCEEDED(::OleTranslateColor(color, nullptr, &result)) ? result : 0;
-}
-
 } // namespace
 
 ATOM Form::windowClass() noexcept
@@ -75,15 +68,15 @@ ATOM Form::windowClass() noexcept
     WNDCLASSEXW row{};
     row.cbSize = sizeof row;
     if (ATOM const known =
-            static_cast<ATOM>(::GetClassInfoExW(::GetModuleHandleW(nullptr), kClassName, &row)))
+            static_cast<ATOM>(::GetClassInfoExW(::GetModuleHandleW(nullptr), kFormClass, &row)))
         return known;
     row = {};
     row.cbSize = sizeof row;
     row.lpfnWndProc = windowProc;
     row.hInstance = ::GetModuleHandleW(nullptr);
-    row.hCursor = ::LoadCursorW(nullptr, kArrowCursor);
+    row.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
     row.hIcon = ::LoadIconW(row.hInstance, kProgramIcon);
-    row.lpszClassName = kClassName;
+    row.lpszClassName = kFormClass;
     return ::RegisterClassExW(&row);
 }
 
@@ -99,7 +92,7 @@ void Form::makeWindow(FormNode const& node)
     bool const isPlacedBySystem = !isChild && values.whole(L"StartUpPosition", kStartManual) == kStartDefault;
     windowClass();
     m_window.reset(::CreateWindowExW(
-        isChild ? WS_EX_CONTROLPARENT : 0, kClassName, values.text(L"Caption", node.name).c_str(), style,
+        isChild ? WS_EX_CONTROLPARENT : 0, kFormClass, values.text(L"Caption", node.name).c_str(), style,
         isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.left),
         isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.top), place.right - place.left,
         place.bottom - place.top, isChild ? m_options.parent : m_options.owner, nullptr,
@@ -195,7 +188,7 @@ void Form::eraseBackground(HDC dc) const
 {
     RECT area{};
     ::GetClientRect(window(), &area);
-    UniqueBrush const brush(::CreateSolidBrush(rgb(m_backColor)));
+    UniqueBrush const brush(::CreateSolidBrush(resolvedColour(m_backColor, 0)));
     ::FillRect(dc, &area, brush.get());
     if (!isDesign())
         return;

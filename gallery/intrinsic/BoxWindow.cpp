@@ -11,9 +11,7 @@ namespace quillet::gallery {
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"QuilletGalleryBox";
-// The system's own name for it follows the ANSI functions here.
-wchar_t const* const kArrowCursor = MAKEINTRESOURCEW(32512);
+constexpr wchar_t kBoxClass[] = L"QuilletGalleryBox";
 constexpr int kCaptionLeft = 9;
 constexpr int kCaptionGap = 2;
 
@@ -99,16 +97,16 @@ wchar_t const* boxWindowClass() noexcept
 {
     WNDCLASSEXW known{};
     known.cbSize = sizeof known;
-    if (::GetClassInfoExW(::GetModuleHandleW(nullptr), kClassName, &known))
-        return kClassName;
+    if (::GetClassInfoExW(::GetModuleHandleW(nullptr), kBoxClass, &known))
+        return kBoxClass;
     WNDCLASSEXW row{};
     row.cbSize = sizeof row;
     row.lpfnWndProc = boxProc;
     row.hInstance = ::GetModuleHandleW(nullptr);
-    row.hCursor = ::LoadCursorW(nullptr, kArrowCursor);
-    row.lpszClassName = kClassName;
+    row.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
+    row.lpszClassName = kBoxClass;
     ::RegisterClassExW(&row);
-    return kClassName;
+    return kBoxClass;
 }
 
 } // namespace quillet::gallery

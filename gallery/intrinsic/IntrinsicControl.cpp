@@ -1,6 +1,7 @@
 // The form's own simple controls: making them, their values and what they raise.
 #include "gallery/intrinsic/IntrinsicControl.h"
 
+#include "drawing/Colour.h"
 #include "drawing/SystemColours.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
@@ -43,12 +44,6 @@ IntrinsicKind kindOf(std::wstring_view fullClass) noexcept
 constexpr OLE_COLOR kWindow = colour::ofDesktop(COLOR_WINDOW);
 constexpr OLE_COLOR kWindowText = colour::ofDesktop(COLOR_WINDOWTEXT);
 
-COLORREF rgb(OLE_COLOR color) noexcept
-{
-    COLORREF result = 0;
-    return SUCCEEDED(::OleTranslateColor(color, nullptr, &result)) ? result : 0;
-}
-
 /// The node's own font; a control that says nothing has the form's.
 ComPtr<IFont> fontOf(FormNode const& node, Form const& form)
 {
@@ -72,7 +67,7 @@ IntrinsicControl::IntrinsicControl(Form& form, FormControl* container, FormNode 
                                           kind == IntrinsicKind::TextBox ? kWindow : colour::kButtonFace)),
       m_edge(FormValues(node).whole(L"BorderStyle", 1) == 0 ? BoxEdge::None : BoxEdge::Etched),
       m_font(fontOf(node, form)), m_object(makeCounted<IntrinsicObject>(*this)),
-      m_brush(::CreateSolidBrush(rgb(m_backColor)))
+      m_brush(::CreateSolidBrush(resolvedColour(m_backColor, 0)))
 {
     if (kind != IntrinsicKind::Invisible)
         makeWindow(node);
@@ -189,7 +184,7 @@ void IntrinsicControl::setForeColor(OLE_COLOR color) noexcept
 void IntrinsicControl::setBackColor(OLE_COLOR color)
 {
     m_backColor = color;
-    m_brush.reset(::CreateSolidBrush(rgb(color)));
+    m_brush.reset(::CreateSolidBrush(resolvedColour(color, 0)));
     ::InvalidateRect(m_window.get(), nullptr, TRUE);
 }
 
@@ -215,8 +210,8 @@ void IntrinsicControl::notified(WORD code)
 
 HBRUSH IntrinsicControl::colours(HDC dc) const noexcept
 {
-    ::SetTextColor(dc, rgb(m_foreColor));
-    ::SetBkColor(dc, rgb(m_backColor));
+    ::SetTextColor(dc, resolvedColour(m_foreColor, 0));
+    ::SetBkColor(dc, resolvedColour(m_backColor, 0));
     return m_brush.get();
 }
 
@@ -226,7 +221,7 @@ void IntrinsicControl::paintBox(HDC dc) const
     ::GetClientRect(m_window.get(), &area);
     BoxLook const look{text(),
                        handleOf(m_font.get()),
-                       rgb(m_foreColor),
+                       resolvedColour(m_foreColor, 0),
                        m_brush.get(),
                        ::IsWindowEnabled(m_window.get()) ? BoxState::Enabled : BoxState::Disabled,
                        m_edge};

@@ -13,8 +13,6 @@ namespace {
 constexpr IID kCommandButtonFace = {
     0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
 
-using Row = Member<IntrinsicControl>;
-
 Variant getText(IntrinsicControl& control, Arguments const&) { return Variant::ofString(control.text()); }
 
 void putText(IntrinsicControl& control, Variant const& value)
@@ -38,7 +36,7 @@ Variant getWindow(IntrinsicControl& control, Arguments const&)
     return Variant::ofLong(static_cast<long>(reinterpret_cast<LONG_PTR>(control.window())));
 }
 
-constexpr Row kMembers[] = {
+constexpr Member<IntrinsicControl> kIntrinsicMembers[] = {
     {L"Caption", DISPID_CAPTION, getText, putText},
     {L"Text", DISPID_TEXT, getText, putText},
     {L"Value", DISPID_VALUE, getValue, putValue},
@@ -67,7 +65,7 @@ constexpr Row kMembers[] = {
 
 DISPID IntrinsicObject::idOf(std::wstring_view name)
 {
-    Row const* const row = findMember<IntrinsicControl>(kMembers, name);
+    Member<IntrinsicControl> const* const row = findMember<IntrinsicControl>(kIntrinsicMembers, name);
     return row ? row->id : DISPID_UNKNOWN;
 }
 
@@ -75,7 +73,7 @@ Variant IntrinsicObject::invoke(DISPID id, WORD flags, Arguments const& argument
 {
     if (!m_control)
         throw RunTimeError(RPC_E_DISCONNECTED);
-    return invokeMember<IntrinsicControl>(kMembers, *m_control, id, flags, arguments);
+    return invokeMember<IntrinsicControl>(kIntrinsicMembers, *m_control, id, flags, arguments);
 }
 
 IUnknown* IntrinsicObject::inheritedInterface(REFIID iid) noexcept
