@@ -123,6 +123,18 @@ TEST_P(Odd, hostThatActivatesAgainKeepsTheInnerWindow)
     EXPECT_EQ(box.hwnd(), box.inner());
 }
 
+/// A forged press reaches a window that was asked for and never shown.
+TEST_P(Odd, hostThatDeactivatesWhatIsNotActiveGetsTheMouseBack)
+{
+    Box box(kind(), library(), form);
+    EXPECT_EQ(box.hosted().setSite(), S_OK);
+    HWND const inner = box.hwnd();
+    ::SendMessageW(inner, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ASSERT_EQ(::GetCapture(), inner);
+    EXPECT_EQ(box.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
 TEST_P(Odd, hostThatFreezesEventsHearsNone)
 {
     Box box(kind(), library(), form);

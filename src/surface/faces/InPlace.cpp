@@ -190,8 +190,10 @@ void InPlace::requestWidth(long width)
 
 void InPlace::leave(WindowThen then) noexcept
 {
-    if (!m_active)
+    if (!m_active) {
+        m_surface.window().giveUpCapture(); // a forged press may have reached it all the same
         return;
+    }
     unsigned const activation = m_activation;
     m_leaving = true;
     leaveKeyboard();

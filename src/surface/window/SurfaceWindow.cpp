@@ -184,11 +184,10 @@ void SurfaceWindow::hide() noexcept
     giveUpCapture();
 }
 
-/// Lets go of the mouse where this window or one inside has it. Nobody is told: no mouse has left.
 void SurfaceWindow::giveUpCapture() noexcept
 {
     HWND const captured = ::GetCapture();
-    if (captured && (captured == m_window || ::IsChild(m_window, captured)))
+    if (m_window && captured && (captured == m_window || ::IsChild(m_window, captured)))
         ::ReleaseCapture();
 }
 

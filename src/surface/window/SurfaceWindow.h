@@ -32,6 +32,8 @@ public:
     void move(RECT const* clip);
     void show();
     void hide() noexcept;
+    /// Lets go of the mouse where this window or one inside has it. Nobody is told: no mouse has left.
+    void giveUpCapture() noexcept;
     /// For whoever is about to paint the whole window without being asked: takes back what Windows still
     /// wants painted of it, unless that may yet be painted over.
     void forestallPaint() noexcept;
@@ -50,7 +52,6 @@ private:
     void create(HWND parent);
     void clipTo(RECT const* clip);
     void sized();
-    void giveUpCapture() noexcept;
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam);
     void paint();
