@@ -193,7 +193,7 @@ void queryEverything(World& world, Slot& slot)
         own->QueryInterface(oneOf(world.random, ids), nullptr);
 }
 
-void passNothing(World&, Slot& slot)
+void passNothing(World& world, Slot& slot)
 {
     if (auto const own = slot.as<IOleObject>()) {
         own->GetClientSite(nullptr);
@@ -208,7 +208,7 @@ void passNothing(World&, Slot& slot)
         own->GetMiscStatus(DVASPECT_CONTENT, nullptr);
         own->SetHostNames(nullptr, nullptr);
         own->GetClipboardData(0, nullptr);
-        own->DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, nullptr, nullptr);
+        world.begin(slot, [&] { own->DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, nullptr, nullptr); });
     }
     if (auto const own = slot.as<IOleInPlaceObject>()) {
         own->GetWindow(nullptr);
