@@ -128,6 +128,17 @@ Variant Variant::ofFloatRef(float* target) noexcept
     return result;
 }
 
+HRESULT changeType(VARIANT& result, VARIANT const& value, VARTYPE type) noexcept
+{
+    constexpr BYTE kMostDigits = 28;
+    DECIMAL const* const number = value.vt == VT_DECIMAL                ? &value.decVal
+                                  : value.vt == (VT_DECIMAL | VT_BYREF) ? value.pdecVal
+                                                                        : nullptr;
+    if (number && number->scale > kMostDigits)
+        return DISP_E_TYPEMISMATCH;
+    return ::VariantChangeType(&result, const_cast<VARIANT*>(&value), 0, type);
+}
+
 Variant Variant::copyOf(VARIANT const& borrowed)
 {
     requireTarget(borrowed);
@@ -173,7 +184,7 @@ Variant Variant::convertedTo(VARTYPE type) const
         throw RunTimeError(ErrorNumber::InvalidUseOfNull);
     requireTarget(m_value);
     Variant result;
-    HRESULT const changed = ::VariantChangeType(&result.m_value, const_cast<VARIANT*>(&m_value), 0, type);
+    HRESULT const changed = changeType(result.m_value, m_value, type);
     if (FAILED(changed))
         throwConversion(changed);
     return result;

@@ -65,6 +65,10 @@ private:
 /// Whether a VARIANT is a reference to nothing: a null pointer, in itself or in the VARIANT it refers to.
 bool refersToNothing(VARIANT const& value) noexcept;
 
+/// Changes a value's type as the system does, but for a decimal number with more than 28 digits behind its
+/// point: some systems write the digits of one past the end of their buffer. That is DISP_E_TYPEMISMATCH.
+HRESULT changeType(VARIANT& result, VARIANT const& value, VARTYPE type) noexcept;
+
 /// Reads a borrowed VARIANT as a 16-bit integer.
 inline short shortOf(VARIANT const& value) { return Variant::copyOf(value).toShort(); }
 

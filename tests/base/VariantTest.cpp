@@ -288,6 +288,22 @@ TEST(Variant, thatIsNullIsAnInvalidUseOfNullForEveryValue)
     EXPECT_EQ(null.convertedTo(VT_NULL).type(), VT_NULL);
 }
 
+TEST(Variant, aDecimalNumberOfMoreDigitsThanThereAreRaisesTypeMismatch)
+{
+    VARIANT number{};
+    number.decVal.Lo64 = 12345;
+    number.decVal.scale = 28;
+    number.vt = VT_DECIMAL;
+    EXPECT_EQ(Variant::copyOf(number).toLong(), 0);
+    for (BYTE const scale : {BYTE{29}, BYTE{40}, BYTE{0xFF}}) {
+        number.decVal.scale = scale;
+        VARIANT copy = number;
+        Variant const value = Variant::adopt(copy);
+        EXPECT_EQ(thrownBy([&] { value.toLong(); }), kTypeMismatch) << int{scale};
+        EXPECT_EQ(thrownBy([&] { value.toString(); }), kTypeMismatch) << int{scale};
+    }
+}
+
 TEST(Variant, hasNoObjectWhenItIsEmptyNullOrHoldsANullPointer)
 {
     EXPECT_FALSE(Variant().toObject());

@@ -27,6 +27,7 @@ Targets g_targets;
 Variant plain(VARTYPE type, LONGLONG bits = 0)
 {
     Variant value;
+    *value.address() = {};
     value.address()->llVal = bits;
     value.address()->vt = type;
     return value;
@@ -37,6 +38,13 @@ Variant ofDouble(VARTYPE type, double number)
     Variant value;
     value.address()->dblVal = number;
     value.address()->vt = type;
+    return value;
+}
+
+Variant decimal(BYTE digitsBehindThePoint)
+{
+    Variant value = plain(VT_DECIMAL, -1);
+    value.address()->decVal.scale = digitsBehindThePoint;
     return value;
 }
 
@@ -80,6 +88,7 @@ std::vector<NamedValue> strangeValues()
         {"VT_CY", plain(VT_CY, std::numeric_limits<LONGLONG>::max())},
         {"VT_DATE", ofDouble(VT_DATE, 1e300)},
         {"VT_DECIMAL", plain(VT_DECIMAL, -1)},
+        {"VT_DECIMAL, more digits than there are", decimal(0xFF)},
         {"VT_BOOL, neither", plain(VT_BOOL, 1)},
         {"VT_ERROR", plain(VT_ERROR, DISP_E_PARAMNOTFOUND)},
         {"VT_BSTR, null", plain(VT_BSTR)},

@@ -186,19 +186,14 @@ private:
         if (given.vt == type)
             return Variant::copyOf(given); // the system's conversion to the same type takes far longer
         Variant value;
-        HRESULT done = changed(value, given, type);
+        HRESULT done = changeType(*value.put(), given, type);
         if (done == DISP_E_OVERFLOW && eitherSign)
-            done = changed(value, given, VT_UI4);
+            done = changeType(*value.put(), given, VT_UI4);
         if (SUCCEEDED(done))
             return value;
         if (m_call.badArgument)
             *m_call.badArgument = index;
         throw RunTimeError(done == DISP_E_BADVARTYPE ? DISP_E_TYPEMISMATCH : done);
-    }
-
-    static HRESULT changed(Variant& value, VARIANT const& given, VARTYPE type) noexcept
-    {
-        return ::VariantChangeType(value.put(), const_cast<VARIANT*>(&given), 0, type);
     }
 
     IDispatch& m_dual;
