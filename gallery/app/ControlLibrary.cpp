@@ -57,6 +57,12 @@ NewControl createRegistered(std::wstring_view library, std::wstring_view classNa
 
 } // namespace
 
+bool isFile(std::wstring const& path) noexcept
+{
+    DWORD const attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
 ControlLibrary::ControlLibrary(std::wstring const& path)
     : m_path(path), m_library(::LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH)),
       m_manifest(manifestOf(path))

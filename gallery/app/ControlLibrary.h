@@ -70,4 +70,6 @@ private:
     std::wstring m_troubles; ///< why files could not be used
 };
 
+bool isFile(std::wstring const& path) noexcept;
+
 } // namespace quillet::gallery

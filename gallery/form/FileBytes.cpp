@@ -17,12 +17,6 @@ constexpr std::wstring_view kSeparators = L"\\/";
 
 } // namespace
 
-bool isFile(std::wstring const& path) noexcept
-{
-    DWORD const attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
 std::string fileBytes(std::wstring const& path)
 {
     UniqueFile const file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,

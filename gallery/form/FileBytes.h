@@ -6,8 +6,6 @@
 
 namespace quillet::gallery {
 
-bool isFile(std::wstring const& path) noexcept;
-
 /// Throws FormError for a file that cannot be read, or is larger than anything of a form.
 std::string fileBytes(std::wstring const& path);
 
