@@ -131,9 +131,10 @@ Variant Variant::ofFloatRef(float* target) noexcept
 HRESULT changeType(VARIANT& result, VARIANT const& value, VARTYPE type) noexcept
 {
     constexpr BYTE kMostDigits = 28;
-    DECIMAL const* const number = value.vt == VT_DECIMAL                ? &value.decVal
-                                  : value.vt == (VT_DECIMAL | VT_BYREF) ? value.pdecVal
-                                                                        : nullptr;
+    VARIANT const& target = followed(value);
+    DECIMAL const* const number = target.vt == VT_DECIMAL                ? &target.decVal
+                                  : target.vt == (VT_DECIMAL | VT_BYREF) ? target.pdecVal
+                                                                         : nullptr;
     if (number && number->scale > kMostDigits)
         return DISP_E_TYPEMISMATCH;
     return ::VariantChangeType(&result, const_cast<VARIANT*>(&value), 0, type);

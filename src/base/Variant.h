@@ -65,6 +65,12 @@ private:
 /// Whether a VARIANT is a reference to nothing: a null pointer, in itself or in the VARIANT it refers to.
 bool refersToNothing(VARIANT const& value) noexcept;
 
+/// What a reference to a VARIANT refers to, which must be something; any other value itself.
+inline VARIANT const& followed(VARIANT const& value) noexcept
+{
+    return value.vt == (VT_VARIANT | VT_BYREF) ? *value.pvarVal : value;
+}
+
 /// Changes a value's type as the system does, but for a decimal number with more than 28 digits behind its
 /// point: some systems write the digits of one past the end of their buffer. That is DISP_E_TYPEMISMATCH.
 HRESULT changeType(VARIANT& result, VARIANT const& value, VARTYPE type) noexcept;

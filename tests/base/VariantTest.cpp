@@ -301,6 +301,11 @@ TEST(Variant, aDecimalNumberOfMoreDigitsThanThereAreRaisesTypeMismatch)
         Variant const value = Variant::adopt(copy);
         EXPECT_EQ(thrownBy([&] { value.toLong(); }), kTypeMismatch) << int{scale};
         EXPECT_EQ(thrownBy([&] { value.toString(); }), kTypeMismatch) << int{scale};
+        VARIANT reference{};
+        reference.vt = VT_VARIANT | VT_BYREF;
+        reference.pvarVal = &number;
+        Variant const referring = Variant::adopt(reference);
+        EXPECT_EQ(thrownBy([&] { referring.toString(); }), kTypeMismatch) << int{scale};
     }
 }
 

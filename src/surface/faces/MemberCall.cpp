@@ -21,11 +21,6 @@ template <class... Arguments> HRESULT callSlot(IDispatch& dual, unsigned slot, A
     return reinterpret_cast<Function>(table[slot])(&dual, arguments...);
 }
 
-VARIANT const& followed(VARIANT const& argument) noexcept
-{
-    return argument.vt == (VT_VARIANT | VT_BYREF) ? *argument.pvarVal : argument;
-}
-
 bool isObject(VARIANT const& argument) noexcept
 {
     VARTYPE const type = followed(argument).vt & ~VT_BYREF;
