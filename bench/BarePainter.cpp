@@ -4,7 +4,6 @@
 #include "bench/Rounds.h"
 
 #include <cmath>
-#include <utility>
 
 namespace quillet::bench {
 
@@ -42,16 +41,31 @@ void fill(HDC dc, RECT const& rectangle, COLORREF color, int x, int y, std::stri
                   static_cast<UINT>(text.size()), nullptr);
 }
 
-BarePainter::BarePainter(HWND window, SIZE size, HFONT font, std::string caption)
-    : m_window(window), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
-      m_underlined(fontLike(font, true)), m_key(caption.substr(0, 1)), m_rest(caption.substr(1))
+BareCaption::BareCaption(HWND window, SIZE button, HFONT font, std::string const& text,
+                         std::optional<int> left)
+    : m_plain(fontLike(font, false)), m_underlined(fontLike(font, true)), m_key(text.substr(0, 1)),
+      m_rest(text.substr(1))
 {
     WindowDc const target(window);
-    SIZE const text = sizeOf(target.get(), m_plain.get(), caption);
-    m_y = centred(m_height, text.cy);
-    m_keyAt = centred(m_width, text.cx);
+    SIZE const size = sizeOf(target.get(), m_plain.get(), text);
+    m_y = centred(button.cy, size.cy);
+    m_keyAt = left.value_or(centred(button.cx, size.cx));
     m_restAt = m_keyAt + sizeOf(target.get(), m_plain.get(), m_key).cx;
 }
+
+void BareCaption::write(HDC dc, RECT rectangle, COLORREF back) const
+{
+    rectangle.left = m_keyAt;
+    ::SelectObject(dc, m_underlined.get()); // only now: underlining costs even where there is no text
+    fill(dc, rectangle, back, m_keyAt, m_y, m_key);
+    ::SelectObject(dc, m_plain.get());
+    rectangle.left = m_restAt;
+    fill(dc, rectangle, back, m_restAt, m_y, m_rest);
+}
+
+BarePainter::BarePainter(HWND window, SIZE size, HFONT font, std::string const& caption)
+    : m_window(window), m_width(size.cx), m_height(size.cy), m_caption(window, size, font, caption)
+{}
 
 void BarePainter::paint(BareLook const& look) const
 {
@@ -72,7 +86,7 @@ void BarePainter::paintStraight(BareLook const& look) const
 
 void BarePainter::compose(HDC dc, BareLook const& look, bool focused) const
 {
-    SelectScope const selectedFont(dc, m_plain.get());
+    SelectScope const selectedFont(dc, m_caption.font());
     ::SetTextColor(dc, look.fore);
     int inset = focused ? 2 : 1;
     fill(dc, inside(0), look.border);
@@ -82,26 +96,14 @@ void BarePainter::compose(HDC dc, BareLook const& look, bool focused) const
         fill(dc, inside(inset), kFrame);
         fill(dc, inside(inset + 1), look.back);
     }
-    RECT piece = inside(inset + 1);
-    piece.left = m_keyAt;
-    ::SelectObject(dc, m_underlined.get()); // only now: underlining costs even where there is no text
-    fill(dc, piece, look.back, m_keyAt, m_y, m_key);
-    ::SelectObject(dc, m_plain.get());
-    piece.left = m_restAt;
-    fill(dc, piece, look.back, m_restAt, m_y, m_rest);
+    m_caption.write(dc, inside(inset + 1), look.back);
 }
 
-BareImagePainter::BareImagePainter(HWND window, SIZE size, HFONT font, std::string caption,
+BareImagePainter::BareImagePainter(HWND window, SIZE size, HFONT font, std::string const& caption,
                                    BareImage const& image)
-    : m_window(window), m_width(size.cx), m_height(size.cy), m_plain(fontLike(font, false)),
-      m_underlined(fontLike(font, true)), m_key(caption.substr(0, 1)), m_rest(caption.substr(1)),
-      m_image(image)
-{
-    WindowDc const target(window);
-    m_y = centred(m_height, sizeOf(target.get(), m_plain.get(), caption).cy);
-    m_keyAt = kBorder + kMargin + (image.size.cx ? image.size.cx + kGap : 0);
-    m_restAt = m_keyAt + sizeOf(target.get(), m_plain.get(), m_key).cx;
-}
+    : m_window(window), m_width(size.cx), m_height(size.cy), m_image(image),
+      m_caption(window, size, font, caption, kBorder + kMargin + (image.size.cx ? image.size.cx + kGap : 0))
+{}
 
 void BareImagePainter::paint(BareImageLook const& look) const
 {
@@ -109,17 +111,12 @@ void BareImagePainter::paint(BareImageLook const& look) const
     UniqueMemoryDc const dc(::CreateCompatibleDC(target.get()));
     UniqueBitmap const bitmap(::CreateCompatibleBitmap(target.get(), m_width, m_height));
     SelectScope const selectedBitmap(dc.get(), bitmap.get());
-    SelectScope const selectedFont(dc.get(), m_plain.get());
+    SelectScope const selectedFont(dc.get(), m_caption.font());
     ::SetTextColor(dc.get(), look.fore);
     require(::GetFocus() != m_window, "the painted button has no focus, which would make its edges thicker");
     fill(dc.get(), {0, 0, m_width, m_height}, look.back);
     edges(dc.get(), look);
-    RECT piece = {m_keyAt, kBorder + 1, m_width - kBorder - 1, m_height - kBorder - 1};
-    ::SelectObject(dc.get(), m_underlined.get());
-    fill(dc.get(), piece, look.back, m_keyAt, m_y, m_key);
-    ::SelectObject(dc.get(), m_plain.get());
-    piece.left = m_restAt;
-    fill(dc.get(), piece, look.back, m_restAt, m_y, m_rest);
+    m_caption.write(dc.get(), {0, kBorder + 1, m_width - kBorder - 1, m_height - kBorder - 1}, look.back);
     image(dc.get());
     ::BitBlt(target.get(), 0, 0, m_width, m_height, dc.get(), 0, 0, SRCCOPY);
 }

@@ -2,12 +2,14 @@
 // measured against.
 #pragma once
 
+#include "base/ComPtr.h"
 #include "base/Handles.h"
 #include "base/RunTimeError.h"
 
 #include <olectl.h>
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace quillet::bench {
@@ -33,6 +35,36 @@ template <class Button> COLORREF colourOf(Button& button, GetColour<Button> get)
     return translated;
 }
 
+/// The font that the button writes with; the button keeps it.
+template <class Button> HFONT fontOf(Button& button)
+{
+    ComPtr<IFontDisp> dispatch;
+    check(button.get_Font(dispatch.put()));
+    HFONT handle = nullptr;
+    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
+    return handle;
+}
+
+/// A caption whose first letter is the access key: its two pieces, and where each begins.
+class BareCaption {
+public:
+    /// Beside the left edge where one is given, in pixels, else in the middle of the button.
+    BareCaption(HWND window, SIZE button, HFONT font, std::string const& text, std::optional<int> left = {});
+
+    HFONT font() const noexcept { return m_plain.get(); }
+    /// Fills the rectangle from the first letter on, with the caption in it; leaves its font selected.
+    void write(HDC dc, RECT rectangle, COLORREF back) const;
+
+private:
+    UniqueFont m_plain;
+    UniqueFont m_underlined;
+    std::string m_key;
+    std::string m_rest;
+    int m_y;
+    int m_keyAt;
+    int m_restAt;
+};
+
 struct BareLook {
     COLORREF fore;
     COLORREF back;
@@ -45,7 +77,7 @@ struct BareLook {
 class BarePainter {
 public:
     /// For a window and a caption whose first letter is the access key, centred.
-    BarePainter(HWND window, SIZE size, HFONT font, std::string caption);
+    BarePainter(HWND window, SIZE size, HFONT font, std::string const& caption);
 
     /// Off the screen and copied, with the calls that a paint is described by: a DC for the window, a memory
     /// DC and a compatible bitmap, made and freed each time; one text output for each fill and piece of
@@ -62,13 +94,7 @@ private:
     HWND m_window;
     int m_width;
     int m_height;
-    UniqueFont m_plain;
-    UniqueFont m_underlined;
-    std::string m_key;
-    std::string m_rest;
-    int m_y;
-    int m_keyAt;
-    int m_restAt;
+    BareCaption m_caption;
 };
 
 struct BareImageLook {
@@ -90,7 +116,7 @@ struct BareImage {
 class BareImagePainter {
 public:
     /// For a border of one pixel and a caption whose first letter is the access key, beside the image.
-    BareImagePainter(HWND window, SIZE size, HFONT font, std::string caption, BareImage const& image);
+    BareImagePainter(HWND window, SIZE size, HFONT font, std::string const& caption, BareImage const& image);
 
     void paint(BareImageLook const& look) const;
 
@@ -101,14 +127,8 @@ private:
     HWND m_window;
     int m_width;
     int m_height;
-    UniqueFont m_plain;
-    UniqueFont m_underlined;
-    std::string m_key;
-    std::string m_rest;
     BareImage m_image;
-    int m_y;
-    int m_keyAt;
-    int m_restAt;
+    BareCaption m_caption;
 };
 
 } // namespace quillet::bench

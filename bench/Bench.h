@@ -45,4 +45,9 @@ Rows measureSaving(kit::Library const& library, Effort effort);
 Rows measureFootprint(kit::Library const& library, Effort effort);
 Rows measureSize(kit::Library const& library, Effort effort);
 
+/// One button made, shown and painted, ours and one of the system's, for whoever counts what that asks of the
+/// window server. Looks for an atom before and after each: a request of its own, which tells in the server's
+/// list of requests where it begins ("bench: ours", "bench: floor") and ends ("bench: end").
+void makeWhatIsCounted(kit::Library const& library);
+
 } // namespace quillet::bench

@@ -132,15 +132,6 @@ HWND windowOf(_qvFlatOption& option)
     return static_cast<HWND>(LongToHandle(window));
 }
 
-HFONT fontOf(_qvFlatOption& option)
-{
-    ComPtr<IFontDisp> dispatch;
-    check(option.get_Font(dispatch.put()));
-    HFONT handle = nullptr;
-    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
-    return handle;
-}
-
 /// A flat option button and a bare one of the same look in one window.
 struct Pair {
     explicit Pair(kit::Library const& library) : factory(library.factory(kQvFlatOptionClass))

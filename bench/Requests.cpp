@@ -1,7 +1,6 @@
 // One button made, shown and painted, ours and one of the system's, for whoever counts what that asks of the
 // window server.
-#include "bench/Requests.h"
-
+#include "bench/Bench.h"
 #include "bench/CrowdedForm.h"
 #include "kit/Pump.h"
 

@@ -73,15 +73,6 @@ void ShownButton::leave(Look look)
     enter(Look::Normal);
 }
 
-HFONT fontOf(_qvFlatCommand& button)
-{
-    ComPtr<IFontDisp> dispatch;
-    check(button.get_Font(dispatch.put()));
-    HFONT handle = nullptr;
-    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
-    return handle;
-}
-
 BarePainter ShownButton::barePainter() const
 {
     return {m_buttonWindow, kSize, fontOf(control()), "Save changes"};

@@ -14,9 +14,6 @@ namespace quillet::bench {
 
 enum class Look { Normal, Hot, Pressed, Disabled };
 
-/// The font that the button writes with; the button keeps it.
-HFONT fontOf(_qvFlatCommand& button);
-
 class ShownButton {
 public:
     static constexpr RECT kPlace{20, 20, 140, 52};

@@ -77,18 +77,9 @@ void ShownImageButton::enter(ImageLook look)
     kit::pumpPending();
 }
 
-HFONT ShownImageButton::font() const
-{
-    ComPtr<IFontDisp> dispatch;
-    check(m_button->get_Font(dispatch.put()));
-    HFONT handle = nullptr;
-    check(dispatch.as<IFont>(IID_IFont)->get_hFont(&handle));
-    return handle;
-}
-
 BareImagePainter ShownImageButton::barePainter() const
 {
-    return {m_buttonWindow, kSize, font(), "Save changes", m_image};
+    return {m_buttonWindow, kSize, fontOf(control()), "Save changes", m_image};
 }
 
 BareImageLook ShownImageButton::bareLook(ImageLook look) const

@@ -53,8 +53,6 @@ public:
     BareImageLook bareLook(ImageLook look) const;
 
 private:
-    HFONT font() const;
-
     BareImage m_image;
     kit::HostWindow m_window{40, 40, 200, 100};
     Frame m_frame{m_window.handle()};

@@ -5,7 +5,6 @@
 #include "base/RunTimeError.h"
 #include "bench/Bench.h"
 #include "bench/Goals.h"
-#include "bench/Requests.h"
 #include "bench/Rounds.h"
 #include "kit/UiThread.h"
 

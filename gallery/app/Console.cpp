@@ -1,9 +1,8 @@
 // What the gallery says to whoever started it. A program with windows has no console of its own.
 #include "gallery/app/Console.h"
 
+#include "gallery/form/FileBytes.h"
 #include "gallery/form/FormReader.h"
-#include "gallery/form/UniqueFile.h"
-#include "gallery/form/Utf8.h"
 
 #include <windows.h>
 
@@ -37,6 +36,15 @@ bool writeToParentsConsole(std::wstring_view text)
 }
 
 } // namespace
+
+std::string utf8(std::wstring_view text)
+{
+    int const count = static_cast<int>(text.size());
+    int const needed = ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, nullptr, 0, nullptr, nullptr);
+    std::string bytes(static_cast<std::size_t>(needed), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), count, bytes.data(), needed, nullptr, nullptr);
+    return bytes;
+}
 
 void say(Stream stream, std::wstring_view text)
 {

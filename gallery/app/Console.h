@@ -1,11 +1,15 @@
 // What the gallery says to whoever started it.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace quillet::gallery {
 
 struct FormError;
+
+/// Text as it leaves the program.
+std::string utf8(std::wstring_view text);
 
 enum class Stream { Output, Error };
 

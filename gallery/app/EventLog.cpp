@@ -3,7 +3,6 @@
 
 #include "gallery/app/Console.h"
 #include "gallery/form/FormReader.h"
-#include "gallery/form/Utf8.h"
 
 namespace quillet::gallery {
 

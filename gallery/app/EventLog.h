@@ -1,7 +1,7 @@
 // A file of lines that others can read while it grows.
 #pragma once
 
-#include "gallery/form/UniqueFile.h"
+#include "gallery/form/FileBytes.h"
 
 #include <string>
 #include <string_view>

@@ -9,7 +9,6 @@
 #include "gallery/app/Options.h"
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/FormReader.h"
-#include "gallery/form/Utf8.h"
 
 #include <ole2.h>
 #include <windows.h>

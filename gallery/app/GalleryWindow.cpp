@@ -10,6 +10,7 @@
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/Names.h"
 #include "gallery/host/HostedControl.h"
+#include "gallery/host/OwnWindow.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,19 +70,10 @@ GalleryWindow::~GalleryWindow() { close(); }
 
 void GalleryWindow::makeWindow()
 {
-    HINSTANCE const program = ::GetModuleHandleW(nullptr);
-    WNDCLASSEXW row{};
-    row.cbSize = sizeof row;
-    row.lpfnWndProc = windowProc;
-    row.hInstance = program;
-    row.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
-    row.hIcon = ::LoadIconW(program, MAKEINTRESOURCEW(GALLERY_ICON));
-    row.hbrBackground = ::GetSysColorBrush(COLOR_BTNFACE);
-    row.lpszClassName = kGalleryClass;
-    ::RegisterClassExW(&row);
+    registerOwnWindow<GalleryWindow>(kGalleryClass, ::GetSysColorBrush(COLOR_BTNFACE));
     m_window.reset(::CreateWindowExW(WS_EX_CONTROLPARENT, kGalleryClass, kProgram,
                                      WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0,
-                                     0, nullptr, nullptr, program, this));
+                                     0, nullptr, nullptr, ::GetModuleHandleW(nullptr), this));
     if (!m_window)
         throw RunTimeError(HRESULT_FROM_WIN32(::GetLastError()));
 }
@@ -352,19 +344,6 @@ void GalleryWindow::runLater()
     } catch (FormError const& error) {
         ::MessageBoxW(window(), error.text().c_str(), kProgram, MB_OK | MB_ICONERROR);
     }
-}
-
-LRESULT CALLBACK GalleryWindow::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
-{
-    if (message == WM_NCCREATE) {
-        auto const* const creation = reinterpret_cast<CREATESTRUCTW const*>(lParam);
-        ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-    }
-    auto* const gallery = reinterpret_cast<GalleryWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-    // The owner's member is set when the creation returns, and is empty again while the window goes.
-    if (!gallery || gallery->window() != window)
-        return ::DefWindowProcW(window, message, wParam, lParam);
-    return orFallback(LRESULT{0}, [&] { return gallery->handle(message, wParam, lParam); });
 }
 
 LRESULT GalleryWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)

@@ -41,10 +41,10 @@ public:
     Form* dialog() noexcept { return m_dialog ? m_dialog->form() : nullptr; }
     HWND events() const noexcept { return m_pane->list(); }
 
-private:
-    static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    /// What the window is sent.
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
 
+private:
     void makeWindow();
     void makeBar();
     std::unique_ptr<OpenForm> opened(Document document);

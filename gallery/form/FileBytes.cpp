@@ -2,9 +2,6 @@
 #include "gallery/form/FileBytes.h"
 
 #include "gallery/form/FormReader.h"
-#include "gallery/form/UniqueFile.h"
-
-#include <windows.h>
 
 namespace quillet::gallery {
 

@@ -1,10 +1,25 @@
-// Whole files as bytes.
+// Files: an open one, and whole ones as bytes.
 #pragma once
+
+#include "base/Handles.h"
+
+#include <windows.h>
 
 #include <string>
 #include <string_view>
 
 namespace quillet::gallery {
+
+/// An open file or console.
+struct FileTraits {
+    using Handle = HANDLE;
+    static void close(HANDLE file) noexcept
+    {
+        if (file != INVALID_HANDLE_VALUE)
+            ::CloseHandle(file);
+    }
+};
+using UniqueFile = UniqueHandle<FileTraits>;
 
 /// Throws FormError for a file that cannot be read, or is larger than anything of a form.
 std::string fileBytes(std::wstring const& path);

@@ -145,21 +145,15 @@ private:
         if (depth > kDeepestNesting)
             fail(L"objects are nested too deeply");
         FormNode node = nodeHead(head);
-        while (true) {
-            std::wstring_view const line = needLine(L"an End is missing").text;
-            std::wstring_view rest = line;
-            std::wstring_view const word = takeWord(rest);
-            if (sameName(word, L"End") && rest.empty()) {
-                node.endLine = m_lines.number();
-                return node;
-            }
+        node.endLine = readUntil(L"End", L"an End is missing", [&](auto line, auto word, auto rest) {
             if (sameName(word, L"Begin"))
                 node.children.push_back(readNode(rest, depth + 1));
             else if (sameName(word, L"BeginProperty"))
                 node.blocks.push_back(readBlock(rest, 1));
             else
                 node.properties.push_back(readProperty(line));
-        }
+        });
+        return node;
     }
 
     PropertyBlock readBlock(std::wstring_view head, int depth)
@@ -172,18 +166,27 @@ private:
         block.classId = head;
         if (!isKey(block.name))
             fail(L"BeginProperty is followed by a name");
+        block.endLine =
+            readUntil(L"EndProperty", L"an EndProperty is missing", [&](auto line, auto word, auto rest) {
+                if (sameName(word, L"BeginProperty"))
+                    block.blocks.push_back(readBlock(rest, depth + 1));
+                else
+                    block.properties.push_back(readProperty(line));
+            });
+        return block;
+    }
+
+    /// Gives each line to take, with its first word and what is behind that, until one that is the end alone;
+    /// answers that line's number.
+    template <class Take> int readUntil(wchar_t const* end, wchar_t const* missing, Take const& take)
+    {
         while (true) {
-            std::wstring_view const line = needLine(L"an EndProperty is missing").text;
+            std::wstring_view const line = needLine(missing).text;
             std::wstring_view rest = line;
             std::wstring_view const word = takeWord(rest);
-            if (sameName(word, L"EndProperty") && rest.empty()) {
-                block.endLine = m_lines.number();
-                return block;
-            }
-            if (sameName(word, L"BeginProperty"))
-                block.blocks.push_back(readBlock(rest, depth + 1));
-            else
-                block.properties.push_back(readProperty(line));
+            if (sameName(word, end) && rest.empty())
+                return m_lines.number();
+            take(line, word, rest);
         }
     }
 

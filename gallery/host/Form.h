@@ -100,18 +100,16 @@ public:
 
     void raise(FormControl& control, std::wstring_view name, DISPPARAMS const& arguments);
     void warn(int line, std::wstring reason) const;
+    /// What the form's window is sent.
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     /// Messages that children send to the window they stand in; nothing when it is none of those.
     std::optional<LRESULT> childMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
 private:
-    static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-    static ATOM windowClass() noexcept;
-
     void makeWindow(FormNode const& node);
     void makeControls(std::vector<FormNode> const& nodes, FormControl* container);
     std::unique_ptr<FormControl> makeControl(FormNode const& node, FormControl* container);
     void keepOneDefault();
-    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     bool designed(MSG const& message);
     void paint();
     void eraseBackground(HDC dc) const;

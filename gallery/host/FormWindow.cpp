@@ -1,9 +1,9 @@
 // The window of a form: its style and place, its messages and its background.
-#include "base/ComCall.h"
 #include "drawing/Colour.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
 #include "gallery/host/Form.h"
+#include "gallery/host/OwnWindow.h"
 #include "gallery/intrinsic/IntrinsicControl.h"
 #include "gallery/intrinsic/PaintScope.h"
 
@@ -14,8 +14,6 @@ namespace quillet::gallery {
 namespace {
 
 constexpr wchar_t kFormClass[] = L"QuilletGalleryForm";
-
-wchar_t const* const kProgramIcon = MAKEINTRESOURCEW(1);
 
 constexpr long kSizable = 2;
 constexpr long kStartManual = 0;
@@ -63,23 +61,6 @@ RECT clientPlace(FormValues const& values, Resolution const& resolution, HWND ow
 
 } // namespace
 
-ATOM Form::windowClass() noexcept
-{
-    WNDCLASSEXW row{};
-    row.cbSize = sizeof row;
-    if (ATOM const known =
-            static_cast<ATOM>(::GetClassInfoExW(::GetModuleHandleW(nullptr), kFormClass, &row)))
-        return known;
-    row = {};
-    row.cbSize = sizeof row;
-    row.lpfnWndProc = windowProc;
-    row.hInstance = ::GetModuleHandleW(nullptr);
-    row.hCursor = ::LoadCursorA(nullptr, IDC_ARROW);
-    row.hIcon = ::LoadIconW(row.hInstance, kProgramIcon);
-    row.lpszClassName = kFormClass;
-    return ::RegisterClassExW(&row);
-}
-
 void Form::makeWindow(FormNode const& node)
 {
     FormValues const values(node);
@@ -90,7 +71,7 @@ void Form::makeWindow(FormNode const& node)
         ::OffsetRect(&place, -place.left, -place.top);
     ::AdjustWindowRectEx(&place, style, FALSE, 0);
     bool const isPlacedBySystem = !isChild && values.whole(L"StartUpPosition", kStartManual) == kStartDefault;
-    windowClass();
+    registerOwnWindow<Form>(kFormClass);
     m_window.reset(::CreateWindowExW(
         isChild ? WS_EX_CONTROLPARENT : 0, kFormClass, values.text(L"Caption", node.name).c_str(), style,
         isPlacedBySystem ? CW_USEDEFAULT : static_cast<int>(place.left),
@@ -125,19 +106,6 @@ void Form::setBackColor(OLE_COLOR color)
 {
     m_backColor = color;
     ::InvalidateRect(window(), nullptr, TRUE);
-}
-
-LRESULT CALLBACK Form::windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
-{
-    if (message == WM_NCCREATE) {
-        auto const* const creation = reinterpret_cast<CREATESTRUCTW const*>(lParam);
-        ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-    }
-    auto* const form = reinterpret_cast<Form*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-    // The owner's member is set when the creation returns, and is empty again while the window goes.
-    if (!form || form->window() != window)
-        return ::DefWindowProcW(window, message, wParam, lParam);
-    return orFallback(LRESULT{0}, [&] { return form->handle(message, wParam, lParam); });
 }
 
 LRESULT Form::handle(UINT message, WPARAM wParam, LPARAM lParam)

@@ -5,10 +5,10 @@
 #include "drawing/SystemColours.h"
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
+#include "gallery/form/Names.h"
 #include "gallery/host/Form.h"
 #include "gallery/intrinsic/BoxWindow.h"
 #include "gallery/intrinsic/IntrinsicObject.h"
-#include "gallery/intrinsic/Mnemonic.h"
 #include "gallery/intrinsic/WindowStyle.h"
 
 #include <windowsx.h>
@@ -50,6 +50,19 @@ ComPtr<IFont> fontOf(FormNode const& node, Form const& form)
     if (PropertyBlock const* const block = FormValues(node).findBlock(L"Font"))
         return makeFont(fontFaceOf(*block));
     return form.font();
+}
+
+/// Whether the caption underlines that character, in either case. Doubled ampersands name none.
+bool isMnemonic(std::wstring_view caption, wchar_t character) noexcept
+{
+    for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+        if (caption[i] != L'&')
+            continue;
+        if (caption[i + 1] != L'&')
+            return sameName(caption.substr(i + 1, 1), std::wstring_view(&character, 1));
+        ++i;
+    }
+    return false;
 }
 
 } // namespace

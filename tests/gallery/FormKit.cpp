@@ -1,9 +1,9 @@
 // Opens forms in tests, with fake controls or with the component's own, and writes down what they raise.
 #include "gallery/FormKit.h"
 
+#include "gallery/app/Console.h"
 #include "gallery/app/EventText.h"
 #include "gallery/form/FileBytes.h"
-#include "gallery/form/Utf8.h"
 #include "gallery/host/Extender.h"
 
 #include <algorithm>

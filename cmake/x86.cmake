@@ -1,4 +1,0 @@
-# Cross-compiles for 32-bit Windows.
-set(QUILLET_ARCH x86)
-set(QUILLET_TRIPLE i686-w64-mingw32)
-include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)
