@@ -101,7 +101,7 @@ void ImageButton::placePicture()
 {
     if (m_image1.isEmpty() || isEmpty(clientSize()))
         return;
-    TwipsPerPixel const twips = twipsPerPixel();
+    TwipsPerPixel const& twips = window().twipsPerPixel();
     SIZE const size = clientSize();
     SIZE const picture = m_image1.size();
     long const offset = pressedOffset();

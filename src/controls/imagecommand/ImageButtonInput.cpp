@@ -44,7 +44,7 @@ AccessibleLook ImageButton::accessibleLook() const
 /// Changes the field and not the property: a click by the user is not saved with the form.
 void ImageButton::onReleased(MouseArguments const& mouse)
 {
-    if (m_looks.checkButton && isInside(mouse, clientSize(), twipsPerPixel()))
+    if (m_looks.checkButton && isInside(mouse, clientSize(), window().twipsPerPixel()))
         m_looks.checked = !m_looks.checked;
 }
 

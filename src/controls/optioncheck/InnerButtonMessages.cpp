@@ -117,7 +117,10 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     }
     case WM_MOUSEMOVE:
-        tell([&] { m_control.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam)); });
+        tell([&] {
+            m_control.onMouseMove(
+                mouseArguments(m_control.window().twipsPerPixel(), heldButtons(wParam), wParam, lParam));
+        });
         return passOn(message, wParam, lParam);
     case WM_CAPTURECHANGED: {
         LRESULT const result = passOn(message, wParam, lParam);
@@ -170,7 +173,8 @@ LRESULT InnerButton::handle(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT InnerButton::button(ButtonMessage const& row, WPARAM wParam, LPARAM lParam)
 {
     bool const left = row.button == MouseButtons::kLeft;
-    MouseArguments const mouse = mouseArguments(row.button, wParam, lParam);
+    MouseArguments const mouse =
+        mouseArguments(m_control.window().twipsPerPixel(), row.button, wParam, lParam);
     switch (row.what) {
     case ButtonMessage::What::Down:
         if (!tellAndStay([&] { m_control.onMouseDown(mouse); }))

@@ -1,8 +1,6 @@
 // Mouse messages taken apart: which button, what happened to it, and the arguments of a mouse event.
 #include "surface/window/MouseMessage.h"
 
-#include "base/Scale.h"
-
 #include <windowsx.h>
 
 namespace quillet {
@@ -52,9 +50,8 @@ short heldButtons(WPARAM keys) noexcept
                               ((keys & MK_MBUTTON) ? MouseButtons::kMiddle : 0));
 }
 
-MouseArguments mouseArguments(short button, WPARAM keys, LPARAM at) noexcept
+MouseArguments mouseArguments(TwipsPerPixel const& twips, short button, WPARAM keys, LPARAM at) noexcept
 {
-    TwipsPerPixel const twips = twipsPerPixel();
     return {button, shiftOfMouse(keys), static_cast<float>(GET_X_LPARAM(at) * twips.x),
             static_cast<float>(GET_Y_LPARAM(at) * twips.y)};
 }

@@ -1,6 +1,8 @@
 // Mouse messages taken apart: which button, what happened to it, and the arguments of a mouse event.
 #pragma once
 
+#include "base/Scale.h"
+
 #include <windows.h>
 
 namespace quillet {
@@ -33,7 +35,7 @@ ButtonMessage const* buttonMessage(UINT message) noexcept;
 /// The buttons held, as mouse messages tell them.
 short heldButtons(WPARAM keys) noexcept;
 
-MouseArguments mouseArguments(short button, WPARAM keys, LPARAM at) noexcept;
+MouseArguments mouseArguments(TwipsPerPixel const& twips, short button, WPARAM keys, LPARAM at) noexcept;
 
 /// The shift state that belongs to the key message being handled.
 short shiftOfKeys() noexcept;

@@ -69,7 +69,7 @@ LRESULT SurfaceWindow::handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEMOVE:
         if (!(wParam & MK_LBUTTON))
             m_clickBegun = false; // the button came up somewhere else
-        m_surface.onMouseMove(mouseArguments(heldButtons(wParam), wParam, lParam));
+        m_surface.onMouseMove(mouseArguments(twipsPerPixel(), heldButtons(wParam), wParam, lParam));
         return 0;
     case WM_CAPTURECHANGED:
         if (isCaptureLost(m_window, lParam))
@@ -157,7 +157,7 @@ void SurfaceWindow::button(ButtonMessage const& row, WPARAM wParam, LPARAM lPara
     case ButtonMessage::What::Down:
         if (left)
             beginClick();
-        m_surface.onMouseDown(mouseArguments(row.button, wParam, lParam));
+        m_surface.onMouseDown(mouseArguments(twipsPerPixel(), row.button, wParam, lParam));
         return;
     case ButtonMessage::What::Up:
         release(row.button, wParam, lParam);
@@ -191,7 +191,7 @@ void SurfaceWindow::release(short button, WPARAM wParam, LPARAM lParam)
     bool const begun = button == MouseButtons::kLeft && m_clickBegun;
     if (button == MouseButtons::kLeft)
         m_clickBegun = false;
-    m_surface.onMouseUp(mouseArguments(button, wParam, lParam));
+    m_surface.onMouseUp(mouseArguments(twipsPerPixel(), button, wParam, lParam));
     RECT client = {};
     if (begun && m_window && ::GetClientRect(m_window, &client) &&
         ::PtInRect(&client, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))

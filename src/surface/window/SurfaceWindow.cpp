@@ -103,6 +103,13 @@ SIZE SurfaceWindow::clientSize() const noexcept
     return {client.right, client.bottom};
 }
 
+TwipsPerPixel const& SurfaceWindow::twipsPerPixel() noexcept
+{
+    if (m_twips.x == 0)
+        m_twips = quillet::twipsPerPixel();
+    return m_twips;
+}
+
 void SurfaceWindow::attach(HWND parent, RECT const* clip)
 {
     if (!m_window) {
@@ -226,6 +233,7 @@ void SurfaceWindow::destroy() noexcept
 HWND SurfaceWindow::forget() noexcept
 {
     m_dc = nullptr;
+    m_twips = {};
     m_clipped = m_clickBegun = false;
     return std::exchange(m_window, nullptr);
 }

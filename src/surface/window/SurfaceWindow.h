@@ -1,6 +1,8 @@
 // The surface's window: made at first need, parked while no container shows it.
 #pragma once
 
+#include "base/Scale.h"
+
 #include <windows.h>
 
 namespace quillet {
@@ -23,6 +25,8 @@ public:
     HDC dc();
     /// The client area in pixels; empty while there is no window.
     SIZE clientSize() const noexcept;
+    /// Of the screen as this window has it, which never changes: asking takes as long as some fills.
+    TwipsPerPixel const& twipsPerPixel() noexcept;
 
     /// Puts the window, hidden, to its place in a container's window.
     void attach(HWND parent, RECT const* clip);
@@ -68,9 +72,10 @@ private:
     Surface& m_surface;
     HWND m_window = nullptr;
     HDC m_dc = nullptr;
-    SIZE m_size = {};          ///< as the surface was last told; the next window is made in it
-    bool m_clipped = false;    ///< a region cuts off what the container does not show
-    bool m_clickBegun = false; ///< the left button went down here, and no release can have gone elsewhere
+    TwipsPerPixel m_twips = {}; ///< zeros until somebody asks
+    SIZE m_size = {};           ///< as the surface was last told; the next window is made in it
+    bool m_clipped = false;     ///< a region cuts off what the container does not show
+    bool m_clickBegun = false;  ///< the left button went down here, and no release can have gone elsewhere
 };
 
 } // namespace quillet
