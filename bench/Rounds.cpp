@@ -32,7 +32,7 @@ double medianOf(std::vector<double> values)
     return *middle;
 }
 
-constexpr std::size_t kFewest = 3;
+constexpr std::size_t kFewest = 5;
 constexpr std::size_t kMost = 1001;
 constexpr double kSpan = 2.5e6; // microseconds for one figure
 
