@@ -1,7 +1,6 @@
 // Checked arithmetic and rounding.
 #include "base/Checked.h"
 
-#include "base/Thrown.h"
 #include "kit/Errors.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,6 @@
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 #include "base/Module.h"
-#include "base/Thrown.h"
 #include "kit/Errors.h"
 
 #include <ocidl.h>

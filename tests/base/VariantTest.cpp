@@ -2,7 +2,6 @@
 #include "base/Variant.h"
 
 #include "base/Bstr.h"
-#include "base/Thrown.h"
 #include "kit/Counterpart.h"
 #include "kit/Errors.h"
 
@@ -84,18 +83,7 @@ TEST(Bstr, aCopyForAnOutParameterIsNeverNull)
 }
 
 using AnyObject = kit::Counterpart<IUnknown>;
-
-/// A dispatch object that nothing is asked of.
-class Dispatch final : public kit::Counterpart<IDispatch> {
-public:
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
-    {
-        return E_NOTIMPL;
-    }
-};
+using Dispatch = kit::DispatchCounterpart<IDispatch>;
 
 TEST(Variant, isEmptyAtFirst) { EXPECT_EQ(Variant().type(), VT_EMPTY); }
 

@@ -1,12 +1,16 @@
 // A surface bound to a picture in memory, as a control binds it to its own DC.
 #pragma once
 
-#include "base/RunTimeError.h"
+#include "drawing/GdiCalls.h"
 #include "drawing/OffScreenDC.h"
 #include "kit/Canvas.h"
 #include "kit/Errors.h"
 
+#include <gtest/gtest.h>
+
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace quillet {
 
@@ -25,6 +29,18 @@ struct BoundSurface {
         surface.FillRect(0, 0, width, height, kWhite);
     }
 
+    BoundSurface(int width, int height, COLORREF back, COLORREF text) : BoundSurface(width, height)
+    {
+        surface.BackColor(back);
+        surface.TextColor(text);
+    }
+
+    /// The pixels in which the target differs from what is expected, after a copy of all of the surface.
+    std::string differencesFrom(kit::Canvas const& expected)
+    {
+        surface.BlastToScreen();
+        return differences(expected, target);
+    }
     /// What the surface shows, after a copy of all of it.
     std::string picture()
     {
@@ -40,16 +56,36 @@ struct BoundSurface {
     OffScreenDC surface;
 };
 
-/// The HRESULT that body throws; S_OK when it throws nothing.
-template <class Body> HRESULT thrownBy(Body&& body)
-{
-    try {
-        body();
-        return S_OK;
-    } catch (RunTimeError const& error) {
-        return error.result();
+using Calls = std::vector<std::string>;
+
+/// A target whose GDI calls, and those of the surfaces bound to it, are noted.
+class NotedTarget : public testing::Test {
+protected:
+    NotedTarget() { m_gdi.name(m_target.dc(), "target"); }
+
+    void initialize(OffScreenDC& surface, long width = 7, long height = 5)
+    {
+        surface.Initialize(m_target.dc(), width, height);
     }
-}
+    void expectCalls(Calls const& calls) { EXPECT_EQ(m_record->take(), calls); }
+
+    kit::Canvas m_target{7, 5, kGrey};
+    kit::SharedRecord m_record = std::make_shared<kit::Record>();
+    GdiCalls m_gdi{m_record};
+};
+
+/// A surface to be bound to it; what that takes is forgotten.
+class NotedSurface : public NotedTarget {
+protected:
+    void begin(long width = 7, long height = 5)
+    {
+        initialize(m_surface, width, height);
+        m_record->forget();
+    }
+    HDC dc() const { return static_cast<HDC>(m_gdi.handle("dc1")); }
+
+    OffScreenDC m_surface;
+};
 
 constexpr long kMax = 2147483647;
 constexpr long kMin = -2147483647 - 1;

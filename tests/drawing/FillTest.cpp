@@ -1,7 +1,6 @@
 // Filling, writing, inverting and copying: what each puts where, what it refuses, and captions in code pages.
 #include "drawing/AnsiText.h"
 #include "drawing/BoundSurface.h"
-#include "drawing/GdiCalls.h"
 
 #include <windows.h>
 
@@ -11,8 +10,6 @@
 
 namespace quillet {
 namespace {
-
-using Calls = std::vector<std::string>;
 
 /// Text as plain GDI writes it: the box filled, then letters clipped to it, in the default font.
 void write(kit::Canvas& canvas, RECT const& box, POINT at, std::wstring const& text, COLORREF fore,
@@ -27,20 +24,9 @@ void write(kit::Canvas& canvas, RECT const& box, POINT at, std::wstring const& t
     ::RestoreDC(canvas.dc(), saved);
 }
 
-/// A surface whose GDI calls are noted.
-class SurfaceCalls : public testing::Test {
+class SurfaceCalls : public NotedSurface {
 protected:
-    SurfaceCalls()
-    {
-        m_gdi.name(m_target.dc(), "target");
-        m_surface.Initialize(m_target.dc(), 7, 5);
-        m_record->forget();
-    }
-
-    kit::Canvas m_target{7, 5, kGrey};
-    kit::SharedRecord m_record = std::make_shared<kit::Record>();
-    GdiCalls m_gdi{m_record};
-    OffScreenDC m_surface;
+    SurfaceCalls() { begin(); }
 };
 
 TEST(FillRect, withAnEmptyCaptionFillsItsRectangleAndNothingElse)
@@ -79,12 +65,10 @@ TEST(FillRect, clipsItsCaptionToTheRectangle)
     bound.surface.TextColor(kBlue);
     bound.surface.FillRect(box.left, box.top, box.right - box.left, box.bottom - box.top, kRed, 4, 1,
                            L"WWWWWWWWW");
-    bound.surface.BlastToScreen();
-
     kit::Canvas expected(60, 24, kWhite);
     write(expected, box, {4, 1}, L"WWWWWWWWW", kBlue, kRed);
     EXPECT_GT(expected.count(kBlue), 0) << "no letter shows, so nothing is proved";
-    EXPECT_EQ(differences(expected, bound.target), "");
+    EXPECT_EQ(bound.differencesFrom(expected), "");
 }
 
 TEST(FillRect, ignoresTheAlignmentOfTheCaption)
@@ -105,8 +89,7 @@ TEST(FillRect, writesItsCaptionAtTheOriginWhenNoPointIsGiven)
     given.surface.FillRect(0, 0, 60, 24, kRed);
     kit::Canvas expected(60, 24, kWhite);
     write(expected, {0, 0, 60, 24}, {0, 0}, L"Mid", kBlack, kRed);
-    left.surface.BlastToScreen();
-    EXPECT_EQ(differences(expected, left.target), "");
+    EXPECT_EQ(left.differencesFrom(expected), "");
     given.surface.BlastToScreen();
     EXPECT_EQ(given.target.count(kRed), 60 * 24);
 }
@@ -114,11 +97,9 @@ TEST(FillRect, writesItsCaptionAtTheOriginWhenNoPointIsGiven)
 TEST_F(SurfaceCalls, aFillIsOneTextOutputAfterTheBackgroundColour)
 {
     m_surface.FillRect(1, 2, 3, 4, 0x00FF7F01, 5, 6, L"Save", 2);
-    EXPECT_EQ(m_record->take(),
-              (Calls{"SetBkColor dc1 ff7f01", "ExtTextOutA dc1 5 6 6 (1,2,4,6) 'Save' 4 none"}));
+    expectCalls({"SetBkColor dc1 ff7f01", "ExtTextOutA dc1 5 6 6 (1,2,4,6) 'Save' 4 none"});
     m_surface.FillRect(0, 0, 7, 5, 0);
-    EXPECT_EQ(m_record->take(),
-              (Calls{"SetBkColor dc1 000000", "ExtTextOutA dc1 0 0 6 (0,0,7,5) '' 0 none"}));
+    expectCalls({"SetBkColor dc1 000000", "ExtTextOutA dc1 0 0 6 (0,0,7,5) '' 0 none"});
 }
 
 TEST_F(SurfaceCalls, aFillWhoseRightOrBottomEdgeOverflowsSetsTheBackgroundColourAndStops)
@@ -127,7 +108,7 @@ TEST_F(SurfaceCalls, aFillWhoseRightOrBottomEdgeOverflowsSetsTheBackgroundColour
     EXPECT_EQ(thrownBy([&] { m_surface.FillRect(0, kMax, 1, 1, kRed); }), kOverflow);
     EXPECT_EQ(thrownBy([&] { m_surface.FillRect(kMin, 0, -1, 1, kRed); }), kOverflow);
     EXPECT_EQ(thrownBy([&] { m_surface.FillRect(0, kMin, 1, -1, kRed); }), kOverflow);
-    EXPECT_EQ(m_record->take(), Calls(4, "SetBkColor dc1 0000ff"));
+    expectCalls(Calls(4, "SetBkColor dc1 0000ff"));
 }
 
 TEST_F(SurfaceCalls, anEdgeAtTheEndOfTheRangeIsNoOverflow)
@@ -152,40 +133,35 @@ TEST_F(SurfaceCalls, anInversionThatOverflowsMakesNoGdiCall)
 {
     EXPECT_EQ(thrownBy([&] { m_surface.InvertRectangle(kMax, 0, 1, 1); }), kOverflow);
     EXPECT_EQ(thrownBy([&] { m_surface.InvertRectangle(0, kMin, 1, -1); }), kOverflow);
-    EXPECT_EQ(m_record->take(), Calls{});
+    expectCalls({});
     m_surface.InvertRectangle(1, 2, 3, 4);
-    EXPECT_EQ(m_record->take(), Calls{"InvertRect dc1 (1,2,4,6)"});
+    expectCalls({"InvertRect dc1 (1,2,4,6)"});
 }
 
 TEST(PrintString, paintsFromItsPointToTheBottomRightCornerInTheBackgroundColour)
 {
-    BoundSurface bound(100, 30);
-    bound.surface.BackColor(kRed);
+    BoundSurface bound(100, 30, kRed, kBlack);
     bound.surface.PrintString(10, 5, L"");
-    bound.surface.BlastToScreen();
     kit::Canvas expected(100, 30, kWhite);
     expected.fill(10, 5, 100, 30, kRed);
-    EXPECT_EQ(differences(expected, bound.target), "");
+    EXPECT_EQ(bound.differencesFrom(expected), "");
 }
 
 TEST(PrintString, erasesWhatWasThereAndWritesItsTextAtThePoint)
 {
-    BoundSurface bound(100, 30);
+    BoundSurface bound(100, 30, kRed, kBlue);
     bound.surface.FillRect(0, 0, 100, 30, kGrey);
     bound.surface.BackColor(kRed);
-    bound.surface.TextColor(kBlue);
     bound.surface.PrintString(10, 5, L"Quill");
-    bound.surface.BlastToScreen();
     kit::Canvas expected(100, 30, kGrey);
     write(expected, {10, 5, 100, 30}, {10, 5}, L"Quill", kBlue, kRed);
     EXPECT_GT(expected.count(kBlue), 0);
-    EXPECT_EQ(differences(expected, bound.target), "");
+    EXPECT_EQ(bound.differencesFrom(expected), "");
 }
 
 TEST(PrintString, outsideTheSurfaceChangesNothing)
 {
-    BoundSurface bound(6, 2);
-    bound.surface.BackColor(kRed);
+    BoundSurface bound(6, 2, kRed, kBlack);
     bound.surface.PrintString(7, 0, L"text");
     bound.surface.PrintString(0, 3, L"text");
     EXPECT_EQ(bound.picture(), "......\n......\n");
@@ -194,7 +170,7 @@ TEST(PrintString, outsideTheSurfaceChangesNothing)
 TEST_F(SurfaceCalls, printingIsOneTextOutputThatSetsNoColour)
 {
     m_surface.PrintString(1, 2, L"Save");
-    EXPECT_EQ(m_record->take(), Calls{"ExtTextOutA dc1 1 2 6 (1,2,7,5) 'Save' 4 none"});
+    expectCalls({"ExtTextOutA dc1 1 2 6 (1,2,7,5) 'Save' 4 none"});
 }
 
 TEST(BlastToScreen, withoutArgumentsCopiesTheWholeSurfaceToTheOrigin)
@@ -221,26 +197,22 @@ TEST(BlastToScreen, copiesARectangleToTheSamePlace)
     EXPECT_EQ(height, 2);
 }
 
-TEST(BlastToScreen, withWidthMinusOneAndAHeightFillsInOnlyTheCallersWidth)
+/// Copies a surface of 4 by 3 pixels; the width and height that are filled in, and the picture.
+std::string copied(long width, long height)
 {
     BoundSurface bound(4, 3);
-    long width = -1;
-    long height = 2;
     bound.surface.BlastToScreen(0, 0, width, height);
-    EXPECT_EQ(width, 4);
-    EXPECT_EQ(height, 2);
-    EXPECT_EQ(bound.targetPicture(), "....\n....\ngggg\n");
+    return std::to_string(width) + " x " + std::to_string(height) + '\n' + bound.targetPicture();
+}
+
+TEST(BlastToScreen, withWidthMinusOneAndAHeightFillsInOnlyTheCallersWidth)
+{
+    EXPECT_EQ(copied(-1, 2), "4 x 2\n....\n....\ngggg\n");
 }
 
 TEST(BlastToScreen, withHeightMinusOneAndAWidthFillsInOnlyTheCallersHeight)
 {
-    BoundSurface bound(4, 3);
-    long width = 2;
-    long height = -1;
-    bound.surface.BlastToScreen(0, 0, width, height);
-    EXPECT_EQ(width, 2);
-    EXPECT_EQ(height, 3);
-    EXPECT_EQ(bound.targetPicture(), "..gg\n..gg\n..gg\n");
+    EXPECT_EQ(copied(2, -1), "2 x 3\n..gg\n..gg\n..gg\n");
 }
 
 TEST_F(SurfaceCalls, argumentsOfBlastToScreenMayBeLeftOutFromTheEnd)
@@ -252,10 +224,9 @@ TEST_F(SurfaceCalls, argumentsOfBlastToScreenMayBeLeftOutFromTheEnd)
     m_surface.BlastToScreen(0, 0, -1, -1);
     m_surface.BlastToScreen(0, 0, -2, 3);
     EXPECT_EQ(width, 7);
-    EXPECT_EQ(m_record->take(),
-              (Calls{"BitBlt target 1 0 7 5 dc1 1 0 cc0020", "BitBlt target 1 2 7 5 dc1 1 2 cc0020",
-                     "BitBlt target 1 2 7 5 dc1 1 2 cc0020", "BitBlt target 0 0 7 5 dc1 0 0 cc0020",
-                     "BitBlt target 0 0 -2 3 dc1 0 0 cc0020"}));
+    expectCalls({"BitBlt target 1 0 7 5 dc1 1 0 cc0020", "BitBlt target 1 2 7 5 dc1 1 2 cc0020",
+                 "BitBlt target 1 2 7 5 dc1 1 2 cc0020", "BitBlt target 0 0 7 5 dc1 0 0 cc0020",
+                 "BitBlt target 0 0 -2 3 dc1 0 0 cc0020"});
 }
 
 constexpr unsigned kWestern = 1252;

@@ -2,7 +2,6 @@
 #include "base/ComCall.h"
 #include "drawing/BoundSurface.h"
 #include "drawing/FakeFont.h"
-#include "drawing/GdiCalls.h"
 #include "kit/Canvas.h"
 #include "kit/Fonts.h"
 
@@ -11,42 +10,43 @@
 namespace quillet {
 namespace {
 
-using Calls = std::vector<std::string>;
-
 HFONT stockFont(int index) { return static_cast<HFONT>(::GetStockObject(index)); }
 
-class SurfaceFont : public testing::Test {
+class SurfaceFont : public NotedSurface {
 protected:
     SurfaceFont()
     {
         m_gdi.name(stockFont(ANSI_VAR_FONT), "handle1");
         m_gdi.name(stockFont(ANSI_FIXED_FONT), "handle2");
-        m_surface.Initialize(m_target.dc(), 7, 5);
+        begin();
+    }
+    /// The calls that giving a font makes.
+    Calls callsOf(IFont* font)
+    {
         m_record->forget();
+        m_surface.Font(font);
+        return m_record->take();
+    }
+    HRESULT thrownByFont(IFont* font)
+    {
+        return thrownBy([&] { m_surface.Font(font); });
     }
 
-    kit::Canvas m_target{7, 5, kGrey};
-    kit::SharedRecord m_record = std::make_shared<kit::Record>();
-    GdiCalls m_gdi{m_record};
     ComPtr<FakeFont> m_font1 = kit::make<FakeFont>(m_record, "font1", stockFont(ANSI_VAR_FONT));
     ComPtr<FakeFont> m_font2 = kit::make<FakeFont>(m_record, "font2", stockFont(ANSI_FIXED_FONT));
-    OffScreenDC m_surface;
 };
 
 TEST_F(SurfaceFont, theFirstFontIsCountedOnceAndItsHandleSelected)
 {
-    m_surface.Font(m_font1.get());
-    EXPECT_EQ(m_record->take(),
+    EXPECT_EQ(callsOf(m_font1.get()),
               (Calls{"font1.AddRef", "font1.get_hFont", "SelectObject dc1 handle1 -> initial font"}));
 }
 
 TEST_F(SurfaceFont, aSecondFontReplacesTheFirstWhichIsGivenUpBeforeTheSecondIsCounted)
 {
     m_surface.Font(m_font1.get());
-    m_record->forget();
-    m_surface.Font(m_font2.get());
-    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont",
-                                       "SelectObject dc1 handle2 -> handle1"}));
+    EXPECT_EQ(callsOf(m_font2.get()), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont",
+                                             "SelectObject dc1 handle2 -> handle1"}));
     EXPECT_EQ(m_font1->references(), 1U);
     EXPECT_EQ(m_font2->references(), 2U);
 }
@@ -54,19 +54,15 @@ TEST_F(SurfaceFont, aSecondFontReplacesTheFirstWhichIsGivenUpBeforeTheSecondIsCo
 TEST_F(SurfaceFont, theSameFontSetAgainIsAskedForItsHandleAgain)
 {
     m_surface.Font(m_font1.get());
-    m_record->forget();
-    m_surface.Font(m_font1.get());
-    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font1.AddRef", "font1.get_hFont",
-                                       "SelectObject dc1 handle1 -> handle1"}));
+    EXPECT_EQ(callsOf(m_font1.get()), (Calls{"font1.Release", "font1.AddRef", "font1.get_hFont",
+                                             "SelectObject dc1 handle1 -> handle1"}));
 }
 
 TEST_F(SurfaceFont, afterASecondFontAnEmptyOneBringsBackTheInitialFontNotTheFirst)
 {
     m_surface.Font(m_font1.get());
     m_surface.Font(m_font2.get());
-    m_record->forget();
-    m_surface.Font(nullptr);
-    EXPECT_EQ(m_record->take(), (Calls{"font2.Release", "SelectObject dc1 initial font -> handle2"}));
+    EXPECT_EQ(callsOf(nullptr), (Calls{"font2.Release", "SelectObject dc1 initial font -> handle2"}));
     EXPECT_FALSE(m_surface.Font());
 }
 
@@ -77,15 +73,14 @@ TEST_F(SurfaceFont, afterAnEmptyFontTheNextOneIsAFirstAgain)
     m_record->forget();
     m_surface.Font(m_font2.get());
     m_surface.Font(nullptr);
-    EXPECT_EQ(m_record->take(),
-              (Calls{"font2.AddRef", "font2.get_hFont", "SelectObject dc1 handle2 -> initial font",
-                     "font2.Release", "SelectObject dc1 initial font -> handle2"}));
+    expectCalls({"font2.AddRef", "font2.get_hFont", "SelectObject dc1 handle2 -> initial font",
+                 "font2.Release", "SelectObject dc1 initial font -> handle2"});
 }
 
 TEST_F(SurfaceFont, anEmptyFontBeforeAnyOtherIsAnObjectThatIsNotSet)
 {
-    EXPECT_EQ(thrownBy([&] { m_surface.Font(nullptr); }), kObjectNotSet);
-    EXPECT_EQ(m_record->take(), Calls{});
+    EXPECT_EQ(thrownByFont(nullptr), kObjectNotSet);
+    expectCalls({});
     EXPECT_FALSE(m_surface.Font());
 }
 
@@ -93,27 +88,27 @@ TEST_F(SurfaceFont, anEmptyFontIsRefusedAgainOnceTheFontIsEmpty)
 {
     m_surface.Font(m_font1.get());
     m_surface.Font(nullptr);
-    EXPECT_EQ(thrownBy([&] { m_surface.Font(nullptr); }), kObjectNotSet);
+    EXPECT_EQ(thrownByFont(nullptr), kObjectNotSet);
 }
 
 TEST_F(SurfaceFont, aFirstFontThatHasNoHandleToGiveFailsAndIsStoredAllTheSame)
 {
     m_record->answer("font1.get_hFont", CTL_E_OUTOFMEMORY);
-    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font1.get()); }), CTL_E_OUTOFMEMORY);
-    EXPECT_EQ(m_record->take(), (Calls{"font1.AddRef", "font1.get_hFont"}));
+    EXPECT_EQ(thrownByFont(m_font1.get()), CTL_E_OUTOFMEMORY);
+    expectCalls({"font1.AddRef", "font1.get_hFont"});
     EXPECT_EQ(m_font1->references(), 2U);
 }
 
 TEST_F(SurfaceFont, afterAFirstFontThatFailedThereIsNoInitialFontToBringBack)
 {
     m_record->answer("font1.get_hFont", E_FAIL);
-    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font1.get()); }), E_FAIL);
+    EXPECT_EQ(thrownByFont(m_font1.get()), E_FAIL);
     m_record->forget();
     m_surface.Font(m_font2.get());
     m_surface.Font(nullptr);
-    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont",
-                                       "SelectObject dc1 handle2 -> initial font", "font2.Release",
-                                       "SelectObject dc1 none -> none"}));
+    expectCalls({"font1.Release", "font2.AddRef", "font2.get_hFont",
+                 "SelectObject dc1 handle2 -> initial font", "font2.Release",
+                 "SelectObject dc1 none -> none"});
 }
 
 TEST_F(SurfaceFont, aSecondFontThatFailsLeavesTheFirstSelectedAndTheSecondStored)
@@ -121,9 +116,9 @@ TEST_F(SurfaceFont, aSecondFontThatFailsLeavesTheFirstSelectedAndTheSecondStored
     m_surface.Font(m_font1.get());
     m_record->forget();
     m_record->answer("font2.get_hFont", E_FAIL);
-    EXPECT_EQ(thrownBy([&] { m_surface.Font(m_font2.get()); }), E_FAIL);
-    EXPECT_EQ(m_record->take(), (Calls{"font1.Release", "font2.AddRef", "font2.get_hFont"}));
-    EXPECT_EQ(::GetCurrentObject(static_cast<HDC>(m_gdi.handle("dc1")), OBJ_FONT), stockFont(ANSI_VAR_FONT));
+    EXPECT_EQ(thrownByFont(m_font2.get()), E_FAIL);
+    expectCalls({"font1.Release", "font2.AddRef", "font2.get_hFont"});
+    EXPECT_EQ(::GetCurrentObject(dc(), OBJ_FONT), stockFont(ANSI_VAR_FONT));
     EXPECT_EQ(m_font2->references(), 2U);
 }
 
@@ -156,14 +151,12 @@ TEST_F(SurfaceFont, theTextIsWrittenInTheFontGiven)
     BoundSurface actual(80, 30);
     actual.surface.Font(font.get());
     actual.surface.FillRect(0, 0, 80, 30, kWhite, 2, 3, L"Quill");
-    actual.surface.BlastToScreen();
-
     kit::Canvas expected(80, 30, kWhite);
     SelectScope const selected(expected.dc(), kit::handleOf(*font.get()));
     ::TextOutW(expected.dc(), 2, 3, L"Quill", 5);
     EXPECT_GT(expected.count(kWhite), 0);
     EXPECT_LT(expected.count(kWhite), 80 * 30);
-    EXPECT_EQ(differences(expected, actual.target), "");
+    EXPECT_EQ(actual.differencesFrom(expected), "");
 }
 
 TEST_F(SurfaceFont, aTextIsMeasuredInTheFontGivenAndDrawsNothing)

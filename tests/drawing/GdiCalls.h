@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/Counterpart.h"
+#include "kit/NotCopied.h"
 
 #include <windows.h>
 
@@ -16,12 +17,10 @@ namespace quillet {
 /// surface uses go through it: it notes them in the record as "SelectObject dc1 pen1 -> BLACK_PEN" and passes
 /// them on. Objects that are made are numbered by kind; others that have no name are "?". Calls that Windows'
 /// own libraries make are not seen. One at a time.
-class GdiCalls {
+class GdiCalls : kit::NotCopied {
 public:
     explicit GdiCalls(kit::SharedRecord record, HMODULE caller = ::GetModuleHandleW(nullptr));
     ~GdiCalls();
-    GdiCalls(GdiCalls const&) = delete;
-    GdiCalls& operator=(GdiCalls const&) = delete;
 
     /// Calls a handle by a name in the notes.
     void name(void const* handle, std::string name) { m_names[handle] = std::move(name); }

@@ -1,7 +1,6 @@
 // The surface's life: what it makes, what it frees, and in which order.
 #include "drawing/BoundSurface.h"
 #include "drawing/FakeFont.h"
-#include "drawing/GdiCalls.h"
 
 #include <gtest/gtest.h>
 
@@ -10,26 +9,14 @@
 namespace quillet {
 namespace {
 
-using Calls = std::vector<std::string>;
-
-class SurfaceLife : public testing::Test {
-protected:
-    SurfaceLife() { m_gdi.name(m_target.dc(), "target"); }
-
-    void initialize(OffScreenDC& surface) { surface.Initialize(m_target.dc(), 7, 5); }
-
-    kit::Canvas m_target{7, 5, kGrey};
-    kit::SharedRecord m_record = std::make_shared<kit::Record>();
-    GdiCalls m_gdi{m_record};
-};
+class SurfaceLife : public NotedTarget {};
 
 TEST_F(SurfaceLife, initializeMakesADcAndABitmapThatIsCompatibleWithTheTargetAndSelectsIt)
 {
     OffScreenDC surface;
     initialize(surface);
-    EXPECT_EQ(m_record->take(),
-              (Calls{"CreateCompatibleDC target -> dc1", "CreateCompatibleBitmap target 7 5 -> bitmap1",
-                     "SelectObject dc1 bitmap1 -> initial bitmap"}));
+    expectCalls({"CreateCompatibleDC target -> dc1", "CreateCompatibleBitmap target 7 5 -> bitmap1",
+                 "SelectObject dc1 bitmap1 -> initial bitmap"});
 }
 
 TEST_F(SurfaceLife, theBitmapHasTheTargetsColoursAndTheSizeGiven)
@@ -50,9 +37,8 @@ TEST_F(SurfaceLife, theEndSelectsTheInitialFontAndBitmapAndDeletesTheBitmapBefor
         initialize(surface);
         m_record->forget();
     }
-    EXPECT_EQ(m_record->take(),
-              (Calls{"SelectObject dc1 none -> none", "SelectObject dc1 initial bitmap -> bitmap1",
-                     "DeleteObject bitmap1", "DeleteDC dc1"}));
+    expectCalls({"SelectObject dc1 none -> none", "SelectObject dc1 initial bitmap -> bitmap1",
+                 "DeleteObject bitmap1", "DeleteDC dc1"});
 }
 
 TEST_F(SurfaceLife, theEndOfAPaintLeavesNeitherDcNorBitmap)
@@ -86,9 +72,8 @@ TEST_F(SurfaceLife, theFontIsGivenUpAfterTheDc)
         EXPECT_EQ(font->references(), 2U);
         m_record->forget();
     }
-    EXPECT_EQ(m_record->take(),
-              (Calls{"SelectObject dc1 initial font -> handle", "SelectObject dc1 initial bitmap -> bitmap1",
-                     "DeleteObject bitmap1", "DeleteDC dc1", "font.Release"}));
+    expectCalls({"SelectObject dc1 initial font -> handle", "SelectObject dc1 initial bitmap -> bitmap1",
+                 "DeleteObject bitmap1", "DeleteDC dc1", "font.Release"});
     EXPECT_EQ(font->references(), 1U);
 }
 
@@ -97,7 +82,7 @@ TEST_F(SurfaceLife, aSurfaceThatWasNeverInitializedEndsWithoutAnyGdiCall)
     {
         OffScreenDC const surface;
     }
-    EXPECT_EQ(m_record->take(), Calls{});
+    expectCalls({});
 }
 
 TEST_F(SurfaceLife, aFontOfASurfaceThatWasNeverInitializedIsStillGivenUp)
@@ -108,7 +93,7 @@ TEST_F(SurfaceLife, aFontOfASurfaceThatWasNeverInitializedIsStillGivenUp)
         surface.Font(font.get());
         m_record->forget();
     }
-    EXPECT_EQ(m_record->take(), Calls{"font.Release"});
+    expectCalls({"font.Release"});
 }
 
 TEST_F(SurfaceLife, aSecondInitializeOverwritesTheHandlesAndFreesNothingOfTheFirst)
@@ -118,13 +103,11 @@ TEST_F(SurfaceLife, aSecondInitializeOverwritesTheHandlesAndFreesNothingOfTheFir
         initialize(surface);
         m_record->forget();
         initialize(surface);
-        EXPECT_EQ(m_record->take(),
-                  (Calls{"CreateCompatibleDC target -> dc2", "CreateCompatibleBitmap target 7 5 -> bitmap2",
-                         "SelectObject dc2 bitmap2 -> initial bitmap"}));
+        expectCalls({"CreateCompatibleDC target -> dc2", "CreateCompatibleBitmap target 7 5 -> bitmap2",
+                     "SelectObject dc2 bitmap2 -> initial bitmap"});
     }
-    EXPECT_EQ(m_record->take(),
-              (Calls{"SelectObject dc2 none -> none", "SelectObject dc2 initial bitmap -> bitmap2",
-                     "DeleteObject bitmap2", "DeleteDC dc2"}));
+    expectCalls({"SelectObject dc2 none -> none", "SelectObject dc2 initial bitmap -> bitmap2",
+                 "DeleteObject bitmap2", "DeleteDC dc2"});
     UniqueBitmap const firstBitmap(static_cast<HBITMAP>(m_gdi.handle("bitmap1")));
     UniqueMemoryDc const firstDc(static_cast<HDC>(m_gdi.handle("dc1")));
     EXPECT_EQ(::GetObjectType(firstDc.get()), DWORD{OBJ_MEMDC});
@@ -154,8 +137,7 @@ TEST_F(SurfaceLife, theBackAndTextColoursAreThoseOfTheMemoryDc)
     surface.TextColor(0x654321);
     EXPECT_EQ(surface.BackColor(), COLORREF{0x123456});
     EXPECT_EQ(surface.TextColor(), COLORREF{0x654321});
-    EXPECT_EQ(m_record->take(), (Calls{"SetBkColor dc1 123456", "SetTextColor dc1 654321", "GetBkColor dc1",
-                                       "GetTextColor dc1"}));
+    expectCalls({"SetBkColor dc1 123456", "SetTextColor dc1 654321", "GetBkColor dc1", "GetTextColor dc1"});
 }
 
 /// Every operation once; the names of the GDI functions that it called.

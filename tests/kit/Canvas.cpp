@@ -1,6 +1,7 @@
 // Pictures in memory that tests draw with plain GDI calls, none of them the library's, and read back as
 // letters.
 #include "kit/Canvas.h"
+#include "kit/NotCopied.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -123,15 +124,13 @@ std::string differences(Canvas const& expected, Canvas const& actual)
 namespace {
 
 /// Limits drawing to a box for one scope.
-class ClipScope {
+class ClipScope : NotCopied {
 public:
     ClipScope(HDC dc, RECT const& box) noexcept : m_dc(dc), m_state(::SaveDC(dc))
     {
         ::IntersectClipRect(dc, box.left, box.top, box.right, box.bottom);
     }
     ~ClipScope() { ::RestoreDC(m_dc, m_state); }
-    ClipScope(ClipScope const&) = delete;
-    ClipScope& operator=(ClipScope const&) = delete;
 
 private:
     HDC m_dc;

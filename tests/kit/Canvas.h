@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Handles.h"
+#include "kit/NotCopied.h"
 
 #include <windows.h>
 
@@ -20,12 +21,10 @@ struct Letter {
 using Letters = std::vector<Letter>;
 
 /// A 32-bit picture of a fixed size with a device context of its own; black at first.
-class Canvas {
+class Canvas : NotCopied {
 public:
     Canvas(int width, int height);
     Canvas(int width, int height, COLORREF background);
-    Canvas(Canvas const&) = delete;
-    Canvas& operator=(Canvas const&) = delete;
 
     HDC dc() const noexcept { return m_dc.get(); }
     HBITMAP bitmap() const noexcept { return m_bitmap.get(); }

@@ -5,6 +5,7 @@
 #include "base/ComPtr.h"
 #include "base/Module.h"
 
+#include <oaidl.h>
 #include <windows.h>
 
 #include <unknwn.h>
@@ -120,6 +121,22 @@ private:
     LiveObject m_live;
     LONG volatile m_references = 1;
     std::vector<IID> m_hidden;
+};
+
+/// An object that can be called by name and has no member: a derived one overrides what it is asked for.
+template <class... Faces> class DispatchCounterpart : public Counterpart<Faces...> {
+public:
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override
+    {
+        *count = 0;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
+    {
+        return E_NOTIMPL;
+    }
 };
 
 /// A new counterpart, owned.

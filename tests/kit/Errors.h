@@ -1,6 +1,8 @@
 // Errors that hosts see, by their published numbers.
 #pragma once
 
+#include "base/RunTimeError.h"
+
 #include <windows.h>
 
 namespace quillet {
@@ -13,5 +15,16 @@ inline constexpr HRESULT kObjectNotSet = runTimeError(91);
 inline constexpr HRESULT kInvalidUseOfNull = runTimeError(94);
 inline constexpr HRESULT kInvalidPropertyValue = runTimeError(380);
 inline constexpr HRESULT kInvalidPicture = runTimeError(481);
+
+/// The HRESULT that body throws; S_OK when it throws nothing.
+template <class Body> HRESULT thrownBy(Body&& body)
+{
+    try {
+        body();
+        return S_OK;
+    } catch (RunTimeError const& error) {
+        return error.result();
+    }
+}
 
 } // namespace quillet

@@ -5,6 +5,7 @@
 #include "kit/Counterpart.h"
 #include "kit/HostWindow.h"
 #include "kit/NamedObject.h"
+#include "kit/NotCopied.h"
 
 #include <windows.h>
 
@@ -68,12 +69,10 @@ private:
 };
 
 /// A visible form. It outlives the sites that it is given; all of them share one record.
-class FakeForm {
+class FakeForm : NotCopied {
 public:
     explicit FakeForm(int width = 400, int height = 300);
     ~FakeForm();
-    FakeForm(FakeForm const&) = delete;
-    FakeForm& operator=(FakeForm const&) = delete;
 
     HWND window() const noexcept { return m_window.handle(); }
     Record& record() noexcept { return *m_record; }

@@ -123,12 +123,6 @@ STDMETHODIMP FakeSite::OnInPlaceActivateEx(BOOL* redraw, DWORD)
     return asked("OnInPlaceActivateEx");
 }
 
-STDMETHODIMP FakeSite::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
 STDMETHODIMP FakeSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
     HRESULT failure = DISP_E_MEMBERNOTFOUND;

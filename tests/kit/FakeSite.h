@@ -18,7 +18,8 @@ namespace quillet::kit {
 /// Offers every interface and answers every call as a rich container does; a test hides interfaces and
 /// changes answers through the form's record ("Site.GetContainer"). Extended activation (IOleInPlaceSiteEx)
 /// is hidden at first. Ambient properties are noted as "Ambient(identifier)".
-class FakeSite final : public Counterpart<IOleClientSite, IOleControlSite, IOleInPlaceSiteEx, IDispatch> {
+class FakeSite final
+    : public DispatchCounterpart<IOleClientSite, IOleControlSite, IOleInPlaceSiteEx, IDispatch> {
 public:
     FakeSite(FakeForm& form, RECT const& position, std::wstring const& name);
 
@@ -73,9 +74,6 @@ public:
     STDMETHODIMP RequestUIActivate() override { return asked("RequestUIActivate"); }
 
     // IDispatch: the ambient properties
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override;
 

@@ -16,42 +16,20 @@ Hosted::Hosted(Library const& library, REFCLSID classId, FakeForm& form, RECT co
 
 HRESULT Hosted::setSite()
 {
-    auto const object = as<IOleObject>();
     m_site->inPlaceObject = as<IOleInPlaceObject>().get();
-    return object ? object->SetClientSite(m_site.get()) : E_NOINTERFACE;
-}
-
-HRESULT Hosted::initNew()
-{
-    auto const bag = as<IPersistStreamInit>();
-    return bag ? bag->InitNew() : E_NOINTERFACE;
-}
-
-HRESULT Hosted::load(IPropertyBag& bag)
-{
-    auto const persistent = as<IPersistPropertyBag>();
-    return persistent ? persistent->Load(&bag, nullptr) : E_NOINTERFACE;
-}
-
-HRESULT Hosted::save(IPropertyBag& bag, bool clearDirty, bool allProperties)
-{
-    auto const persistent = as<IPersistPropertyBag>();
-    return persistent ? persistent->Save(&bag, clearDirty, allProperties) : E_NOINTERFACE;
+    return ask(&IOleObject::SetClientSite, m_site.get());
 }
 
 HRESULT Hosted::setExtent()
 {
-    auto const object = as<IOleObject>();
     RECT const& at = m_site->position;
     SIZEL extent = himetricOf({at.right - at.left, at.bottom - at.top});
-    return object ? object->SetExtent(DVASPECT_CONTENT, &extent) : E_NOINTERFACE;
+    return ask(&IOleObject::SetExtent, DVASPECT_CONTENT, &extent);
 }
 
 HRESULT Hosted::doVerb(LONG verb, MSG* message)
 {
-    auto const object = as<IOleObject>();
-    return object ? object->DoVerb(verb, message, m_site.get(), 0, m_form.window(), &m_site->position)
-                  : E_NOINTERFACE;
+    return ask(&IOleObject::DoVerb, verb, message, m_site.get(), 0, m_form.window(), &m_site->position);
 }
 
 void Hosted::start()
@@ -74,21 +52,16 @@ void Hosted::start(IPropertyBag& bag)
 
 HWND Hosted::window() const
 {
-    auto const inPlace = as<IOleWindow>();
     HWND window = nullptr;
-    if (inPlace)
-        inPlace->GetWindow(&window);
+    ask(&IOleWindow::GetWindow, &window);
     return window;
 }
 
 void Hosted::remove()
 {
-    if (auto const inPlace = as<IOleInPlaceObject>())
-        inPlace->InPlaceDeactivate();
-    if (auto const object = as<IOleObject>()) {
-        object->Close(OLECLOSE_NOSAVE);
-        object->SetClientSite(nullptr);
-    }
+    ask(&IOleInPlaceObject::InPlaceDeactivate);
+    ask(&IOleObject::Close, OLECLOSE_NOSAVE);
+    ask(&IOleObject::SetClientSite, nullptr);
     release();
 }
 

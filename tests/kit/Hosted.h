@@ -5,6 +5,7 @@
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
 #include "kit/Library.h"
+#include "kit/NotCopied.h"
 
 #include <ocidl.h>
 #include <windows.h>
@@ -12,27 +13,45 @@
 #include <oleidl.h>
 
 #include <string>
+#include <type_traits>
 
 namespace quillet::kit {
 
+/// Calls a method of one of an object's interfaces; E_NOINTERFACE where the object has none of that name, or
+/// is gone. Where the method is inherited, the interface is named.
+template <class Named = void, class Declaring, class... Parameters>
+HRESULT ask(IUnknown* object, HRESULT (STDMETHODCALLTYPE Declaring::*method)(Parameters...),
+            std::type_identity_t<Parameters>... arguments)
+{
+    auto const face = query<std::conditional_t<std::is_void_v<Named>, Declaring, Named>>(object);
+    return face ? (face.get()->*method)(arguments...) : E_NOINTERFACE;
+}
+
 /// Owns a control and its site. Each step may be left out or taken out of order.
-class Hosted {
+class Hosted : NotCopied {
 public:
     Hosted(Library const& library, REFCLSID classId, FakeForm& form, RECT const& position,
            std::wstring const& name = L"Button1");
     ~Hosted() { remove(); }
-    Hosted(Hosted const&) = delete;
-    Hosted& operator=(Hosted const&) = delete;
 
     FakeForm& form() noexcept { return m_form; }
     FakeSite& site() noexcept { return *m_site.get(); }
     IUnknown* object() const noexcept { return m_object.get(); }
     template <class T> ComPtr<T> as() const { return query<T>(m_object.get()); }
+    template <class Named = void, class Declaring, class... Parameters>
+    HRESULT ask(HRESULT (STDMETHODCALLTYPE Declaring::*method)(Parameters...),
+                std::type_identity_t<Parameters>... arguments) const
+    {
+        return kit::ask<Named>(object(), method, arguments...);
+    }
 
     HRESULT setSite();
-    HRESULT initNew();
-    HRESULT load(IPropertyBag& bag);
-    HRESULT save(IPropertyBag& bag, bool clearDirty = true, bool allProperties = false);
+    HRESULT initNew() { return ask(&IPersistStreamInit::InitNew); }
+    HRESULT load(IPropertyBag& bag) { return ask(&IPersistPropertyBag::Load, &bag, nullptr); }
+    HRESULT save(IPropertyBag& bag, bool clearDirty = true, bool allProperties = false)
+    {
+        return ask(&IPersistPropertyBag::Save, &bag, clearDirty, allProperties);
+    }
     HRESULT setExtent();
     HRESULT doVerb(LONG verb, MSG* message = nullptr);
     HRESULT activate() { return doVerb(OLEIVERB_INPLACEACTIVATE); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ComPtr.h"
+#include "kit/NotCopied.h"
 
 #include <windows.h>
 
@@ -10,12 +11,10 @@
 namespace quillet::kit {
 
 /// Holds quilbt.ocx, which lies beside the test program, in memory; or a copy of it.
-class Library {
+class Library : NotCopied {
 public:
     explicit Library(std::wstring const& file = path());
     ~Library();
-    Library(Library const&) = delete;
-    Library& operator=(Library const&) = delete;
 
     static std::wstring path();
     /// With the backslash at its end.

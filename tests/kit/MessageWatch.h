@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Handles.h"
+#include "kit/NotCopied.h"
 
 #include <windows.h>
 
@@ -13,14 +14,12 @@ namespace quillet::kit {
 enum class Passing { Posted, Sent };
 
 /// Calls back for each message of the calling thread, before its window sees it. One of a kind at a time.
-class MessageWatch {
+class MessageWatch : NotCopied {
 public:
     using Seen = std::function<void(MSG const&)>;
 
     MessageWatch(Passing kind, Seen seen);
     ~MessageWatch();
-    MessageWatch(MessageWatch const&) = delete;
-    MessageWatch& operator=(MessageWatch const&) = delete;
 
 private:
     static LRESULT CALLBACK posted(int code, WPARAM wParam, LPARAM lParam);
@@ -35,12 +34,10 @@ bool isOfClass(HWND window, wchar_t const* className);
 
 /// A host that subclassed a window last and keeps one kind of message to itself: for one scope, of one window
 /// on a thread.
-class SwallowedMessage {
+class SwallowedMessage : NotCopied {
 public:
     SwallowedMessage(HWND window, UINT message);
     ~SwallowedMessage();
-    SwallowedMessage(SwallowedMessage const&) = delete;
-    SwallowedMessage& operator=(SwallowedMessage const&) = delete;
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

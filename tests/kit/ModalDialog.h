@@ -1,6 +1,8 @@
 // Modal dialogs: one that a program opens in the middle of an event, and those that a test waits for.
 #pragma once
 
+#include "kit/NotCopied.h"
+
 #include <windows.h>
 
 #include <functional>
@@ -15,12 +17,10 @@ void runDialog(HWND owner, POINT at, std::function<void(HWND dialog)> const& bod
 
 /// While it lives, body gets each dialog of this thread's that shows, time and again until it is gone. One at
 /// a time.
-class DialogWatch {
+class DialogWatch : NotCopied {
 public:
     explicit DialogWatch(std::function<void(HWND dialog)> body);
     ~DialogWatch();
-    DialogWatch(DialogWatch const&) = delete;
-    DialogWatch& operator=(DialogWatch const&) = delete;
 
 private:
     UINT_PTR m_timer;

@@ -80,12 +80,6 @@ Variant NamedObject::value(std::wstring const& name) const
     return found == m_properties.end() ? Variant() : found->value;
 }
 
-STDMETHODIMP NamedObject::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
 STDMETHODIMP NamedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)
 {
     std::fill_n(ids, count, DISPID_UNKNOWN);

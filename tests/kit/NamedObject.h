@@ -14,7 +14,7 @@
 namespace quillet::kit {
 
 /// Notes each property read as "Who.Name" and each one written as "Who.Name = value".
-class NamedObject final : public Counterpart<IDispatch> {
+class NamedObject final : public DispatchCounterpart<IDispatch> {
 public:
     using Provider = std::function<Variant(Variant const& argument)>;
 
@@ -33,8 +33,6 @@ public:
     /// The present value, as last offered or written; empty when there is none.
     Variant value(std::wstring const& name) const;
 
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO*, UINT*) override;

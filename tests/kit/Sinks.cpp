@@ -23,12 +23,6 @@ void* EventRecorder::faceOf(REFIID iid) noexcept
     return iid == m_eventsId ? static_cast<IDispatch*>(this) : Counterpart::faceOf(iid);
 }
 
-STDMETHODIMP EventRecorder::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
 STDMETHODIMP EventRecorder::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
                                    UINT*)
 {

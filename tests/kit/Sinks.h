@@ -3,6 +3,7 @@
 
 #include "base/Variant.h"
 #include "kit/Counterpart.h"
+#include "kit/NotCopied.h"
 
 #include <oaidl.h>
 #include <ocidl.h>
@@ -17,7 +18,7 @@
 namespace quillet::kit {
 
 /// Keeps each event with its arguments in declared order. An action may run inside an event.
-class EventRecorder final : public Counterpart<IDispatch> {
+class EventRecorder final : public DispatchCounterpart<IDispatch> {
 public:
     struct Event {
         DISPID id;
@@ -35,9 +36,6 @@ public:
     int count(DISPID id) const;
     void forget() { events.clear(); }
 
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*,
                         UINT*) override;
 
@@ -79,12 +77,10 @@ private:
 };
 
 /// A sink joined to one connection point of an object, for one scope.
-class Connection {
+class Connection : NotCopied {
 public:
     Connection(IUnknown* object, REFIID pointId, IUnknown* sink);
     ~Connection() { cut(); }
-    Connection(Connection const&) = delete;
-    Connection& operator=(Connection const&) = delete;
 
     bool joined() const noexcept { return m_cookie != 0; }
     HRESULT cut();
@@ -98,6 +94,20 @@ public:
 private:
     ComPtr<IConnectionPoint> m_point;
     DWORD m_cookie = 0;
+};
+
+/// A recorder of an object's events, joined for one scope.
+class Listening {
+public:
+    Listening(IUnknown* object, REFIID eventsId)
+        : m_events(make<EventRecorder>(eventsId)), m_connection(object, eventsId, m_events->unknown())
+    {}
+    EventRecorder* operator->() const noexcept { return m_events.get(); }
+    Connection& connection() noexcept { return m_connection; }
+
+private:
+    ComPtr<EventRecorder> m_events;
+    Connection m_connection;
 };
 
 } // namespace quillet::kit

@@ -1,6 +1,8 @@
 // The desktop's colours, changed for one scope.
 #pragma once
 
+#include "kit/NotCopied.h"
+
 #include <windows.h>
 
 #include <array>
@@ -8,7 +10,7 @@
 namespace quillet::kit {
 
 /// Two of the desktop's colours, changed for everybody while it lives.
-class SystemColours {
+class SystemColours : NotCopied {
 public:
     SystemColours(std::array<INT, 2> const& indexes, std::array<COLORREF, 2> const& colours)
         : m_indexes(indexes), m_previous{::GetSysColor(indexes[0]), ::GetSysColor(indexes[1])}
@@ -16,8 +18,6 @@ public:
         ::SetSysColors(2, m_indexes.data(), colours.data());
     }
     ~SystemColours() { ::SetSysColors(2, m_indexes.data(), m_previous.data()); }
-    SystemColours(SystemColours const&) = delete;
-    SystemColours& operator=(SystemColours const&) = delete;
 
 private:
     std::array<INT, 2> m_indexes;

@@ -28,14 +28,6 @@ BOOL CALLBACK countWithChildren(HWND window, LPARAM count)
     return countOne(window, count);
 }
 
-/// Windows of the calling thread, children included.
-int windowsOfThread()
-{
-    int count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 /// Some systems serve a size of block from groups of many once a few thousand of that size were asked for,
 /// each thread from its own, and count a whole group as in use: a heap then grows where nothing is kept.
 /// Afterwards the calling thread has its groups, in the process's heap and in that of the language's run
@@ -93,6 +85,13 @@ int placeOfNewWindow()
 }
 
 } // namespace
+
+int windowsOfThread()
+{
+    int count = 0;
+    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
 
 Usage Usage::now()
 {

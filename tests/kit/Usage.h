@@ -17,6 +17,9 @@ struct Usage {
     static Usage now();
 };
 
+/// Windows of the calling thread, children included.
+int windowsOfThread();
+
 /// Runs a number of rounds, 280 or more, after a few that fill the system's caches, and expects that nothing
 /// is held for them: windows and places stay, and in one half of the rounds at least the heaps did not grow
 /// by as much as the smallest block a round. (What is kept grows in both halves; a group of blocks is made in

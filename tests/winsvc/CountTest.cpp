@@ -5,8 +5,6 @@
 #include "ToolTips.h"
 #include "input/Button.h"
 #include "kit/Errors.h"
-#include "kit/FakeForm.h"
-#include "kit/FakeSite.h"
 #include "kit/Usage.h"
 
 #include <ole2.h>
@@ -16,41 +14,24 @@
 namespace quillet::winsvc {
 namespace {
 
-/// A control in a form that is designed or runs.
-struct Sited {
-    kit::FakeForm form;
-    ComPtr<kit::FakeSite> site = kit::make<kit::FakeSite>(form, kAnyPlace, L"Button1");
-    PlainOwner control;
+class Users : public RoomTest {
+protected:
+    ThreadState& state = threadState();
 
-    explicit Sited(bool running)
+    void expectUsers(long users, bool created) const
     {
-        site->setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(running));
-        control.as<IOleObject>()->SetClientSite(site.get());
+        EXPECT_EQ(state.toolTipUsers, users);
+        EXPECT_EQ(state.toolTipCreated, created);
     }
-    ~Sited()
-    {
-        control.release();
-        site->dismantle();
-    }
-    Sited(Sited const&) = delete;
-    Sited& operator=(Sited const&) = delete;
-
-    void createToolTip() { control.toolTip().CreateToolTip(control->hWnd()); }
-    void end() { control.release(); }
 };
-
-class Users : public RoomTest {};
 
 TEST_ON_NEW_THREAD(Users, areCountedFirstThingAndTheWindowIsMadeOnce)
 {
-    ThreadState& state = threadState();
-    EXPECT_EQ(state.toolTipUsers, 0);
-    EXPECT_FALSE(state.toolTipCreated);
+    expectUsers(0, false);
     EXPECT_EQ(state.toolTip, nullptr);
     Sited first(true);
     first.createToolTip();
-    EXPECT_EQ(state.toolTipUsers, 1);
-    EXPECT_TRUE(state.toolTipCreated);
+    expectUsers(1, true);
     EXPECT_EQ(state.toolTip, theToolTipWindow());
     HWND const made = state.toolTip;
     Sited second(true);
@@ -82,7 +63,6 @@ TEST_ON_NEW_THREAD(Users, firstHaveTheControlLibraryReadyAndThenAPlainTopmostWin
 
 TEST_ON_NEW_THREAD(Users, whoseWindowCannotBeMadeLiveWithoutOneAndItIsNotTriedAgain)
 {
-    ThreadState const& state = threadState();
     Sited first(true);
     Sited second(true);
     HWND const window = first.control->hWnd();
@@ -104,12 +84,10 @@ TEST_ON_NEW_THREAD(Users, whoseWindowCannotBeMadeLiveWithoutOneAndItIsNotTriedAg
 
 TEST_ON_NEW_THREAD(Users, ofDesignTimeAreCountedButMakeNoWindowAndSubclassNothing)
 {
-    ThreadState const& state = threadState();
     Sited designed(false);
     auto const before = ::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC);
     designed.createToolTip();
-    EXPECT_EQ(state.toolTipUsers, 1);
-    EXPECT_FALSE(state.toolTipCreated);
+    expectUsers(1, false);
     EXPECT_EQ(state.toolTip, nullptr);
     EXPECT_EQ(::GetWindowLongPtrA(designed.control->hWnd(), GWLP_WNDPROC), before);
     designed.end();
@@ -118,7 +96,6 @@ TEST_ON_NEW_THREAD(Users, ofDesignTimeAreCountedButMakeNoWindowAndSubclassNothin
 
 TEST_ON_NEW_THREAD(Users, thatHaveAllGoneTakeTheWindowAlongButNeitherItsHandleNorItsFlag)
 {
-    ThreadState const& state = threadState();
     Sited first(true);
     Sited second(true);
     first.createToolTip();
@@ -141,17 +118,10 @@ TEST_ON_NEW_THREAD(Users, thatHaveAllGoneTakeTheWindowAlongButNeitherItsHandleNo
 
 TEST_ON_NEW_THREAD(Users, beyondThirtyTwoBitsAreAnOverflow)
 {
-    ThreadState& state = threadState();
     Sited control(true);
     state.toolTipUsers = std::numeric_limits<long>::max();
-    try {
-        control.createToolTip();
-        ADD_FAILURE() << "no error";
-    } catch (RunTimeError const& error) {
-        EXPECT_EQ(error.result(), kOverflow);
-    }
-    EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max());
-    EXPECT_FALSE(state.toolTipCreated);
+    EXPECT_EQ(thrownBy([&] { control.createToolTip(); }), kOverflow);
+    expectUsers(std::numeric_limits<long>::max(), false);
     control.end();
     EXPECT_EQ(state.toolTipUsers, std::numeric_limits<long>::max()) << "who was not counted is not uncounted";
     state.toolTipUsers = 0;
@@ -159,16 +129,10 @@ TEST_ON_NEW_THREAD(Users, beyondThirtyTwoBitsAreAnOverflow)
 
 TEST_ON_NEW_THREAD(Users, whoseNumberHasNoPredecessorOverflowAtTheirEnd)
 {
-    ThreadState& state = threadState();
     Sited control(false);
     control.createToolTip();
     state.toolTipUsers = std::numeric_limits<long>::min();
-    try {
-        control.control.toolTip().Terminate();
-        ADD_FAILURE() << "no error";
-    } catch (RunTimeError const& error) {
-        EXPECT_EQ(error.result(), kOverflow);
-    }
+    EXPECT_EQ(thrownBy([&] { control.control.toolTip().Terminate(); }), kOverflow);
     state.toolTipUsers = 1;
     control.end();
     EXPECT_EQ(state.toolTipUsers, 0);
@@ -199,58 +163,59 @@ TEST_ON_NEW_THREAD(Users, ofTwoThreadsAreCountedApart)
 
 /// A running button of one thread, used on that thread alone.
 struct OnThread {
+    kit::UiThread thread;
     std::unique_ptr<kit::FakeForm> form;
     std::unique_ptr<RunningButton> button;
     HWND toolTip = nullptr;
 
     void start(kit::Library const& library)
     {
-        form = std::make_unique<kit::FakeForm>();
-        button = std::make_unique<RunningButton>(library, *form);
-        button->start();
-        toolTip = theToolTipWindow();
+        thread.run([&] {
+            form = std::make_unique<kit::FakeForm>();
+            button = std::make_unique<RunningButton>(library, *form);
+            button->start();
+            toolTip = theToolTipWindow();
+        });
     }
     void end()
     {
-        button.reset();
-        form.reset();
+        thread.run([&] {
+            button.reset();
+            form.reset();
+        });
     }
 };
 
-class TwoThreads : public ServiceTest {};
+class TwoThreads : public ServiceTest {
+protected:
+    OnThread first;
+    OnThread second;
+};
 
 TEST_F(TwoThreads, haveAToolTipWindowEachAndOneEndsWithoutTheOther)
 {
-    OnThread first;
-    OnThread second;
-    kit::UiThread one;
-    kit::UiThread two;
-    one.run([&] { first.start(library()); });
-    two.run([&] { second.start(library()); });
+    first.start(library());
+    second.start(library());
     EXPECT_NE(first.toolTip, second.toolTip);
     EXPECT_NE(::GetWindowThreadProcessId(first.toolTip, nullptr),
               ::GetWindowThreadProcessId(second.toolTip, nullptr));
-    one.run([&] { first.end(); });
+    first.end();
     EXPECT_FALSE(::IsWindow(first.toolTip));
     EXPECT_TRUE(::IsWindow(second.toolTip));
-    two.run([&] {
+    second.thread.run([&] {
         ToolTipWatch const watch;
         ::SendMessageA(second.button->window(), WM_MOUSEMOVE, 0, 0);
         EXPECT_THAT(watch.relayed(), ElementsAre(WM_MOUSEMOVE));
-        second.end();
     });
+    second.end();
     EXPECT_FALSE(::IsWindow(second.toolTip));
 }
 
 TEST_F(TwoThreads, answerTheirOwnToolTipWindowOnly)
 {
-    OnThread first;
-    OnThread second;
-    kit::UiThread one;
-    kit::UiThread two;
-    one.run([&] { first.start(library()); });
-    two.run([&] { second.start(library()); });
-    one.run([&] {
+    first.start(library());
+    second.start(library());
+    first.thread.run([&] {
         first.button->extender().offer(L"ToolTipText", Variant::ofString(L"mine"));
         char untouched[] = "untouched";
         for (HWND const from : {first.toolTip, second.toolTip}) {
@@ -260,30 +225,24 @@ TEST_F(TwoThreads, answerTheirOwnToolTipWindowOnly)
             ::SendMessageA(first.button->window(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&request));
             EXPECT_STREQ(request.lpszText, from == first.toolTip ? "mine" : "untouched");
         }
-        first.end();
     });
-    two.run([&] { second.end(); });
+    first.end();
+    second.end();
 }
 
 TEST_F(TwoThreads, keepTheCreatedFlagApart)
 {
-    OnThread first;
-    kit::UiThread one;
-    one.run([&] {
-        first.start(library());
-        first.end();
+    first.start(library());
+    first.end();
+    first.thread.run([&] {
         kit::FakeForm form;
         RunningButton again(library(), form);
         again.start();
         EXPECT_TRUE(toolTipWindows().empty());
     });
-    OnThread second;
-    kit::UiThread two;
-    two.run([&] {
-        second.start(library());
-        EXPECT_NE(second.toolTip, nullptr) << "this thread never had one";
-        second.end();
-    });
+    second.start(library());
+    EXPECT_NE(second.toolTip, nullptr) << "this thread never had one";
+    second.end();
 }
 
 /// Create, load, activate, hover, press, show the way out, destroy.

@@ -1,27 +1,13 @@
 // Whether a control is its container's default button.
 #include "PlainControl.h"
-#include "kit/FakeForm.h"
-#include "kit/FakeSite.h"
 #include "winsvc/modCmdSupport.h"
-
-#include <ole2.h>
 
 namespace quillet::winsvc {
 namespace {
 
-class DefaultButton : public RoomTest {
+class DefaultButton : public RoomTest, protected Sited {
 protected:
-    kit::FakeForm form;
-    ComPtr<kit::FakeSite> site = kit::make<kit::FakeSite>(form, kAnyPlace, L"Button1");
-    PlainOwner control;
-
-    void SetUp() override { control.as<IOleObject>()->SetClientSite(site.get()); }
-    void TearDown() override
-    {
-        control.release();
-        site->dismantle();
-        site.reset();
-    }
+    DefaultButton() : Sited(true) {}
     bool answerFor(Variant value)
     {
         site->extender().offer(L"Default", std::move(value));

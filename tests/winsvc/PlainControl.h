@@ -3,11 +3,16 @@
 #pragma once
 
 #include "base/Module.h"
+#include "kit/FakeForm.h"
+#include "kit/FakeSite.h"
 #include "kit/UiThread.h"
 #include "surface/Surface.h"
 #include "surface/window/ThreadState.h"
 #include "winsvc/modToolTip.h"
+#include "kit/NotCopied.h"
 
+#include <ole2.h>
+#include <olectl.h>
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -67,6 +72,27 @@ private:
     ComPtr<IUnknown> m_reference;
 };
 
+/// A control in a form that is designed or runs.
+struct Sited : kit::NotCopied {
+    kit::FakeForm form;
+    ComPtr<kit::FakeSite> site = kit::make<kit::FakeSite>(form, kAnyPlace, L"Button1");
+    PlainOwner control;
+
+    explicit Sited(bool running)
+    {
+        site->setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(running));
+        control.as<IOleObject>()->SetClientSite(site.get());
+    }
+    ~Sited()
+    {
+        control.release();
+        site->dismantle();
+    }
+
+    void createToolTip() { control.toolTip().CreateToolTip(control->hWnd()); }
+    void end() { control.release(); }
+};
+
 /// Makes this program what the component is to its rooms. Each body runs on a thread of its own.
 class RoomTest : public testing::Test {
 protected:
@@ -78,12 +104,10 @@ protected:
 };
 
 /// Stands before a window's own procedure from the beginning. One at a time on a thread.
-class PreviousProcedure {
+class PreviousProcedure : kit::NotCopied {
 public:
     explicit PreviousProcedure(HWND window);
     ~PreviousProcedure();
-    PreviousProcedure(PreviousProcedure const&) = delete;
-    PreviousProcedure& operator=(PreviousProcedure const&) = delete;
 
     std::vector<MSG> seen; ///< window and the four values; neither time nor point
     std::function<void(MSG const&)> action;

@@ -16,7 +16,7 @@ using input::FormButton;
 using input::looksBag;
 using testing::ElementsAre;
 
-/// Each test's body runs on a thread of its own: what the component keeps per thread is never reset.
+/// Each test lives on a thread of its own: what the component keeps per thread is never reset.
 class ServiceTest : public kit::ControlTest {
 protected:
     static void onNewThread(std::function<void()> const& body) { kit::onNewThread(body); }
@@ -34,6 +34,13 @@ public:
         site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
         start();
     }
+};
+
+/// A form with a button that is not started yet.
+class ButtonTest : public ServiceTest {
+protected:
+    kit::FakeForm form;
+    RunningButton button{library(), form};
 };
 
 inline WNDPROC procedureOf(HWND window)

@@ -2,6 +2,7 @@
 #include "PlainControl.h"
 #include "ServiceTest.h"
 #include "kit/ByName.h"
+#include "kit/Controls.h"
 #include "kit/HostWindow.h"
 
 #include <gmock/gmock.h>
@@ -17,83 +18,76 @@ struct Window {
     PreviousProcedure previous{host.handle()};
 
     HWND handle() const { return host.handle(); }
-    WNDPROC procedure() const
-    {
-        return reinterpret_cast<WNDPROC>(::GetWindowLongPtrA(handle(), GWLP_WNDPROC));
-    }
+    WNDPROC procedure() const { return procedureOf(handle()); }
+    LONG_PTR slot() const { return ::GetWindowLongPtrA(handle(), GWLP_USERDATA); }
     LRESULT send(UINT message = kMessage, WPARAM wParam = 0, LPARAM lParam = 0) const
     {
         return ::SendMessageA(handle(), message, wParam, lParam);
     }
 };
 
-class Subclassing : public RoomTest {};
+class Subclassing : public RoomTest {
+protected:
+    Window window;
+    PlainOwner control;
+
+    void subclass() { control.toolTip().Subclass(window.handle()); }
+    void expectOnePassedOn()
+    {
+        EXPECT_EQ(window.procedure(), &SubclassWndProc);
+        window.previous.answer = 5;
+        EXPECT_EQ(window.send(), 5);
+        EXPECT_EQ(window.previous.count(kMessage), 1);
+    }
+    void expectGivenBack() { EXPECT_EQ(window.procedure(), window.previous.address()); }
+};
 
 TEST_ON_NEW_THREAD(Subclassing, putsTheDispatcherBeforeThePreviousProcedureAndTheUserIntoTheSlot)
 {
-    Window window;
-    PlainOwner const control;
-    control.toolTip().Subclass(window.handle());
-    EXPECT_EQ(window.procedure(), &SubclassWndProc);
-    EXPECT_NE(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
-    window.previous.answer = 5;
-    EXPECT_EQ(window.send(), 5);
-    EXPECT_EQ(window.previous.count(kMessage), 1);
-    control.toolTip().Unsubclass();
+    subclass();
+    EXPECT_NE(window.slot(), 0);
+    expectOnePassedOn();
 }
 
 TEST_ON_NEW_THREAD(Subclassing, twiceInstallsTheDispatchProcedureOnceSoTheChainNeverPointsAtItself)
 {
-    Window window;
-    PlainOwner const control;
-    control.toolTip().Subclass(window.handle());
-    control.toolTip().Subclass(window.handle());
-    EXPECT_EQ(window.procedure(), &SubclassWndProc);
-    window.previous.answer = 5;
-    EXPECT_EQ(window.send(), 5);
-    EXPECT_EQ(window.previous.count(kMessage), 1);
+    subclass();
+    subclass();
+    expectOnePassedOn();
     control.toolTip().Unsubclass();
-    EXPECT_EQ(window.procedure(), window.previous.address()) << "one step back is all the way back";
+    expectGivenBack(); // one step back is all the way back
 }
 
 TEST_ON_NEW_THREAD(Subclassing, passesAMessageOnWhoseHandlingFails)
 {
-    Window window;
-    PlainOwner const control;
     control->failing = true;
-    control.toolTip().Subclass(window.handle());
+    subclass();
     for (UINT const message : {WM_SETFOCUS, WM_KILLFOCUS}) {
         window.send(message);
         EXPECT_EQ(window.previous.count(message), 1) << message;
     }
-    control.toolTip().Unsubclass();
 }
 
 TEST_ON_NEW_THREAD(Subclassing, anotherWindowFirstGivesTheFormerOneBack)
 {
     kit::HostWindow const former(100, 100, 60, 40);
-    auto const own = ::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC);
-    Window window;
-    PlainOwner const control;
+    WNDPROC const own = procedureOf(former.handle());
     control.toolTip().Subclass(former.handle());
-    ASSERT_NE(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
-    control.toolTip().Subclass(window.handle());
-    EXPECT_EQ(::GetWindowLongPtrA(former.handle(), GWLP_WNDPROC), own);
+    ASSERT_NE(procedureOf(former.handle()), own);
+    subclass();
+    EXPECT_EQ(procedureOf(former.handle()), own);
     EXPECT_EQ(window.procedure(), &SubclassWndProc);
-    control.toolTip().Unsubclass();
 }
 
 TEST_ON_NEW_THREAD(Subclassing, onceEndedLetsMessagesGoStraightToThePreviousProcedure)
 {
-    Window window;
-    PlainOwner const control;
-    LONG_PTR const emptySlot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
-    control.toolTip().Subclass(window.handle());
-    LONG_PTR const slot = ::GetWindowLongPtrA(window.handle(), GWLP_USERDATA);
+    LONG_PTR const emptySlot = window.slot();
+    subclass();
+    LONG_PTR const slot = window.slot();
     control.toolTip().Unsubclass();
-    EXPECT_EQ(window.procedure(), window.previous.address());
+    expectGivenBack();
     EXPECT_NE(slot, emptySlot);
-    EXPECT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), slot) << "the slot is left as it is";
+    EXPECT_EQ(window.slot(), slot) << "the slot is left as it is";
     std::vector<std::string> log;
     control->log = &log;
     window.previous.answer = 6;
@@ -101,7 +95,7 @@ TEST_ON_NEW_THREAD(Subclassing, onceEndedLetsMessagesGoStraightToThePreviousProc
     window.send(WM_SETFOCUS);
     EXPECT_TRUE(log.empty());
     control.toolTip().Unsubclass();
-    EXPECT_EQ(window.procedure(), window.previous.address()) << "ending twice is ending once";
+    expectGivenBack(); // ending twice is ending once
 }
 
 TEST_ON_NEW_THREAD(Subclassing, thatWindowsRefusesLeavesTheUserUnsubclassed)
@@ -111,51 +105,40 @@ TEST_ON_NEW_THREAD(Subclassing, thatWindowsRefusesLeavesTheUserUnsubclassed)
         Window const gone;
         dead = gone.handle();
     }
-    PlainOwner const control;
     control.toolTip().Subclass(dead);
     control.toolTip().Subclass(nullptr);
     control.toolTip().Unsubclass();
-    Window window;
-    control.toolTip().Subclass(window.handle());
+    subclass();
     EXPECT_EQ(window.procedure(), &SubclassWndProc) << "the next one may work";
-    control.toolTip().Unsubclass();
 }
 
 TEST_ON_NEW_THREAD(Subclassing, ofARefusedWindowEndsTheFormerOneAllTheSame)
 {
-    Window window;
-    PlainOwner const control;
-    control.toolTip().Subclass(window.handle());
+    subclass();
     control.toolTip().Subclass(nullptr);
-    EXPECT_EQ(window.procedure(), window.previous.address());
+    expectGivenBack();
 }
 
 TEST_ON_NEW_THREAD(Subclassing, endsWithItsControl)
 {
-    Window window;
-    PlainOwner control;
-    control.toolTip().Subclass(window.handle());
+    subclass();
     control.release();
-    EXPECT_EQ(window.procedure(), window.previous.address());
+    expectGivenBack();
     window.previous.answer = 7;
     EXPECT_EQ(window.send(), 7);
 }
 
 TEST_ON_NEW_THREAD(Subclassing, doesNotKeepTheControlAlive)
 {
-    Window window;
-    PlainOwner control;
     long const before = liveObjects();
-    control.toolTip().Subclass(window.handle());
+    subclass();
     control.release();
     EXPECT_LT(liveObjects(), before);
 }
 
 TEST_ON_NEW_THREAD(Subclassing, keepsTheControlAliveForTheLengthOfOneMessage)
 {
-    Window window;
-    PlainOwner control;
-    control.toolTip().Subclass(window.handle());
+    subclass();
     long alive = 0;
     window.previous.answer = 8;
     window.previous.action = [&](MSG const& seen) {
@@ -172,9 +155,8 @@ TEST_ON_NEW_THREAD(Subclassing, keepsTheControlAliveForTheLengthOfOneMessage)
 
 TEST_ON_NEW_THREAD(Subclassing, dispatchAnswersZeroAndPassesNothingOnWhereTheSlotHoldsNoControl)
 {
-    Window window;
     window.previous.answer = 9;
-    ASSERT_EQ(::GetWindowLongPtrA(window.handle(), GWLP_USERDATA), 0);
+    ASSERT_EQ(window.slot(), 0);
     EXPECT_EQ(SubclassWndProc(window.handle(), kMessage, 1, 2), 0);
     EXPECT_EQ(SubclassWndProc(nullptr, kMessage, 1, 2), 0);
     EXPECT_EQ(window.previous.count(kMessage), 0);
@@ -182,10 +164,9 @@ TEST_ON_NEW_THREAD(Subclassing, dispatchAnswersZeroAndPassesNothingOnWhereTheSlo
 
 TEST_ON_NEW_THREAD(Subclassing, ofAUserWhoseWindowIsGoneEndsWithoutTouchingAnotherWindow)
 {
-    PlainOwner control;
     {
-        Window const window;
-        control.toolTip().Subclass(window.handle());
+        Window const gone;
+        control.toolTip().Subclass(gone.handle());
     }
     std::vector<std::unique_ptr<Window>> later;
     for (int i = 0; i < 8; ++i)
@@ -198,21 +179,6 @@ TEST_ON_NEW_THREAD(Subclassing, ofAUserWhoseWindowIsGoneEndsWithoutTouchingAnoth
         EXPECT_EQ(later[i]->procedure(), before[i]);
 }
 
-struct Class {
-    char const* name;
-    CLSID classId;
-    IID interfaceId;
-};
-constexpr Class kEachClass[] = {
-    {"qvFlatCommand", kQvFlatCommandClass, kQvFlatCommandInterface},
-    {"qvImageCommand", kQvImageCommandClass, kQvImageCommandInterface},
-    {"FlatToolButton", kFlatToolButtonClass, kFlatToolButtonInterface},
-    {"qvFlatOption", kQvFlatOptionClass, kQvFlatOptionInterface},
-    {"qvFlatCheck", kQvFlatCheckClass, kQvFlatCheckInterface},
-};
-
-class Slot : public ServiceTest, public testing::WithParamInterface<Class> {};
-
 /// What a program gets that copies the slot into an object variable.
 ComPtr<IDispatch> objectIn(HWND window)
 {
@@ -224,14 +190,32 @@ HWND windowOf(IDispatch& control)
     return static_cast<HWND>(LongToHandle(kit::getByName(control, L"hwnd").value.toLong()));
 }
 
+class Slot : public ServiceTest, public testing::WithParamInterface<kit::ControlKind> {
+protected:
+    /// On a new thread, with a control that has loaded.
+    static void with(std::function<void(kit::Hosted& hosted, HWND window)> const& use)
+    {
+        onNewThread([&] {
+            kit::FakeForm form;
+            kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
+            hosted.start(*kit::make<kit::FakeBag>().get());
+            use(hosted, windowOf(*hosted.as<IDispatch>().get()));
+        });
+    }
+    static void expectRelay(HWND window)
+    {
+        ToolTipWatch const watch;
+        ::SendMessageA(window, WM_RBUTTONUP, 0, 0);
+        EXPECT_THAT(watch.relayed(), ElementsAre(WM_RBUTTONUP));
+    }
+};
+QV_EACH_CONTROL(Of, Slot);
+
 TEST_P(Slot, copiedIntoAnObjectVariableIsTheControl)
 {
-    onNewThread([] {
-        kit::FakeForm form;
-        kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
-        hosted.start(*kit::make<kit::FakeBag>().get());
+    with([](kit::Hosted& hosted, HWND window) {
         auto const control = hosted.as<IDispatch>();
-        ComPtr<IDispatch> const object = objectIn(windowOf(*control.get()));
+        ComPtr<IDispatch> const object = objectIn(window);
         ASSERT_TRUE(object);
         EXPECT_EQ(query<IUnknown>(object.get()).get(), query<IUnknown>(hosted.object()).get());
         EXPECT_EQ(query<IUnknown>(object.get(), GetParam().interfaceId).get(),
@@ -244,14 +228,8 @@ TEST_P(Slot, copiedIntoAnObjectVariableIsTheControl)
 
 TEST_P(Slot, stillLeadsMessagesToTheControlAndNoLongerThanItLives)
 {
-    onNewThread([] {
-        kit::FakeForm form;
-        kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
-        hosted.start(*kit::make<kit::FakeBag>().get());
-        HWND const window = windowOf(*hosted.as<IDispatch>().get());
-        ToolTipWatch const watch;
-        ::SendMessageA(window, WM_RBUTTONUP, 0, 0);
-        EXPECT_THAT(watch.relayed(), ElementsAre(WM_RBUTTONUP));
+    with([](kit::Hosted& hosted, HWND window) {
+        expectRelay(window);
         hosted.remove();
         EXPECT_FALSE(::IsWindow(window));
     });
@@ -276,9 +254,7 @@ TEST_P(Slot, leadsMessagesToAControlInsideAnObjectThatKnowsNothingOfIt)
         ASSERT_EQ(query<IPersistPropertyBag>(control)->Load(kit::make<kit::FakeBag>().get(), nullptr), S_OK);
         HWND const window = windowOf(*query<IDispatch>(control).get());
         EXPECT_EQ(query<IUnknown>(objectIn(window).get()).get(), shell->unknown());
-        ToolTipWatch const watch;
-        ::SendMessageA(window, WM_RBUTTONUP, 0, 0);
-        EXPECT_THAT(watch.relayed(), ElementsAre(WM_RBUTTONUP));
+        expectRelay(window);
         EXPECT_NE(::SendMessageA(window, WM_GETDLGCODE, 0, 0), 0)
             << "the message goes on to the window's own";
     });
@@ -287,11 +263,7 @@ TEST_P(Slot, leadsMessagesToAControlInsideAnObjectThatKnowsNothingOfIt)
 // Nothing of it is the control's any more, and there is nobody to pass the message on.
 TEST_P(Slot, withAnotherObjectAnswersNothing)
 {
-    onNewThread([] {
-        kit::FakeForm form;
-        kit::Hosted hosted(library(), GetParam().classId, form, {20, 30, 140, 70});
-        hosted.start(*kit::make<kit::FakeBag>().get());
-        HWND const window = windowOf(*hosted.as<IDispatch>().get());
+    with([](kit::Hosted&, HWND window) {
         LONG_PTR const own = ::GetWindowLongPtrA(window, GWLP_USERDATA);
         auto const other = kit::make<Shell>();
         for (LONG_PTR const foreign : {reinterpret_cast<LONG_PTR>(other->unknown()), LONG_PTR{0}}) {
@@ -302,9 +274,6 @@ TEST_P(Slot, withAnotherObjectAnswersNothing)
         EXPECT_NE(::SendMessageA(window, WM_GETDLGCODE, 0, 0), 0);
     });
 }
-
-INSTANTIATE_TEST_SUITE_P(Of, Slot, testing::ValuesIn(kEachClass),
-                         [](auto const& tested) { return std::string(tested.param.name); });
 
 } // namespace
 } // namespace quillet::winsvc

@@ -59,102 +59,94 @@ std::string ansi(std::wstring_view text)
     return result;
 }
 
-class TipText : public ServiceTest {};
+/// What a button answers to the tooltip window.
+std::string answerOf(FormButton& button)
+{
+    Request request(theToolTipWindow(), button.window());
+    request.sendTo(button.window());
+    EXPECT_TRUE(request.isAnswered());
+    return request.record.lpszText;
+}
+
+/// A button that runs.
+class TipText : public ButtonTest {
+protected:
+    void SetUp() override
+    {
+        ButtonTest::SetUp();
+        button.start();
+    }
+    void expectAnswerAlone(std::wstring const& text)
+    {
+        setText(button, text);
+        Request request(theToolTipWindow(), button.window());
+        Request const original = request;
+        request.sendTo(button.window());
+        ASSERT_TRUE(request.isAnswered());
+        EXPECT_EQ(request.record.lpszText, ansi(text));
+        EXPECT_TRUE(request.differsOnlyInTextFrom(original));
+    }
+    void expectNoAnswerTo(Request request)
+    {
+        Request const original = request;
+        request.sendTo(button.window());
+        EXPECT_FALSE(request.isAnswered()) << request.record.hdr.code;
+        EXPECT_TRUE(request.differsOnlyInTextFrom(original)) << request.record.hdr.code;
+    }
+};
 
 TEST_ON_NEW_THREAD(TipText, isTheExtendersAndNothingElseInTheRecordIsWritten)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
-    setText(button, L"Saves everything");
-    Request request(theToolTipWindow(), button.window());
-    Request const original = request;
-    request.sendTo(button.window());
-    ASSERT_TRUE(request.isAnswered());
-    EXPECT_STREQ(request.record.lpszText, "Saves everything");
-    EXPECT_TRUE(request.differsOnlyInTextFrom(original));
+    expectAnswerAlone(L"Saves everything");
+}
+
+TEST_ON_NEW_THREAD(TipText, longerThanTheRecordsOwnSpaceIsGivenWhole)
+{
+    expectAnswerAlone(std::wstring(200, L'w'));
 }
 
 TEST_ON_NEW_THREAD(TipText, isTheExtendersOfNowAtEachAsking)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     for (wchar_t const* const text : {L"one", L"another one", L"x"}) {
         setText(button, text);
-        Request request(theToolTipWindow(), button.window());
-        request.sendTo(button.window());
-        ASSERT_TRUE(request.isAnswered());
-        EXPECT_EQ(request.record.lpszText, ansi(text));
+        EXPECT_EQ(answerOf(button), ansi(text));
     }
 }
 
 TEST_ON_NEW_THREAD(TipText, isNotTheControlsOwnProperty)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     setText(button, L"the extender's");
     EXPECT_EQ(button->put_ToolTipText(Bstr(L"the control's").get()), S_OK);
-    Request request(theToolTipWindow(), button.window());
-    request.sendTo(button.window());
-    ASSERT_TRUE(request.isAnswered());
-    EXPECT_STREQ(request.record.lpszText, "the extender's");
+    EXPECT_EQ(answerOf(button), "the extender's");
 }
 
 TEST_ON_NEW_THREAD(TipText, isConvertedToTheSystemsCodePage)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     std::wstring const text = L"Gr\x00F6\x00DF"
                               L"e \x20AC \x4E2D";
     setText(button, text);
-    Request request(theToolTipWindow(), button.window());
-    request.sendTo(button.window());
-    ASSERT_TRUE(request.isAnswered());
-    EXPECT_EQ(request.record.lpszText, ansi(text));
+    EXPECT_EQ(answerOf(button), ansi(text));
 }
 
 TEST_ON_NEW_THREAD(TipText, staysValidAfterTheAnswerAndWhenAnotherControlAnswers)
 {
-    kit::FakeForm form;
-    RunningButton first(library(), form, 1);
     RunningButton second(library(), form, 2);
-    first.start();
     second.start();
-    setText(first, L"the first control's text");
+    setText(button, L"the first control's text");
     setText(second, L"the second control's text");
-    Request asked(theToolTipWindow(), first.window());
-    asked.sendTo(first.window());
+    Request asked(theToolTipWindow(), button.window());
+    asked.sendTo(button.window());
     Request askedToo(theToolTipWindow(), second.window());
     askedToo.sendTo(second.window());
-    setText(first, L"changed");
+    setText(button, L"changed");
     ASSERT_TRUE(asked.isAnswered());
     ASSERT_TRUE(askedToo.isAnswered());
     EXPECT_STREQ(asked.record.lpszText, "the first control's text");
     EXPECT_STREQ(askedToo.record.lpszText, "the second control's text");
 }
 
-TEST_ON_NEW_THREAD(TipText, longerThanTheRecordsOwnSpaceIsGivenWhole)
-{
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
-    setText(button, std::wstring(200, L'w'));
-    Request request(theToolTipWindow(), button.window());
-    Request const original = request;
-    request.sendTo(button.window());
-    ASSERT_TRUE(request.isAnswered());
-    EXPECT_EQ(request.record.lpszText, std::string(200, 'w'));
-    EXPECT_TRUE(request.differsOnlyInTextFrom(original));
-}
-
 TEST_ON_NEW_THREAD(TipText, thatTheExtenderFailsToGiveLeavesTheRecordUnwritten)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     using Failing = void (*)(FormButton&);
     Failing const failings[] = {
         [](FormButton& b) { b.extender().refuse(L"ToolTipText"); },
@@ -168,77 +160,48 @@ TEST_ON_NEW_THREAD(TipText, thatTheExtenderFailsToGiveLeavesTheRecordUnwritten)
     };
     for (Failing const fail : failings) {
         fail(button);
-        Request request(theToolTipWindow(), button.window());
-        Request const original = request;
-        request.sendTo(button.window());
-        EXPECT_FALSE(request.isAnswered());
-        EXPECT_TRUE(request.differsOnlyInTextFrom(original));
+        expectNoAnswerTo({theToolTipWindow(), button.window()});
     }
 }
 
 TEST_ON_NEW_THREAD(TipText, thatFailedOnceIsGivenAgainOnceTheExtenderHasIt)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     button.extender().refuse(L"ToolTipText");
-    Request failed(theToolTipWindow(), button.window());
-    failed.sendTo(button.window());
-    EXPECT_FALSE(failed.isAnswered());
+    expectNoAnswerTo({theToolTipWindow(), button.window()});
     setText(button, L"back");
-    Request request(theToolTipWindow(), button.window());
-    request.sendTo(button.window());
-    ASSERT_TRUE(request.isAnswered());
-    EXPECT_STREQ(request.record.lpszText, "back");
+    EXPECT_EQ(answerOf(button), "back");
 }
 
 // Whoever may the asker be: its window decides.
 TEST_ON_NEW_THREAD(TipText, isNotGivenToAnotherWindowThanTheToolTipWindow)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     setText(button, L"secret");
     UniqueWindow const other(::CreateWindowExW(0, TOOLTIPS_CLASSW, L"", WS_POPUP, 0, 0, 10, 10, nullptr,
                                                nullptr, nullptr, nullptr));
     for (HWND const from : {other.get(), form.window(), button.window(), HWND{}}) {
-        Request request(from, button.window());
-        Request const original = request;
         form.record().forget();
-        request.sendTo(button.window());
-        EXPECT_TRUE(request.differsOnlyInTextFrom(original) && !request.isAnswered());
+        expectNoAnswerTo({from, button.window()});
         EXPECT_EQ(form.record().count("Extender.ToolTipText"), 0);
     }
 }
 
 TEST_ON_NEW_THREAD(TipText, isNotGivenForAnotherCode)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     setText(button, L"secret");
     for (int const code : {-521, -522, -523, -530, -519, 520, 0}) {
         Request request(theToolTipWindow(), button.window());
         request.record.hdr.code = static_cast<UINT>(code);
-        Request const original = request;
-        request.sendTo(button.window());
-        EXPECT_TRUE(!request.isAnswered() && request.differsOnlyInTextFrom(original)) << code;
+        expectNoAnswerTo(request);
     }
 }
 
 TEST_ON_NEW_THREAD(TipText, ofANotificationWithoutARecordDoesNoHarm)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     EXPECT_EQ(::SendMessageA(button.window(), kNotify, 0, 0), 0);
 }
 
 TEST_ON_NEW_THREAD(TipText, askedForWhileTheExtenderTakesTheControlAwayIsCleanlyNotGiven)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     button.extender().provide(L"ToolTipText", [&](Variant const&) {
         button.remove();
         return Variant::ofString(L"too late");
@@ -249,16 +212,22 @@ TEST_ON_NEW_THREAD(TipText, askedForWhileTheExtenderTakesTheControlAwayIsCleanly
 }
 
 /// A button in the active window with the cursor elsewhere, and the tip that real hovering brings.
-class ShownTip : public ServiceTest {
+class ShownTip : public ButtonTest {
 protected:
-    static std::string shownOver(FormButton& button)
+    void SetUp() override
+    {
+        ButtonTest::SetUp();
+        button.start();
+        ASSERT_TRUE(kit::focus(button.window()));
+    }
+    std::string shown()
     {
         HWND const toolTip = theToolTipWindow();
         input::enter(button);
         EXPECT_TRUE(kit::pumpUntil([&] { return ::IsWindowVisible(toolTip) != FALSE; })) << "no tip is shown";
         return textOf(toolTip);
     }
-    static void hide(FormButton& button)
+    void hide()
     {
         HWND const toolTip = theToolTipWindow();
         input::leave(button);
@@ -269,27 +238,19 @@ protected:
 
 TEST_ON_NEW_THREAD(ShownTip, hasTheExtendersTextAndAChangeOfItTakesEffectAtTheNextTimeTheTipShows)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
-    ASSERT_TRUE(kit::focus(button.window()));
     setText(button, L"Shown first");
-    EXPECT_EQ(shownOver(button), "Shown first");
-    hide(button);
+    EXPECT_EQ(shown(), "Shown first");
+    hide();
     setText(button, L"Shown next");
-    EXPECT_EQ(shownOver(button), "Shown next");
-    hide(button);
+    EXPECT_EQ(shown(), "Shown next");
+    hide();
 }
 
 TEST_ON_NEW_THREAD(ShownTip, goesWhenTheButtonIsPressed)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
-    ASSERT_TRUE(kit::focus(button.window()));
     setText(button, L"Press");
     HWND const toolTip = theToolTipWindow();
-    EXPECT_EQ(shownOver(button), "Press");
+    EXPECT_EQ(shown(), "Press");
     input::pressDown(button);
     EXPECT_TRUE(kit::pumpUntil([&] { return !::IsWindowVisible(toolTip); }));
     input::letUp(button);
@@ -299,14 +260,10 @@ TEST_ON_NEW_THREAD(ShownTip, goesWhenTheButtonIsPressed)
 
 TEST_ON_NEW_THREAD(ShownTip, goesWithItsControl)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form, 1);
     RunningButton other(library(), form, 2);
-    button.start();
     other.start();
-    ASSERT_TRUE(kit::focus(button.window()));
     setText(button, L"Gone soon");
-    EXPECT_EQ(shownOver(button), "Gone soon");
+    EXPECT_EQ(shown(), "Gone soon");
     HWND const toolTip = theToolTipWindow();
     button.remove();
     EXPECT_TRUE(kit::moveCursorAway());

@@ -12,21 +12,19 @@ constexpr UINT kAddTool = 1028;
 constexpr UINT kDeleteTool = 1029;
 constexpr UINT kRelayEvent = 1031;
 
-class Tool : public ServiceTest {};
+class Tool : public ButtonTest {};
 
 TEST_ON_NEW_THREAD(Tool, isAddedOnceTheWindowIsActiveAndActivatesItAgain)
 {
-    kit::FakeForm form;
-    RunningButton first(library(), form, 1);
     RunningButton second(library(), form, 2);
     ToolTipWatch watch;
-    first.start();
+    button.start();
     EXPECT_THAT(watch.numbers(), ElementsAre(kActivate, kAddTool, kActivate));
     EXPECT_EQ(watch.messages.at(0).wParam, TRUE);
     EXPECT_EQ(watch.messages.at(0).lParam, 0);
     EXPECT_EQ(watch.messages.at(1).wParam, 0U);
     EXPECT_EQ(watch.messages.at(2).wParam, TRUE);
-    EXPECT_EQ(watch.messages.at(2).lParam, reinterpret_cast<LPARAM>(first.window()));
+    EXPECT_EQ(watch.messages.at(2).lParam, reinterpret_cast<LPARAM>(button.window()));
     watch.messages.clear();
     second.start();
     EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
@@ -35,8 +33,6 @@ TEST_ON_NEW_THREAD(Tool, isAddedOnceTheWindowIsActiveAndActivatesItAgain)
 
 TEST_ON_NEW_THREAD(Tool, isTheWindowThatAnActivationMakesAfterTheLoad)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
     ToolTipWatch const watch;
     ASSERT_EQ(button.hosted().setSite(), S_OK);
     button.load(*looksBag().get());
@@ -48,8 +44,6 @@ TEST_ON_NEW_THREAD(Tool, isTheWindowThatAnActivationMakesAfterTheLoad)
 
 TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlThatIsShownAgainAfterItWasClosed)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
     button.start();
     HWND const first = windowOf(button);
     ASSERT_EQ(button.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
@@ -63,8 +57,6 @@ TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlThatIsShownAgainAfterItWasClose
 
 TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlWhoseContainerDestroyedTheLastOne)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
     button.start();
     ::DestroyWindow(windowOf(button));
     ToolTipWatch const watch;
@@ -76,8 +68,6 @@ TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlWhoseContainerDestroyedTheLastO
 
 TEST_ON_NEW_THREAD(Tool, isTheControlsWindowByItsHandleWithTextOnDemand)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
     ToolTipWatch const watch;
     button.start();
     ASSERT_EQ(watch.numbers().at(1), kAddTool);
@@ -97,9 +87,7 @@ TEST_ON_NEW_THREAD(Tool, isTheControlsWindowByItsHandleWithTextOnDemand)
 // A form may make and give up controls for as long as it runs.
 TEST_ON_NEW_THREAD(Tool, goesWithItsControlAndWithAWindowThatIsMadeAnew)
 {
-    kit::FakeForm form;
-    RunningButton first(library(), form, 1);
-    first.start();
+    button.start();
     HWND const toolTip = theToolTipWindow();
     auto const tools = [toolTip] { return ::SendMessageA(toolTip, TTM_GETTOOLCOUNT, 0, 0); };
     {
@@ -115,14 +103,12 @@ TEST_ON_NEW_THREAD(Tool, goesWithItsControlAndWithAWindowThatIsMadeAnew)
 
 TEST_ON_NEW_THREAD(Tool, isKnownToTheToolTipWindow)
 {
-    kit::FakeForm form;
-    RunningButton first(library(), form, 1);
     RunningButton second(library(), form, 2);
-    first.start();
+    button.start();
     second.start();
     HWND const toolTip = theToolTipWindow();
     EXPECT_EQ(::SendMessageA(toolTip, TTM_GETTOOLCOUNT, 0, 0), 2);
-    for (HWND const window : {first.window(), second.window()}) {
+    for (HWND const window : {button.window(), second.window()}) {
         TTTOOLINFOA tool{};
         tool.cbSize = TTTOOLINFOA_V1_SIZE;
         tool.hwnd = window;
@@ -134,22 +120,24 @@ TEST_ON_NEW_THREAD(Tool, isKnownToTheToolTipWindow)
 
 TEST_ON_NEW_THREAD(Tool, ofADesignedControlIsNone)
 {
-    kit::FakeForm form;
-    RunningButton running(library(), form, 1);
-    running.start();
+    button.start();
     ToolTipWatch const watch;
     RunningButton designed(library(), form, 2);
     designed.startDesigned();
     EXPECT_THAT(watch.numbers(), ElementsAre());
 }
 
-class Relay : public ServiceTest {};
+class Relay : public ButtonTest {
+protected:
+    void SetUp() override
+    {
+        ButtonTest::SetUp();
+        button.start();
+    }
+};
 
 TEST_ON_NEW_THREAD(Relay, takesTheSevenMouseMessagesWithNeitherTimeNorPoint)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     HWND const toolTip = theToolTipWindow();
     LPARAM const where = MAKELPARAM(11, 7);
     for (UINT const message : {512U, 513U, 514U, 516U, 517U, 519U, 520U}) {
@@ -172,9 +160,6 @@ TEST_ON_NEW_THREAD(Relay, takesTheSevenMouseMessagesWithNeitherTimeNorPoint)
 
 TEST_ON_NEW_THREAD(Relay, leavesOutEveryOtherMessage)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     ToolTipWatch const watch;
     for (UINT const message : {515U, 518U, 521U, 522U, 523U, 524U, 525U, 526U, UINT{WM_NCMOUSEMOVE},
                                UINT{WM_SETFOCUS}, UINT{WM_KILLFOCUS}, UINT{WM_KEYUP}, UINT{WM_TIMER},
@@ -186,9 +171,6 @@ TEST_ON_NEW_THREAD(Relay, leavesOutEveryOtherMessage)
 // WM_LBUTTONDBLCLK (515) and its sisters are passed on but not relayed: here made by a real mouse.
 TEST_ON_NEW_THREAD(Relay, ofADoubleClickLeavesOutTheSecondPress)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     input::enter(button);
     for (auto const& [which, down, up] :
          {std::tuple{MouseButton::Left, 513U, 514U}, std::tuple{MouseButton::Right, 516U, 517U},
@@ -209,9 +191,6 @@ TEST_ON_NEW_THREAD(Relay, ofADoubleClickLeavesOutTheSecondPress)
 
 TEST_ON_NEW_THREAD(Relay, happensBeforeTheControlHandlesTheMessage)
 {
-    kit::FakeForm form;
-    RunningButton button(library(), form);
-    button.start();
     ToolTipWatch const watch;
     size_t relayedBefore = 0;
     button.events().action = [&](kit::EventRecorder::Event const&) {
@@ -224,9 +203,6 @@ TEST_ON_NEW_THREAD(Relay, happensBeforeTheControlHandlesTheMessage)
 
 TEST_ON_NEW_THREAD(Relay, fromANewControlIsNone)
 {
-    kit::FakeForm form;
-    RunningButton loaded(library(), form, 1);
-    loaded.start();
     RunningButton fresh(library(), form, 2);
     fresh.startNew();
     ToolTipWatch const watch;
