@@ -26,7 +26,6 @@ protected:
         control.remove();
         otherSite->dismantle();
         HostileControlTest::TearDown();
-        expectNothingLeft();
     }
     /// The container does something the first time that the control asks or tells it that.
     void once(std::string const& call, std::function<void()> const& deed)
@@ -41,10 +40,9 @@ protected:
     int told(char const* call) { return form.record().count(call); }
     void moveToOtherForm()
     {
-        auto const object = control.as<IOleObject>();
-        object->SetClientSite(otherSite.get());
-        EXPECT_EQ(object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, otherSite.get(), 0, otherForm.window(),
-                                 &kPlace),
+        control.ask(&IOleObject::SetClientSite, otherSite.get());
+        EXPECT_EQ(control.ask(&IOleObject::DoVerb, OLEIVERB_INPLACEACTIVATE, nullptr, otherSite.get(), 0,
+                              otherForm.window(), &kPlace),
                   S_OK);
     }
 };

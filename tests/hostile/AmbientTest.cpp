@@ -17,19 +17,7 @@ constexpr wchar_t const* kExtended[] = {L"Name",      L"ToolTipText", L"Default"
                                         L"Container", L"Parent",      L"Object",  L"Width"};
 constexpr size_t kTaken = 28;
 
-class HostileAmbient : public HostileControlTest {
-protected:
-    static void live(std::string const& title, std::function<void(Life&)> const& prepare)
-    {
-        Journal::begin(std::string(kind().name) + ": " + title);
-        {
-            Life life(kind());
-            prepare(life);
-            life.live();
-        }
-        expectNothingLeft();
-    }
-};
+class HostileAmbient : public HostileControlTest {};
 QV_ALL_CONTROLS(HostileAmbient);
 
 TEST_P(HostileAmbient, ofAnyTypeIsLivedWith)
@@ -37,10 +25,10 @@ TEST_P(HostileAmbient, ofAnyTypeIsLivedWith)
     for (NamedValue const& row : strangeValues()) {
         for (DISPID const id : kEachAmbient)
             if (isDue(kTaken * 4))
-                live(row.name + " as ambient " + std::to_string(id),
+                live(kind(), row.name + " as ambient " + std::to_string(id),
                      [&](Life& life) { life.control.site().setAmbient(id, row.value); });
         if (isDue(kTaken))
-            live(row.name + " as every ambient", [&](Life& life) {
+            live(kind(), row.name + " as every ambient", [&](Life& life) {
                 for (DISPID const id : kEachAmbient)
                     life.control.site().setAmbient(id, row.value);
             });
@@ -52,10 +40,10 @@ TEST_P(HostileAmbient, thatAnExtenderHasOfAnyTypeIsLivedWith)
     for (NamedValue const& row : strangeValues()) {
         for (wchar_t const* const name : kExtended)
             if (isDue(kTaken * 4))
-                live(row.name + " as " + kit::narrow(name),
+                live(kind(), row.name + " as " + kit::narrow(name),
                      [&](Life& life) { life.control.site().extender().offer(name, row.value); });
         if (isDue(kTaken))
-            live(row.name + " as every member of the form", [&](Life& life) {
+            live(kind(), row.name + " as every member of the form", [&](Life& life) {
                 life.form.object().offer(L"ActiveControl", row.value);
                 life.form.object().offer(L"Controls", row.value);
                 life.form.controls().offer(L"Count", row.value);
@@ -69,13 +57,14 @@ TEST_P(HostileAmbient, orMemberThatAnExtenderLacksOrRaisesAnErrorInIsLivedWith)
     for (wchar_t const* const name : kExtended) {
         if (!isDue(4))
             continue;
-        live("no " + kit::narrow(name), [&](Life& life) { life.control.site().extender().remove(name); });
-        live("error in " + kit::narrow(name),
+        live(kind(), "no " + kit::narrow(name),
+             [&](Life& life) { life.control.site().extender().remove(name); });
+        live(kind(), "error in " + kit::narrow(name),
              [&](Life& life) { life.control.site().extender().refuse(name, DISP_E_EXCEPTION); });
     }
-    live("nothing at all", [](Life& life) { life.control.site().extender().removeAll(); });
+    live(kind(), "nothing at all", [](Life& life) { life.control.site().extender().removeAll(); });
     for (long const count : {-1L, 3L, 100'000L})
-        live("a wrong count", [&](Life& life) {
+        live(kind(), "a wrong count", [&](Life& life) {
             life.form.controls().offer(L"Count", Variant::ofLong(count));
             life.form.record().answer("Site.GetContainer", E_NOTIMPL);
         });
@@ -87,7 +76,7 @@ TEST_P(HostileAmbient, isMissedWhereASiteLacksAnyOfItsInterfaces)
                             __uuidof(IOleWindow)};
     for (unsigned lacking = 1; lacking < 16; ++lacking)
         if (isDue(4))
-            live("interfaces lacking: " + std::to_string(lacking), [&](Life& life) {
+            live(kind(), "interfaces lacking: " + std::to_string(lacking), [&](Life& life) {
                 for (size_t i = 0; i < std::size(optional); ++i)
                     if (lacking & (1U << i))
                         life.control.site().hide(optional[i]);
@@ -158,11 +147,9 @@ protected:
     void TearDown() override
     {
         query<IOleObject>(control.get())->SetClientSite(nullptr);
-        control.reset();
-        plain.reset();
         HostileTest::TearDown();
-        expectNothingLeft();
     }
+    ComPtr<IDispatch> own() const { return query<IDispatch>(control.get()); }
     /// Chooses the option, which then looks for the others of its group; answers how many it looked at.
     int choose(IUnknown* sibling)
     {
@@ -170,10 +157,8 @@ protected:
         auto const container = kit::make<EndlessContainer>();
         container->object = sibling;
         query<IOleObject>(control.get())->SetClientSite(kit::make<EndlessSite>(*container.get()).get());
-        EXPECT_EQ(kit::putByName(*query<IDispatch>(control.get()).get(), L"Value", Variant::ofLong(0)).result,
-                  S_OK);
-        EXPECT_EQ(kit::putByName(*query<IDispatch>(control.get()).get(), L"Value", Variant::ofLong(1)).result,
-                  S_OK);
+        for (long const value : {0L, 1L})
+            EXPECT_EQ(kit::putByName(*own().get(), L"Value", Variant::ofLong(value)).result, S_OK);
         return container->asked;
     }
 };
@@ -192,7 +177,7 @@ TEST_F(HostileSiblings, thatAreNothingAreNotLookedAtForEver) { expectALimit(choo
 TEST_F(HostileSiblings, thatAreTheControlItselfLeaveItChosen)
 {
     choose(control.get());
-    EXPECT_EQ(kit::getByName(*query<IDispatch>(control.get()).get(), L"Value").value.toLong(), 1);
+    EXPECT_EQ(kit::getByName(*own().get(), L"Value").value.toLong(), 1);
 }
 
 } // namespace

@@ -18,16 +18,10 @@ class HostileDrawing : public HostileControlTest {
 protected:
     ComPtr<IUnknown> control = library().create(kind().classId);
 
-    void TearDown() override
-    {
-        control.reset();
-        HostileControlTest::TearDown();
-        expectNothingLeft();
-    }
     HRESULT drawIn(HDC dc, RECTL const& bounds)
     {
-        return query<IViewObject>(control.get())
-            ->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr, nullptr, 0);
+        return kit::ask(control.get(), &IViewObject::Draw, DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                        dc, &bounds, nullptr, nullptr, 0);
     }
 };
 QV_ALL_CONTROLS(HostileDrawing);
@@ -44,8 +38,8 @@ TEST_P(HostileDrawing, ofAShownControlInRectanglesBeyondAllMeasureIsRefusedOrDon
             for (LONG const right : kEdges)
                 for (LONG const bottom : kEdges) {
                     RECTL const bounds{left, top, right, bottom};
-                    shown.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
-                                                  canvas.dc(), &bounds, nullptr, nullptr, 0);
+                    shown.ask(&IViewObject::Draw, DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                              canvas.dc(), &bounds, nullptr, nullptr, 0);
                 }
 }
 
@@ -83,16 +77,7 @@ TEST_P(HostileDrawing, atAnExtentBeyondAllMeasureIsRefusedOrDone)
 
 class HostileReference : public HostileControlTest {
 protected:
-    ComPtr<IUnknown> control = library().create(kind().classId);
-    ComPtr<IDispatch> own = query<IDispatch>(control.get());
-
-    void TearDown() override
-    {
-        own.reset();
-        control.reset();
-        HostileControlTest::TearDown();
-        expectNothingLeft();
-    }
+    ComPtr<IDispatch> own = query<IDispatch>(library().create(kind().classId).get());
 };
 QV_ALL_CONTROLS(HostileReference);
 

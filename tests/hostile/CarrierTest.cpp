@@ -177,10 +177,13 @@ protected:
         expectNothingLeft();
         return result;
     }
-    static HRESULT loadBag(Life& life, IPropertyBag& bag) { return life.control.load(bag); }
-    static HRESULT loadStream(Life& life, IStream& stream)
+    static HRESULT loadBag(std::string const& title, IPropertyBag& bag)
     {
-        return life.as<IPersistStreamInit>()->Load(&stream);
+        return load(title, [&](Life& life) { return life.control.load(bag); });
+    }
+    static HRESULT loadStream(std::string const& title, IStream& stream)
+    {
+        return load(title, [&](Life& life) { return life.control.ask(&IPersistStreamInit::Load, &stream); });
     }
 };
 QV_ALL_CONTROLS(HostileCarrier);
@@ -196,16 +199,14 @@ TEST_P(HostileCarrier, bagThatAnswersValuesOfAnyTypeIsLoadedOrRefused)
             value = Variant(row.value).detach();
             return S_OK;
         };
-        refused +=
-            FAILED(load(row.name + " for everything", [&](Life& life) { return loadBag(life, *bag.get()); }));
+        refused += FAILED(loadBag(row.name + " for everything", *bag.get()));
         if (isDue(12))
             for (wchar_t const* const name : {L"Font", L"MouseIcon", L"Image", L"Caption", L"BackColor",
                                               L"BorderWidth", L"Enabled", L"Value"}) {
                 auto const one = kit::make<kit::FakeBag>();
                 one->put(L"ForeColor", Variant::ofLong(77));
                 one->put(name, row.value);
-                load(row.name + " for " + kit::narrow(name),
-                     [&](Life& life) { return loadBag(life, *one.get()); });
+                loadBag(row.name + " for " + kit::narrow(name), *one.get());
             }
     }
     EXPECT_GT(refused, 2);
@@ -224,8 +225,7 @@ TEST_P(HostileCarrier, bagThatWritesGarbageIntoTheValueAndFailsIsHeardAsAFailure
                 value.vt = static_cast<VARTYPE>(type);
                 return result;
             };
-            load("garbage of type " + std::to_string(type),
-                 [&](Life& life) { return loadBag(life, *bag.get()); });
+            loadBag("garbage of type " + std::to_string(type), *bag.get());
         }
 }
 
@@ -253,7 +253,7 @@ TEST_P(HostileCarrier, streamThatGivesAByteAtATimeIsLoaded)
     for (ULONG const most : {1U, 3U, 64U}) {
         auto const stream = kit::make<HostileStream>(full);
         stream->most = most;
-        EXPECT_EQ(load("pieces", [&](Life& life) { return loadStream(life, *stream.get()); }), S_OK) << most;
+        EXPECT_EQ(loadStream("pieces", *stream.get()), S_OK) << most;
     }
 }
 
@@ -274,8 +274,7 @@ TEST_P(HostileCarrier, streamThatFailsOrSaysNonsenseInAnyReadIsRefused)
             stream->wrongAt = at;
             stream->wrong = row.answer;
             stream->claimed = row.claimed;
-            EXPECT_TRUE(FAILED(load("wrong read " + std::to_string(at),
-                                    [&](Life& life) { return loadStream(life, *stream.get()); })))
+            EXPECT_TRUE(FAILED(loadStream("wrong read " + std::to_string(at), *stream.get())))
                 << row.answer << ' ' << row.claimed << ' ' << at;
         }
 }
@@ -320,39 +319,35 @@ TEST_P(HostileCarrier, thatDoesSomethingToTheControlWhileItIsAskedIsLivedWith)
     for (Deed const& deed : deeds()) {
         if (!isDue(5))
             continue;
-        Journal::begin(std::string(kind().name) + ": carriers: " + deed.name);
-        {
-            Life life(kind());
+        live(kind(), std::string("carriers: ") + deed.name, [&](Life& life) {
             life.begin();
             life.show();
             auto const stream = kit::make<HostileStream>(full);
             stream->wrongAt = 2;
             stream->deed = [&] { deed.run(life); };
             auto const bag = kit::make<HostileBag>();
-            bag->reads = [&](VARIANT&) {
-                if (bag->calls == 4)
+            auto const at = [&](int call) {
+                if (bag->calls == call)
                     deed.run(life);
+            };
+            bag->reads = [&](VARIANT&) {
+                at(4);
                 return E_INVALIDARG;
             };
             bag->writes = [&] {
-                if (bag->calls == 2)
-                    deed.run(life);
+                at(2);
                 return S_OK;
             };
-            if (auto const own = life.as<IPersistStreamInit>())
-                own->Load(stream.get());
+            life.control.ask(&IPersistStreamInit::Load, stream.get());
             life.control.load(*bag.get());
             bag->calls = 0;
             life.control.save(*bag.get());
             stream->calls = 1;
-            if (auto const own = life.as<IPersistStreamInit>())
-                own->Save(stream.get(), TRUE);
+            life.control.ask(&IPersistStreamInit::Save, stream.get(), TRUE);
             bag->reads = nullptr;
             bag->writes = nullptr;
             stream->deed = nullptr;
-            life.live();
-        }
-        expectNothingLeft();
+        });
     }
 }
 

@@ -88,8 +88,7 @@ void load(World& world, Slot& slot)
     if (auto const other = world.slots[world.random() % world.slots.size()].as<IPersistStreamInit>())
         other->Save(stream.get(), world.random() % 2 != 0);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    if (auto const own = slot.as<IPersistStreamInit>())
-        own->Load(stream.get());
+    slot.ask(&IPersistStreamInit::Load, stream.get());
 }
 
 void loadBag(World& world, Slot& slot)
@@ -141,8 +140,7 @@ void advise(World& world, Slot& slot)
         own->SetAdvise(DVASPECT_CONTENT, oneOf(world.random, flags),
                        world.random() % 3 ? slot.views.get() : nullptr);
     DWORD cookie = 0;
-    if (auto const own = slot.as<IOleObject>())
-        own->Advise(slot.views.get(), &cookie);
+    slot.ask(&IOleObject::Advise, slot.views.get(), &cookie);
 }
 
 void unadvise(World& world, Slot& slot)
@@ -161,8 +159,7 @@ void changeAmbient(World& world, Slot& slot)
     DISPID const id = oneOf(world.random, kAmbients);
     auto const values = strangeValues();
     slot.control->site().setAmbient(id, values[world.random() % values.size()].value);
-    if (auto const own = slot.as<IOleControl>())
-        own->OnAmbientPropertyChange(id);
+    slot.ask(&IOleControl::OnAmbientPropertyChange, id);
 }
 
 void quickActivate(World& world, Slot& slot)
@@ -191,22 +188,16 @@ void useKey(World& world, Slot& slot)
 {
     constexpr WPARAM kKeys[] = {VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE, VK_LEFT, 'A', 0xFFFF};
     MSG message{world.form.window(), WM_KEYDOWN, oneOf(world.random, kKeys), 0, 0, {}};
-    if (auto const own = slot.as<IOleInPlaceActiveObject>())
-        own->TranslateAccelerator(&message);
+    slot.ask(&IOleInPlaceActiveObject::TranslateAccelerator, &message);
     message.message = world.random() % 2 ? WM_SYSCHAR : WM_KEYUP;
     if (auto const own = slot.as<IOleControl>())
         own->OnMnemonic(world.random() % 4 ? &message : nullptr);
     CONTROLINFO info{};
     info.cb = world.random() % 4 ? sizeof(info) : 2;
-    if (auto const own = slot.as<IOleControl>())
-        own->GetControlInfo(&info);
+    slot.ask(&IOleControl::GetControlInfo, &info);
 }
 
-template <class Face, HRESULT (STDMETHODCALLTYPE Face::*Method)()> void plainCall(World&, Slot& slot)
-{
-    if (auto const own = slot.as<Face>())
-        (own.get()->*Method)();
-}
+template <auto Method> void plainCall(World&, Slot& slot) { slot.ask(Method); }
 
 void freeze(World& world, Slot& slot)
 {
@@ -223,14 +214,14 @@ std::vector<Step> const& containerSteps()
         {"remove", 1, [](World& world, Slot& slot) { world.drop(slot); }},
         {"release", 1, [](World&, Slot& slot) { slot.control->release(); }},
         {"site", 6, setSite},
-        {"init new", 2, plainCall<IPersistStreamInit, &IPersistStreamInit::InitNew>},
+        {"init new", 2, plainCall<&IPersistStreamInit::InitNew>},
         {"extent", 4, setExtent},
         {"verb", 14, doVerb},
         {"rectangles", 6, setRectangles},
-        {"without keyboard", 2, plainCall<IOleInPlaceObject, &IOleInPlaceObject::UIDeactivate>},
+        {"without keyboard", 2, plainCall<&IOleInPlaceObject::UIDeactivate>},
         {"deactivate", 3, deactivate},
-        {"undo", 1, plainCall<IOleInPlaceObject, &IOleInPlaceObject::ReactivateAndUndo>},
-        {"update", 1, plainCall<IOleObject, &IOleObject::Update>},
+        {"undo", 1, plainCall<&IOleInPlaceObject::ReactivateAndUndo>},
+        {"update", 1, plainCall<&IOleObject::Update>},
         {"close", 2, close},
         {"load", 3, load},
         {"load a bag", 3, loadBag},

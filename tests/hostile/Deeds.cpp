@@ -11,29 +11,17 @@ namespace quillet::hostile {
 
 namespace {
 
-void closes(Life& life)
-{
-    if (auto const object = life.as<IOleObject>())
-        object->Close(OLECLOSE_NOSAVE);
-}
+void closes(Life& life) { life.control.ask(&IOleObject::Close, OLECLOSE_NOSAVE); }
 
-void takesSite(Life& life, IOleClientSite* site)
-{
-    if (auto const object = life.as<IOleObject>())
-        object->SetClientSite(site);
-}
+void takesSite(Life& life, IOleClientSite* site) { life.control.ask(&IOleObject::SetClientSite, site); }
 
-void deactivates(Life& life)
-{
-    if (auto const object = life.as<IOleInPlaceObject>())
-        object->InPlaceDeactivate();
-}
+void deactivates(Life& life) { life.control.ask(&IOleInPlaceObject::InPlaceDeactivate); }
 
 void moveToOtherForm(Life& life)
 {
     takesSite(life, &life.otherSite());
-    if (auto const object = life.as<IOleObject>())
-        object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &life.otherSite(), 0, life.otherForm(), nullptr);
+    life.control.ask(&IOleObject::DoVerb, OLEIVERB_UIACTIVATE, nullptr, &life.otherSite(), 0,
+                     life.otherForm(), nullptr);
 }
 
 void put(Life& life, wchar_t const* name, Variant const& value)
@@ -55,8 +43,7 @@ void quickActivates(Life& life)
     container.pClientSite = &life.control.site();
     QACONTROL answer{};
     answer.cbSize = sizeof(answer);
-    if (auto const object = life.as<IQuickActivate>())
-        object->QuickActivate(&container, &answer);
+    life.control.ask(&IQuickActivate::QuickActivate, &container, &answer);
 }
 
 /// Whatever window the control is in: the form, or where it waits while no container shows it.
@@ -81,11 +68,7 @@ std::vector<Deed> const& deeds()
         {"Resizes", [](Life& life) { life.resize(37, 19); }},
         {"ResizesToNothing", [](Life& life) { life.resize(0, 0); }},
         {"ResizesBeyondAllMeasure", [](Life& life) { life.resize(60000, 60000); }},
-        {"TakesTheKeyboardAway",
-         [](Life& life) {
-             if (auto const object = life.as<IOleInPlaceObject>())
-                 object->UIDeactivate();
-         }},
+        {"TakesTheKeyboardAway", [](Life& life) { life.control.ask(&IOleInPlaceObject::UIDeactivate); }},
         {"Deactivates", deactivates},
         {"DeactivatesAndActivates",
          [](Life& life) {
@@ -160,14 +143,8 @@ void liveThroughDeeds(ControlKind const& kind, std::vector<Occasion> const& occa
             for (int const letPass : {0, std::max(0, occasion.times - 2)}) {
                 if (!isDue(every * 2))
                     continue;
-                Journal::begin(std::string(kind.name) + ": " + occasion.name + ' ' + deed.name + " after " +
-                               std::to_string(letPass));
-                {
-                    Life life(kind);
-                    life.arm(occasion.name, deed, letPass);
-                    life.live();
-                }
-                HostileTest::expectNothingLeft();
+                HostileTest::live(kind, occasion.name + ' ' + deed.name + " after " + std::to_string(letPass),
+                                  [&](Life& life) { life.arm(occasion.name, deed, letPass); });
             }
 }
 

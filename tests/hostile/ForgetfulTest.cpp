@@ -4,6 +4,7 @@
 #include "kit/ByName.h"
 #include "kit/FakeBag.h"
 #include "kit/Hosted.h"
+#include "kit/NotCopied.h"
 #include "kit/Pump.h"
 #include "kit/Sinks.h"
 
@@ -15,7 +16,7 @@ namespace {
 constexpr RECT kLarger{20, 30, 160, 80};
 constexpr POINT kOutside{300, 250};
 
-class ForgetfulContainer {
+class ForgetfulContainer : kit::NotCopied {
 public:
     ForgetfulContainer(kit::FakeForm& form, kit::Library const& library, ControlKind const& kind)
         : control(library, kind.classId, form, kPlace), m_kind(kind),
@@ -29,8 +30,6 @@ public:
         letGo();
         releaseEverything();
     }
-    ForgetfulContainer(ForgetfulContainer const&) = delete;
-    ForgetfulContainer& operator=(ForgetfulContainer const&) = delete;
 
     kit::Hosted control;
 
@@ -70,27 +69,14 @@ public:
         kit::pumpPending();
         m_events->forget();
     }
-    void deactivate() const
-    {
-        if (auto const object = control.as<IOleInPlaceObject>())
-            object->InPlaceDeactivate();
-    }
-    void close() const
-    {
-        if (auto const object = control.as<IOleObject>())
-            object->Close(OLECLOSE_NOSAVE);
-    }
-    void takeSiteAway() const
-    {
-        if (auto const object = control.as<IOleObject>())
-            object->SetClientSite(nullptr);
-    }
+    void deactivate() const { control.ask(&IOleInPlaceObject::InPlaceDeactivate); }
+    void close() const { control.ask(&IOleObject::Close, OLECLOSE_NOSAVE); }
+    void takeSiteAway() const { control.ask(&IOleObject::SetClientSite, nullptr); }
     /// The window is believed to be gone, and is not restored. The events still have a listener.
     void letGo()
     {
         deactivate();
-        if (auto const object = control.as<IOleInPlaceObject>())
-            object->UIDeactivate();
+        control.ask(&IOleInPlaceObject::UIDeactivate);
         control.doVerb(OLEIVERB_HIDE);
         close();
         takeSiteAway();
@@ -215,8 +201,7 @@ void useEverything(ForgetfulContainer& container)
     send(container, WM_CHAR, VK_SPACE);
     send(container, WM_KEYUP, VK_SPACE);
     ::RedrawWindow(container.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    if (auto const object = container.control.as<IOleInPlaceObject>())
-        object->SetObjectRects(&kLarger, &kLarger);
+    container.control.ask(&IOleInPlaceObject::SetObjectRects, &kLarger, &kLarger);
     if (container.inputWindow() == container.window())
         moveCursorWithin(container.control.form().window(), kOutside);
     send(container, WM_MOUSEMOVE, 0, kOutside);
@@ -225,13 +210,6 @@ void useEverything(ForgetfulContainer& container)
 class HostileForgetful : public HostileControlTest {
 protected:
     kit::FakeForm form;
-
-    void TearDown() override
-    {
-        HostileControlTest::TearDown();
-        form.frame().forgetActiveObject();
-        expectNothingLeft();
-    }
 };
 QV_ALL_CONTROLS(HostileForgetful);
 

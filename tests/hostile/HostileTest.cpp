@@ -65,6 +65,18 @@ void HostileTest::TearDown()
     Journal::end();
 }
 
+void HostileTest::live(ControlKind const& kind, std::string const& title,
+                       std::function<void(Life&)> const& prepare)
+{
+    Journal::begin(std::string(kind.name) + ": " + title);
+    {
+        Life life(kind);
+        prepare(life);
+        life.live();
+    }
+    expectNothingLeft();
+}
+
 void HostileTest::expectNothingLeft()
 {
     EXPECT_EQ(library().canUnloadNow(), S_OK) << "objects of the component are alive after\n"

@@ -4,33 +4,22 @@
 
 #include "Journal.h"
 #include "kit/ControlTest.h"
+#include "kit/Controls.h"
 #include "kit/ModalDialog.h"
-#include "typelib/Guids.h"
 
 #include <windows.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace quillet::hostile {
 
-struct ControlKind {
-    char const* name;
-    CLSID classId;
-    IID interfaceId;
-    IID eventsId;
-};
-
-inline constexpr ControlKind kControls[] = {
-    {"qvFlatCommand", kQvFlatCommandClass, kQvFlatCommandInterface, kQvFlatCommandEvents},
-    {"qvImageCommand", kQvImageCommandClass, kQvImageCommandInterface, kQvImageCommandEvents},
-    {"FlatToolButton", kFlatToolButtonClass, kFlatToolButtonInterface, kFlatToolButtonEvents},
-    {"qvFlatOption", kQvFlatOptionClass, kQvFlatOptionInterface, kQvFlatOptionEvents},
-    {"qvFlatCheck", kQvFlatCheckClass, kQvFlatCheckInterface, kQvFlatCheckEvents},
-};
+using kit::ControlKind;
+using kit::kControls;
 
 /// Where a control stands in its form, and a point in it.
 inline constexpr RECT kPlace{20, 30, 120, 60};
@@ -39,14 +28,21 @@ inline constexpr POINT kInside{30, 12};
 /// The component's windows on this thread: their classes.
 std::vector<std::string> ownWindows();
 
+class Life;
+
+/// Nothing may be left at the end, when the members of a test class have gone.
 class HostileTest : public kit::ControlTest {
 public:
     using ControlTest::library;
     /// After each run: the module can go, and no window of its is left. The tables' cases tell more.
     static void expectNothingLeft();
+    /// One run: a whole life of a control that has been prepared for it.
+    static void live(ControlKind const& kind, std::string const& title,
+                     std::function<void(Life&)> const& prepare);
 
 protected:
     HostileTest();
+    ~HostileTest() override { expectNothingLeft(); }
     void SetUp() override;
     void TearDown() override;
 
@@ -60,11 +56,7 @@ protected:
     static ControlKind const& kind() { return GetParam(); }
 };
 
-#define QV_ALL_CONTROLS(suite)                                                                               \
-    INSTANTIATE_TEST_SUITE_P(All, suite, testing::ValuesIn(kControls),                                       \
-                             [](auto const& each) { return std::string(each.param.name); })
-
-class Life;
+#define QV_ALL_CONTROLS(suite) QV_EACH_CONTROL(All, suite)
 
 /// The first window of a control's surface in a form's; null when there is none.
 HWND surfaceIn(HWND form);

@@ -1,6 +1,8 @@
 // What a run is doing: told when it fails, crashes or hangs.
 #include "Journal.h"
 
+#include "kit/NotCopied.h"
+
 #include <windows.h>
 
 #include <csignal>
@@ -15,12 +17,10 @@ namespace {
 constexpr ULONGLONG kLimit = 60'000; // milliseconds for one run, on a machine that is busy elsewhere
 constexpr UINT kFailed = 3;
 
-class Lock {
+class Lock : kit::NotCopied {
 public:
     explicit Lock(SRWLOCK& lock) noexcept : m_lock(lock) { ::AcquireSRWLockExclusive(&m_lock); }
     ~Lock() { ::ReleaseSRWLockExclusive(&m_lock); }
-    Lock(Lock const&) = delete;
-    Lock& operator=(Lock const&) = delete;
 
 private:
     SRWLOCK& m_lock;

@@ -79,27 +79,28 @@ void Life::noted(std::string const& call)
     m_doing = false;
 }
 
-void Life::step(char const* name, void (Life::*run)())
-{
-    Journal::step(name);
-    watchWindows();
-    (this->*run)();
-}
-
 void Life::live()
 {
-    step("begin", &Life::begin);
-    step("show", &Life::show);
-    step("mouse", &Life::useMouse);
-    step("keys", &Life::useKeys);
-    step("accessible object", &Life::useAccessibleObject);
-    step("draw", &Life::draw);
-    step("properties", &Life::putProperties);
-    step("ambients", &Life::changeAmbients);
-    step("hide and show", &Life::hideAndShow);
-    step("leave", &Life::leave);
-    step("save and load", &Life::saveAndLoad);
-    step("end", &Life::end);
+    constexpr struct {
+        char const* name;
+        void (Life::*run)();
+    } kSteps[] = {{"begin", &Life::begin},
+                  {"show", &Life::show},
+                  {"mouse", &Life::useMouse},
+                  {"keys", &Life::useKeys},
+                  {"accessible object", &Life::useAccessibleObject},
+                  {"draw", &Life::draw},
+                  {"properties", &Life::putProperties},
+                  {"ambients", &Life::changeAmbients},
+                  {"hide and show", &Life::hideAndShow},
+                  {"leave", &Life::leave},
+                  {"save and load", &Life::saveAndLoad},
+                  {"end", &Life::end}};
+    for (auto const& step : kSteps) {
+        Journal::step(step.name);
+        watchWindows();
+        (this->*step.run)();
+    }
 }
 
 void Life::end()
@@ -141,21 +142,17 @@ void Life::joinSinks()
         std::make_unique<kit::Connection>(control.object(), m_kind.eventsId, m_events->unknown()));
     m_connections.push_back(std::make_unique<kit::Connection>(control.object(), __uuidof(IPropertyNotifySink),
                                                               m_changes->unknown()));
-    if (auto const view = as<IViewObject>())
-        view->SetAdvise(DVASPECT_CONTENT, 0, m_views.get());
+    control.ask(&IViewObject::SetAdvise, DVASPECT_CONTENT, 0, m_views.get());
     DWORD cookie = 0;
-    if (auto const object = as<IOleObject>())
-        object->Advise(m_views.get(), &cookie);
+    control.ask(&IOleObject::Advise, m_views.get(), &cookie);
 }
 
 void Life::cutSinks()
 {
     m_connections.clear();
-    if (auto const view = as<IViewObject>())
-        view->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
-    if (auto const object = as<IOleObject>())
-        for (DWORD cookie = 1; cookie < 4; ++cookie)
-            object->Unadvise(cookie);
+    control.ask(&IViewObject::SetAdvise, DVASPECT_CONTENT, 0, nullptr);
+    for (DWORD cookie = 1; cookie < 4; ++cookie)
+        control.ask(&IOleObject::Unadvise, cookie);
 }
 
 void Life::initOrLoad()
@@ -180,8 +177,7 @@ void Life::useKeys()
     for (WPARAM const key : {VK_SPACE, VK_RIGHT, VK_TAB}) {
         if (HWND const window = inputWindow()) {
             MSG message{window, WM_KEYDOWN, key, 0, 0, {}};
-            if (auto const active = as<IOleInPlaceActiveObject>())
-                active->TranslateAccelerator(&message);
+            control.ask(&IOleInPlaceActiveObject::TranslateAccelerator, &message);
         }
         ::SendMessageA(inputWindow(), WM_KEYDOWN, key, 1);
         ::SendMessageA(inputWindow(), WM_CHAR, key, 1);
@@ -189,11 +185,9 @@ void Life::useKeys()
     }
     CONTROLINFO info{};
     info.cb = sizeof(info);
-    if (auto const own = as<IOleControl>())
-        own->GetControlInfo(&info);
+    control.ask(&IOleControl::GetControlInfo, &info);
     MSG mnemonic{inputWindow(), WM_SYSCHAR, L'l', 0, 0, {}};
-    if (auto const own = as<IOleControl>())
-        own->OnMnemonic(&mnemonic);
+    control.ask(&IOleControl::OnMnemonic, &mnemonic);
     kit::pumpPending();
 }
 
@@ -236,12 +230,10 @@ void Life::draw()
 {
     kit::Canvas canvas(60, 20);
     RECTL const bounds{0, 0, 60, 20};
-    if (auto const view = as<IViewObject>())
-        view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(), &bounds, nullptr, nullptr,
-                   0);
+    control.ask(&IViewObject::Draw, DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(), &bounds,
+                nullptr, nullptr, 0);
     SIZEL extent{};
-    if (auto const object = as<IOleObject>())
-        object->GetExtent(DVASPECT_CONTENT, &extent);
+    control.ask(&IOleObject::GetExtent, DVASPECT_CONTENT, &extent);
     if (HWND const window = inputWindow())
         ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
@@ -287,28 +279,24 @@ void Life::changeAmbients()
 {
     for (DISPID const id : {DISPID_AMBIENT_BACKCOLOR, DISPID_AMBIENT_FONT, DISPID_AMBIENT_DISPLAYASDEFAULT,
                             DISPID_AMBIENT_USERMODE, DISPID_UNKNOWN})
-        if (auto const own = as<IOleControl>())
-            own->OnAmbientPropertyChange(id);
+        control.ask(&IOleControl::OnAmbientPropertyChange, id);
     kit::pumpPending();
 }
 
 void Life::saveAndLoad()
 {
     auto const stream = kit::streamOf();
-    if (auto const own = as<IPersistStreamInit>())
-        own->Save(stream.get(), TRUE);
+    control.ask(&IPersistStreamInit::Save, stream.get(), TRUE);
     control.save(*kit::make<kit::FakeBag>().get());
     LARGE_INTEGER const start{};
     stream->Seek(start, STREAM_SEEK_SET, nullptr);
-    if (auto const own = as<IPersistStreamInit>())
-        own->Load(stream.get());
+    control.ask(&IPersistStreamInit::Load, stream.get());
 }
 
 void Life::resize(int width, int height)
 {
     RECT const place{kPlace.left, kPlace.top, kPlace.left + width, kPlace.top + height};
-    if (auto const own = as<IOleInPlaceObject>())
-        own->SetObjectRects(&place, &place);
+    control.ask(&IOleInPlaceObject::SetObjectRects, &place, &place);
 }
 
 void Life::hideAndShow()
@@ -321,18 +309,13 @@ void Life::hideAndShow()
 
 void Life::leave()
 {
-    if (auto const own = as<IOleInPlaceObject>())
-        own->UIDeactivate();
-    if (auto const own = as<IOleInPlaceObject>())
-        own->InPlaceDeactivate();
+    control.ask(&IOleInPlaceObject::UIDeactivate);
+    control.ask(&IOleInPlaceObject::InPlaceDeactivate);
     control.activate();
     SIZEL extent = kit::himetricOf({90, 45});
-    if (auto const object = as<IOleObject>())
-        object->SetExtent(DVASPECT_CONTENT, &extent);
-    if (auto const object = as<IOleObject>())
-        object->Close(OLECLOSE_SAVEIFDIRTY);
-    if (auto const object = as<IOleObject>())
-        object->SetClientSite(nullptr);
+    control.ask(&IOleObject::SetExtent, DVASPECT_CONTENT, &extent);
+    control.ask(&IOleObject::Close, OLECLOSE_SAVEIFDIRTY);
+    control.ask(&IOleObject::SetClientSite, nullptr);
 }
 
 HWND Life::ownWindow() const { return surfaceIn(form.window()); }

@@ -5,6 +5,7 @@
 #include "kit/FakeBag.h"
 #include "kit/FakeForm.h"
 #include "kit/Hosted.h"
+#include "kit/NotCopied.h"
 #include "kit/Sinks.h"
 
 #include <functional>
@@ -27,12 +28,10 @@ struct Deed {
 
 /// A control on a form of its own, with every kind of sink joined. Every step may be taken in any state of
 /// the control, also when it is gone.
-class Life {
+class Life : kit::NotCopied {
 public:
     explicit Life(ControlKind const& kind);
     ~Life();
-    Life(Life const&) = delete;
-    Life& operator=(Life const&) = delete;
 
     kit::FakeForm form;
     kit::Hosted control;
@@ -83,7 +82,6 @@ public:
     HWND otherForm();
 
 private:
-    void step(char const* name, void (Life::*run)());
     void watchWindows();
 
     ControlKind const& m_kind;

@@ -27,6 +27,30 @@ constexpr Answer kAnswers[] = {
 
 constexpr size_t kAnswersTaken = 20;
 
+constexpr char const* kAsked[] = {"Site.GetWindow",
+                                  "Site.GetWindowContext",
+                                  "Site.CanInPlaceActivate",
+                                  "Site.OnInPlaceActivate",
+                                  "Site.OnUIActivate",
+                                  "Site.OnUIDeactivate",
+                                  "Site.OnInPlaceDeactivate",
+                                  "Site.ShowObject",
+                                  "Site.OnFocus",
+                                  "Site.TranslateAccelerator",
+                                  "Site.GetExtendedControl",
+                                  "Site.OnControlInfoChanged",
+                                  "Site.SaveObject",
+                                  "Frame.SetActiveObject",
+                                  "Ambient(-709)",
+                                  "Ambient(-703)",
+                                  "Event(4)",
+                                  "Event(7)",
+                                  "Event(8)",
+                                  "Changed",
+                                  "ViewChanged",
+                                  "Saved",
+                                  "Closed"};
+
 void give(Answer const& answer, std::string const& call, Life& life)
 {
     if (!answer.nothing || FAILED(answer.result))
@@ -41,29 +65,7 @@ QV_ALL_CONTROLS(HostileSite);
 TEST_P(HostileSite, isAskedWhatTheTablesOfThisRoomGoThrough)
 {
     auto const occasions = occasionsOf(kind());
-    for (char const* const expected : {"Site.GetWindow",
-                                       "Site.GetWindowContext",
-                                       "Site.CanInPlaceActivate",
-                                       "Site.OnInPlaceActivate",
-                                       "Site.OnUIActivate",
-                                       "Site.OnUIDeactivate",
-                                       "Site.OnInPlaceDeactivate",
-                                       "Site.ShowObject",
-                                       "Site.OnFocus",
-                                       "Site.TranslateAccelerator",
-                                       "Site.GetExtendedControl",
-                                       "Site.OnControlInfoChanged",
-                                       "Site.SaveObject",
-                                       "Frame.SetActiveObject",
-                                       "Ambient(-709)",
-                                       "Ambient(-703)",
-                                       "Event(4)",
-                                       "Event(7)",
-                                       "Event(8)",
-                                       "Changed",
-                                       "ViewChanged",
-                                       "Saved",
-                                       "Closed"})
+    for (char const* const expected : kAsked)
         EXPECT_TRUE(occasions.contains(expected)) << expected;
 }
 
@@ -73,13 +75,8 @@ TEST_P(HostileSite, thatFailsInAnyOfItsCallsIsLivedWith)
         for (Answer const& answer : kAnswers) {
             if (!isDue(kAnswersTaken))
                 continue;
-            Journal::begin(std::string(kind().name) + ": " + call + " answers " + answer.name);
-            {
-                Life life(kind());
-                give(answer, call, life);
-                life.live();
-            }
-            expectNothingLeft();
+            live(kind(), call + " answers " + answer.name,
+                 [&, call = call](Life& life) { give(answer, call, life); });
             ASSERT_FALSE(HasFailure());
         }
 }
@@ -87,16 +84,11 @@ TEST_P(HostileSite, thatFailsInAnyOfItsCallsIsLivedWith)
 TEST_P(HostileSite, thatFailsInEveryCallIsLivedWith)
 {
     auto const occasions = occasionsOf(kind());
-    for (Answer const& answer : kAnswers) {
-        Journal::begin(std::string(kind().name) + ": everything answers " + answer.name);
-        {
-            Life life(kind());
+    for (Answer const& answer : kAnswers)
+        live(kind(), std::string("everything answers ") + answer.name, [&](Life& life) {
             for (auto const& [call, times] : occasions)
                 give(answer, call, life);
-            life.live();
-        }
-        expectNothingLeft();
-    }
+        });
 }
 
 TEST_P(HostileSite, thatDoesSomethingToTheControlInAnyOfItsCallsIsLivedWith)
@@ -135,8 +127,8 @@ struct Fate {
 };
 
 /// Offers what a control asks most, and at the given call takes itself away from the control.
-class PassingSite final
-    : public kit::Counterpart<IOleClientSite, IOleControlSite, IOleInPlaceSite, IOleContainer, IDispatch> {
+class PassingSite final : public kit::DispatchCounterpart<IOleClientSite, IOleControlSite, IOleInPlaceSite,
+                                                          IOleContainer, IDispatch> {
 public:
     PassingSite(Fate& fate, int leavesAt) : m_fate(fate), m_leavesAt(leavesAt) {}
 
@@ -190,13 +182,6 @@ public:
         return passing(E_NOTIMPL);
     }
     STDMETHODIMP LockContainer(BOOL) override { return S_OK; }
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override
-    {
-        *count = 0;
-        return S_OK;
-    }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
     {
         return passing(DISP_E_MEMBERNOTFOUND);

@@ -1,7 +1,7 @@
 // Values of every type that somebody may hand out where another was asked for, strange objects among them.
 #include "Values.h"
 
-#include "kit/Counterpart.h"
+#include "kit/FontCounterpart.h"
 #include "kit/Fonts.h"
 
 #include <ocidl.h>
@@ -120,38 +120,25 @@ std::vector<NamedValue> strangeValues()
 
 namespace {
 
-class FailingFont final : public kit::Counterpart<IFont, IFontDisp, IPersistStream> {
+/// What is saved into and loaded from streams, and answers the same to every call.
+template <class Base> class FailingStream : public Base {
 public:
-    explicit FailingFont(HRESULT answer) : m_answer(answer) {}
+    explicit FailingStream(HRESULT answer) : m_answer(answer) {}
 
-    STDMETHODIMP get_Name(BSTR*) override { return m_answer; }
-    STDMETHODIMP put_Name(BSTR) override { return m_answer; }
-    STDMETHODIMP get_Size(CY*) override { return m_answer; }
-    STDMETHODIMP put_Size(CY) override { return m_answer; }
-    STDMETHODIMP get_Bold(WINBOOL*) override { return m_answer; }
-    STDMETHODIMP put_Bold(WINBOOL) override { return m_answer; }
-    STDMETHODIMP get_Italic(WINBOOL*) override { return m_answer; }
-    STDMETHODIMP put_Italic(WINBOOL) override { return m_answer; }
-    STDMETHODIMP get_Underline(WINBOOL*) override { return m_answer; }
-    STDMETHODIMP put_Underline(WINBOOL) override { return m_answer; }
-    STDMETHODIMP get_Strikethrough(WINBOOL*) override { return m_answer; }
-    STDMETHODIMP put_Strikethrough(WINBOOL) override { return m_answer; }
-    STDMETHODIMP get_Weight(SHORT*) override { return m_answer; }
-    STDMETHODIMP put_Weight(SHORT) override { return m_answer; }
-    STDMETHODIMP get_Charset(SHORT*) override { return m_answer; }
-    STDMETHODIMP put_Charset(SHORT) override { return m_answer; }
-    STDMETHODIMP get_hFont(HFONT*) override { return m_answer; }
-    STDMETHODIMP Clone(IFont** copy) override
-    {
-        *copy = nullptr;
-        return m_answer;
-    }
-    STDMETHODIMP IsEqual(IFont*) override { return m_answer; }
-    STDMETHODIMP SetRatio(LONG, LONG) override { return m_answer; }
-    STDMETHODIMP QueryTextMetrics(TEXTMETRICOLE*) override { return m_answer; }
-    STDMETHODIMP AddRefHfont(HFONT) override { return m_answer; }
-    STDMETHODIMP ReleaseHfont(HFONT) override { return m_answer; }
-    STDMETHODIMP SetHdc(HDC) override { return m_answer; }
+    STDMETHODIMP GetClassID(CLSID*) override { return m_answer; }
+    STDMETHODIMP IsDirty() override { return m_answer; }
+    STDMETHODIMP Load(IStream*) override { return m_answer; }
+    STDMETHODIMP Save(IStream*, WINBOOL) override { return m_answer; }
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return m_answer; }
+
+protected:
+    HRESULT m_answer;
+};
+
+class FailingFont final : public FailingStream<kit::FontCounterpart<IFontDisp, IPersistStream>> {
+public:
+    using FailingStream::FailingStream;
+
     STDMETHODIMP GetTypeInfoCount(UINT*) override { return m_answer; }
     STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
@@ -159,19 +146,14 @@ public:
     {
         return m_answer;
     }
-    STDMETHODIMP GetClassID(CLSID*) override { return m_answer; }
-    STDMETHODIMP IsDirty() override { return m_answer; }
-    STDMETHODIMP Load(IStream*) override { return m_answer; }
-    STDMETHODIMP Save(IStream*, WINBOOL) override { return m_answer; }
-    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return m_answer; }
 
 private:
-    HRESULT m_answer;
+    HRESULT answered() override { return m_answer; }
 };
 
-class FailingPicture final : public kit::Counterpart<IPicture, IPersistStream> {
+class FailingPicture final : public FailingStream<kit::Counterpart<IPicture, IPersistStream>> {
 public:
-    explicit FailingPicture(HRESULT answer) : m_answer(answer) {}
+    using FailingStream::FailingStream;
 
     STDMETHODIMP get_Handle(OLE_HANDLE*) override { return m_answer; }
     STDMETHODIMP get_hPal(OLE_HANDLE*) override { return m_answer; }
@@ -191,14 +173,6 @@ public:
     STDMETHODIMP PictureChanged() override { return m_answer; }
     STDMETHODIMP SaveAsFile(LPSTREAM, WINBOOL, LONG*) override { return m_answer; }
     STDMETHODIMP get_Attributes(DWORD*) override { return m_answer; }
-    STDMETHODIMP GetClassID(CLSID*) override { return m_answer; }
-    STDMETHODIMP IsDirty() override { return m_answer; }
-    STDMETHODIMP Load(IStream*) override { return m_answer; }
-    STDMETHODIMP Save(IStream*, WINBOOL) override { return m_answer; }
-    STDMETHODIMP GetSizeMax(ULARGE_INTEGER*) override { return m_answer; }
-
-private:
-    HRESULT m_answer;
 };
 
 class PlainObject final : public kit::Counterpart<IUnknown> {};

@@ -4,6 +4,7 @@
 #include "HostileTest.h"
 #include "kit/FakeForm.h"
 #include "kit/Hosted.h"
+#include "kit/NotCopied.h"
 #include "kit/Sinks.h"
 
 #include <array>
@@ -35,16 +36,20 @@ struct Slot {
     int beginning = 0;   ///< calls under way that may begin it anew
 
     template <class T> ComPtr<T> as() const { return control ? control->as<T>() : ComPtr<T>(); }
+    template <class Named = void, class Declaring, class... Parameters>
+    HRESULT ask(HRESULT (STDMETHODCALLTYPE Declaring::*method)(Parameters...),
+                std::type_identity_t<Parameters>... arguments) const
+    {
+        return kit::ask<Named>(control ? control->object() : nullptr, method, arguments...);
+    }
     /// The control's window in the form or the one inside it, whatever there is.
     HWND anyWindow(Random& random) const;
 };
 
-class World {
+class World : kit::NotCopied {
 public:
     explicit World(unsigned seed);
     ~World();
-    World(World const&) = delete;
-    World& operator=(World const&) = delete;
 
     kit::FakeForm form;
     kit::FakeForm otherForm;
