@@ -162,8 +162,7 @@ void EachHostTest::SetUp()
     owner = newButton(GetParam(), library(), form);
     ASSERT_TRUE(kit::focus(button().window()));
     ASSERT_EQ(button().look(), "normal");
-    kit::pumpPending();
-    button().events().forget();
+    settle(button());
 }
 
 void EachHostTest::TearDown()
@@ -173,31 +172,16 @@ void EachHostTest::TearDown()
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-namespace {
-
-void moveTo(Button const& button, POINT at) { EXPECT_TRUE(kit::moveCursorTo(button.window(), at.x, at.y)); }
-
-void sendKey(BYTE key, DWORD flags)
+Names moveTo(Button& button, POINT to, char const* last)
 {
-    ::keybd_event(key, static_cast<BYTE>(::MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), flags, 0);
+    return button.during([&] { EXPECT_TRUE(kit::moveCursorTo(button.window(), to.x, to.y)); }, last);
 }
 
-} // namespace
+Names enter(Button& button) { return moveTo(button, kInside); }
 
-Names enter(Button& button)
-{
-    return button.during([&] { moveTo(button, kInside); }, "MouseMove");
-}
+Names moveInside(Button& button, POINT to) { return moveTo(button, to); }
 
-Names moveInside(Button& button, POINT to)
-{
-    return button.during([&] { moveTo(button, to); }, "MouseMove");
-}
-
-Names leave(Button& button)
-{
-    return button.during([&] { moveTo(button, kBeside); }, "MouseMove");
-}
+Names leave(Button& button) { return moveTo(button, kBeside); }
 
 Names dragOff(Button& button) { return leave(button); }
 
@@ -206,6 +190,18 @@ Names dragBack(Button& button) { return enter(button); }
 Names pressDown(Button& button, kit::MouseButton which)
 {
     return button.during([&] { kit::press(which); }, "MouseDown");
+}
+
+Names enterAndPress(Button& button, kit::MouseButton which)
+{
+    enter(button);
+    return pressDown(button, which);
+}
+
+void settle(Button& button)
+{
+    kit::pumpPending();
+    button.events().forget();
 }
 
 Names letUp(Button& button, kit::MouseButton which)
@@ -226,15 +222,19 @@ bool actUntilHandled(UINT message, std::function<void()> const& act)
 
 Names typed(Button& button, BYTE virtualKey)
 {
-    kit::pumpPending();
-    button.events().forget();
+    settle(button);
     EXPECT_TRUE(actUntilHandled(WM_KEYUP, [&] { kit::typeKey(virtualKey); }));
     return button.happened();
 }
 
-HeldKey::HeldKey(BYTE virtualKey) : m_key(virtualKey) { sendKey(m_key, 0); }
+HeldKey::HeldKey(BYTE virtualKey) : m_key(virtualKey) { send(0); }
 
-HeldKey::~HeldKey() { sendKey(m_key, KEYEVENTF_KEYUP); }
+HeldKey::~HeldKey() { send(KEYEVENTF_KEYUP); }
+
+void HeldKey::send(DWORD flags) const
+{
+    ::keybd_event(m_key, static_cast<BYTE>(::MapVirtualKeyW(m_key, MAPVK_VK_TO_VSC)), flags, 0);
+}
 
 void HoveredTest::SetUp()
 {
@@ -244,12 +244,13 @@ void HoveredTest::SetUp()
     enter(button);
 }
 
-void HoveredTest::TearDown()
+void FormTest::TearDown()
 {
     button.events().action = nullptr;
     ::ReleaseCapture();
     EXPECT_TRUE(kit::moveCursorAway());
     kit::pumpPending();
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 } // namespace quillet::input

@@ -8,6 +8,7 @@
 #include "kit/Hosted.h"
 #include "kit/Input.h"
 #include "kit/Listener.h"
+#include "kit/NotCopied.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
@@ -39,11 +40,9 @@ ComPtr<kit::FakeBag> looksBag();
 std::string lookOf(HWND window);
 
 /// A flat command button and its listener. Where it lives is a derived class's business.
-class Button : public kit::Listener {
+class Button : public kit::Listener, kit::NotCopied {
 public:
     virtual ~Button() = default;
-    Button(Button const&) = delete;
-    Button& operator=(Button const&) = delete;
 
     _qvFlatCommand* operator->() const noexcept { return m_dual.get(); }
     template <class T> ComPtr<T> as() const { return query<T>(m_dual.get()); }
@@ -130,6 +129,8 @@ protected:
 Names enter(Button& button);
 /// Moves it on inside.
 Names moveInside(Button& button, POINT to = kInsideToo);
+/// Moves it to a point of the button's window or beside it.
+Names moveTo(Button& button, POINT to, char const* last = "MouseMove");
 /// Moves it off the button, which has the capture and notices.
 Names leave(Button& button);
 /// The same with a button held down: no MouseExit is to be expected.
@@ -139,29 +140,39 @@ Names dragBack(Button& button);
 Names pressDown(Button& button, kit::MouseButton which = kit::MouseButton::Left);
 Names letUp(Button& button, kit::MouseButton which = kit::MouseButton::Left);
 
+/// Enters and presses.
+Names enterAndPress(Button& button, kit::MouseButton which = kit::MouseButton::Left);
+/// Forgets what was told so far, when everything that waits has been handled.
+void settle(Button& button);
+
 /// What happens until the key has gone through the window that has the focus.
 Names typed(Button& button, BYTE virtualKey);
 
 /// Holds a key down for one scope.
-class HeldKey {
+class HeldKey : kit::NotCopied {
 public:
     explicit HeldKey(BYTE virtualKey);
     ~HeldKey();
-    HeldKey(HeldKey const&) = delete;
-    HeldKey& operator=(HeldKey const&) = delete;
 
 private:
+    void send(DWORD flags) const;
+
     BYTE m_key;
 };
 
-/// A button in a form, with the focus and under the cursor.
-class HoveredTest : public kit::ControlTest {
+/// A button in a form. At the end the mouse is let go and away, and nobody holds it.
+class FormTest : public kit::ControlTest {
 protected:
     kit::FakeForm form;
     FormButton button{library(), form};
 
-    void SetUp() override;
     void TearDown() override;
+};
+
+/// A button in a form, with the focus and under the cursor.
+class HoveredTest : public FormTest {
+protected:
+    void SetUp() override;
 };
 
 /// Acts, and waits until a message of that number has been taken from the thread's queue and handled.

@@ -45,8 +45,7 @@ protected:
 
 TEST_P(Clicks, needAPressOfTheirOwnAfterOneWhoseReleaseWasAnothersMouse)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     ::SetCapture(form.window());
     kit::moveCursorTo(button().window(), kBeside.x, kBeside.y);
     letGoSomewhereElse();
@@ -110,8 +109,7 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterWindowsEndedWhatWasGoingOn)
 
 TEST_P(Clicks, comeFromMovesWithTheButtonHeld)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     moveInside(button());
     EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
 }
@@ -139,10 +137,7 @@ QV_EACH_HOST(Clicks);
 class LostCapture : public HoveredTest {
 protected:
     /// What happens when the cursor goes to a place that is not the button's.
-    Names left()
-    {
-        return button.during([&] { kit::moveCursorTo(button.window(), kBeside.x, kBeside.y); }, "MouseExit");
-    }
+    Names left() { return moveTo(button, kBeside, "MouseExit"); }
 };
 
 TEST_F(LostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)

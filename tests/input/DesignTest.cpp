@@ -11,24 +11,15 @@ namespace {
 
 using testing::ElementsAre;
 
-class DesignMode : public kit::ControlTest {
+class DesignMode : public FormTest {
 protected:
-    kit::FakeForm form;
-    FormButton button{library(), form};
-
     void SetUp() override
     {
-        ControlTest::SetUp();
+        FormTest::SetUp();
         setUserMode(false);
         button.start();
         ASSERT_TRUE(kit::focus(button.window()));
         kit::pumpPending();
-    }
-    void TearDown() override
-    {
-        ::ReleaseCapture();
-        button.remove();
-        EXPECT_TRUE(kit::moveCursorAway());
     }
     void setUserMode(bool running)
     {
@@ -130,8 +121,7 @@ TEST_F(DesignMode, aMoveOffTheButtonIsStillRemembered)
 TEST_F(DesignMode, aPressBegunWhileRunningShowsNothingOnceTheFormIsDesignedAgain)
 {
     setUserMode(true);
-    enter(button);
-    pressDown(button);
+    enterAndPress(button);
     ASSERT_EQ(button.look(), "pressed");
     setUserMode(false);
     button->Refresh();

@@ -52,8 +52,7 @@ TEST_P(InsideAnEvent, theControlSurvivesOrEndsCleanly)
     auto const& [occasion, deed] = GetParam();
     button.start();
     ASSERT_TRUE(kit::focus(button.window()));
-    kit::pumpPending();
-    button.events().forget();
+    settle(button);
     int times = 0;
     button.events().action = [&, &occasion = occasion, &deed = deed](kit::EventRecorder::Event const&) {
         if (button.count(occasion.event) == 0 || times++ > 0)

@@ -8,19 +8,11 @@
 namespace quillet::input {
 
 /// Counts how often it was asked to refresh. Everything else is refused.
-class BrokenSibling final : public kit::Counterpart<_qvFlatCommand> {
+class BrokenSibling final : public kit::DispatchCounterpart<_qvFlatCommand> {
 public:
     explicit BrokenSibling(HRESULT answer) : m_answer(answer) {}
 
     int refreshed = 0;
-
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
-    {
-        return E_NOTIMPL;
-    }
 
 #define QV_VALUE(name, id, type, help)                                                                       \
     STDMETHODIMP get_##name(type*) override { return E_NOTIMPL; }                                            \
@@ -37,18 +29,16 @@ public:
 #include "typelib/members/qvFlatCommand.inc"
 
 private:
-    HRESULT called(DISPID method);
+    HRESULT called(DISPID method)
+    {
+        if (method != dispid::qvFlatCommand::Refresh)
+            return E_NOTIMPL;
+        ++refreshed;
+        return m_answer;
+    }
 
     HRESULT m_answer;
 };
-
-HRESULT BrokenSibling::called(DISPID method)
-{
-    if (method != dispid::qvFlatCommand::Refresh)
-        return E_NOTIMPL;
-    ++refreshed;
-    return m_answer;
-}
 
 namespace {
 

@@ -1,6 +1,7 @@
 // The real pointer over the button: hot or not, and what is asked of where it is.
 #include "Button.h"
 #include "drawing/ImportTable.h"
+#include "kit/NotCopied.h"
 #include "kit/Pump.h"
 
 #include <cstring>
@@ -12,17 +13,16 @@ using testing::Contains;
 using testing::ElementsAre;
 
 constexpr RECT kNeighbour{140, 30, 260, 70}; // touches the first button's right edge
+constexpr RECT kBelow{20, 180, 140, 220};
 
-class Hover : public kit::ControlTest {
+class Hover : public FormTest {
 protected:
-    kit::FakeForm form;
-    FormButton button{library(), form};
     FormButton neighbour{library(), form, kNeighbour, L"Button2"};
     Names told; ///< the events of both but Paint and MouseMove, as "1.Click"
 
     void SetUp() override
     {
-        ControlTest::SetUp();
+        FormTest::SetUp();
         button.start();
         neighbour.start();
         ASSERT_TRUE(kit::focus(button.window()));
@@ -33,11 +33,8 @@ protected:
     void TearDown() override
     {
         kit::release(kit::MouseButton::Left);
-        button.events().action = nullptr;
         neighbour.events().action = nullptr;
-        EXPECT_TRUE(kit::moveCursorAway());
-        kit::pumpPending();
-        EXPECT_EQ(::GetCapture(), nullptr);
+        FormTest::TearDown();
     }
     void tell(FormButton& who, std::string const& prefix)
     {
@@ -55,6 +52,13 @@ protected:
             kit::moveCursorTo(neighbour.window(), x = x == 20 ? 25 : 20, 20);
             return neighbour.count(event) > 0;
         });
+    }
+    /// What the button shows when it is put there and painted.
+    std::string lookAt(RECT const& place)
+    {
+        button.hosted().ask(&IOleInPlaceObject::SetObjectRects, &place, &place);
+        EXPECT_EQ(button->Refresh(), S_OK);
+        return button.look();
     }
     std::wstring toolTipText() const
     {
@@ -76,8 +80,7 @@ TEST_F(Hover, fromOneButtonToItsNeighbourLeavesTheOneBeforeItEntersTheOther)
 
 TEST_F(Hover, draggedFromOneButtonToItsNeighbourAndLetGoThereIsNobodysClick)
 {
-    enter(button);
-    pressDown(button);
+    enterAndPress(button);
     EXPECT_THAT(button.during([&] { kit::moveCursorTo(neighbour.window(), 30, 20); }, "MouseMove"),
                 ElementsAre("Paint", "MouseMove"));
     EXPECT_EQ(neighbour.look(), "normal");
@@ -134,26 +137,15 @@ TEST_F(Hover, showsAtTheNextPaintingWithoutAnyMouseMessage)
     ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
     kit::pumpPending();
     ASSERT_EQ(button.look(), "normal");
-    RECT const under{20, 180, 140, 220};
-    button.as<IOleInPlaceObject>()->SetObjectRects(&under, &under);
-    EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.look(), "hot");
-    button.as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace);
-    EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.look(), "normal");
+    EXPECT_EQ(lookAt(kBelow), "hot");
+    EXPECT_EQ(lookAt(kPlace), "normal");
 }
 
 TEST_F(Hover, offAPressedButtonThatMovesAwayForgetsThePress)
 {
-    enter(button);
-    pressDown(button);
-    RECT const elsewhere{20, 180, 140, 220};
-    button.as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, &elsewhere);
-    EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.look(), "normal");
-    button.as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace);
-    EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.look(), "hot") << "painting took the press back";
+    enterAndPress(button);
+    EXPECT_EQ(lookAt(kBelow), "normal");
+    EXPECT_EQ(lookAt(kPlace), "hot") << "painting took the press back";
 }
 
 TEST_F(Hover, refreshesTheToolTipTextFromTheExtender)
@@ -186,7 +178,7 @@ BOOL WINAPI countedGetCursorPos(POINT* at)
 }
 
 /// Counts the component's questions while it lives.
-class CursorQuestions {
+class CursorQuestions : kit::NotCopied {
 public:
     explicit CursorQuestions(HMODULE component)
     {
@@ -204,8 +196,6 @@ public:
         if (m_slot)
             exchangeImport(m_slot, m_own);
     }
-    CursorQuestions(CursorQuestions const&) = delete;
-    CursorQuestions& operator=(CursorQuestions const&) = delete;
 
     int during(std::function<void()> const& act) const
     {
@@ -220,31 +210,30 @@ private:
     void* m_own = nullptr;
 };
 
-class Cursor : public kit::ControlTest {
+class Cursor : public FormTest {
 protected:
-    kit::FakeForm form;
-    FormButton button{library(), form};
     CursorQuestions questions{library().module()};
 
     void SetUp() override
     {
-        ControlTest::SetUp();
+        FormTest::SetUp();
         button.start();
     }
-    void TearDown() override
+    /// Runs at each of the button's events of that name.
+    void at(char const* event, std::function<void()> const& act)
     {
-        button.events().action = nullptr;
-        EXPECT_TRUE(kit::moveCursorAway());
-        kit::pumpPending();
-        EXPECT_EQ(::GetCapture(), nullptr);
+        button.events().action = [this, event, act](auto const&) {
+            if (button.lastEvent() == event)
+                act();
+        };
     }
     /// Puts the cursor there and tells the button, before the system does.
-    void moveTo(POINT at) const
+    void moveTo(POINT at, WPARAM keys = 0) const
     {
         POINT screen = at;
         ::ClientToScreen(button.window(), &screen);
         ::SetCursorPos(screen.x, screen.y);
-        ::SendMessageA(button.window(), WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
+        ::SendMessageA(button.window(), WM_MOUSEMOVE, keys, MAKELPARAM(at.x, at.y));
     }
 };
 
@@ -261,10 +250,7 @@ TEST_F(Cursor, isAskedForOnceAMessageWhereNobodyListens)
 
 TEST_F(Cursor, thatAListenerMovesAwayIsNotOverTheButton)
 {
-    button.events().action = [&](kit::EventRecorder::Event const&) {
-        if (button.lastEvent() == "MouseEnter")
-            ::SetCursorPos(1200, 1000);
-    };
+    at("MouseEnter", [&] { ::SetCursorPos(1200, 1000); });
     button.events().forget();
     moveTo(kInside);
     EXPECT_EQ(button.look(), "normal");
@@ -274,10 +260,7 @@ TEST_F(Cursor, thatAListenerMovesAwayIsNotOverTheButton)
 TEST_F(Cursor, thatAListenerMovesBackIsOverTheButton)
 {
     moveTo(kInside);
-    button.events().action = [&](kit::EventRecorder::Event const&) {
-        if (button.lastEvent() == "MouseExit")
-            kit::moveCursorTo(button.window(), kInside.x, kInside.y);
-    };
+    at("MouseExit", [&] { kit::moveCursorTo(button.window(), kInside.x, kInside.y); });
     moveTo(kBeside);
     EXPECT_EQ(button.look(), "hot");
 }
@@ -285,17 +268,11 @@ TEST_F(Cursor, thatAListenerMovesBackIsOverTheButton)
 TEST_F(Cursor, thatAListenerMovesInMouseMoveCountsForADrag)
 {
     moveTo(kInside);
-    button.events().action = [&](kit::EventRecorder::Event const&) {
-        if (button.lastEvent() == "MouseMove")
-            ::SetCursorPos(1200, 1000);
-    };
+    at("MouseMove", [&] { ::SetCursorPos(1200, 1000); });
     moveTo(kInsideToo); // over the button, and not any more when it ends
     button.events().action = nullptr;
     button.events().forget();
-    POINT screen = kInside;
-    ::ClientToScreen(button.window(), &screen);
-    ::SetCursorPos(screen.x, screen.y);
-    ::SendMessageA(button.window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(kInside.x, kInside.y));
+    moveTo(kInside, MK_LBUTTON);
     EXPECT_THAT(button.happened(), ElementsAre("Paint", "MouseMove")) << "dragged back over it";
     EXPECT_EQ(button.look(), "pressed");
     ::ReleaseCapture();

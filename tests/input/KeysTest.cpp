@@ -72,7 +72,25 @@ MSG accessKey(UINT message, wchar_t key)
     return result;
 }
 
-class Keys : public EachHostTest {};
+class Keys : public EachHostTest {
+protected:
+    /// Another window with the focus.
+    UniqueWindow otherFocus()
+    {
+        auto edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
+        EXPECT_TRUE(kit::focus(edit.get()));
+        settle(button());
+        return edit;
+    }
+    /// How many keys typed with Alt the container gave to the button.
+    int claimedOf(BYTE key)
+    {
+        MnemonicLoop loop(button());
+        typeWithAltAndThen(key, 'Z');
+        EXPECT_TRUE(loop.untilKeyUp('Z'));
+        return loop.claimed();
+    }
+};
 
 TEST_P(Keys, pressingSpaceOnAFocusedButtonRaisesClickAndEnterDoesNot)
 {
@@ -89,8 +107,7 @@ TEST_P(Keys, otherKeysRaiseNothing)
 
 TEST_P(Keys, spaceTypedIntoAnotherWindowRaisesNothing)
 {
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    ASSERT_TRUE(kit::focus(edit.get()));
+    auto const edit = otherFocus();
     EXPECT_THAT(typed(button(), VK_SPACE), ElementsAre());
 }
 
@@ -98,8 +115,7 @@ TEST_P(Keys, spaceTypedWhereTheDisabledButtonHadTheFocusRaisesNoClick)
 {
     button()->put_Enabled(VARIANT_FALSE);
     // A disabled window may keep the focus or lose it to nobody: either way the key must come to nothing.
-    kit::pumpPending();
-    button().events().forget();
+    settle(button());
     kit::typeKey(VK_SPACE);
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
     ASSERT_TRUE(kit::focus(edit.get()));
@@ -112,8 +128,7 @@ TEST_P(Keys, theAccessKeyRaisesClickAndTakesTheFocus)
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
     for (UINT const message : {WM_SYSCHAR, WM_SYSKEYDOWN}) {
         ASSERT_TRUE(kit::focus(edit.get()));
-        kit::pumpPending();
-        button().events().forget();
+        settle(button());
         MSG key = accessKey(message, L'S');
         EXPECT_EQ(button().as<IOleControl>()->OnMnemonic(&key), S_OK);
         EXPECT_EQ(button().count("Click"), 1);
@@ -124,14 +139,8 @@ TEST_P(Keys, theAccessKeyRaisesClickAndTakesTheFocus)
 TEST_P(Keys, theAccessKeyTypedWithAltReachesTheButtonThroughItsContainer)
 {
     button()->put_Caption(Bstr(L"&Save").get());
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    ASSERT_TRUE(kit::focus(edit.get()));
-    kit::pumpPending();
-    button().events().forget();
-    MnemonicLoop loop(button());
-    typeWithAltAndThen('S', 'Z');
-    EXPECT_TRUE(loop.untilKeyUp('Z'));
-    EXPECT_EQ(loop.claimed(), 1);
+    auto const edit = otherFocus();
+    EXPECT_EQ(claimedOf('S'), 1);
     EXPECT_EQ(button().count("Click"), 1);
     EXPECT_EQ(::GetFocus(), button().window());
 }
@@ -139,20 +148,15 @@ TEST_P(Keys, theAccessKeyTypedWithAltReachesTheButtonThroughItsContainer)
 TEST_P(Keys, anAccessKeyThatIsNotTheCaptionsReachesNobody)
 {
     button()->put_Caption(Bstr(L"&Save").get());
-    kit::pumpPending();
-    button().events().forget();
-    MnemonicLoop loop(button());
-    typeWithAltAndThen('Q', 'Z');
-    EXPECT_TRUE(loop.untilKeyUp('Z'));
-    EXPECT_EQ(loop.claimed(), 0);
+    settle(button());
+    EXPECT_EQ(claimedOf('Q'), 0);
     EXPECT_EQ(button().count("Click"), 0);
 }
 
 TEST_P(Keys, theAccessKeyOfADisabledButtonRaisesNothing)
 {
     button()->put_Enabled(VARIANT_FALSE);
-    kit::pumpPending();
-    button().events().forget();
+    settle(button());
     MSG key = accessKey(WM_SYSCHAR, L'S');
     button().as<IOleControl>()->OnMnemonic(&key);
     EXPECT_THAT(button().happened(), ElementsAre());

@@ -5,24 +5,48 @@
 namespace quillet::input {
 namespace {
 
+using kit::MouseButton;
 using testing::ElementsAre;
 
-/// A button with the focus, so that a press does not bring a change of focus along.
-class States : public EachHostTest {};
+Names const kEntered{"MouseEnter", "Paint", "MouseMove"};
+Names const kLeft{"MouseExit", "Paint", "MouseMove"};
+constexpr POINT kFurther{kBeside.x + 5, kBeside.y};
+
+class States : public EachHostTest {
+protected:
+    bool holdsTheMouse() { return ::GetCapture() == button().window(); }
+    /// The act raised these events, and the button looks like that.
+    void expect(Names const& told, Names const& expected, char const* look)
+    {
+        EXPECT_EQ(told, expected);
+        EXPECT_EQ(button().look(), look);
+    }
+    void expectNoPressedLook(MouseButton which)
+    {
+        expect(enterAndPress(button(), which), {"MouseDown"}, "hot");
+        expect(letUp(button(), which), {"MouseUp"}, "hot");
+    }
+    /// Another window over a part of the button's, in its coordinates.
+    UniqueWindow covered(RECT part)
+    {
+        HWND const parent = ::GetParent(button().window());
+        ::MapWindowPoints(button().window(), parent, reinterpret_cast<POINT*>(&part), 2);
+        UniqueWindow sibling = kit::newEditBox(parent, part);
+        ::SetWindowPos(sibling.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        return sibling;
+    }
+};
 
 TEST_P(States, movesRaiseMouseEnterOnceInsideAndMouseExitOnceOutside)
 {
-    EXPECT_THAT(enter(button()), ElementsAre("MouseEnter", "Paint", "MouseMove"));
-    EXPECT_EQ(button().look(), "hot");
-    EXPECT_EQ(::GetCapture(), button().window());
+    expect(enter(button()), kEntered, "hot");
+    EXPECT_TRUE(holdsTheMouse());
 
     EXPECT_THAT(moveInside(button(), kInsideToo), ElementsAre("MouseMove"));
-    EXPECT_THAT(moveInside(button(), kInside), ElementsAre("MouseMove"));
-    EXPECT_EQ(button().look(), "hot");
-    EXPECT_EQ(::GetCapture(), button().window());
+    expect(moveInside(button(), kInside), {"MouseMove"}, "hot");
+    EXPECT_TRUE(holdsTheMouse());
 
-    EXPECT_THAT(leave(button()), ElementsAre("MouseExit", "Paint", "MouseMove"));
-    EXPECT_EQ(button().look(), "normal");
+    expect(leave(button()), kLeft, "normal");
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -36,22 +60,18 @@ TEST_P(States, movesBesideTheButtonRaiseNothing)
 
 TEST_P(States, aPressAndAReleaseInsideMakeAClick)
 {
-    enter(button());
-    EXPECT_THAT(pressDown(button()), ElementsAre("Paint", "MouseDown"));
-    EXPECT_EQ(button().look(), "pressed");
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
-    EXPECT_EQ(button().look(), "hot");
+    expect(enterAndPress(button()), {"Paint", "MouseDown"}, "pressed");
+    expect(letUp(button()), {"Paint", "MouseUp", "Click"}, "hot");
 }
 
 TEST_P(States, aPressAndAReleaseLeaveTheCaptureAsItIs)
 {
-    enter(button());
-    pressDown(button());
-    EXPECT_EQ(::GetCapture(), button().window());
+    enterAndPress(button());
+    EXPECT_TRUE(holdsTheMouse());
     letUp(button());
-    EXPECT_EQ(::GetCapture(), button().window());
+    EXPECT_TRUE(holdsTheMouse());
     EXPECT_THAT(moveInside(button()), ElementsAre("MouseMove")) << "no second MouseEnter after a click";
-    EXPECT_THAT(leave(button()), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_EQ(leave(button()), kLeft);
 }
 
 TEST_P(States, movesInsideWithTheButtonHeldChangeNothing)
@@ -59,73 +79,55 @@ TEST_P(States, movesInsideWithTheButtonHeldChangeNothing)
     enter(button());
     moveInside(button());
     pressDown(button());
-    EXPECT_THAT(moveInside(button(), kInside), ElementsAre("MouseMove"));
-    EXPECT_EQ(button().look(), "pressed");
+    expect(moveInside(button(), kInside), {"MouseMove"}, "pressed");
     letUp(button());
 }
 
 TEST_P(States, draggingOffShowsTheNormalLookAndDraggingBackThePressedOne)
 {
-    enter(button());
-    pressDown(button());
-    EXPECT_THAT(dragOff(button()), ElementsAre("Paint", "MouseMove"));
-    EXPECT_EQ(button().look(), "normal");
-    EXPECT_EQ(::GetCapture(), button().window());
-    EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
-        ElementsAre("MouseMove"));
-    EXPECT_THAT(dragBack(button()), ElementsAre("Paint", "MouseMove"));
-    EXPECT_EQ(button().look(), "pressed");
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
-    EXPECT_EQ(button().look(), "hot");
+    enterAndPress(button());
+    expect(dragOff(button()), {"Paint", "MouseMove"}, "normal");
+    EXPECT_TRUE(holdsTheMouse());
+    EXPECT_THAT(moveTo(button(), kFurther), ElementsAre("MouseMove"));
+    expect(dragBack(button()), {"Paint", "MouseMove"}, "pressed");
+    expect(letUp(button()), {"Paint", "MouseUp", "Click"}, "hot");
 }
 
 TEST_P(States, draggingOffWithTwoButtonsDownKeepsThePressedLookUntilTheLeftOneComesUp)
 {
-    enter(button());
-    pressDown(button());
-    pressDown(button(), kit::MouseButton::Right);
-    EXPECT_THAT(dragOff(button()), ElementsAre("MouseMove"));
-    EXPECT_EQ(button().look(), "pressed");
-    EXPECT_EQ(::GetCapture(), button().window());
-    EXPECT_THAT(letUp(button(), kit::MouseButton::Right), ElementsAre("MouseUp"));
-    EXPECT_EQ(button().look(), "pressed");
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp"));
-    EXPECT_EQ(button().look(), "normal");
+    enterAndPress(button());
+    pressDown(button(), MouseButton::Right);
+    expect(dragOff(button()), {"MouseMove"}, "pressed");
+    EXPECT_TRUE(holdsTheMouse());
+    expect(letUp(button(), MouseButton::Right), {"MouseUp"}, "pressed");
+    expect(letUp(button()), {"Paint", "MouseUp"}, "normal");
 }
 
 TEST_P(States, aReleaseOutsideIsNoClick)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     dragOff(button());
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp"));
-    EXPECT_EQ(button().look(), "normal");
-    EXPECT_EQ(::GetCapture(), button().window()) << "the next move gives it back";
-    EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
-        ElementsAre("MouseExit", "Paint", "MouseMove"));
+    expect(letUp(button()), {"Paint", "MouseUp"}, "normal");
+    EXPECT_TRUE(holdsTheMouse()) << "the next move gives it back";
+    EXPECT_THAT(moveTo(button(), kFurther), kLeft);
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_P(States, aReleaseOutsideAfterWhichTheCursorComesBackIsNoSecondMouseEnter)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     dragOff(button());
     letUp(button());
     // The button still has the capture: nothing changes for it but the look, and that at the next painting.
     EXPECT_THAT(dragBack(button()), ElementsAre("MouseMove"));
-    EXPECT_EQ(::GetCapture(), button().window());
+    EXPECT_TRUE(holdsTheMouse());
     leave(button());
 }
 
 TEST_P(States, aDoubleClickRaisesOneClickAndOneDblClickAndNoSecondMouseDown)
 {
-    enter(button());
-    Names names = pressDown(button());
-    Names const rest[] = {letUp(button()),
-                          button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick"),
+    Names names = enterAndPress(button());
+    Names const rest[] = {letUp(button()), button().during([] { kit::press(MouseButton::Left); }, "DblClick"),
                           letUp(button())};
     for (Names const& each : rest)
         names.insert(names.end(), each.begin(), each.end());
@@ -135,44 +137,31 @@ TEST_P(States, aDoubleClickRaisesOneClickAndOneDblClickAndNoSecondMouseDown)
 
 TEST_P(States, rightButtonPressesRaiseMouseDownAndMouseUpButNeverShowThePressedState)
 {
-    enter(button());
-    EXPECT_THAT(pressDown(button(), kit::MouseButton::Right), ElementsAre("MouseDown"));
-    EXPECT_EQ(button().look(), "hot");
-    EXPECT_THAT(letUp(button(), kit::MouseButton::Right), ElementsAre("MouseUp"));
-    EXPECT_EQ(button().look(), "hot");
+    expectNoPressedLook(MouseButton::Right);
 }
 
 TEST_P(States, middleButtonPressesRaiseMouseDownAndMouseUpButNeverShowThePressedState)
 {
-    enter(button());
-    EXPECT_THAT(pressDown(button(), kit::MouseButton::Middle), ElementsAre("MouseDown"));
-    EXPECT_EQ(button().look(), "hot");
-    EXPECT_THAT(letUp(button(), kit::MouseButton::Middle), ElementsAre("MouseUp"));
-    EXPECT_EQ(button().look(), "hot");
+    expectNoPressedLook(MouseButton::Middle);
 }
 
 TEST_P(States, draggingOffWithTheRightButtonKeepsTheCaptureUntilAMoveWithoutAButton)
 {
-    enter(button());
-    pressDown(button(), kit::MouseButton::Right);
+    enterAndPress(button(), MouseButton::Right);
     EXPECT_THAT(dragOff(button()), ElementsAre("MouseMove"));
-    EXPECT_EQ(::GetCapture(), button().window());
-    EXPECT_THAT(letUp(button(), kit::MouseButton::Right), ElementsAre("MouseUp"));
-    EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x + 5, kBeside.y); }, "MouseMove"),
-        ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_TRUE(holdsTheMouse());
+    EXPECT_THAT(letUp(button(), MouseButton::Right), ElementsAre("MouseUp"));
+    EXPECT_THAT(moveTo(button(), kFurther), kLeft);
 }
 
 TEST_P(States, aMoveOntoTheButtonWithAButtonHeldIsNoEntering)
 {
     ASSERT_TRUE(kit::moveCursorTo(button().window(), kBeside.x, kBeside.y));
-    EXPECT_TRUE(actUntilHandled(WM_LBUTTONDOWN, [] { kit::press(kit::MouseButton::Left); }));
-    EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }, "MouseMove"),
-        ElementsAre("MouseMove"));
+    EXPECT_TRUE(actUntilHandled(WM_LBUTTONDOWN, [] { kit::press(MouseButton::Left); }));
+    EXPECT_THAT(moveTo(button(), kInside), ElementsAre("MouseMove"));
     EXPECT_EQ(button().look(), "normal");
     EXPECT_EQ(::GetCapture(), nullptr);
-    kit::release(kit::MouseButton::Left);
+    kit::release(MouseButton::Left);
     EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseUp") > 0; }));
     EXPECT_EQ(button().count("Click"), 0) << "the press was somewhere else";
 }
@@ -181,8 +170,7 @@ TEST_P(States, aPressOnAButtonWithoutTheFocusGivesItTheFocus)
 {
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
     ASSERT_TRUE(kit::focus(edit.get()));
-    enter(button());
-    Names const names = pressDown(button());
+    Names const names = enterAndPress(button());
     ASSERT_FALSE(names.empty());
     EXPECT_EQ(names.back(), "MouseDown");
     EXPECT_EQ(::GetFocus(), button().window());
@@ -193,13 +181,12 @@ TEST_P(States, aPressOnAButtonWithoutTheFocusGivesItTheFocus)
 
 TEST_P(States, disablingThePressedButtonShowsTheDisabledLookAndForgetsThePress)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     EXPECT_EQ(button()->put_Enabled(VARIANT_FALSE), S_OK);
     EXPECT_EQ(button().look(), "disabled");
     EXPECT_EQ(button()->put_Enabled(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button().look(), "hot") << "over it, but no longer pressed";
-    kit::release(kit::MouseButton::Left);
+    kit::release(MouseButton::Left);
     kit::pumpPending();
 }
 
@@ -212,12 +199,12 @@ TEST_P(States, theDisabledButtonStaysDisabledUnderTheCursorAndRaisesNothing)
     EXPECT_TRUE(
         actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kInside.x, kInside.y); }));
     EXPECT_TRUE(actUntilHandled(WM_LBUTTONUP, [] {
-        kit::press(kit::MouseButton::Left);
-        kit::release(kit::MouseButton::Left);
+        kit::press(MouseButton::Left);
+        kit::release(MouseButton::Left);
     }));
     EXPECT_TRUE(actUntilHandled(WM_RBUTTONUP, [] {
-        kit::press(kit::MouseButton::Right);
-        kit::release(kit::MouseButton::Right);
+        kit::press(MouseButton::Right);
+        kit::release(MouseButton::Right);
     }));
     EXPECT_THAT(button().happened(), ElementsAre());
     EXPECT_EQ(button().look(), "disabled");
@@ -229,43 +216,32 @@ TEST_P(States, theButtonEnabledAgainFollowsTheMouseAgain)
     button()->put_Enabled(VARIANT_FALSE);
     button()->put_Enabled(VARIANT_TRUE);
     EXPECT_EQ(button().look(), "normal");
-    EXPECT_THAT(enter(button()), ElementsAre("MouseEnter", "Paint", "MouseMove"));
-    EXPECT_EQ(button().look(), "hot");
+    expect(enter(button()), kEntered, "hot");
     leave(button());
 }
 
 TEST_P(States, aWindowThatOverlapsTheButtonUnderTheCursorCountsAsNotOver)
 {
-    // A sibling above the right part of the button's window, and a child inside its left part.
-    RECT window;
-    ::GetWindowRect(button().window(), &window);
-    ::MapWindowPoints(nullptr, ::GetParent(button().window()), reinterpret_cast<POINT*>(&window), 2);
-    auto const sibling = kit::newEditBox(::GetParent(button().window()),
-                                         {window.left + 90, window.top, window.right, window.bottom});
-    ::SetWindowPos(sibling.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    RECT client;
+    ::GetClientRect(button().window(), &client);
+    auto const sibling = covered({90, 0, client.right, client.bottom});
     auto const child = kit::newEditBox(button().window(), {0, 0, 20, 20});
     kit::pumpPending();
 
-    for (POINT const covered : {kInside, POINT{10, 10}}) {
-        EXPECT_THAT(button().during([&] { kit::moveCursorTo(button().window(), 60, 30); }, "MouseMove"),
-                    ElementsAre("MouseEnter", "Paint", "MouseMove"));
-        EXPECT_THAT(
-            button().during([&] { kit::moveCursorTo(button().window(), covered.x, covered.y); }, "MouseMove"),
-            ElementsAre("MouseExit", "Paint", "MouseMove"));
+    for (POINT const place : {kInside, POINT{10, 10}}) {
+        EXPECT_THAT(moveTo(button(), {60, 30}), kEntered);
+        EXPECT_THAT(moveTo(button(), place), kLeft);
         EXPECT_EQ(::GetCapture(), nullptr);
     }
 }
 
 TEST_P(States, aReleaseInsideUnderAnOverlappingWindowIsAClickWithoutTheHotLook)
 {
-    enter(button());
-    pressDown(button());
+    enterAndPress(button());
     {
-        RECT window;
-        ::GetWindowRect(button().window(), &window);
-        ::MapWindowPoints(nullptr, ::GetParent(button().window()), reinterpret_cast<POINT*>(&window), 2);
-        auto const sibling = kit::newEditBox(::GetParent(button().window()), window);
-        ::SetWindowPos(sibling.get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        RECT client;
+        ::GetClientRect(button().window(), &client);
+        auto const sibling = covered(client);
         Names const names = letUp(button());
         EXPECT_THAT(Names(names.begin(), names.begin() + 2), ElementsAre("Paint", "MouseUp"));
     }
