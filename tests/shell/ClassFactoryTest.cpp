@@ -8,32 +8,39 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace quillet {
 namespace {
-
-void* const kPoison = reinterpret_cast<void*>(static_cast<ULONG_PTR>(0xDEAD));
 
 class ClassFactory : public testing::Test {
 protected:
     ~ClassFactory() override { EXPECT_EQ(library.canUnloadNow(), S_OK); }
 
     ComPtr<IClassFactory> factory() const { return library.factory(kQvFlatCommandClass); }
+    /// The call answers that and hands out nothing.
+    static void expectRefusal(HRESULT expected, std::function<HRESULT(void** object)> const& call)
+    {
+        void* object = reinterpret_cast<void*>(static_cast<ULONG_PTR>(0xDEAD));
+        EXPECT_EQ(call(&object), expected);
+        EXPECT_EQ(object, nullptr);
+    }
 
     kit::Library const library;
 };
 
 TEST_F(ClassFactory, ofAnUnknownClassIsRefused)
 {
-    void* object = kPoison;
-    EXPECT_EQ(library.getClassObject(IID_IOleObject, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
-    EXPECT_EQ(object, nullptr);
+    expectRefusal(CLASS_E_CLASSNOTAVAILABLE, [&](void** object) {
+        return library.getClassObject(IID_IOleObject, IID_IClassFactory, object);
+    });
 }
 
 TEST_F(ClassFactory, hasNoOtherInterface)
 {
-    void* object = kPoison;
-    EXPECT_EQ(library.getClassObject(kQvFlatCommandClass, IID_IOleObject, &object), E_NOINTERFACE);
-    EXPECT_EQ(object, nullptr);
+    expectRefusal(E_NOINTERFACE, [&](void** object) {
+        return library.getClassObject(kQvFlatCommandClass, IID_IOleObject, object);
+    });
     EXPECT_EQ(library.getClassObject(kQvFlatCommandClass, IID_IClassFactory, nullptr), E_POINTER);
 }
 
@@ -50,9 +57,8 @@ TEST_F(ClassFactory, makesAnObjectOfTheInterfaceAskedFor)
 
 TEST_F(ClassFactory, leavesNothingBehindWhereTheInterfaceIsUnknown)
 {
-    void* object = kPoison;
-    EXPECT_EQ(factory()->CreateInstance(nullptr, IID_IMoniker, &object), E_NOINTERFACE);
-    EXPECT_EQ(object, nullptr);
+    expectRefusal(E_NOINTERFACE,
+                  [&](void** object) { return factory()->CreateInstance(nullptr, IID_IMoniker, object); });
     EXPECT_EQ(factory()->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
 }
 
@@ -101,9 +107,8 @@ public:
 TEST_F(ClassFactory, refusesToAggregateByAnotherInterfaceThanIUnknown)
 {
     Outer outer;
-    void* object = kPoison;
-    EXPECT_EQ(factory()->CreateInstance(&outer, IID_IOleObject, &object), CLASS_E_NOAGGREGATION);
-    EXPECT_EQ(object, nullptr);
+    expectRefusal(CLASS_E_NOAGGREGATION,
+                  [&](void** object) { return factory()->CreateInstance(&outer, IID_IOleObject, object); });
     EXPECT_EQ(outer.references, 1u);
 }
 

@@ -2,6 +2,7 @@
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 #include "base/Handles.h"
+#include "base/RunTimeError.h"
 #include "base/Version.h"
 #include "kit/Library.h"
 #include "pages/PageClass.h"
@@ -184,10 +185,16 @@ TEST_F(VersionResource, namesTheProduct)
     EXPECT_NE(text(L"LegalCopyright"), nullptr);
 }
 
-TEST(TypeLibraryResource, isTheFirstOfItsKind)
+ComPtr<ITypeLib> typeLibrary()
 {
     ComPtr<ITypeLib> library;
-    ASSERT_EQ(::LoadTypeLibEx(kit::Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
+    check(::LoadTypeLibEx(kit::Library::path().c_str(), REGKIND_NONE, library.put()));
+    return library;
+}
+
+TEST(TypeLibraryResource, isTheFirstOfItsKind)
+{
+    auto const library = typeLibrary();
     Bstr name;
     ASSERT_EQ(library->GetDocumentation(-1, name.put(), nullptr, nullptr, nullptr), S_OK);
     EXPECT_STREQ(name.get(), L"Quillet");
@@ -196,8 +203,7 @@ TEST(TypeLibraryResource, isTheFirstOfItsKind)
 
 TEST(ClassTable, agreesWithTheTypeLibrary)
 {
-    ComPtr<ITypeLib> library;
-    ASSERT_EQ(::LoadTypeLibEx(kit::Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
+    auto const library = typeLibrary();
     for (ClassRow const& row : classTable()) {
         ComPtr<ITypeInfo> info;
         ASSERT_EQ(library->GetTypeInfoOfGuid(row.controlClass.classId, info.put()), S_OK);
@@ -245,6 +251,16 @@ protected:
         ::ReleaseActCtx(m_context);
     }
 
+    /// A new object of the class by that interface.
+    template <class T> static ComPtr<T> made(CLSID const& classId)
+    {
+        ComPtr<T> object;
+        EXPECT_EQ(::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(T),
+                                     reinterpret_cast<void**>(object.put())),
+                  S_OK);
+        return object;
+    }
+
 private:
     HANDLE m_context;
     ULONG_PTR m_cookie = 0;
@@ -257,10 +273,8 @@ TEST_F(Manifest, namesEveryClassByBothOfItsNames)
             // A name in a manifest stands for an identifier of the context's own, which leads to the class.
             CLSID found{};
             ASSERT_EQ(::CLSIDFromProgID(name.c_str(), &found), S_OK);
-            ComPtr<IPersist> object;
-            ASSERT_EQ(::CoCreateInstance(found, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IPersistStreamInit),
-                                         reinterpret_cast<void**>(object.put())),
-                      S_OK);
+            auto const object = made<IPersistStreamInit>(found);
+            ASSERT_TRUE(object);
             CLSID own{};
             EXPECT_EQ(object->GetClassID(&own), S_OK);
             EXPECT_EQ(own, row.controlClass.classId);
@@ -271,10 +285,7 @@ TEST_F(Manifest, makesEveryControlWithItsStatus)
 {
     for (ClassRow const& row : classTable()) {
         ControlClass const& known = row.controlClass;
-        ComPtr<IOleObject> object;
-        ASSERT_EQ(::CoCreateInstance(known.classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IOleObject),
-                                     reinterpret_cast<void**>(object.put())),
-                  S_OK);
+        ASSERT_TRUE(made<IOleObject>(known.classId));
         DWORD status = 0;
         EXPECT_EQ(::OleRegGetMiscStatus(known.classId, DVASPECT_CONTENT, &status), S_OK);
         EXPECT_EQ(status, known.miscStatus);
@@ -283,12 +294,8 @@ TEST_F(Manifest, makesEveryControlWithItsStatus)
 
 TEST_F(Manifest, makesEveryPropertyPage)
 {
-    for (PageClass const* const known : kPageClasses) {
-        ComPtr<IPropertyPage> page;
-        EXPECT_EQ(::CoCreateInstance(known->classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IPropertyPage),
-                                     reinterpret_cast<void**>(page.put())),
-                  S_OK);
-    }
+    for (PageClass const* const known : kPageClasses)
+        EXPECT_TRUE(made<IPropertyPage>(known->classId));
 }
 
 TEST_F(Manifest, leadsToTheTypeLibrary)

@@ -1,9 +1,10 @@
 // Registering and unregistering: what is there then, and what is not there any more.
 #include "RegistrySnapshot.h"
-#include "Regsvr32.h"
 #include "base/Bstr.h"
 #include "base/ComPtr.h"
 #include "kit/Library.h"
+#include "kit/NotCopied.h"
+#include "kit/Process.h"
 #include "shell/RegistryKey.h"
 #include "shell/TypeLibraryRows.h"
 #include "typelib/Guids.h"
@@ -20,6 +21,7 @@
 namespace quillet {
 namespace {
 
+using kit::regsvr32;
 using Lines = std::vector<std::wstring>;
 Lines const kNone;
 
@@ -63,12 +65,13 @@ std::wstring lowered(std::wstring text)
     return text;
 }
 
-struct PublishedInterface {
-    wchar_t const* name;
+/// The text of a key's own value.
+struct PublishedKey {
+    wchar_t const* text;
     wchar_t const* key;
 };
 
-PublishedInterface const kInterfaces[] = {
+PublishedKey const kInterfaces[] = {
     {L"_qvFlatCommand", L"interface\\{55b69c8d-98d9-49fc-be01-e4160910134e}"},
     {L"_qvFlatOption", L"interface\\{96ab40c0-f9d7-4e6e-9a75-cd68e0a4553c}"},
     {L"_qvFlatCheck", L"interface\\{8d0b870e-ad1d-4d20-a00f-b1f554ddf54a}"},
@@ -89,12 +92,7 @@ std::wstring folder()
 
 Snapshot ofClass(HKEY root) { return classesBelow(root, {kClass, kProgIds[0], kProgIds[1]}); }
 
-struct PublishedPage {
-    wchar_t const* text;
-    wchar_t const* key;
-};
-
-PublishedPage const kPages[] = {
+PublishedKey const kPages[] = {
     {L"Quillet general property page", L"clsid\\{a93cb06b-1d25-4d22-87da-a4d1c9cbb239}"},
     {L"Quillet colors property page", L"clsid\\{67b28de2-1278-4efd-b7ff-346e2ba7787f}"},
     {L"Quillet fonts property page", L"clsid\\{72df35ee-5dc8-463b-8c19-3b1544a8db5f}"},
@@ -104,7 +102,7 @@ PublishedPage const kPages[] = {
 Snapshot ofClasses(HKEY root)
 {
     Lines keys;
-    for (PublishedPage const& page : kPages)
+    for (PublishedKey const& page : kPages)
         keys.push_back(page.key);
     for (PublishedClass const& row : kClasses) {
         std::wstring const progId = lowered(std::wstring(L"Quillet.") + row.name);
@@ -116,7 +114,7 @@ Snapshot ofClasses(HKEY root)
 Snapshot ofTypeLibrary(HKEY root)
 {
     Lines keys{kTypeLib};
-    for (PublishedInterface const& published : kInterfaces)
+    for (PublishedKey const& published : kInterfaces)
         keys.push_back(published.key);
     return classesBelow(root, keys);
 }
@@ -182,12 +180,18 @@ void expectTypeLibrary(HKEY root)
     EXPECT_EQ(now[kTypeLib + L"\\1.0\\flags@"], L"10"); // control, has a disk image
     EXPECT_EQ(now[kTypeLib + L"\\1.0\\helpdir@"], folder());
     EXPECT_EQ(now[kLibraryFile + L"@"], kit::Library::path());
-    for (PublishedInterface const& published : kInterfaces) {
-        EXPECT_EQ(now[published.key + std::wstring(L"@")], published.name);
+    for (PublishedKey const& published : kInterfaces) {
+        EXPECT_EQ(now[published.key + std::wstring(L"@")], published.text);
         EXPECT_EQ(now[published.key + std::wstring(L"\\typelib@")],
                   L"{B451FB09-0E80-40CF-B3BD-7CC480918F2F}");
         EXPECT_EQ(now[published.key + std::wstring(L"\\typelib@version")], L"1.0");
     }
+}
+
+void expectEverything(HKEY root)
+{
+    EXPECT_EQ(differences(expectedClasses(), ofClasses(root)), kNone);
+    expectTypeLibrary(root);
 }
 
 void expectNothing(HKEY root)
@@ -211,15 +215,14 @@ void setMachineValue(std::wstring const& key, std::wstring const& text)
 
 class Registration : public testing::Test {
 protected:
-    void SetUp() override
-    {
-        expectNothing(HKEY_LOCAL_MACHINE);
-        expectNothing(HKEY_CURRENT_USER);
-    }
-
+    void SetUp() override { expectNothingAnywhere(); }
     void TearDown() override
     {
         EXPECT_EQ(regsvr32(L"/u"), 0u);
+        expectNothingAnywhere();
+    }
+    static void expectNothingAnywhere()
+    {
         expectNothing(HKEY_LOCAL_MACHINE);
         expectNothing(HKEY_CURRENT_USER);
     }
@@ -228,16 +231,14 @@ protected:
 TEST_F(Registration, forTheMachineWritesClassAndTypeLibraryAndLeavesTheUserAlone)
 {
     ASSERT_EQ(regsvr32(L""), 0u);
-    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_LOCAL_MACHINE)), kNone);
-    expectTypeLibrary(HKEY_LOCAL_MACHINE);
+    expectEverything(HKEY_LOCAL_MACHINE);
     expectNothing(HKEY_CURRENT_USER);
 }
 
 TEST_F(Registration, forTheUserWritesTheSameAndLeavesTheMachineAlone)
 {
     ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
-    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_CURRENT_USER)), kNone);
-    expectTypeLibrary(HKEY_CURRENT_USER);
+    expectEverything(HKEY_CURRENT_USER);
     expectNothing(HKEY_LOCAL_MACHINE);
 
     EXPECT_EQ(regsvr32(L"/u /n /i:user"), 0u);
@@ -250,8 +251,7 @@ TEST_F(Registration, unregisteringForTheUserLeavesTheMachineRegistered)
     ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
     ASSERT_EQ(regsvr32(L"/u /n /i:user"), 0u);
     expectNothing(HKEY_CURRENT_USER);
-    EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_LOCAL_MACHINE)), kNone);
-    expectTypeLibrary(HKEY_LOCAL_MACHINE);
+    expectEverything(HKEY_LOCAL_MACHINE);
 }
 
 TEST_F(Registration, twiceIsTheSameAsOnceAndUnregisteringLeavesTheRegistryAsItWas)
@@ -294,11 +294,11 @@ TEST_F(Registration, letsTheSystemFindEachClassByName)
     ASSERT_EQ(regsvr32(L""), 0u);
     for (PublishedClass const& row : kClasses) {
         CLSID classId{};
-        ASSERT_EQ(::CLSIDFromProgID((std::wstring(L"Quillet.") + row.name).c_str(), &classId), S_OK);
-        EXPECT_EQ(classId, row.id);
-        ASSERT_EQ(::CLSIDFromProgID((std::wstring(L"Quillet.") + row.name + L".1").c_str(), &classId), S_OK);
-        EXPECT_EQ(classId, row.id);
-
+        for (wchar_t const* const version : {L"", L".1"}) {
+            std::wstring const progId = std::wstring(L"Quillet.") + row.name + version;
+            ASSERT_EQ(::CLSIDFromProgID(progId.c_str(), &classId), S_OK);
+            EXPECT_EQ(classId, row.id);
+        }
         DWORD status = 0;
         EXPECT_EQ(::OleRegGetMiscStatus(classId, DVASPECT_CONTENT, &status), S_OK);
         EXPECT_EQ(std::to_wstring(status), row.miscStatus);
@@ -343,7 +343,7 @@ TEST_F(Registration, unregisteringLeavesACopyInAnotherFileAlone)
 }
 
 /// Stands in for the machine's part of the registry, where the user may read and not write.
-class MachineWithoutRights {
+class MachineWithoutRights : kit::NotCopied {
 public:
     MachineWithoutRights()
     {
@@ -363,8 +363,6 @@ public:
         ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
         ::RegDeleteTreeW(HKEY_CURRENT_USER, kFolder);
     }
-    MachineWithoutRights(MachineWithoutRights const&) = delete;
-    MachineWithoutRights& operator=(MachineWithoutRights const&) = delete;
 
 private:
     static constexpr wchar_t kFolder[] = L"Software\\QuilletTestMachine";
@@ -389,8 +387,7 @@ TEST_F(Registration, withoutTheRightsForTheMachineIsForTheUser)
         MachineWithoutRights const machine;
         EXPECT_EQ(library.entry<EntryPoint>("DllRegisterServer")(), S_OK);
         expectNothing(HKEY_LOCAL_MACHINE);
-        EXPECT_EQ(differences(expectedClasses(), ofClasses(HKEY_CURRENT_USER)), kNone);
-        expectTypeLibrary(HKEY_CURRENT_USER);
+        expectEverything(HKEY_CURRENT_USER);
         EXPECT_EQ(library.entry<EntryPoint>("DllUnregisterServer")(), S_OK);
     }
     expectNothing(HKEY_CURRENT_USER);

@@ -36,6 +36,14 @@ protected:
         return status == ERROR_SUCCESS ? text : L"none";
     }
 
+    void commit(std::vector<RegistryRow> const& rows) const
+    {
+        RegistryWriter writer(root.get());
+        for (RegistryRow const& row : rows)
+            writer.write(row);
+        writer.commit();
+    }
+
     UniqueKey root;
 };
 
@@ -44,13 +52,7 @@ RegistryRow refusedRow() { return {L"A\\" + std::wstring(300, L'x'), L"", L"neve
 
 TEST_F(RegistryWriterTest, whatIsCommittedStays)
 {
-    {
-        RegistryWriter writer(root.get());
-        writer.write({L"A\\B", L"", L"own"});
-        writer.write({L"A\\B", L"Name", L"named"});
-        writer.write({L"A\\Empty", L"", L"", false});
-        writer.commit();
-    }
+    commit({{L"A\\B", L"", L"own"}, {L"A\\B", L"Name", L"named"}, {L"A\\Empty", L"", L"", false}});
     EXPECT_EQ(value(L"A\\B", nullptr), L"own");
     EXPECT_EQ(value(L"A\\B", L"Name"), L"named");
     EXPECT_TRUE(hasKey(L"A\\Empty"));
@@ -59,11 +61,7 @@ TEST_F(RegistryWriterTest, whatIsCommittedStays)
 
 TEST_F(RegistryWriterTest, aFailureHalfwayTakesEverythingBack)
 {
-    {
-        RegistryWriter writer(root.get());
-        writer.write({L"A", L"", L"before"});
-        writer.commit();
-    }
+    commit({{L"A", L"", L"before"}});
     try {
         RegistryWriter writer(root.get());
         writer.write({L"A", L"", L"after"});

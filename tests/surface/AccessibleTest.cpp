@@ -1,8 +1,10 @@
 // What screen readers and test tools see of every control, asked for as they ask: from its window.
 #include "SurfaceTest.h"
 #include "kit/ByName.h"
+#include "kit/Controls.h"
 #include "kit/Input.h"
 #include "kit/Pump.h"
+#include "kit/NotCopied.h"
 
 #include <oleacc.h>
 
@@ -11,19 +13,15 @@
 namespace quillet::hosting {
 namespace {
 
-struct Kind {
-    char const* name;
-    CLSID classId;
-    IID eventsId;
+struct Kind : kit::ControlKind {
     LONG role;
     wchar_t const* action; ///< of a control that is not checked
 };
-void PrintTo(Kind const& kind, std::ostream* out) { *out << kind.name; }
 
 VARIANT self() { return Variant::ofLong(CHILDID_SELF).get(); }
 
 /// What changed, as somebody who listens to the whole desktop hears it.
-class Listener {
+class Listener : kit::NotCopied {
 public:
     explicit Listener(HWND window)
         : m_hook(::SetWinEventHook(EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_NAMECHANGE, nullptr, &heard,
@@ -33,12 +31,10 @@ public:
         s_events.clear();
     }
     ~Listener() { ::UnhookWinEvent(m_hook); }
-    Listener(Listener const&) = delete;
-    Listener& operator=(Listener const&) = delete;
 
     bool hears(DWORD event)
     {
-        return kit::pumpUntil([&] { return std::erase(s_events, event) > 0; }, 5000);
+        return kit::pumpUntil([&] { return std::erase(s_events, event) > 0; });
     }
 
 private:
@@ -65,6 +61,13 @@ protected:
         kit::moveCursorAway();
         put(L"Caption", Variant::ofString(L"Save &as"));
         kit::pumpPending();
+    }
+    HRESULT act() const { return object()->accDoDefaultAction(self()); }
+    LONG role() const
+    {
+        Variant role;
+        EXPECT_EQ(object()->get_accRole(self(), role.put()), S_OK);
+        return role.toLong();
     }
     void put(wchar_t const* name, Variant const& value) const
     {
@@ -110,9 +113,7 @@ protected:
 
 TEST_P(Accessible, isWhatItLooksLike)
 {
-    Variant role;
-    EXPECT_EQ(object()->get_accRole(self(), role.put()), S_OK);
-    EXPECT_EQ(role.toLong(), GetParam().role);
+    EXPECT_EQ(role(), GetParam().role);
     EXPECT_EQ(text(&IAccessible::get_accDefaultAction), GetParam().action);
     long children = -1;
     EXPECT_EQ(object()->get_accChildCount(&children), S_OK);
@@ -186,11 +187,11 @@ TEST_P(Accessible, tellsWhetherItIsPressedOrUnderTheMouse)
     kit::pumpPending();
     EXPECT_TRUE(is(STATE_SYSTEM_HOTTRACKED));
     kit::press(kit::MouseButton::Left);
-    EXPECT_TRUE(kit::pumpUntil([&] { return is(STATE_SYSTEM_PRESSED); }, 5000));
+    EXPECT_TRUE(kit::pumpUntil([&] { return is(STATE_SYSTEM_PRESSED); }));
     kit::release(kit::MouseButton::Left);
-    EXPECT_TRUE(kit::pumpUntil([&] { return !is(STATE_SYSTEM_PRESSED); }, 5000));
+    EXPECT_TRUE(kit::pumpUntil([&] { return !is(STATE_SYSTEM_PRESSED); }));
     kit::moveCursorAway();
-    EXPECT_TRUE(kit::pumpUntil([&] { return !is(STATE_SYSTEM_HOTTRACKED); }, 5000));
+    EXPECT_TRUE(kit::pumpUntil([&] { return !is(STATE_SYSTEM_HOTTRACKED); }));
 }
 
 TEST_P(Accessible, tellsWhetherItIsTheDefaultButton)
@@ -205,9 +206,7 @@ TEST_P(Accessible, tellsWhetherItIsChecked)
         put(L"Checked", Variant::ofBool(true));
         EXPECT_FALSE(is(STATE_SYSTEM_CHECKED)) << "while it is no check button";
         put(L"CheckButton", Variant::ofBool(true));
-        Variant role;
-        EXPECT_EQ(object()->get_accRole(self(), role.put()), S_OK);
-        EXPECT_EQ(role.toLong(), ROLE_SYSTEM_CHECKBUTTON);
+        EXPECT_EQ(role(), ROLE_SYSTEM_CHECKBUTTON);
         EXPECT_TRUE(is(STATE_SYSTEM_CHECKED));
         put(L"Checked", Variant::ofBool(false));
         EXPECT_FALSE(is(STATE_SYSTEM_CHECKED));
@@ -227,14 +226,13 @@ TEST_P(Accessible, tellsWhetherItIsChecked)
 
 TEST_P(Accessible, isClickedByItsAction)
 {
-    auto const events = kit::make<kit::EventRecorder>(GetParam().eventsId);
-    kit::Connection const joined(control.object(), GetParam().eventsId, events->unknown());
+    kit::Listening const events(control.object(), GetParam().eventsId);
     DISPID const click = isOption() || isCheck() ? 1 : kClick;
-    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_EQ(act(), S_OK);
     EXPECT_EQ(events->count(click), 1);
     EXPECT_EQ(is(STATE_SYSTEM_CHECKED), isOption() || isCheck());
     put(L"Enabled", Variant::ofBool(false));
-    EXPECT_EQ(object()->accDoDefaultAction(self()), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(act(), DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(events->count(click), 1);
 }
 
@@ -242,19 +240,18 @@ TEST_P(Accessible, turnsACheckButtonOverByItsActionAsTheMouseDoes)
 {
     if (!isImage())
         return;
-    auto const events = kit::make<kit::EventRecorder>(GetParam().eventsId);
-    kit::Connection const joined(control.object(), GetParam().eventsId, events->unknown());
+    kit::Listening const events(control.object(), GetParam().eventsId);
     put(L"CheckButton", Variant::ofBool(true));
     EXPECT_EQ(text(&IAccessible::get_accDefaultAction), L"Check");
-    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_EQ(act(), S_OK);
     EXPECT_TRUE(is(STATE_SYSTEM_CHECKED));
     EXPECT_EQ(text(&IAccessible::get_accDefaultAction), L"Uncheck");
     EXPECT_EQ(events->count(kClick), 1);
-    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_EQ(act(), S_OK);
     EXPECT_FALSE(is(STATE_SYSTEM_CHECKED));
     EXPECT_EQ(events->count(kClick), 2);
     put(L"Active", Variant::ofBool(false));
-    EXPECT_EQ(object()->accDoDefaultAction(self()), S_OK);
+    EXPECT_EQ(act(), S_OK);
     EXPECT_FALSE(is(STATE_SYSTEM_CHECKED)) << "the mouse does nothing to it either";
     EXPECT_EQ(events->count(kClick), 2);
 }
@@ -357,15 +354,13 @@ TEST_P(Accessible, tellsTheDesktopWhenNameOrStateChange)
     kit::pumpPending();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, Accessible,
-    testing::Values(
-        Kind{"qvFlatCommand", kQvFlatCommandClass, kQvFlatCommandEvents, ROLE_SYSTEM_PUSHBUTTON, L"Press"},
-        Kind{"qvImageCommand", kQvImageCommandClass, kQvImageCommandEvents, ROLE_SYSTEM_PUSHBUTTON, L"Press"},
-        Kind{"FlatToolButton", kFlatToolButtonClass, kFlatToolButtonEvents, ROLE_SYSTEM_PUSHBUTTON, L"Press"},
-        Kind{"qvFlatOption", kQvFlatOptionClass, kQvFlatOptionEvents, ROLE_SYSTEM_RADIOBUTTON, L"Check"},
-        Kind{"qvFlatCheck", kQvFlatCheckClass, kQvFlatCheckEvents, ROLE_SYSTEM_CHECKBUTTON, L"Check"}),
-    [](auto const& kind) { return std::string(kind.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, Accessible,
+                         testing::Values(Kind{kit::kControls[0], ROLE_SYSTEM_PUSHBUTTON, L"Press"},
+                                         Kind{kit::kControls[1], ROLE_SYSTEM_PUSHBUTTON, L"Press"},
+                                         Kind{kit::kControls[2], ROLE_SYSTEM_PUSHBUTTON, L"Press"},
+                                         Kind{kit::kControls[3], ROLE_SYSTEM_RADIOBUTTON, L"Check"},
+                                         Kind{kit::kControls[4], ROLE_SYSTEM_CHECKBUTTON, L"Check"}),
+                         [](auto const& kind) { return std::string(kind.param.name); });
 
 } // namespace
 } // namespace quillet::hosting

@@ -32,10 +32,17 @@ protected:
     }
     HRESULT assign(wchar_t const* name, WORD how, Variant const& value)
     {
-        kit::Called const called =
-            kit::invoke(*dispatch.get(), kit::idOf(*dispatch.get(), name), how, {value});
-        return called.error();
+        return kit::invoke(*dispatch.get(), kit::idOf(*dispatch.get(), name), how, {value}).error();
     }
+    /// Takes a value and gives it back as it is kept, of its own type.
+    void expectKept(wchar_t const* name, Variant const& given, Variant const& kept,
+                    WORD how = DISPATCH_PROPERTYPUT)
+    {
+        EXPECT_EQ(assign(name, how, given), S_OK) << kit::narrow(name);
+        EXPECT_EQ(get(name).type(), kept.type()) << kit::narrow(name);
+        EXPECT_EQ(get(name).toString().view(), kept.toString().view()) << kit::narrow(name);
+    }
+    void expectKept(wchar_t const* name, Variant const& value) { expectKept(name, value, value); }
     Variant get(wchar_t const* name)
     {
         kit::Called called = kit::getByName(*dispatch.get(), name);
@@ -75,35 +82,22 @@ TEST_F(Automation, findsNamesWithoutRegardToCaseAndRefusesOthers)
 
 TEST_F(Automation, takesAndGivesValuesOfEachType)
 {
-    EXPECT_EQ(put(L"Caption", Variant::ofString(L"by name")), S_OK);
-    EXPECT_EQ(get(L"Caption").type(), VT_BSTR);
-    EXPECT_EQ(get(L"Caption").toString().view(), L"by name");
-    EXPECT_EQ(put(L"BackColor", Variant::ofLong(0x123456)), S_OK);
-    EXPECT_EQ(get(L"BackColor").toLong(), 0x123456);
-    EXPECT_EQ(put(L"Enabled", Variant::ofBool(false)), S_OK);
-    EXPECT_EQ(get(L"Enabled").type(), VT_BOOL);
-    EXPECT_FALSE(get(L"Enabled").toBool());
-    EXPECT_EQ(put(L"CaptionIndent", Variant::ofShort(-7)), S_OK);
-    EXPECT_EQ(get(L"CaptionIndent").type(), VT_I2);
-    EXPECT_EQ(get(L"CaptionIndent").toShort(), -7);
-    EXPECT_EQ(put(L"BorderStyle", Variant::ofLong(0)), S_OK);
-    EXPECT_EQ(get(L"BorderStyle").toLong(), 0);
-    EXPECT_EQ(put(L"BorderWidth", Variant::ofShort(3)), S_OK);
-    EXPECT_EQ(get(L"BorderWidth").type(), VT_I2);
+    expectKept(L"Caption", Variant::ofString(L"by name"));
+    expectKept(L"BackColor", Variant::ofLong(0x123456));
+    expectKept(L"Enabled", Variant::ofBool(false));
+    expectKept(L"CaptionIndent", Variant::ofShort(-7));
+    expectKept(L"BorderStyle", Variant::ofLong(0));
+    expectKept(L"BorderWidth", Variant::ofShort(3));
     EXPECT_EQ(get(L"hwnd").type(), VT_I4);
     EXPECT_EQ(get(L"hwnd").toLong(), static_cast<long>(reinterpret_cast<LONG_PTR>(control.window())));
 }
 
 TEST_F(Automation, convertsWhatConverts)
 {
-    EXPECT_EQ(put(L"CaptionIndent", Variant::ofString(L"12")), S_OK);
-    EXPECT_EQ(get(L"CaptionIndent").toShort(), 12);
-    EXPECT_EQ(put(L"Caption", Variant::ofLong(2026)), S_OK);
-    EXPECT_EQ(get(L"Caption").toString().view(), L"2026");
-    EXPECT_EQ(put(L"Enabled", Variant::ofLong(0)), S_OK);
-    EXPECT_FALSE(get(L"Enabled").toBool());
-    EXPECT_EQ(put(L"BackColor", Variant::ofString(L"255")), S_OK);
-    EXPECT_EQ(get(L"BackColor").toLong(), 255);
+    expectKept(L"CaptionIndent", Variant::ofString(L"12"), Variant::ofShort(12));
+    expectKept(L"Caption", Variant::ofLong(2026), Variant::ofString(L"2026"));
+    expectKept(L"Enabled", Variant::ofLong(0), Variant::ofBool(false));
+    expectKept(L"BackColor", Variant::ofString(L"255"), Variant::ofLong(255));
 }
 
 TEST_F(Automation, refusesWhatDoesNotConvertAndKeepsTheOldValue)
@@ -177,17 +171,14 @@ TEST_F(Automation, takesAColourWhoseTopBitIsASignOrAValue)
 
 TEST_F(Automation, takesAPlainValueByReferenceAsAnAssignment)
 {
-    EXPECT_EQ(assign(L"Caption", DISPATCH_PROPERTYPUTREF, Variant::ofString(L"by reference")), S_OK);
-    EXPECT_EQ(get(L"Caption").toString().view(), L"by reference");
-    EXPECT_EQ(assign(L"BackColor", DISPATCH_PROPERTYPUTREF, Variant::ofLong(255)), S_OK);
-    EXPECT_EQ(get(L"BackColor").toLong(), 255);
-    EXPECT_EQ(assign(L"Enabled", DISPATCH_PROPERTYPUTREF, Variant::ofBool(false)), S_OK);
-    EXPECT_FALSE(get(L"Enabled").toBool());
-    EXPECT_EQ(assign(L"BorderWidth", DISPATCH_PROPERTYPUTREF, Variant::ofShort(5)), S_OK);
-    EXPECT_EQ(get(L"BorderWidth").toShort(), 5);
-    constexpr WORD kEither = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
-    EXPECT_EQ(assign(L"CaptionIndent", kEither, Variant::ofShort(9)), S_OK);
-    EXPECT_EQ(get(L"CaptionIndent").toShort(), 9);
+    std::pair<wchar_t const*, Variant> const rows[] = {{L"Caption", Variant::ofString(L"by reference")},
+                                                       {L"BackColor", Variant::ofLong(255)},
+                                                       {L"Enabled", Variant::ofBool(false)},
+                                                       {L"BorderWidth", Variant::ofShort(5)}};
+    for (auto const& [name, value] : rows)
+        expectKept(name, value, value, DISPATCH_PROPERTYPUTREF);
+    Variant const indent = Variant::ofShort(9);
+    expectKept(L"CaptionIndent", indent, indent, DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
     EXPECT_EQ(assign(L"Caption", DISPATCH_PROPERTYPUTREF, Variant::ofDispatch(&form.object())),
               DISP_E_MEMBERNOTFOUND)
         << "an object is no plain value";
@@ -296,8 +287,7 @@ TEST_F(Automation, sendsAMessageWhoseArgumentsAreInOrderOrNamed)
 
 TEST_F(Automation, callsMethods)
 {
-    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
+    kit::Listening const events(control.object(), kQvFlatCommandEvents);
     EXPECT_EQ(kit::callByName(*dispatch.get(), L"Refresh").result, S_OK);
     EXPECT_EQ(events->count(kPaint), 1);
     EXPECT_EQ(kit::callByName(*dispatch.get(), L"DrawButton").result, S_OK);

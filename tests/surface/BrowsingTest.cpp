@@ -3,6 +3,7 @@
 #include "browse/CategorizeProperties.h"
 #include "browse/PageIds.h"
 #include "kit/ByName.h"
+#include "kit/Controls.h"
 
 #include <array>
 #include <string>
@@ -151,6 +152,42 @@ TEST_F(Browsing, putsEveryPropertyUnderAHeading)
     EXPECT_EQ(headings->GetCategoryName(-2, LOCALE_USER_DEFAULT, nullptr), E_POINTER);
 }
 
+constexpr wchar_t const* kAppearance[] = {L"BackColor",
+                                          L"ForeColor",
+                                          L"BorderColor",
+                                          L"HotForeColor",
+                                          L"PressedForeColor",
+                                          L"HotBackColor",
+                                          L"PressedBackColor",
+                                          L"HotBorderColor",
+                                          L"PressedBorderColor",
+                                          L"DisabledForeColor",
+                                          L"LightBorderColor",
+                                          L"HotLightBorderColor",
+                                          L"PressedLightBorderColor",
+                                          L"DisabledLightBorderColor",
+                                          L"DarkBorderColor",
+                                          L"HotDarkBorderColor",
+                                          L"PressedDarkBorderColor",
+                                          L"DisabledDarkBorderColor",
+                                          L"CheckedForeColor",
+                                          L"CheckedBackColor",
+                                          L"CheckedLightBorderColor",
+                                          L"CheckedDarkBorderColor",
+                                          L"BorderStyle",
+                                          L"BorderWidth",
+                                          L"HotBorderWidth",
+                                          L"PressedBorderWidth",
+                                          L"CentreCaption",
+                                          L"CaptionIndent",
+                                          L"ShowFocusRectangle",
+                                          L"OffsetPressed",
+                                          L"OfficeXPColors",
+                                          L"Image",
+                                          L"DisabledImage",
+                                          L"HotImage",
+                                          L"PressedImage"};
+
 TEST_F(Browsing, putsEachPropertyOfEachControlUnderItsHeading)
 {
     struct Row {
@@ -158,42 +195,7 @@ TEST_F(Browsing, putsEachPropertyOfEachControlUnderItsHeading)
         std::vector<wchar_t const*> properties;
     };
     Row const rows[] = {
-        {L"Appearance",
-         {L"BackColor",
-          L"ForeColor",
-          L"BorderColor",
-          L"HotForeColor",
-          L"PressedForeColor",
-          L"HotBackColor",
-          L"PressedBackColor",
-          L"HotBorderColor",
-          L"PressedBorderColor",
-          L"DisabledForeColor",
-          L"LightBorderColor",
-          L"HotLightBorderColor",
-          L"PressedLightBorderColor",
-          L"DisabledLightBorderColor",
-          L"DarkBorderColor",
-          L"HotDarkBorderColor",
-          L"PressedDarkBorderColor",
-          L"DisabledDarkBorderColor",
-          L"CheckedForeColor",
-          L"CheckedBackColor",
-          L"CheckedLightBorderColor",
-          L"CheckedDarkBorderColor",
-          L"BorderStyle",
-          L"BorderWidth",
-          L"HotBorderWidth",
-          L"PressedBorderWidth",
-          L"CentreCaption",
-          L"CaptionIndent",
-          L"ShowFocusRectangle",
-          L"OffsetPressed",
-          L"OfficeXPColors",
-          L"Image",
-          L"DisabledImage",
-          L"HotImage",
-          L"PressedImage"}},
+        {L"Appearance", {std::begin(kAppearance), std::end(kAppearance)}},
         {L"Behavior",
          {L"Enabled", L"Active", L"CheckButton", L"Checked", L"Value", L"MousePointer", L"MouseIcon"}},
         {L"Font", {L"Font", L"CheckedFont"}},
@@ -202,9 +204,8 @@ TEST_F(Browsing, putsEachPropertyOfEachControlUnderItsHeading)
         {L"Text", {L"Caption", L"ToolTipText"}},
     };
     int found = 0;
-    for (CLSID const& each : {kQvFlatCommandClass, kQvImageCommandClass, kFlatToolButtonClass,
-                              kQvFlatOptionClass, kQvFlatCheckClass}) {
-        auto const object = library().create(each);
+    for (kit::ControlKind const& each : kit::kControls) {
+        auto const object = library().create(each.classId);
         headings = query<ICategorizeProperties>(object.get(), kCategorizeProperties);
         for (auto const& [expected, properties] : rows)
             for (wchar_t const* const property : properties) {

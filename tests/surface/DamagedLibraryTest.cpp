@@ -5,6 +5,7 @@
 #include "kit/NamedObject.h"
 #include "typelib/Guids.h"
 #include "typelib/Members.h"
+#include "kit/NotCopied.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ namespace quillet::hosting {
 namespace {
 
 /// A copy of the component in whose type library the system finds nothing.
-class DamagedCopy {
+class DamagedCopy : kit::NotCopied {
 public:
     DamagedCopy()
     {
@@ -31,8 +32,6 @@ public:
         std::ofstream(std::filesystem::path(path()), std::ios::binary) << bytes;
     }
     ~DamagedCopy() { ::DeleteFileW(path().c_str()); }
-    DamagedCopy(DamagedCopy const&) = delete;
-    DamagedCopy& operator=(DamagedCopy const&) = delete;
 
     static std::wstring path() { return kit::Library::path() + L".damaged.ocx"; }
 };

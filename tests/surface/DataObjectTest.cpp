@@ -1,6 +1,7 @@
 // IDataObject: the control as a picture for documents.
 #include "SurfaceTest.h"
 #include "kit/Canvas.h"
+#include "kit/NotCopied.h"
 
 #include <ole2.h>
 
@@ -13,11 +14,8 @@ FORMATETC formatOf(CLIPFORMAT format, DWORD medium, DWORD aspect = DVASPECT_CONT
 }
 
 /// Owns what a data object handed out.
-struct Medium {
+struct Medium : kit::NotCopied {
     STGMEDIUM value{};
-    Medium() = default;
-    Medium(Medium const&) = delete;
-    Medium& operator=(Medium const&) = delete;
     ~Medium()
     {
         if (value.tymed != TYMED_NULL)

@@ -11,13 +11,14 @@ namespace {
 
 class InPlace : public SurfaceTest {
 protected:
-    void begin()
+    /// Something else in the form that has the focus.
+    UniqueWindow otherFocus() const
     {
-        ASSERT_EQ(control.setSite(), S_OK);
-        ASSERT_EQ(control.initNew(), S_OK);
-        ASSERT_EQ(control.setExtent(), S_OK);
-        record().forget();
+        auto edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
+        EXPECT_TRUE(kit::focus(edit.get()));
+        return edit;
     }
+    HRESULT deactivate() const { return as<IOleInPlaceObject>()->InPlaceDeactivate(); }
     /// The calls to the site and the frame that concern activation, in order.
     std::vector<std::string> activationCalls()
     {
@@ -35,8 +36,7 @@ protected:
 
 TEST_F(InPlace, activationAsksThenTellsThenShowsTheWindowInTheForm)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
+    activated();
     EXPECT_THAT(activationCalls(), testing::ElementsAre("CanInPlaceActivate", "OnInPlaceActivate"));
     EXPECT_TRUE(isShown());
     EXPECT_EQ(placeOf(control.window()), kPlace);
@@ -45,11 +45,10 @@ TEST_F(InPlace, activationAsksThenTellsThenShowsTheWindowInTheForm)
 TEST_F(InPlace, activationUsesTheExtendedSiteWhereThereIsOne)
 {
     control.site().show(__uuidof(IOleInPlaceSiteEx));
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
+    activated();
     EXPECT_EQ(record().count("Site.OnInPlaceActivate") + record().count("Site.OnInPlaceActivateEx"), 1);
     EXPECT_TRUE(isShown());
-    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    ASSERT_EQ(deactivate(), S_OK);
     EXPECT_EQ(record().count("Site.OnInPlaceDeactivate") + record().count("Site.OnInPlaceDeactivateEx"), 1);
 }
 
@@ -64,8 +63,7 @@ TEST_F(InPlace, activationIsRefusedWhereTheSiteSaysNo)
 
 TEST_F(InPlace, activationTwiceTellsOnce)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
+    activated();
     ASSERT_EQ(control.activate(), S_OK);
     EXPECT_EQ(record().count("Site.OnInPlaceActivate"), 1);
     EXPECT_TRUE(isShown());
@@ -73,8 +71,7 @@ TEST_F(InPlace, activationTwiceTellsOnce)
 
 TEST_F(InPlace, userInterfaceActivationTellsTheSiteAndTheFrame)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    activated(OLEIVERB_UIACTIVATE);
     auto const calls = activationCalls();
     EXPECT_THAT(calls, testing::IsSupersetOf({"CanInPlaceActivate", "OnInPlaceActivate", "OnUIActivate",
                                               "SetActiveObject(object)"}));
@@ -88,8 +85,7 @@ TEST_F(InPlace, theDocumentsWindowHasTheActiveObjectJustAsTheFrame)
 {
     auto const document = kit::make<kit::FakeFrame>(form.window(), form.sharedRecord(), "Document");
     control.site().document = document;
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    activated(OLEIVERB_UIACTIVATE);
     EXPECT_EQ(document->activeObject(), as<IOleInPlaceActiveObject>().get());
     EXPECT_EQ(form.frame().activeObject(), document->activeObject());
     ASSERT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
@@ -100,11 +96,10 @@ TEST_F(InPlace, theDocumentsWindowHasTheActiveObjectJustAsTheFrame)
 
 TEST_F(InPlace, deactivationEndsTheUserInterfaceFirstAndTellsOnce)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    activated(OLEIVERB_UIACTIVATE);
     record().forget();
-    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
-    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    ASSERT_EQ(deactivate(), S_OK);
+    ASSERT_EQ(deactivate(), S_OK);
     auto const calls = activationCalls();
     EXPECT_EQ(std::ranges::count(calls, "OnInPlaceDeactivate"), 1);
     EXPECT_LT(std::ranges::find(calls, "OnUIDeactivate"), std::ranges::find(calls, "OnInPlaceDeactivate"));
@@ -113,8 +108,7 @@ TEST_F(InPlace, deactivationEndsTheUserInterfaceFirstAndTellsOnce)
 
 TEST_F(InPlace, deactivationBeforeTheUserInterfacesInEitherOrder)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    activated(OLEIVERB_UIACTIVATE);
     auto const object = as<IOleInPlaceObject>();
     EXPECT_EQ(object->InPlaceDeactivate(), S_OK);
     EXPECT_EQ(object->UIDeactivate(), S_OK);
@@ -124,10 +118,8 @@ TEST_F(InPlace, deactivationBeforeTheUserInterfacesInEitherOrder)
 
 TEST_F(InPlace, deactivatedTheWindowIsHiddenUnderAnotherParentAndStaysTheSame)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
-    HWND const window = control.window();
-    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    HWND const window = activated();
+    ASSERT_EQ(deactivate(), S_OK);
     EXPECT_EQ(ownWindow(), window);
     EXPECT_TRUE(::IsWindow(window));
     EXPECT_FALSE(::IsWindowVisible(window));
@@ -139,10 +131,8 @@ TEST_F(InPlace, deactivatedTheWindowIsHiddenUnderAnotherParentAndStaysTheSame)
 
 TEST_F(InPlace, closedAfterDeactivationTheWindowIsGone)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
-    HWND const window = control.window();
-    ASSERT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    HWND const window = activated();
+    ASSERT_EQ(deactivate(), S_OK);
     ASSERT_EQ(as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
     EXPECT_FALSE(::IsWindow(window));
 }
@@ -161,9 +151,7 @@ TEST_F(InPlace, neverActiveAndClosedTheWindowIsGone)
 
 TEST_F(InPlace, anotherSiteKeepsTheWindow)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
-    HWND const window = control.window();
+    HWND const window = activated();
     kit::FakeForm other;
     auto const site = kit::make<kit::FakeSite>(other, kPlace, L"Moved");
     ASSERT_EQ(as<IOleObject>()->SetClientSite(site.get()), S_OK);
@@ -191,18 +179,14 @@ TEST_F(InPlace, theWindowExistsWhenAskedForWithoutASite)
 
 TEST_F(InPlace, theWindowEndsWithTheControl)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
-    HWND const window = control.window();
+    HWND const window = activated();
     control.remove();
     EXPECT_FALSE(::IsWindow(window));
 }
 
 TEST_F(InPlace, releasedWithoutAWordTheControlTakesItsWindowAway)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
-    HWND const window = control.window();
+    HWND const window = activated(OLEIVERB_UIACTIVATE);
     form.frame().forgetActiveObject();
     control.release();
     EXPECT_FALSE(::IsWindow(window));
@@ -222,11 +206,8 @@ TEST_F(InPlace, theWindowOwnsNoDeviceContextAndTakesDoubleClicks)
 
 TEST_F(InPlace, hidingHidesAndShowingShowsTheSameWindowWithoutTakingTheFocus)
 {
-    begin();
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
-    ASSERT_EQ(control.activate(), S_OK);
-    HWND const window = control.window();
-    ASSERT_TRUE(kit::focus(edit.get()));
+    auto const edit = otherFocus();
+    HWND const window = activated();
     for (int cycle = 0; cycle < 5; ++cycle) {
         EXPECT_EQ(control.doVerb(OLEIVERB_HIDE), S_OK);
         EXPECT_FALSE(::IsWindowVisible(window));
@@ -240,26 +221,21 @@ TEST_F(InPlace, hidingHidesAndShowingShowsTheSameWindowWithoutTakingTheFocus)
 
 TEST_F(InPlace, activatingInPlaceDoesNotTakeTheFocus)
 {
-    begin();
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(control.activate(), S_OK);
+    auto const edit = otherFocus();
+    activated();
     EXPECT_EQ(::GetFocus(), edit.get());
 }
 
 TEST_F(InPlace, activatingTheUserInterfaceTakesTheFocus)
 {
-    begin();
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
-    EXPECT_EQ(::GetFocus(), control.window());
+    auto const edit = otherFocus();
+    HWND const window = activated(OLEIVERB_UIACTIVATE);
+    EXPECT_EQ(::GetFocus(), window);
 }
 
 TEST_F(InPlace, movesToWhereTheContainerSays)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
+    activated();
     RECT const elsewhere{5, 6, 205, 106};
     ASSERT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, &control.site().clip), S_OK);
     EXPECT_EQ(placeOf(control.window()), elsewhere);
@@ -271,8 +247,7 @@ TEST_F(InPlace, movesToWhereTheContainerSays)
 
 TEST_F(InPlace, showsThePartThatTheContainerDoesNotCoverWhereverItMoves)
 {
-    begin();
-    ASSERT_EQ(control.activate(), S_OK);
+    activated();
     auto const moved = [&](RECT const& place, RECT const& clip) {
         EXPECT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&place, &clip), S_OK);
         UniqueRegion const region(::CreateRectRgn(0, 0, 0, 0));
@@ -290,22 +265,19 @@ TEST_F(InPlace, showsThePartThatTheContainerDoesNotCoverWhereverItMoves)
 
 TEST_F(InPlace, survivesTheDestructionOfTheFormsWindow)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
-    HWND const window = control.window();
+    HWND const window = activated(OLEIVERB_UIACTIVATE);
     ::DestroyWindow(form.window());
     EXPECT_FALSE(::IsWindow(window));
     EXPECT_EQ(button()->put_Caption(Bstr(L"after").get()), S_OK);
     EXPECT_EQ(button()->Refresh(), S_OK);
     EXPECT_TRUE(::IsWindow(ownWindow()));
-    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(deactivate(), S_OK);
     EXPECT_EQ(as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
 }
 
 TEST_F(InPlace, theActiveObjectIsThereForWhoAsksAndAnswersTheFrame)
 {
-    begin();
-    ASSERT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
+    activated(OLEIVERB_UIACTIVATE);
     auto const active = as<IOleInPlaceActiveObject>();
     EXPECT_EQ(form.frame().activeObject(), active.get());
     HWND window = nullptr;
@@ -316,8 +288,8 @@ TEST_F(InPlace, theActiveObjectIsThereForWhoAsksAndAnswersTheFrame)
     EXPECT_EQ(active->OnDocWindowActivate(FALSE), S_OK);
     EXPECT_EQ(active->OnDocWindowActivate(TRUE), S_OK);
     EXPECT_EQ(active->ResizeBorder(&kPlace, &form.frame(), TRUE), S_OK);
-    EXPECT_EQ(active->EnableModeless(FALSE), S_OK);
-    EXPECT_EQ(active->EnableModeless(TRUE), S_OK);
+    for (BOOL const enabled : {FALSE, TRUE})
+        EXPECT_EQ(active->EnableModeless(enabled), S_OK);
 }
 
 // Whatever a site does not do, the button gets into its form.
@@ -333,7 +305,7 @@ TEST_P(InPlaceWithFaults, activatesWhereTheSiteFailsThisCall)
     EXPECT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
     EXPECT_EQ(::GetFocus(), control.window());
     EXPECT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
-    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(deactivate(), S_OK);
     EXPECT_FALSE(isShown());
 }
 
@@ -344,7 +316,7 @@ TEST_P(InPlaceWithFaults, activatesWhereTheSiteSucceedsWithNothing)
     EXPECT_EQ(control.activate(), S_OK);
     EXPECT_TRUE(isShown());
     EXPECT_EQ(control.doVerb(OLEIVERB_UIACTIVATE), S_OK);
-    EXPECT_EQ(as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(deactivate(), S_OK);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, InPlaceWithFaults,

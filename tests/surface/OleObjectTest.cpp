@@ -2,6 +2,7 @@
 #include "SurfaceTest.h"
 #include "kit/Fonts.h"
 #include "kit/Memory.h"
+#include "kit/NotCopied.h"
 
 #include <algorithm>
 #include <string>
@@ -9,11 +10,8 @@
 namespace quillet::hosting {
 namespace {
 
-struct TaskString {
+struct TaskString : kit::NotCopied {
     LPOLESTR text = nullptr;
-    TaskString() = default;
-    TaskString(TaskString const&) = delete;
-    TaskString& operator=(TaskString const&) = delete;
     ~TaskString() { ::CoTaskMemFree(text); }
 };
 

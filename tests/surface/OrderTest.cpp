@@ -3,6 +3,7 @@
 #include "kit/Canvas.h"
 #include "kit/HostWindow.h"
 #include "kit/Pump.h"
+#include "kit/Usage.h"
 
 namespace quillet::hosting {
 namespace {
@@ -150,9 +151,8 @@ TEST_F(Order, anotherSiteOnAnotherFormWhileActive)
 
 TEST_F(Order, eventSinksBeforeAnySite)
 {
-    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
-    ASSERT_TRUE(connection.joined());
+    kit::Listening events(control.object(), kQvFlatCommandEvents);
+    ASSERT_TRUE(events.connection().joined());
     control.start();
     events->forget();
     repaint();
@@ -177,104 +177,75 @@ TEST_F(Order, aHostThatResizesByHidingAndShowing)
     }
 }
 
-BOOL CALLBACK countOne(HWND, LPARAM counter)
-{
-    ++*reinterpret_cast<int*>(counter);
-    return TRUE;
-}
-
-BOOL CALLBACK countWithChildren(HWND window, LPARAM counter)
-{
-    ::EnumChildWindows(window, countOne, counter);
-    return countOne(window, counter);
-}
-
-int windowsOfThisThread()
-{
-    int count = 0;
-    ::EnumThreadWindows(::GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 TEST_F(Order, manyControlsOneAfterAnotherLeaveNoWindowBehind)
 {
     control.start();
     control.remove();
-    int const before = windowsOfThisThread();
+    int const before = kit::windowsOfThread();
     for (int round = 0; round < 50; ++round) {
         kit::Hosted next(library(), kQvFlatCommandClass, form, kPlace);
         next.start();
-        EXPECT_GT(windowsOfThisThread(), before);
+        EXPECT_GT(kit::windowsOfThread(), before);
     }
     EXPECT_EQ(library().canUnloadNow(), S_OK);
-    EXPECT_EQ(windowsOfThisThread(), before);
+    EXPECT_EQ(kit::windowsOfThread(), before);
 }
 
 class SystemHost : public kit::ControlTest {
 protected:
     kit::HostWindow parent{100, 100, 300, 200};
+    kit::AtlHost host{parent.handle(), {10, 10, 130, 50}};
+    ComPtr<IUnknown> object = library().create(kQvFlatCommandClass);
 
-    static HWND windowOf(IUnknown* control)
+    void TearDown() override { host.destroy(); }
+    HWND window() const
     {
         HWND window = nullptr;
-        auto const face = query<IOleWindow>(control);
-        if (face)
-            face->GetWindow(&window);
+        kit::ask(object.get(), &IOleWindow::GetWindow, &window);
         return window;
+    }
+    RECT clientArea() const
+    {
+        RECT client{};
+        ::GetClientRect(window(), &client);
+        return client;
     }
 };
 
 TEST_F(SystemHost, showsTheControlAndPaintsIt)
 {
-    kit::AtlHost host(parent.handle(), {10, 10, 130, 50});
-    auto object = library().create(kQvFlatCommandClass);
     ASSERT_EQ(query<IPersistStreamInit>(object.get())->InitNew(), S_OK);
     ASSERT_EQ(host.attach(object.get()), S_OK);
     auto const button = query<_qvFlatCommand>(object.get());
     ASSERT_TRUE(button);
     EXPECT_EQ(button->put_BackColor(RGB(9, 99, 199)), S_OK);
     kit::pumpPending();
-    HWND const window = windowOf(object.get());
-    ASSERT_TRUE(::IsWindowVisible(window));
-    EXPECT_TRUE(::IsChild(parent.handle(), window));
-    RECT client{};
-    ::GetClientRect(window, &client);
-    EXPECT_EQ(client.right, 120);
-    EXPECT_EQ(client.bottom, 40);
+    HWND const made = window();
+    ASSERT_TRUE(::IsWindowVisible(made));
+    EXPECT_TRUE(::IsChild(parent.handle(), made));
+    EXPECT_EQ(clientArea(), (RECT{0, 0, 120, 40}));
     kit::Canvas shown(120, 40);
-    kit::readWindow(window, shown);
+    kit::readWindow(made, shown);
     EXPECT_EQ(shown.at(60, 20), RGB(9, 99, 199));
     EXPECT_EQ(shown.at(0, 0), ::GetSysColor(COLOR_3DDKSHADOW));
     host.destroy();
-    EXPECT_FALSE(::IsWindow(window) && ::IsWindowVisible(window));
+    EXPECT_FALSE(::IsWindow(made) && ::IsWindowVisible(made));
 }
 
 TEST_F(SystemHost, movesTheControlWithItself)
 {
-    kit::AtlHost host(parent.handle(), {10, 10, 130, 50});
-    auto const object = library().create(kQvFlatCommandClass);
     ASSERT_EQ(host.attach(object.get()), S_OK);
     ::SetWindowPos(host.window(), nullptr, 0, 0, 200, 90, SWP_NOZORDER | SWP_NOMOVE);
     kit::pumpPending();
-    RECT client{};
-    ::GetClientRect(windowOf(object.get()), &client);
-    EXPECT_EQ(client.right, 200);
-    EXPECT_EQ(client.bottom, 90);
-    host.destroy();
+    EXPECT_EQ(clientArea(), (RECT{0, 0, 200, 90}));
 }
 
 TEST_F(SystemHost, raisesEventsToo)
 {
-    kit::AtlHost host(parent.handle(), {10, 10, 130, 50});
-    auto const object = library().create(kQvFlatCommandClass);
     ASSERT_EQ(host.attach(object.get()), S_OK);
-    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    {
-        kit::Connection const joined(object.get(), kQvFlatCommandEvents, events->unknown());
-        EXPECT_EQ(query<_qvFlatCommand>(object.get())->Refresh(), S_OK);
-        EXPECT_EQ(events->count(kPaint), 1) << "a host without ambient properties counts as running";
-    }
-    host.destroy();
+    kit::Listening const events(object.get(), kQvFlatCommandEvents);
+    EXPECT_EQ(query<_qvFlatCommand>(object.get())->Refresh(), S_OK);
+    EXPECT_EQ(events->count(kPaint), 1) << "a host without ambient properties counts as running";
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "SurfaceTest.h"
 #include "kit/ByName.h"
 #include "kit/Canvas.h"
+#include "kit/Controls.h"
 #include "kit/Pump.h"
 #include "kit/SystemColours.h"
 
@@ -53,6 +54,11 @@ protected:
     }
     int paints() const { return events->count(kPaint); }
 
+    void expectWhole() const
+    {
+        kit::pumpPending();
+        EXPECT_EQ(missing(), "");
+    }
     /// What the window shows now differs from what painting it again shows: empty when it does not.
     std::string missing() const
     {
@@ -104,8 +110,7 @@ TEST_F(Show, isWholeWhereTheFormPaintsItsBackgroundLater)
     setClipping(form.window(), false);
     askForPaint(form.window());
     activate();
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhereTheFormIsAskedForItsBackgroundAfterwards)
@@ -113,8 +118,7 @@ TEST_F(Show, isWholeWhereTheFormIsAskedForItsBackgroundAfterwards)
     setClipping(form.window(), false);
     activate();
     askForPaint(form.window());
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhereTheFormDrawsItsBackgroundWithoutBeingAsked)
@@ -127,8 +131,7 @@ TEST_F(Show, isWholeWhereTheFormDrawsItsBackgroundWithoutBeingAsked)
         WindowDc const dc(form.window());
         ::FillRect(dc.get(), &all, static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH)));
     }
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhereAWindowFurtherOutPaintsLater)
@@ -141,8 +144,7 @@ TEST_F(Show, isWholeWhereAWindowFurtherOutPaintsLater)
     kit::pumpPending();
     askForPaint(outer.handle());
     activate();
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
     control.remove();
     ::SetParent(form.window(), nullptr);
 }
@@ -155,8 +157,7 @@ TEST_F(Show, isWholeWhenASiblingThatCoveredItGoes)
     activate();
     ASSERT_EQ(::GetWindow(ownWindow(), GW_HWNDPREV), patch.get()) << "the sibling does not cover it";
     patch.reset(); // before any message was handled
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhenAWindowOverItsFormGoes)
@@ -169,8 +170,7 @@ TEST_F(Show, isWholeWhenAWindowOverItsFormGoes)
     kit::pumpPending();
     activate();
     patch.reset();
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhenItsClipGrows)
@@ -178,8 +178,7 @@ TEST_F(Show, isWholeWhenItsClipGrows)
     control.site().clip = {kPlace.left, kPlace.top, kPlace.left + kSize.cx / 2, kPlace.bottom};
     activate();
     EXPECT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace), S_OK);
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
 
 TEST_F(Show, isWholeWhenItAppearsBeforeItsForm)
@@ -187,15 +186,8 @@ TEST_F(Show, isWholeWhenItAppearsBeforeItsForm)
     ::ShowWindow(form.window(), SW_HIDE);
     activate();
     ::ShowWindow(form.window(), SW_SHOWNOACTIVATE);
-    kit::pumpPending();
-    EXPECT_EQ(missing(), "");
+    expectWhole();
 }
-
-struct Schemed {
-    char const* name;
-    CLSID classId;
-};
-void PrintTo(Schemed const& kind, std::ostream* out) { *out << kind.name; }
 
 constexpr COLORREF kOddFace = RGB(3, 201, 99);
 constexpr COLORREF kOddText = RGB(151, 3, 77);
@@ -205,7 +197,7 @@ struct OddScheme : kit::SystemColours {
     OddScheme() : SystemColours({COLOR_BTNFACE, COLOR_BTNTEXT}, {kOddFace, kOddText}) {}
 };
 
-class Schemes : public kit::ControlTest, public testing::WithParamInterface<Schemed> {
+class Schemes : public kit::ControlTest, public testing::WithParamInterface<kit::ControlKind> {
 protected:
     static constexpr int kWidth = kPlace.right - kPlace.left;
     static constexpr int kHeight = kPlace.bottom - kPlace.top;
@@ -224,10 +216,15 @@ protected:
         put(control, L"Caption", Variant::ofString(caption));
         put(control, L"BackColor", Variant::ofLong(static_cast<long>(0x8000000F)));
         put(control, L"ForeColor", Variant::ofLong(static_cast<long>(0x80000012)));
-        kit::pumpPending();
-        look(control);
+        repaint(control);
     }
-    void look(kit::Hosted& control) { kit::readWindow(control.window(), picture); }
+    /// As desktops ask for it.
+    void repaint(kit::Hosted& control)
+    {
+        ::RedrawWindow(form.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+        kit::pumpPending();
+        kit::readWindow(control.window(), picture);
+    }
 };
 
 TEST_P(Schemes, aChangeOfTheDesktopsColoursShowsAtOnce)
@@ -238,15 +235,11 @@ TEST_P(Schemes, aChangeOfTheDesktopsColoursShowsAtOnce)
     ASSERT_EQ(picture.count(kOddText), 0);
     {
         OddScheme const scheme;
-        ::RedrawWindow(form.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN); // as desktops do
-        kit::pumpPending();
-        look(control);
+        repaint(control);
         EXPECT_GT(picture.count(kOddFace), kWidth * kHeight / 2);
         EXPECT_GT(picture.count(kOddText), 0);
     }
-    ::RedrawWindow(form.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-    kit::pumpPending();
-    look(control);
+    repaint(control);
     EXPECT_EQ(picture.count(kOddFace), 0) << "nothing of the other scheme stays";
     EXPECT_EQ(picture.count(kOddText), 0);
 }
@@ -267,13 +260,7 @@ TEST_P(Schemes, inAFormFromRightToLeftThePictureIsTheSame)
     EXPECT_EQ(differences(plain, picture), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Schemes,
-                         testing::Values(Schemed{"qvFlatCommand", kQvFlatCommandClass},
-                                         Schemed{"qvImageCommand", kQvImageCommandClass},
-                                         Schemed{"FlatToolButton", kFlatToolButtonClass},
-                                         Schemed{"qvFlatOption", kQvFlatOptionClass},
-                                         Schemed{"qvFlatCheck", kQvFlatCheckClass}),
-                         [](auto const& kind) { return std::string(kind.param.name); });
+QV_EACH_CONTROL(Of, Schemes);
 
 } // namespace
 } // namespace quillet::hosting

@@ -47,6 +47,21 @@ protected:
         EXPECT_TRUE(face) << "an interface is missing";
         return face;
     }
+    /// Site, new values and activation, one by one.
+    void begin()
+    {
+        ASSERT_EQ(control.setSite(), S_OK);
+        ASSERT_EQ(control.initNew(), S_OK);
+        ASSERT_EQ(control.setExtent(), S_OK);
+        record().forget();
+    }
+    /// The button's window after these steps and the verb.
+    HWND activated(LONG verb = OLEIVERB_INPLACEACTIVATE)
+    {
+        begin();
+        EXPECT_EQ(control.doVerb(verb), S_OK);
+        return control.window();
+    }
     ComPtr<_qvFlatCommand> button() const { return as<_qvFlatCommand>(); }
     kit::Record& record() { return form.record(); }
 
@@ -76,8 +91,6 @@ protected:
     }
 };
 
-inline bool operator==(RECT const& a, RECT const& b) { return ::EqualRect(&a, &b) != FALSE; }
-
 struct NamedInterface {
     char const* name;
     IID iid;
@@ -87,30 +100,28 @@ struct NamedInterface {
     {                                                                                                        \
 #type, __uuidof(type)                                                                                \
     }
-inline NamedInterface const kOffered[] = {
-    QUILLET_NAMED(IUnknown),
-    QUILLET_NAMED(IDispatch),
-    QUILLET_NAMED(IOleObject),
-    QUILLET_NAMED(IOleWindow),
-    QUILLET_NAMED(IOleInPlaceObject),
-    QUILLET_NAMED(IOleInPlaceActiveObject),
-    QUILLET_NAMED(IOleControl),
-    QUILLET_NAMED(IViewObject),
-    QUILLET_NAMED(IViewObject2),
-    QUILLET_NAMED(IViewObjectEx),
-    QUILLET_NAMED(IDataObject),
-    QUILLET_NAMED(IConnectionPointContainer),
-    QUILLET_NAMED(IProvideClassInfo),
-    QUILLET_NAMED(IProvideClassInfo2),
-    QUILLET_NAMED(ISupportErrorInfo),
-    QUILLET_NAMED(IPersist),
-    QUILLET_NAMED(IPersistStreamInit),
-    QUILLET_NAMED(IPersistStorage),
-    QUILLET_NAMED(IPersistPropertyBag),
-    QUILLET_NAMED(IQuickActivate),
-    QUILLET_NAMED(IObjectWithSite),
-    QUILLET_NAMED(IObjectSafety),
-};
+inline NamedInterface const kOffered[] = {QUILLET_NAMED(IUnknown),
+                                          QUILLET_NAMED(IDispatch),
+                                          QUILLET_NAMED(IOleObject),
+                                          QUILLET_NAMED(IOleWindow),
+                                          QUILLET_NAMED(IOleInPlaceObject),
+                                          QUILLET_NAMED(IOleInPlaceActiveObject),
+                                          QUILLET_NAMED(IOleControl),
+                                          QUILLET_NAMED(IViewObject),
+                                          QUILLET_NAMED(IViewObject2),
+                                          QUILLET_NAMED(IViewObjectEx),
+                                          QUILLET_NAMED(IDataObject),
+                                          QUILLET_NAMED(IConnectionPointContainer),
+                                          QUILLET_NAMED(IProvideClassInfo),
+                                          QUILLET_NAMED(IProvideClassInfo2),
+                                          QUILLET_NAMED(ISupportErrorInfo),
+                                          QUILLET_NAMED(IPersist),
+                                          QUILLET_NAMED(IPersistStreamInit),
+                                          QUILLET_NAMED(IPersistStorage),
+                                          QUILLET_NAMED(IPersistPropertyBag),
+                                          QUILLET_NAMED(IQuickActivate),
+                                          QUILLET_NAMED(IObjectWithSite),
+                                          QUILLET_NAMED(IObjectSafety)};
 
 // Each of these leads some container away from what the control does well.
 inline NamedInterface const kNotOffered[] = {
