@@ -12,46 +12,40 @@ struct FlagName {
     char const* name;
 };
 
-constexpr FlagName kLibraryFlags[] = {
-    {LIBFLAG_FRESTRICTED, "restricted"},
-    {LIBFLAG_FCONTROL, "control"},
-    {LIBFLAG_FHIDDEN, "hidden"},
-    {LIBFLAG_FHASDISKIMAGE, "hasdiskimage"},
-};
+constexpr FlagName kLibraryFlags[] = {{LIBFLAG_FRESTRICTED, "restricted"},
+                                      {LIBFLAG_FCONTROL, "control"},
+                                      {LIBFLAG_FHIDDEN, "hidden"},
+                                      {LIBFLAG_FHASDISKIMAGE, "hasdiskimage"}};
 
-constexpr FlagName kTypeFlags[] = {
-    {TYPEFLAG_FAPPOBJECT, "appobject"},
-    {TYPEFLAG_FCANCREATE, "cancreate"},
-    {TYPEFLAG_FLICENSED, "licensed"},
-    {TYPEFLAG_FPREDECLID, "predeclid"},
-    {TYPEFLAG_FHIDDEN, "hidden"},
-    {TYPEFLAG_FCONTROL, "control"},
-    {TYPEFLAG_FDUAL, "dual"},
-    {TYPEFLAG_FNONEXTENSIBLE, "nonextensible"},
-    {TYPEFLAG_FOLEAUTOMATION, "oleautomation"},
-    {TYPEFLAG_FRESTRICTED, "restricted"},
-    {TYPEFLAG_FAGGREGATABLE, "aggregatable"},
-    {TYPEFLAG_FREPLACEABLE, "replaceable"},
-    {TYPEFLAG_FDISPATCHABLE, "dispatchable"},
-    {TYPEFLAG_FREVERSEBIND, "reversebind"},
-    {TYPEFLAG_FPROXY, "proxy"},
-};
+constexpr FlagName kTypeFlags[] = {{TYPEFLAG_FAPPOBJECT, "appobject"},
+                                   {TYPEFLAG_FCANCREATE, "cancreate"},
+                                   {TYPEFLAG_FLICENSED, "licensed"},
+                                   {TYPEFLAG_FPREDECLID, "predeclid"},
+                                   {TYPEFLAG_FHIDDEN, "hidden"},
+                                   {TYPEFLAG_FCONTROL, "control"},
+                                   {TYPEFLAG_FDUAL, "dual"},
+                                   {TYPEFLAG_FNONEXTENSIBLE, "nonextensible"},
+                                   {TYPEFLAG_FOLEAUTOMATION, "oleautomation"},
+                                   {TYPEFLAG_FRESTRICTED, "restricted"},
+                                   {TYPEFLAG_FAGGREGATABLE, "aggregatable"},
+                                   {TYPEFLAG_FREPLACEABLE, "replaceable"},
+                                   {TYPEFLAG_FDISPATCHABLE, "dispatchable"},
+                                   {TYPEFLAG_FREVERSEBIND, "reversebind"},
+                                   {TYPEFLAG_FPROXY, "proxy"}};
 
-constexpr FlagName kFunctionFlags[] = {
-    {FUNCFLAG_FRESTRICTED, "restricted"},
-    {FUNCFLAG_FSOURCE, "source"},
-    {FUNCFLAG_FBINDABLE, "bindable"},
-    {FUNCFLAG_FREQUESTEDIT, "requestedit"},
-    {FUNCFLAG_FDISPLAYBIND, "displaybind"},
-    {FUNCFLAG_FDEFAULTBIND, "defaultbind"},
-    {FUNCFLAG_FHIDDEN, "hidden"},
-    {FUNCFLAG_FUSESGETLASTERROR, "usesgetlasterror"},
-    {FUNCFLAG_FDEFAULTCOLLELEM, "defaultcollelem"},
-    {FUNCFLAG_FUIDEFAULT, "uidefault"},
-    {FUNCFLAG_FNONBROWSABLE, "nonbrowsable"},
-    {FUNCFLAG_FREPLACEABLE, "replaceable"},
-    {FUNCFLAG_FIMMEDIATEBIND, "immediatebind"},
-};
+constexpr FlagName kFunctionFlags[] = {{FUNCFLAG_FRESTRICTED, "restricted"},
+                                       {FUNCFLAG_FSOURCE, "source"},
+                                       {FUNCFLAG_FBINDABLE, "bindable"},
+                                       {FUNCFLAG_FREQUESTEDIT, "requestedit"},
+                                       {FUNCFLAG_FDISPLAYBIND, "displaybind"},
+                                       {FUNCFLAG_FDEFAULTBIND, "defaultbind"},
+                                       {FUNCFLAG_FHIDDEN, "hidden"},
+                                       {FUNCFLAG_FUSESGETLASTERROR, "usesgetlasterror"},
+                                       {FUNCFLAG_FDEFAULTCOLLELEM, "defaultcollelem"},
+                                       {FUNCFLAG_FUIDEFAULT, "uidefault"},
+                                       {FUNCFLAG_FNONBROWSABLE, "nonbrowsable"},
+                                       {FUNCFLAG_FREPLACEABLE, "replaceable"},
+                                       {FUNCFLAG_FIMMEDIATEBIND, "immediatebind"}};
 
 template <std::size_t n> std::string flagNames(FlagName const (&table)[n], unsigned flags)
 {

@@ -1,5 +1,4 @@
 // Hosts may call through the reloaded library: the system's ITypeInfo::Invoke finds, converts and calls.
-#include "Borrowed.h"
 #include "BuiltLibrary.h"
 #include "base/Bstr.h"
 #include "base/Variant.h"
@@ -29,13 +28,6 @@ template <class T> using Stored = typename StoredAs<T>::Type;
 /// Keeps what it is given.
 class CalledCommand final : public _qvFlatCommand {
 public:
-    CalledCommand()
-    {
-        ComPtr<ITypeInfo> dispatch;
-        check(builtLibrary()->GetTypeInfoOfGuid(__uuidof(_qvFlatCommand), dispatch.put()));
-        m_info = vtableView(*dispatch.get());
-    }
-
     STDMETHODIMP QueryInterface(REFIID, void** object) final
     {
         *object = nullptr;
@@ -60,11 +52,7 @@ public:
     STDMETHODIMP get_##name(type* value) final { return answer(m_##name, value); }                           \
     STDMETHODIMP put_##name(type value) final { return keep(m_##name, value); }
 #define QV_READ_ONLY(name, id, type, help)                                                                   \
-    STDMETHODIMP get_##name(type* value) final                                                               \
-    {                                                                                                        \
-        *value = id;                                                                                         \
-        return S_OK;                                                                                         \
-    }
+    STDMETHODIMP get_##name(type* value) final { return answer(type{id}, value); }
 #define QV_OBJECT(name, id, type, help)                                                                      \
     STDMETHODIMP get_##name(type** value) final                                                              \
     {                                                                                                        \
@@ -99,38 +87,28 @@ public:
     std::vector<DISPID> m_called;
 
 private:
-    static HRESULT answer(Bstr const& stored, BSTR* value)
+    template <class T, class Given> static HRESULT answer(T const& stored, Given* value)
     {
-        *value = stored.copy();
+        if constexpr (std::is_same_v<T, Bstr>)
+            *value = stored.copy();
+        else if constexpr (std::is_same_v<T, Variant>)
+            *value = Variant(stored).detach();
+        else
+            *value = stored;
         return S_OK;
     }
-    static HRESULT keep(Bstr& stored, BSTR value)
+    template <class T, class Given> static HRESULT keep(T& stored, Given value)
     {
-        stored = Bstr(Bstr::viewOf(value));
-        return S_OK;
-    }
-    static HRESULT answer(Variant const& stored, VARIANT* value)
-    {
-        *value = Variant(stored).detach();
-        return S_OK;
-    }
-    static HRESULT keep(Variant& stored, VARIANT value)
-    {
-        stored = Variant::copyOf(value);
-        return S_OK;
-    }
-    template <class T> static HRESULT answer(T const& stored, T* value)
-    {
-        *value = stored;
-        return S_OK;
-    }
-    template <class T> static HRESULT keep(T& stored, T value)
-    {
-        stored = value;
+        if constexpr (std::is_same_v<T, Bstr>)
+            stored = Bstr(Bstr::viewOf(value));
+        else if constexpr (std::is_same_v<T, Variant>)
+            stored = Variant::copyOf(value);
+        else
+            stored = value;
         return S_OK;
     }
 
-    ComPtr<ITypeInfo> m_info;
+    ComPtr<ITypeInfo> m_info = builtVtable(__uuidof(_qvFlatCommand));
 };
 
 class Invoke : public testing::Test {
@@ -236,8 +214,8 @@ TEST_F(Invoke, aReadOnlyMemberCanBeReadAndNotSet)
 TEST_F(Invoke, aMethodWithoutArgumentsIsCalled)
 {
     DISPPARAMS none{};
-    EXPECT_EQ(object.Invoke(ShowAbout, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr), S_OK);
-    EXPECT_EQ(object.Invoke(Refresh, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr), S_OK);
+    for (DISPID const id : {ShowAbout, Refresh})
+        EXPECT_EQ(object.Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr), S_OK);
     EXPECT_EQ(object.m_called, (std::vector<DISPID>{ShowAbout, Refresh}));
 }
 

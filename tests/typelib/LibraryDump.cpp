@@ -53,19 +53,12 @@ private:
                    typeFlagNames(typeFlags(*info.get(), *attributes)).c_str(), attributes->wMajorVerNum,
                    attributes->wMinorVerNum, guidText(attributes->guid).c_str(), m_topic));
         addHelp(helpOf(*info.get()));
-        switch (attributes->typekind) {
-        case TKIND_DISPATCH:
+        if (attributes->typekind == TKIND_DISPATCH)
             describeInterface(*info.get(), index, isDual(*attributes));
-            break;
-        case TKIND_COCLASS:
+        if (attributes->typekind == TKIND_COCLASS)
             describeClass(*info.get(), attributes->cImplTypes);
-            break;
-        case TKIND_ENUM:
+        if (attributes->typekind == TKIND_ENUM)
             describeEnumeration(*info.get(), attributes->cVars);
-            break;
-        default:
-            break;
-        }
     }
 
     static bool isDual(TYPEATTR const& attributes) { return attributes.wTypeFlags & TYPEFLAG_FDUAL; }
@@ -79,19 +72,16 @@ private:
 
     std::string headOf(ITypeInfo& info, TYPEATTR const& attributes)
     {
-        std::string const name = nameOf(info);
-        switch (attributes.typekind) {
-        case TKIND_DISPATCH:
-            return "dispatch " + name;
-        case TKIND_COCLASS:
-            return "coclass " + name;
-        case TKIND_ALIAS:
-            return "alias " + name + " of " + typeName(info, attributes.tdescAlias);
-        case TKIND_ENUM:
-            return "enum " + name;
-        default:
-            return format("kind %d ", attributes.typekind) + name;
-        }
+        constexpr std::pair<TYPEKIND, char const*> kKinds[] = {{TKIND_DISPATCH, "dispatch "},
+                                                               {TKIND_COCLASS, "coclass "},
+                                                               {TKIND_ALIAS, "alias "},
+                                                               {TKIND_ENUM, "enum "}};
+        std::string const target =
+            attributes.typekind == TKIND_ALIAS ? " of " + typeName(info, attributes.tdescAlias) : "";
+        for (auto const& [known, word] : kKinds)
+            if (attributes.typekind == known)
+                return word + nameOf(info) + target;
+        return format("kind %d ", attributes.typekind) + nameOf(info);
     }
 
     void describeInterface(ITypeInfo& info, UINT index, bool dual)
@@ -111,10 +101,7 @@ private:
 
     std::string functionText(ITypeInfo& info, FUNCDESC const& function, RawFunction const& raw)
     {
-        std::string const id = function.memid <= 0 ? format("%ld", function.memid)
-                               : function.memid < 100
-                                   ? format("%ld", function.memid)
-                                   : format("&H%08lX", static_cast<unsigned long>(function.memid));
+        std::string const id = format(function.memid < 100 ? "%ld" : "&H%08lX", function.memid);
         return id + " " + kindOf(function) + " " + nameOf(info, function.memid) +
                parametersOf(info, function, raw) + functionFlagNames(function.wFuncFlags) +
                oddities(function);
@@ -124,16 +111,13 @@ private:
     {
         if (function.funckind == FUNC_DISPATCH)
             return function.invkind == INVOKE_FUNC ? "event" : "late-bound property";
-        switch (function.invkind) {
-        case INVOKE_FUNC:
-            return "method";
-        case INVOKE_PROPERTYGET:
-            return "get";
-        case INVOKE_PROPERTYPUT:
-            return "put";
-        case INVOKE_PROPERTYPUTREF:
-            return "putref";
-        }
+        constexpr std::pair<INVOKEKIND, char const*> kKinds[] = {{INVOKE_FUNC, "method"},
+                                                                 {INVOKE_PROPERTYGET, "get"},
+                                                                 {INVOKE_PROPERTYPUT, "put"},
+                                                                 {INVOKE_PROPERTYPUTREF, "putref"}};
+        for (auto const& [known, word] : kKinds)
+            if (function.invkind == known)
+                return word;
         return "unknown";
     }
 
@@ -209,26 +193,15 @@ private:
 
     std::string typeName(ITypeInfo& info, TYPEDESC const& type)
     {
-        switch (type.vt) {
-        case VT_I2:
-            return "Integer";
-        case VT_I4:
-            return "Long";
-        case VT_R4:
-            return "Single";
-        case VT_BSTR:
-            return "String";
-        case VT_BOOL:
-            return "Boolean";
-        case VT_VARIANT:
-            return "Variant";
-        case VT_USERDEFINED:
+        constexpr std::pair<VARTYPE, char const*> kPlain[] = {{VT_I2, "Integer"},   {VT_I4, "Long"},
+                                                              {VT_R4, "Single"},    {VT_BSTR, "String"},
+                                                              {VT_BOOL, "Boolean"}, {VT_VARIANT, "Variant"}};
+        for (auto const& [known, name] : kPlain)
+            if (type.vt == known)
+                return name;
+        if (type.vt == VT_USERDEFINED)
             return referencedName(info, type.hreftype);
-        case VT_PTR:
-            return pointedName(info, *type.lptdesc);
-        default:
-            return format("type %d", type.vt);
-        }
+        return type.vt == VT_PTR ? pointedName(info, *type.lptdesc) : format("type %d", type.vt);
     }
 
     /// Objects are always handled by pointer, and named without it.

@@ -1,6 +1,5 @@
 // The C++ interfaces and the library agree on the place of every function in the vtable: each is called where
 // the library says it is, and must be the one that the library names.
-#include "Borrowed.h"
 #include "BuiltLibrary.h"
 #include "base/Bstr.h"
 #include "typelib/Guids.h"
@@ -103,9 +102,7 @@ HRESULT callAt(void* object, FUNCDESC const& function)
 template <class Object> void expectSameSlots(GUID const& id, UINT functions)
 {
     Object object;
-    ComPtr<ITypeInfo> dispatch;
-    ASSERT_EQ(builtLibrary()->GetTypeInfoOfGuid(id, dispatch.put()), S_OK);
-    ComPtr<ITypeInfo> const info = vtableView(*dispatch.get());
+    ComPtr<ITypeInfo> const info = builtVtable(id);
     ASSERT_EQ(TypeAttributes(*info.get())->cFuncs, functions);
     EXPECT_EQ(TypeAttributes(*info.get())->cbSizeVft, (functions + 7) * sizeof(void*));
     for (UINT i = 0; i < functions; ++i) {
