@@ -1,6 +1,7 @@
 // Pictures in memory that tests draw with plain GDI calls, none of them the library's, and read back as
 // letters.
 #include "kit/Canvas.h"
+
 #include "kit/NotCopied.h"
 
 #include <algorithm>

@@ -41,17 +41,33 @@ public:
     void forget() { m_calls.clear(); }
 
     /// How many calls are equal to the text, and how many begin with it.
-    int count(std::string_view call) const;
-    int countFrom(std::string_view beginning) const;
+    int count(std::string_view call) const { return static_cast<int>(std::ranges::count(m_calls, call)); }
+    int countFrom(std::string_view beginning) const
+    {
+        auto const begins = [&](std::string const& call) { return call.starts_with(beginning); };
+        return static_cast<int>(std::ranges::count_if(m_calls, begins));
+    }
 
     /// From here on the method answers the result without doing anything.
     void answer(std::string const& method, HRESULT result) { m_results[method] = result; }
     /// From here on the method succeeds but hands out a null pointer.
     void answerNothing(std::string const& method) { m_nothing.insert(method); }
-    void answerAsUsual(std::string const& method);
+    void answerAsUsual(std::string const& method)
+    {
+        m_results.erase(method);
+        m_nothing.erase(method);
+    }
 
     /// Notes the call. False when the method is to answer only result.
-    bool asked(std::string const& method, HRESULT& result, std::string const& details = {});
+    bool asked(std::string const& method, HRESULT& result, std::string const& details = {})
+    {
+        note(details.empty() ? method : method + '(' + details + ')');
+        auto const found = m_results.find(method);
+        if (found == m_results.end())
+            return true;
+        result = found->second;
+        return false;
+    }
     bool handsOutNothing(std::string const& method) const { return m_nothing.contains(method); }
 
 private:
@@ -63,7 +79,13 @@ private:
 using SharedRecord = std::shared_ptr<Record>;
 
 /// The rectangle as "left,top,right,bottom"; "null" for none.
-std::string textOf(RECT const* rectangle);
+inline std::string textOf(RECT const* rectangle)
+{
+    if (!rectangle)
+        return "null";
+    return std::to_string(rectangle->left) + ',' + std::to_string(rectangle->top) + ',' +
+           std::to_string(rectangle->right) + ',' + std::to_string(rectangle->bottom);
+}
 
 /// Implements IUnknown for the interfaces named. It lives on the heap and counts as alive, so that a
 /// reference that somebody keeps too long shows at the end of the test.

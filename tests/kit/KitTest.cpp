@@ -1,5 +1,4 @@
 // The kit itself: a test that trusts its counterparts, pictures, input and counts must be able to.
-#include "Usage.h"
 #include "base/Module.h"
 #include "kit/Canvas.h"
 #include "kit/FakeBag.h"
@@ -11,6 +10,7 @@
 #include "kit/Memory.h"
 #include "kit/Pump.h"
 #include "kit/Sinks.h"
+#include "kit/Usage.h"
 
 #include <windows.h>
 

@@ -9,8 +9,6 @@ namespace quillet::kit {
 
 namespace {
 
-bool sameName(std::wstring const& a, std::wstring const& b) { return ::lstrcmpiW(a.c_str(), b.c_str()) == 0; }
-
 std::string textOf(Variant const& value)
 {
     return orFallback(std::string("object"), [&] { return narrow(value.toString().view()); });
@@ -28,8 +26,7 @@ std::string narrow(std::wstring_view text)
 
 NamedObject::Property* NamedObject::find(std::wstring const& name)
 {
-    auto const found =
-        std::ranges::find_if(m_properties, [&](Property& p) { return sameName(p.name, name); });
+    auto const found = std::ranges::find_if(m_properties, [&](Property& p) { return p.isNamed(name); });
     return found == m_properties.end() ? nullptr : &*found;
 }
 
@@ -44,40 +41,6 @@ NamedObject::Property& NamedObject::propertyNamed(std::wstring const& name)
     if (Property* const known = find(name))
         return *known;
     return m_properties.emplace_back(Property{name, ++m_lastId, {}, {}, {}, S_OK});
-}
-
-void NamedObject::offer(std::wstring const& name, Variant value)
-{
-    Property& property = propertyNamed(name);
-    property.value = std::move(value);
-    property.provider = nullptr;
-    property.failure = S_OK;
-}
-
-void NamedObject::provide(std::wstring const& name, Provider provider)
-{
-    Property& property = propertyNamed(name);
-    property.provider = std::move(provider);
-    property.failure = S_OK;
-}
-
-void NamedObject::refuse(std::wstring const& name, HRESULT result) { propertyNamed(name).failure = result; }
-
-void NamedObject::remove(std::wstring const& name)
-{
-    std::erase_if(m_properties, [&](Property const& property) { return sameName(property.name, name); });
-}
-
-void NamedObject::onWrite(std::wstring const& name, std::function<void(Variant const&)> action)
-{
-    propertyNamed(name).written = std::move(action);
-}
-
-Variant NamedObject::value(std::wstring const& name) const
-{
-    auto const found =
-        std::ranges::find_if(m_properties, [&](Property const& p) { return sameName(p.name, name); });
-    return found == m_properties.end() ? Variant() : found->value;
 }
 
 STDMETHODIMP NamedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids)

@@ -7,6 +7,7 @@
 #include <oaidl.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -22,16 +23,37 @@ public:
 
     /// Offers a property of a fixed value, or of one that is worked out when somebody asks; the argument is
     /// empty where none was given.
-    void offer(std::wstring const& name, Variant value);
-    void provide(std::wstring const& name, Provider provider);
+    void offer(std::wstring const& name, Variant value)
+    {
+        Property& property = propertyNamed(name);
+        property.value = std::move(value);
+        property.provider = nullptr;
+        property.failure = S_OK;
+    }
+    void provide(std::wstring const& name, Provider provider)
+    {
+        Property& property = propertyNamed(name);
+        property.provider = std::move(provider);
+        property.failure = S_OK;
+    }
     /// The property is known by name, but reading it fails.
-    void refuse(std::wstring const& name, HRESULT result = E_FAIL);
-    void remove(std::wstring const& name);
+    void refuse(std::wstring const& name, HRESULT result = E_FAIL) { propertyNamed(name).failure = result; }
+    void remove(std::wstring const& name)
+    {
+        std::erase_if(m_properties, [&](Property const& property) { return property.isNamed(name); });
+    }
     void removeAll() { m_properties.clear(); }
     /// Runs when the property is written.
-    void onWrite(std::wstring const& name, std::function<void(Variant const&)> action);
+    void onWrite(std::wstring const& name, std::function<void(Variant const&)> action)
+    {
+        propertyNamed(name).written = std::move(action);
+    }
     /// The present value, as last offered or written; empty when there is none.
-    Variant value(std::wstring const& name) const;
+    Variant value(std::wstring const& name) const
+    {
+        auto const found = std::ranges::find_if(m_properties, [&](auto const& p) { return p.isNamed(name); });
+        return found == m_properties.end() ? Variant() : found->value;
+    }
 
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS* arguments, VARIANT* result,
@@ -45,6 +67,11 @@ private:
         Provider provider;
         std::function<void(Variant const&)> written;
         HRESULT failure = S_OK;
+
+        bool isNamed(std::wstring const& other) const
+        {
+            return ::lstrcmpiW(name.c_str(), other.c_str()) == 0;
+        }
     };
 
     Property& propertyNamed(std::wstring const& name);
