@@ -152,12 +152,17 @@ namespace {
 
 class HostileCarrier : public HostileControlTest {
 protected:
-    /// A form that holds a value for most properties.
+    /// A control that holds a value for most properties.
+    struct FullLife : Life {
+        FullLife() : Life(HostileControlTest::kind())
+        {
+            begin();
+            putProperties();
+        }
+    };
     static kit::Bytes fullForm()
     {
-        Life life(kind());
-        life.begin();
-        life.putProperties();
+        FullLife life;
         return savedForm(life);
     }
     /// Loads by the action: a failure leaves the control as it was, a success something to draw and save.
@@ -231,9 +236,7 @@ TEST_P(HostileCarrier, bagThatWritesGarbageIntoTheValueAndFailsIsHeardAsAFailure
 
 TEST_P(HostileCarrier, bagThatFailsToTakeAnyValueFailsTheSave)
 {
-    Life life(kind());
-    life.begin();
-    life.putProperties();
+    FullLife life;
     auto const whole = kit::make<HostileBag>();
     EXPECT_EQ(life.control.save(*whole.get()), S_OK);
     EXPECT_GT(whole->calls, 0);
@@ -281,9 +284,7 @@ TEST_P(HostileCarrier, streamThatFailsOrSaysNonsenseInAnyReadIsRefused)
 
 TEST_P(HostileCarrier, streamThatTakesLessThanItIsGivenFailsTheSave)
 {
-    Life life(kind());
-    life.begin();
-    life.putProperties();
+    FullLife life;
     auto const own = life.as<IPersistStreamInit>();
     for (ULONG const most : {0U, 1U, 11U, 40U}) {
         auto const stream = kit::make<HostileStream>();

@@ -18,11 +18,21 @@ constexpr POINT kOutside{300, 250};
 
 class ForgetfulContainer : kit::NotCopied {
 public:
-    ForgetfulContainer(kit::FakeForm& form, kit::Library const& library, ControlKind const& kind)
-        : control(library, kind.classId, form, kPlace), m_kind(kind),
-          m_events(kit::make<kit::EventRecorder>(kind.eventsId))
+    enum class Control { New, Loaded };
+
+    /// Listens before there is a site, initialises or loads, gives a place before activation, shows,
+    /// subclasses.
+    ForgetfulContainer(kit::FakeForm& form, ControlKind const& kind, Control made = Control::New)
+        : control(HostileTest::library(), kind.classId, form, kPlace), m_kind(kind),
+          m_events(kit::make<kit::EventRecorder>(kind.eventsId)), m_kept(control.as<IDispatch>())
     {
-        m_kept = control.as<IDispatch>();
+        advise();
+        if (made == Control::New)
+            control.initNew();
+        control.setSite();
+        if (made == Control::Loaded) // and so watches its window itself
+            control.load(*kit::make<kit::FakeBag>().get());
+        show();
     }
     ~ForgetfulContainer()
     {
@@ -41,22 +51,6 @@ public:
     bool sawTheWindowsEnd() const { return !watched().contains(HandleToLong(m_window)); }
     static int lateMessages() { return s_late; }
 
-    /// Listens before there is a site, initialises, gives a place before activation, shows, subclasses.
-    void start()
-    {
-        advise();
-        control.initNew();
-        control.setSite();
-        show();
-    }
-    /// The same with a control that was loaded, and so watches its window itself.
-    void startLoaded()
-    {
-        advise();
-        control.setSite();
-        control.load(*kit::make<kit::FakeBag>().get());
-        show();
-    }
     void show()
     {
         control.as<IOleInPlaceObject>()->SetObjectRects(&kPlace, &kPlace);
@@ -189,17 +183,13 @@ void hover(ForgetfulContainer const& container)
 /// Everything that raises an event, message by message. The windows may end within it.
 void useEverything(ForgetfulContainer& container)
 {
+    constexpr std::pair<UINT, WPARAM> kSent[] = {
+        {WM_MOUSEMOVE, 0},   {WM_LBUTTONDOWN, MK_LBUTTON}, {WM_LBUTTONUP, 0}, {WM_LBUTTONDBLCLK, MK_LBUTTON},
+        {WM_LBUTTONUP, 0},   {WM_RBUTTONDOWN, MK_RBUTTON}, {WM_RBUTTONUP, 0}, {WM_KEYDOWN, VK_SPACE},
+        {WM_CHAR, VK_SPACE}, {WM_KEYUP, VK_SPACE}};
     hover(container);
-    send(container, WM_MOUSEMOVE, 0);
-    send(container, WM_LBUTTONDOWN, MK_LBUTTON);
-    send(container, WM_LBUTTONUP, 0);
-    send(container, WM_LBUTTONDBLCLK, MK_LBUTTON);
-    send(container, WM_LBUTTONUP, 0);
-    send(container, WM_RBUTTONDOWN, MK_RBUTTON);
-    send(container, WM_RBUTTONUP, 0);
-    send(container, WM_KEYDOWN, VK_SPACE);
-    send(container, WM_CHAR, VK_SPACE);
-    send(container, WM_KEYUP, VK_SPACE);
+    for (auto const& [message, wParam] : kSent)
+        send(container, message, wParam);
     ::RedrawWindow(container.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     container.control.ask(&IOleInPlaceObject::SetObjectRects, &kLarger, &kLarger);
     if (container.inputWindow() == container.window())
@@ -217,8 +207,7 @@ TEST_P(HostileForgetful, containerFindsTheWindowGoneHoweverItEndedTheControl)
 {
     for (Way const& end : kEnds)
         for (bool const isParked : {false, true}) {
-            ForgetfulContainer container(form, library(), kind());
-            container.start();
+            ForgetfulContainer container(form, kind());
             if (isParked) {
                 container.deactivate();
                 EXPECT_TRUE(::IsWindow(container.window())) << "deactivation alone keeps it";
@@ -233,8 +222,7 @@ TEST_P(HostileForgetful, containerFindsTheWindowGoneHoweverItEndedTheControl)
 TEST_P(HostileForgetful, containerSeesTheEndOfAWindowThatOnlyAReleaseEnds)
 {
     for (bool const isParked : {false, true}) {
-        ForgetfulContainer container(form, library(), kind());
-        container.startLoaded();
+        ForgetfulContainer container(form, kind(), ForgetfulContainer::Control::Loaded);
         if (isParked)
             container.deactivate();
         container.releaseEverything();
@@ -245,8 +233,7 @@ TEST_P(HostileForgetful, containerSeesTheEndOfAWindowThatOnlyAReleaseEnds)
 
 TEST_P(HostileForgetful, containerIsNotCalledByAWindowThatItForgot)
 {
-    ForgetfulContainer container(form, library(), kind());
-    container.start();
+    ForgetfulContainer container(form, kind());
     container.letGo();
     for (wchar_t const* const name : {L"hwnd", L"Caption", L"BackColor"})
         EXPECT_EQ(kit::getByName(container.kept(), name).result, S_OK);
@@ -262,8 +249,7 @@ TEST_P(HostileForgetful, containerIsNotCalledByAWindowThatItForgot)
 
 TEST_P(HostileForgetful, containerCanGoOnWithWhatItKept)
 {
-    ForgetfulContainer container(form, library(), kind());
-    container.start();
+    ForgetfulContainer container(form, kind());
     container.letGo();
     EXPECT_TRUE(FAILED(container.control.activate())) << "there is no site to be in";
     EXPECT_EQ(kit::callByName(container.kept(), L"Refresh").result, S_OK);
@@ -292,8 +278,7 @@ TEST_P(HostileForgetful, containerThatPutsTheControlAwayHasTheMouseAtOnce)
 {
     for (Way const& way : kLeaves)
         for (bool const isPressed : {false, true}) {
-            ForgetfulContainer container(form, library(), kind());
-            container.start();
+            ForgetfulContainer container(form, kind());
             ASSERT_TRUE(kit::pumpUntil([&] { // where the cursor is shows a little later
                 hover(container);
                 return ::GetCapture() == container.inputWindow();
@@ -317,8 +302,7 @@ TEST_P(HostileForgetful, containerThatPutsTheControlAwayInAPressKeepsMouseAndFoc
     constexpr UINT kPresses[] = {WM_LBUTTONDOWN, WM_KEYDOWN};
     for (Way const& way : kLeaves)
         for (UINT const press : kPresses) {
-            ForgetfulContainer container(form, library(), kind());
-            container.start();
+            ForgetfulContainer container(form, kind());
             ::SetFocus(container.inputWindow());
             container.events().forget();
             container.events().action = [&](kit::EventRecorder::Event const&) {
@@ -343,8 +327,7 @@ TEST_P(HostileForgetful, containerHearsNothingAfterTheEventInWhichItLetGo)
 {
     size_t count = 0;
     {
-        ForgetfulContainer container(form, library(), kind());
-        container.start();
+        ForgetfulContainer container(form, kind());
         useEverything(container);
         count = container.events().events.size();
     }
@@ -355,8 +338,7 @@ TEST_P(HostileForgetful, containerHearsNothingAfterTheEventInWhichItLetGo)
                                                            }}};
     for (Way const& end : kAll)
         for (size_t last = 1; last <= count; ++last) {
-            ForgetfulContainer container(form, library(), kind());
-            container.start();
+            ForgetfulContainer container(form, kind());
             size_t heard = 0;
             container.events().action = [&](kit::EventRecorder::Event const&) {
                 if (container.events().events.size() != last)

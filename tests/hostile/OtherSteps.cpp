@@ -116,45 +116,31 @@ void sendText(World& world, Slot& slot)
     ::SendMessageA(window, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
 }
 
+void hideAndShowForm(World& world, HWND)
+{
+    for (int const how : {SW_HIDE, SW_SHOWNOACTIVATE})
+        ::ShowWindow(world.form.window(), how);
+}
+
 void treatWindow(World& world, Slot& slot)
 {
+    constexpr void (*kTreatments[])(World&, HWND) = {
+        [](World&, HWND window) { ::DestroyWindow(window); },
+        [](World& own, HWND window) { ::SetParent(window, own.otherForm.window()); },
+        [](World&, HWND window) { ::ShowWindow(window, SW_HIDE); },
+        [](World&, HWND window) { ::MoveWindow(window, 0, 0, 300, 1, TRUE); },
+        [](World&, HWND window) { ::SetFocus(window); },
+        [](World&, HWND window) { ::EnableWindow(window, FALSE); },
+        [](World&, HWND window) { ::SetCapture(window); },
+        [](World& own, HWND) { ::SetCapture(own.form.window()); }, // which the window may have had
+        [](World&, HWND) { ::ReleaseCapture(); },
+        hideAndShowForm,
+        [](World&, HWND window) {
+            ::RedrawWindow(window, nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        }};
     HWND const window = slot.anyWindow(world.random);
-    switch (below(world.random, 11)) {
-    case 0:
-        ::DestroyWindow(window);
-        break;
-    case 1:
-        ::SetParent(window, world.otherForm.window());
-        break;
-    case 2:
-        ::ShowWindow(window, SW_HIDE);
-        break;
-    case 3:
-        ::MoveWindow(window, 0, 0, 300, 1, TRUE);
-        break;
-    case 4:
-        ::SetFocus(window);
-        break;
-    case 5:
-        ::EnableWindow(window, FALSE);
-        break;
-    case 6:
-        ::SetCapture(window);
-        break;
-    case 7:
-        ::SetCapture(world.form.window()); // which the window may have had
-        break;
-    case 8:
-        ::ReleaseCapture();
-        break;
-    case 9:
-        ::ShowWindow(world.form.window(), SW_HIDE);
-        ::ShowWindow(world.form.window(), SW_SHOWNOACTIVATE);
-        break;
-    default:
-        ::RedrawWindow(window, nullptr, nullptr,
-                       RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    }
+    oneOf(world.random, kTreatments)(world, window);
 }
 
 void moveCursor(World& world, Slot& slot)

@@ -88,20 +88,24 @@ protected:
         ASSERT_EQ(::GetCapture(), button.window());
     }
     void TearDown() override { calmDown(); }
+    /// The window is gone and has given the capture back.
+    void expectGone() const
+    {
+        EXPECT_FALSE(::IsWindow(button.window()));
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
 };
 
 TEST_F(End, ofAButtonThatHoldsTheCaptureGivesItBack)
 {
     button.remove();
-    EXPECT_FALSE(::IsWindow(button.window()));
-    EXPECT_EQ(::GetCapture(), nullptr);
+    expectGone();
 }
 
 TEST_F(End, byTheLastReferenceOfAButtonThatHoldsTheCaptureGivesItBack)
 {
     button.release();
-    EXPECT_FALSE(::IsWindow(button.window()));
-    EXPECT_EQ(::GetCapture(), nullptr);
+    expectGone();
 }
 
 TEST_F(End, ofAPressedButtonRaisesNothingWhenTheMouseButtonComesUp)
@@ -118,8 +122,7 @@ TEST_F(End, ofAPressedButtonRaisesNothingWhenTheMouseButtonComesUp)
 TEST_F(End, ofTheFormBeforeCloseLeavesAControlThatClosesAndGoes)
 {
     ::DestroyWindow(form.window());
-    EXPECT_FALSE(::IsWindow(button.window()));
-    EXPECT_EQ(::GetCapture(), nullptr);
+    expectGone();
     EXPECT_EQ(button.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK);
     EXPECT_EQ(button->Refresh(), S_OK);
     button.remove();
@@ -187,7 +190,7 @@ TEST_F(End, insideThePaintingThatTheEndItselfBringsIsOneEnd)
     kit::pumpPending();
     int paints = 0;
     // Hidden, the button loses the focus, and all buttons of the form are painted once more.
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&](auto const&) {
         ++paints;
         button.events().action = nullptr;
         sibling.remove();
@@ -252,7 +255,7 @@ TEST_F(End, ofTheFormUnderALaterSubclasserIsCleanToo)
 TEST_F(End, ofTheControlInsideTheLaterSubclassersProcedureIsClean)
 {
     Outsider::join(button.window());
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&](auto const&) {
         button.events().action = nullptr;
         button.remove();
     };
@@ -269,7 +272,7 @@ protected:
 TEST_P(AtlEnd, ofTheHostWindowInsideAnEventIsClean)
 {
     int times = 0;
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&](auto const&) {
         if (button.count(GetParam()) > 0 && times++ == 0)
             button.remove();
     };

@@ -55,8 +55,7 @@ protected:
 
     void TearDown() override
     {
-        ::SetFocus(
-            nullptr); // a button that goes with the focus would look for siblings among those that went
+        ::SetFocus(nullptr); // a button that goes with it would look for siblings among those that went
         for (auto const& each : buttons)
             each->events().action = nullptr;
         buttons.clear();
@@ -70,6 +69,13 @@ protected:
         buttons.back()->start();
         listenTo(*buttons.back(), number);
         return *buttons.back();
+    }
+    /// So many buttons, one of which has the focus.
+    void begin(int count, int focused)
+    {
+        for (int i = 0; i < count; ++i)
+            add();
+        ASSERT_TRUE(kit::focus(window(focused)));
     }
     void listenTo(FormButton& button, int number)
     {
@@ -111,38 +117,30 @@ protected:
 // is painted for the loss and for the gain.
 TEST_F(FocusMoves, betweenTwoButtonsRepaintEveryButtonOfTheContainer)
 {
-    add();
-    add();
-    ASSERT_TRUE(kit::focus(window(1)));
+    begin(2, 1);
     EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 2, 2, 1, 2));
     EXPECT_THAT(focusOn(window(1)), ElementsAre(2, 1, 2, 1, 1, 2));
 }
 
 TEST_F(FocusMoves, betweenTwoOfFiveButtonsRepaintsAllFive)
 {
-    for (int i = 0; i < 5; ++i)
-        add();
-    ASSERT_TRUE(kit::focus(window(2)));
+    begin(5, 2);
     EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
     EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 2, 2, 3, 2));
 }
 
 TEST_F(FocusMoves, toAndFromSomethingElseRepaintEveryButtonOnce)
 {
-    for (int i = 0; i < 5; ++i)
-        add();
+    begin(5, 3);
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    ASSERT_TRUE(kit::focus(window(3)));
     EXPECT_THAT(countsOfFocusOn(edit.get()), ElementsAre(1, 1, 2, 1, 1));
     EXPECT_THAT(countsOfFocusOn(window(3)), ElementsAre(1, 1, 2, 1, 1));
 }
 
 TEST_F(FocusMoves, awayRepaintEveryButtonBeforeTheContainerHearsOfIt)
 {
-    add();
-    add();
+    begin(2, 1);
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    ASSERT_TRUE(kit::focus(window(1)));
     static constexpr int kContainerHears = 0;
     form.record().whenNoted = [this](std::string const& call) {
         if (call == "Site.OnFocus(lost)")
@@ -154,9 +152,7 @@ TEST_F(FocusMoves, awayRepaintEveryButtonBeforeTheContainerHearsOfIt)
 
 TEST_F(FocusMoves, askTheContainerForEmbeddingsAndOthers)
 {
-    add();
-    add();
-    ASSERT_TRUE(kit::focus(window(1)));
+    begin(2, 1);
     form.record().forget();
     focusOn(window(2));
     static_assert((OLECONTF_EMBEDDINGS | OLECONTF_OTHERS) == 5);
@@ -166,10 +162,8 @@ TEST_F(FocusMoves, askTheContainerForEmbeddingsAndOthers)
 
 TEST_F(FocusMoves, takeTheParentsControlsWhereTheSiteHasNoContainer)
 {
-    for (int i = 0; i < 5; ++i)
-        add();
+    begin(5, 2);
     offerControlsThroughParent();
-    ASSERT_TRUE(kit::focus(window(2)));
     form.record().forget();
     EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
     EXPECT_THAT(form.record().calls(), Contains("Parent.Controls"));
@@ -224,10 +218,8 @@ TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfASibling)
 
 TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfTheParentsControls)
 {
-    for (int i = 0; i < 4; ++i)
-        add();
+    begin(4, 1);
     offerControlsThroughParent();
-    ASSERT_TRUE(kit::focus(window(1)));
     form.controls().provide(L"Item", [this](Variant const& index) {
         int const number = static_cast<int>(index.toLong()) + 1;
         if (number == 2)
@@ -252,11 +244,9 @@ TEST_F(FocusMoves, stopTheWalkAtAMemberOfTheParentsControlsThatIsNoObject)
 
 TEST_F(FocusMoves, surviveSiblingsThatGoDuringTheWalk)
 {
-    for (int i = 0; i < 5; ++i)
-        add();
-    ASSERT_TRUE(kit::focus(window(4)));
+    begin(5, 4);
     kit::pumpPending();
-    button(1).events().action = [this](kit::EventRecorder::Event const&) {
+    button(1).events().action = [this](auto const&) {
         button(2).remove();
         button(3).release();
     };
@@ -274,7 +264,7 @@ TEST_F(FocusMoves, seeAMouseThatMovesDuringTheWalk)
     ASSERT_TRUE(kit::focus(window(1)));
     kit::pumpPending();
     bool moved = false;
-    button(2).events().action = [&](kit::EventRecorder::Event const&) {
+    button(2).events().action = [&](auto const&) {
         if (std::exchange(moved, true))
             return;
         EXPECT_TRUE(kit::moveCursorTo(window(3), kInside.x, kInside.y));
@@ -293,9 +283,7 @@ TEST_F(FocusMoves, callOnlySiblingsThatAreFlatCommandButtons)
     sibling->hide(__uuidof(_qvFlatCommand));
     form.container().objects.push_back(sibling->unknown());
     form.container().objects.push_back(form.frame().unknown());
-    add();
-    add();
-    ASSERT_TRUE(kit::focus(window(1)));
+    begin(2, 1);
     EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3)) << "the walk goes on past them";
     EXPECT_EQ(sibling->refreshed, 0);
     std::erase(form.container().objects, sibling->unknown());
@@ -322,9 +310,7 @@ TEST_F(FocusMoves, ofAButtonWhoseContainerHasNoDefaultNotionDoNotFail)
 
 TEST_F(FocusMoves, inDesignModeRaiseNoPaint)
 {
-    add();
-    add();
-    ASSERT_TRUE(kit::focus(window(1)));
+    begin(2, 1);
     for (auto const& each : buttons)
         each->site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     form.record().forget();

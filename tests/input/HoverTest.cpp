@@ -119,7 +119,7 @@ TEST_F(Hover, hasTakenTheCaptureBeforeItTellsAndGivenItBackBeforeItTells)
 {
     HWND atEnter = nullptr;
     HWND atExit = button.window();
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&](auto const&) {
         std::string const name = button.lastEvent();
         if (name == "MouseEnter")
             atEnter = ::GetCapture();

@@ -3,8 +3,8 @@
 #include "kit/ByName.h"
 #include "kit/Controls.h"
 #include "kit/Input.h"
-#include "kit/Pump.h"
 #include "kit/NotCopied.h"
+#include "kit/Pump.h"
 
 #include <oleacc.h>
 

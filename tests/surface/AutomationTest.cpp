@@ -69,14 +69,13 @@ TEST_F(Automation, hasOneDescriptionThatIsItsDualInterface)
 
 TEST_F(Automation, findsNamesWithoutRegardToCaseAndRefusesOthers)
 {
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"caption"), id::Caption);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"CAPTION"), id::Caption);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"Font"), DISPID_FONT);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"Refresh"), id::Refresh);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"DrawButton"), id::DrawButton);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"WindowProc"), id::WindowProc);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"ShowAbout"), DISPID_ABOUTBOX);
-    EXPECT_EQ(kit::idOf(*dispatch.get(), L"OfficeXPColors"), id::OfficeXPColors);
+    constexpr std::pair<wchar_t const*, DISPID> kNames[] = {
+        {L"caption", id::Caption},       {L"CAPTION", id::Caption},
+        {L"Font", DISPID_FONT},          {L"Refresh", id::Refresh},
+        {L"DrawButton", id::DrawButton}, {L"WindowProc", id::WindowProc},
+        {L"ShowAbout", DISPID_ABOUTBOX}, {L"OfficeXPColors", id::OfficeXPColors}};
+    for (auto const& [name, known] : kNames)
+        EXPECT_EQ(kit::idOf(*dispatch.get(), name), known) << kit::narrow(name);
     EXPECT_EQ(kit::getByName(*dispatch.get(), L"Value").result, DISP_E_UNKNOWNNAME);
 }
 

@@ -3,9 +3,9 @@
 #include "kit/Fonts.h"
 #include "kit/Library.h"
 #include "kit/NamedObject.h"
+#include "kit/NotCopied.h"
 #include "typelib/Guids.h"
 #include "typelib/Members.h"
-#include "kit/NotCopied.h"
 
 #include <gtest/gtest.h>
 

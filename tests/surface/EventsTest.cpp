@@ -9,6 +9,15 @@ namespace {
 class Points : public SurfaceTest {
 protected:
     ComPtr<IConnectionPointContainer> container = as<IConnectionPointContainer>();
+    ComPtr<kit::EventRecorder> sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
+    DWORD cookie = 0;
+
+    ComPtr<IEnumConnectionPoints> enumerated()
+    {
+        ComPtr<IEnumConnectionPoints> points;
+        EXPECT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+        return points;
+    }
 
     ComPtr<IConnectionPoint> point(IID const& iid = kQvFlatCommandEvents)
     {
@@ -20,8 +29,8 @@ protected:
 
 TEST_F(Points, areThoseOfItsEventsAndOfChangedProperties)
 {
-    ComPtr<IEnumConnectionPoints> points;
-    ASSERT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+    auto const points = enumerated();
+    ASSERT_TRUE(points);
     std::vector<IID> found;
     ComPtr<IConnectionPoint> next;
     while (points->Next(1, next.put(), nullptr) == S_OK) {
@@ -36,8 +45,8 @@ TEST_F(Points, areThoseOfItsEventsAndOfChangedProperties)
 
 TEST_F(Points, areEnumeratedSeveralAtATimeSkippedAgainAndInCopies)
 {
-    ComPtr<IEnumConnectionPoints> points;
-    ASSERT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+    auto const points = enumerated();
+    ASSERT_TRUE(points);
     IConnectionPoint* several[3] = {};
     ULONG count = 77;
     EXPECT_EQ(points->Next(3, several, &count), S_FALSE);
@@ -103,13 +112,12 @@ TEST_F(Points, refuseSinksThatCannotServeAndCookiesThatNobodyHas)
 {
     auto const events = point();
     auto const wrong = kit::make<kit::ViewRecorder>();
-    DWORD cookie = 77;
+    cookie = 77;
     EXPECT_EQ(events->Advise(wrong->unknown(), &cookie), CONNECT_E_CANNOTCONNECT);
     EXPECT_EQ(cookie, 0U);
     EXPECT_EQ(point(__uuidof(IPropertyNotifySink))->Advise(wrong->unknown(), &cookie),
               CONNECT_E_CANNOTCONNECT);
     EXPECT_EQ(events->Advise(nullptr, &cookie), E_POINTER);
-    auto const sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
     EXPECT_EQ(events->Advise(sink->unknown(), nullptr), E_POINTER);
     EXPECT_EQ(sink->references(), 1U);
     EXPECT_EQ(events->Unadvise(4711), CONNECT_E_NOCONNECTION);
@@ -119,8 +127,6 @@ TEST_F(Points, refuseSinksThatCannotServeAndCookiesThatNobodyHas)
 TEST_F(Points, enumerateTheirConnections)
 {
     auto const events = point();
-    auto const sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    DWORD cookie = 0;
     ASSERT_EQ(events->Advise(sink->unknown(), &cookie), S_OK);
     ComPtr<IEnumConnections> connections;
     ASSERT_EQ(events->EnumConnections(connections.put()), S_OK);
@@ -137,8 +143,6 @@ TEST_F(Points, enumerateTheirConnections)
 
 TEST_F(Points, letGoOfTheirSinksWithTheControl)
 {
-    auto const sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    DWORD cookie = 0;
     ASSERT_EQ(point()->Advise(sink->unknown(), &cookie), S_OK);
     EXPECT_GT(sink->references(), 1U);
     container.reset();
@@ -149,13 +153,12 @@ TEST_F(Points, letGoOfTheirSinksWithTheControl)
 // Scripts make controls that no container ever shows.
 TEST_F(Points, raiseTheEventsOfAControlThatNeverHadASite)
 {
-    auto const sink = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection const joined(control.object(), kQvFlatCommandEvents, sink->unknown());
+    kit::Listening const heard(control.object(), kQvFlatCommandEvents);
     repaint();
-    EXPECT_EQ(sink->count(kPaint), 1);
+    EXPECT_EQ(heard->count(kPaint), 1);
     EXPECT_EQ(control.as<IOleObject>()->SetClientSite(nullptr), S_OK);
     repaint();
-    EXPECT_EQ(sink->count(kPaint), 2) << "a site that was never there cannot go";
+    EXPECT_EQ(heard->count(kPaint), 2) << "a site that was never there cannot go";
 }
 
 /// Events to several sinks of which one misbehaves.
@@ -178,6 +181,12 @@ protected:
         first->action = nullptr;
         second->action = nullptr;
         SurfaceTest::TearDown();
+    }
+    void leaveAndRemove()
+    {
+        firstJoined.cut();
+        secondJoined.cut();
+        control.remove();
     }
     /// Runs once, inside the first event of the first sink.
     void inEvent(std::function<void()> action)
@@ -238,8 +247,8 @@ TEST_F(Sinks, mayDeactivateTheControlInsideAnEvent)
 TEST_F(Sinks, mayCloseTheControlInsideAnEvent)
 {
     inEvent([this] {
-        control.as<IOleObject>()->Close(OLECLOSE_NOSAVE);
-        control.as<IOleObject>()->SetClientSite(nullptr);
+        control.ask(&IOleObject::Close, OLECLOSE_NOSAVE);
+        control.ask(&IOleObject::SetClientSite, nullptr);
     });
     repaint();
     EXPECT_FALSE(isShown());
@@ -280,11 +289,7 @@ TEST_F(Sinks, hearNothingOfAControlWithoutItsSiteUntilItHasOne)
 TEST_F(Sinks, mayReleaseTheControlInsideAnEventOfACallByTheHost)
 {
     auto const called = button();
-    inEvent([this] {
-        firstJoined.cut();
-        secondJoined.cut();
-        control.remove();
-    });
+    inEvent([this] { leaveAndRemove(); });
     EXPECT_EQ(called->Refresh(), S_OK);
     EXPECT_FALSE(control.object());
 }
@@ -293,11 +298,7 @@ TEST_F(Sinks, mayReleaseTheControlInsideAnEventOfACallByTheHost)
 TEST_F(Sinks, mayReleaseTheControlInsideAnEventOfItsWindow)
 {
     HWND const window = control.window();
-    inEvent([this] {
-        firstJoined.cut();
-        secondJoined.cut();
-        control.remove();
-    });
+    inEvent([this] { leaveAndRemove(); });
     ::InvalidateRect(window, nullptr, TRUE);
     ::UpdateWindow(window);
     EXPECT_FALSE(control.object()) << "the event did not come";
@@ -321,9 +322,7 @@ TEST_F(Sinks, mayReleaseTheControlInsideAPropertyNotification)
     changes->action = [&](DISPID) {
         changes->action = nullptr;
         joined.cut();
-        firstJoined.cut();
-        secondJoined.cut();
-        control.remove();
+        leaveAndRemove();
     };
     EXPECT_EQ(called->put_Caption(Bstr(L"last").get()), S_OK);
     EXPECT_FALSE(control.object());

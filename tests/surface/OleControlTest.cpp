@@ -10,8 +10,7 @@ namespace {
 class OleControlFace : public SurfaceTest {
 protected:
     ComPtr<IOleControl> face = as<IOleControl>();
-    ComPtr<kit::EventRecorder> events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection connection{control.object(), kQvFlatCommandEvents, events->unknown()};
+    kit::Listening events{control.object(), kQvFlatCommandEvents};
 
     void SetUp() override
     {
@@ -19,6 +18,11 @@ protected:
         ASSERT_TRUE(face);
         control.start();
         events->forget();
+    }
+    void freeze(std::initializer_list<BOOL> calls) const
+    {
+        for (BOOL const freezes : calls)
+            EXPECT_EQ(face->FreezeEvents(freezes), S_OK);
     }
     int paintsOfARepaint()
     {
@@ -48,20 +52,17 @@ TEST_F(OleControlFace, handsOutTheSameAcceleratorsToWhoeverAsks)
 
 TEST_F(OleControlFace, frozenTwiceIsThawedOnce)
 {
-    EXPECT_EQ(face->FreezeEvents(TRUE), S_OK);
-    EXPECT_EQ(face->FreezeEvents(TRUE), S_OK);
-    EXPECT_EQ(face->FreezeEvents(FALSE), S_OK);
+    freeze({TRUE, TRUE, FALSE});
     EXPECT_EQ(paintsOfARepaint(), 1);
 }
 
 TEST_F(OleControlFace, thawedWithoutHavingBeenFrozenStillFreezes)
 {
-    EXPECT_EQ(face->FreezeEvents(FALSE), S_OK);
-    EXPECT_EQ(face->FreezeEvents(FALSE), S_OK);
+    freeze({FALSE, FALSE});
     EXPECT_EQ(paintsOfARepaint(), 1);
-    EXPECT_EQ(face->FreezeEvents(TRUE), S_OK);
+    freeze({TRUE});
     EXPECT_EQ(paintsOfARepaint(), 0);
-    EXPECT_EQ(face->FreezeEvents(FALSE), S_OK);
+    freeze({FALSE});
     EXPECT_EQ(paintsOfARepaint(), 1);
 }
 
@@ -125,10 +126,7 @@ protected:
     }
     HRESULT translate(UINT message, WPARAM wParam)
     {
-        MSG given{};
-        given.hwnd = control.window();
-        given.message = message;
-        given.wParam = wParam;
+        MSG given{control.window(), message, wParam, 0, 0, {}};
         return as<IOleInPlaceActiveObject>()->TranslateAccelerator(&given);
     }
     int offered() { return record().countFrom("Site.TranslateAccelerator"); }
@@ -189,8 +187,7 @@ TEST_F(Keyboard, dialogsHearThatItIsAButton)
 
 TEST_F(Keyboard, theDoClickMemberClicks)
 {
-    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
+    kit::Listening const events(control.object(), kQvFlatCommandEvents);
     EXPECT_EQ(kit::invoke(*as<IDispatch>().get(), DISPID_DOCLICK, DISPATCH_METHOD).result, S_OK);
     EXPECT_EQ(events->count(kClick), 1);
 }
@@ -198,12 +195,8 @@ TEST_F(Keyboard, theDoClickMemberClicks)
 TEST_F(Keyboard, aMnemonicClicks)
 {
     EXPECT_EQ(button()->put_Caption(Bstr(L"&Click").get()), S_OK);
-    auto const events = kit::make<kit::EventRecorder>(kQvFlatCommandEvents);
-    kit::Connection const connection(control.object(), kQvFlatCommandEvents, events->unknown());
-    MSG message{};
-    message.hwnd = form.window();
-    message.message = WM_SYSCHAR;
-    message.wParam = L'c';
+    kit::Listening const events(control.object(), kQvFlatCommandEvents);
+    MSG message{form.window(), WM_SYSCHAR, L'c', 0, 0, {}};
     EXPECT_EQ(as<IOleControl>()->OnMnemonic(&message), S_OK);
     EXPECT_EQ(events->count(kClick), 1);
 }

@@ -162,13 +162,12 @@ TEST_F(Order, eventSinksBeforeAnySite)
 TEST_F(Order, aHostThatResizesByHidingAndShowing)
 {
     control.start();
-    auto const object = as<IOleObject>();
     HWND const window = control.window();
     for (long width = 50; width < 150; width += 25) {
         RECT const place{20, 30, 20 + width, 70};
         SIZEL extent = kit::himetricOf({width, 40});
         ASSERT_EQ(control.doVerb(OLEIVERB_HIDE), S_OK);
-        ASSERT_EQ(object->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+        ASSERT_EQ(control.ask(&IOleObject::SetExtent, DVASPECT_CONTENT, &extent), S_OK);
         control.site().position = place;
         ASSERT_EQ(control.doVerb(OLEIVERB_SHOW), S_OK);
         ASSERT_EQ(as<IOleInPlaceObject>()->SetObjectRects(&place, &place), S_OK);

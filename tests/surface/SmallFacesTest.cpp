@@ -153,6 +153,13 @@ protected:
             QACONTAINER_USERMODE | QACONTAINER_SUPPORTSMNEMONICS | QACONTAINER_MESSAGEREFLECT;
         answer.cbSize = sizeof answer;
     }
+    /// In one call, and then to the form.
+    void show()
+    {
+        ASSERT_EQ(activate(), S_OK);
+        ASSERT_EQ(control.initNew(), S_OK);
+        ASSERT_EQ(control.activate(), S_OK);
+    }
     HRESULT activate() { return as<IQuickActivate>()->QuickActivate(&container, &answer); }
     void cut(IID const& iid, DWORD cookie)
     {
@@ -180,11 +187,9 @@ TEST_F(Quick, joinsTheSinksThatItIsGiven)
     auto const sinkFace = query<IUnknown>(events->unknown());
     container.pUnkEventSink = sinkFace.get();
     container.pPropertyNotifySink = changes.get();
-    ASSERT_EQ(activate(), S_OK);
+    show();
     EXPECT_NE(answer.dwEventCookie, 0U);
     EXPECT_NE(answer.dwPropNotifyCookie, 0U);
-    ASSERT_EQ(control.initNew(), S_OK);
-    ASSERT_EQ(control.activate(), S_OK);
     changes->take();
     events->forget();
     EXPECT_EQ(button()->put_BackColor(1), S_OK);
@@ -200,9 +205,7 @@ TEST_F(Quick, takesTheAmbientValuesWhereTheSiteHasNone)
     auto const font = kit::newFont(L"Tahoma", 22);
     container.pFont = font.get();
     container.dwAmbientFlags = 0; // design mode
-    ASSERT_EQ(activate(), S_OK);
-    ASSERT_EQ(control.initNew(), S_OK);
-    ASSERT_EQ(control.activate(), S_OK);
+    show();
     kit::Connection const joined(control.object(), kQvFlatCommandEvents, events->unknown());
     repaint();
     EXPECT_EQ(events->count(kPaint), 0) << "it was told that the form is being designed";
@@ -213,9 +216,7 @@ TEST_F(Quick, takesTheAmbientValuesWhereTheSiteHasNone)
 
 TEST_F(Quick, worksWithASiteAlone)
 {
-    ASSERT_EQ(activate(), S_OK);
-    ASSERT_EQ(control.initNew(), S_OK);
-    ASSERT_EQ(control.activate(), S_OK);
+    show();
     EXPECT_TRUE(isShown());
 }
 

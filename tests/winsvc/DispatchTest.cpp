@@ -64,23 +64,26 @@ TEST_ON_NEW_THREAD(Dispatch, passesOnTheMessagesThatItHandlesToo)
     NMHDR header{theToolTipWindow(), 0, static_cast<UINT>(-520)};
     NMHDR other{form.window(), 5, static_cast<UINT>(-520)};
     button.extender().refuse(L"ToolTipText");
-    MSG const messages[] = {
-        {nullptr, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_LBUTTONUP, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_RBUTTONUP, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_RBUTTONDBLCLK, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_MBUTTONUP, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_MBUTTONDBLCLK, 0, MAKELPARAM(5, 5), 0, {}},
-        {nullptr, WM_SETFOCUS, 0, 0, 0, {}},
-        {nullptr, WM_KILLFOCUS, 0, 0, 0, {}},
-        {nullptr, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header), 0, {}},
-        {nullptr, WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&other), 0, {}},
+    struct Row {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam = MAKELPARAM(5, 5);
     };
-    for (MSG const& sent : messages) {
+    Row const rows[] = {{WM_MOUSEMOVE, 0},
+                        {WM_LBUTTONDOWN, MK_LBUTTON},
+                        {WM_LBUTTONUP, 0},
+                        {WM_LBUTTONDBLCLK, MK_LBUTTON},
+                        {WM_RBUTTONDOWN, MK_RBUTTON},
+                        {WM_RBUTTONUP, 0},
+                        {WM_RBUTTONDBLCLK, 0},
+                        {WM_MBUTTONDOWN, MK_MBUTTON},
+                        {WM_MBUTTONUP, 0},
+                        {WM_MBUTTONDBLCLK, 0},
+                        {WM_SETFOCUS, 0, 0},
+                        {WM_KILLFOCUS, 0, 0},
+                        {WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)},
+                        {WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&other)}};
+    for (Row const& sent : rows) {
         previous->seen.clear();
         send(sent.message, sent.wParam, sent.lParam);
         auto const& seen = previous->seen;

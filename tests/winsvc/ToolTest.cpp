@@ -193,7 +193,7 @@ TEST_ON_NEW_THREAD(Relay, happensBeforeTheControlHandlesTheMessage)
 {
     ToolTipWatch const watch;
     size_t relayedBefore = 0;
-    button.events().action = [&](kit::EventRecorder::Event const&) {
+    button.events().action = [&](auto const&) {
         if (button.lastEvent() == "MouseDown")
             relayedBefore = watch.relayed().size();
     };
