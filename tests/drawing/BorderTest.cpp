@@ -19,27 +19,31 @@ protected:
     }
 };
 
+/// What a surface of that size shows with so many rings.
+std::string bordered(int width, int height, long rings)
+{
+    BoundSurface bound(width, height);
+    bound.surface.Draw3DBorder(kRed, kBlue, rings);
+    return bound.picture();
+}
+
 TEST(Draw3DBorder, ofOneRingHasTheTopColourInTheTopLeftCornerAlone)
 {
-    BoundSurface bound(7, 5);
-    bound.surface.Draw3DBorder(kRed, kBlue, 1);
-    EXPECT_EQ(bound.picture(), "RRRRRRB\n"
-                               "R.....B\n"
-                               "R.....B\n"
-                               "R.....B\n"
-                               "BBBBBBB\n");
+    EXPECT_EQ(bordered(7, 5, 1), "RRRRRRB\n"
+                                 "R.....B\n"
+                                 "R.....B\n"
+                                 "R.....B\n"
+                                 "BBBBBBB\n");
 }
 
 TEST(Draw3DBorder, ofTwoRingsAddsTheSameRingOnePixelFurtherIn)
 {
-    BoundSurface bound(8, 6);
-    bound.surface.Draw3DBorder(kRed, kBlue, 2);
-    EXPECT_EQ(bound.picture(), "RRRRRRRB\n"
-                               "RRRRRRBB\n"
-                               "RR....BB\n"
-                               "RR....BB\n"
-                               "RBBBBBBB\n"
-                               "BBBBBBBB\n");
+    EXPECT_EQ(bordered(8, 6, 2), "RRRRRRRB\n"
+                                 "RRRRRRBB\n"
+                                 "RR....BB\n"
+                                 "RR....BB\n"
+                                 "RBBBBBBB\n"
+                                 "BBBBBBBB\n");
 }
 
 TEST_F(BorderCalls, noRingIsDrawnForAWidthOfZeroOrLessAndTheResultIsAnEmptyVariant)

@@ -57,16 +57,13 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterOneWhoseReleaseWasAnothersMouse)
 TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatOpenedADialog)
 {
     enter(button());
-    button().events().action = [&](auto const&) {
-        if (button().lastEvent() != "MouseDown")
-            return;
-        button().events().action = nullptr;
+    button().once("MouseDown", [&] {
         kit::runDialog(form.window(), {150, 120}, [](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
             kit::release(MouseButton::Left);
             EXPECT_TRUE(kit::pumpUntil([] { return ::GetKeyState(VK_LBUTTON) >= 0; }));
         });
-    };
+    });
     pressDown(button());
     ASSERT_FALSE(button().events().action) << "no dialog came";
     EXPECT_EQ(button().count("MouseUp"), 0);
@@ -89,10 +86,8 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatNobodyHeldTheMouseFor)
 TEST_P(Clicks, needAPressOfTheirOwnAfterAMoveWithoutTheButton)
 {
     enter(button());
-    LPARAM const at = MAKELPARAM(kInside.x, kInside.y);
-    for (auto const& [message, keys] :
-         {std::pair{UINT{WM_LBUTTONDOWN}, WPARAM{MK_LBUTTON}}, {WM_MOUSEMOVE, MK_RBUTTON}, {WM_LBUTTONUP, 0}})
-        ::SendMessageA(button().window(), message, keys, at);
+    kit::sendMouse(button().window(), kInside,
+                   {{WM_LBUTTONDOWN, MK_LBUTTON}, {WM_MOUSEMOVE, MK_RBUTTON}, {WM_LBUTTONUP, 0}});
     EXPECT_EQ(button().count("MouseUp"), 1) << "which every release raises";
     EXPECT_EQ(button().count("Click"), 0);
 }
@@ -100,10 +95,8 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterAMoveWithoutTheButton)
 TEST_P(Clicks, needAPressOfTheirOwnAfterWindowsEndedWhatWasGoingOn)
 {
     enter(button());
-    LPARAM const at = MAKELPARAM(kInside.x, kInside.y);
-    ::SendMessageA(button().window(), WM_LBUTTONDOWN, MK_LBUTTON, at);
-    ::SendMessageA(button().window(), WM_CANCELMODE, 0, 0);
-    ::SendMessageA(button().window(), WM_LBUTTONUP, 0, at);
+    kit::sendMouse(button().window(), kInside,
+                   {{WM_LBUTTONDOWN, MK_LBUTTON}, {WM_CANCELMODE, 0}, {WM_LBUTTONUP, 0}});
     EXPECT_EQ(button().count("Click"), 0);
 }
 
@@ -155,17 +148,14 @@ TEST_F(LostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
 {
     std::string look;
     int exits = 0;
-    button.events().action = [&](auto const&) {
-        if (button.lastEvent() != "Click")
-            return;
-        button.events().action = nullptr;
+    button.once("Click", [&] {
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
             EXPECT_TRUE(kit::pumpUntil([&] { return button.count("MouseExit") > 0; }));
             look = button.look();
             exits = button.count("MouseExit");
         });
-    };
+    });
     pressDown(button);
     letUp(button);
     EXPECT_EQ(look, "normal");

@@ -9,23 +9,10 @@ namespace {
 
 constexpr POINT kAway{1200, 1000}; // outside every test window
 
-struct ButtonFlags {
-    DWORD down;
-    DWORD up;
-};
-
-ButtonFlags flagsOf(MouseButton button)
-{
-    switch (button) {
-    case MouseButton::Left:
-        return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
-    case MouseButton::Right:
-        return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP};
-    case MouseButton::Middle:
-        break;
-    }
-    return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
-}
+/// By button: what goes down, and what comes up.
+constexpr DWORD kFlags[][2] = {{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
+                               {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP},
+                               {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}};
 
 bool moveCursor(POINT target)
 {
@@ -47,9 +34,15 @@ bool moveCursorTo(HWND window, int x, int y)
 
 bool moveCursorAway() { return moveCursor(kAway); }
 
-void press(MouseButton button) { ::mouse_event(flagsOf(button).down, 0, 0, 0, 0); }
+void press(MouseButton button) { ::mouse_event(kFlags[static_cast<int>(button)][0], 0, 0, 0, 0); }
 
-void release(MouseButton button) { ::mouse_event(flagsOf(button).up, 0, 0, 0, 0); }
+void release(MouseButton button) { ::mouse_event(kFlags[static_cast<int>(button)][1], 0, 0, 0, 0); }
+
+void sendMouse(HWND window, POINT at, std::initializer_list<std::pair<UINT, WPARAM>> messages)
+{
+    for (auto const& [message, keys] : messages)
+        ::SendMessageA(window, message, keys, MAKELPARAM(at.x, at.y));
+}
 
 bool dragFrom(HWND window, POINT from, POINT to)
 {

@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <initializer_list>
+#include <utility>
+
 namespace quillet::kit {
 
 /// Moves the mouse pointer to a point of a window and waits until it is there.
@@ -16,6 +19,9 @@ void release(MouseButton button);
 /// Presses the left button over a point of a window, waits until the thread has heard of it, and moves the
 /// cursor to another point: the beginning of a drag. False where the system does not follow.
 bool dragFrom(HWND window, POINT from, POINT to);
+
+/// Sends mouse messages with what they say is held down, all at one point: no real input.
+void sendMouse(HWND window, POINT at, std::initializer_list<std::pair<UINT, WPARAM>> messages);
 
 /// Presses and releases a key.
 void typeKey(BYTE virtualKey);

@@ -61,6 +61,16 @@ int Listener::count(std::string_view event) const
         m_events->events, [&](auto const& each) { return eventName(m_names, each.id) == event; }));
 }
 
+void Listener::once(std::string const& event, std::function<void()> const& act)
+{
+    m_events->action = [this, event, act](auto const&) {
+        if (lastEvent() != event)
+            return;
+        m_events->action = nullptr;
+        act();
+    };
+}
+
 Names Listener::happened()
 {
     Names names;

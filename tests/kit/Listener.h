@@ -36,6 +36,8 @@ public:
     /// The name of the last event; empty when there was none.
     std::string lastEvent() const;
     int count(std::string_view event) const;
+    /// Acts once, inside the next event of that name.
+    void once(std::string const& event, std::function<void()> const& act);
     /// The events since the last time. Moves that follow each other stand as one: how many messages a
     /// movement makes is the system's choice.
     Names happened();

@@ -2,6 +2,7 @@
 #include "BuiltLibrary.h"
 #include "base/Bstr.h"
 #include "base/Variant.h"
+#include "kit/Counterpart.h"
 #include "typelib/DispatchIds.h"
 #include "typelib/Interfaces.h"
 
@@ -26,17 +27,8 @@ template <> struct StoredAs<VARIANT> {
 template <class T> using Stored = typename StoredAs<T>::Type;
 
 /// Keeps what it is given.
-class CalledCommand final : public _qvFlatCommand {
+class CalledCommand final : public kit::DispatchCounterpart<_qvFlatCommand> {
 public:
-    STDMETHODIMP QueryInterface(REFIID, void** object) final
-    {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() final { return 1; }
-    STDMETHODIMP_(ULONG) Release() final { return 1; }
-    STDMETHODIMP GetTypeInfoCount(UINT*) final { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) final { return E_NOTIMPL; }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) final
     {
         return m_info->GetIDsOfNames(names, count, ids);
@@ -116,14 +108,14 @@ protected:
     HRESULT get(DISPID id, Variant& value)
     {
         DISPPARAMS none{};
-        return object.Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, value.put(), nullptr, nullptr);
+        return object->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, value.put(), nullptr, nullptr);
     }
 
     HRESULT set(DISPID id, Variant value, WORD how = DISPATCH_PROPERTYPUT)
     {
         DISPID target = DISPID_PROPERTYPUT;
         DISPPARAMS parameters{value.address(), &target, 1, 1};
-        return object.Invoke(id, IID_NULL, 0, how, &parameters, nullptr, nullptr, nullptr);
+        return object->Invoke(id, IID_NULL, 0, how, &parameters, nullptr, nullptr, nullptr);
     }
 
     /// What a member holds after it was set to value, through both directions of late binding.
@@ -135,7 +127,7 @@ protected:
         return result;
     }
 
-    CalledCommand object;
+    ComPtr<CalledCommand> object = kit::make<CalledCommand>();
 };
 
 using namespace dispid::qvFlatCommand;
@@ -145,23 +137,23 @@ TEST_F(Invoke, aStringSetByNameComesBack)
     OLECHAR name[] = L"caption"; // in another case than published
     LPOLESTR names[] = {name};
     DISPID id = 0;
-    ASSERT_EQ(object.GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK);
+    ASSERT_EQ(object->GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK);
     EXPECT_EQ(id, Caption);
     EXPECT_EQ(roundTrip(id, Variant::ofString(L"&Save")).toString().view(), L"&Save");
-    EXPECT_EQ(object.m_Caption.view(), L"&Save");
+    EXPECT_EQ(object->m_Caption.view(), L"&Save");
 }
 
 TEST_F(Invoke, aBooleanComesBackAsBoolean)
 {
     Variant const result = roundTrip(Enabled, Variant::ofBool(true));
     EXPECT_EQ(result.type(), VT_BOOL);
-    EXPECT_EQ(object.m_Enabled, VARIANT_TRUE);
+    EXPECT_EQ(object->m_Enabled, VARIANT_TRUE);
 }
 
 TEST_F(Invoke, aSystemColourKeepsItsTopBit)
 {
     Variant const result = roundTrip(BackColor, Variant::ofLong(static_cast<long>(0x8000000F)));
-    EXPECT_EQ(object.m_BackColor, 0x8000000Fu);
+    EXPECT_EQ(object->m_BackColor, 0x8000000Fu);
     EXPECT_TRUE(result.type() == VT_I4 || result.type() == VT_UI4) << result.type();
     EXPECT_EQ(static_cast<unsigned long>(result.get().lVal), 0x8000000Ful);
 }
@@ -169,7 +161,7 @@ TEST_F(Invoke, aSystemColourKeepsItsTopBit)
 TEST_F(Invoke, anEnumerationTravelsAsLong)
 {
     Variant const result = roundTrip(BorderStyle, Variant::ofLong(1));
-    EXPECT_EQ(object.m_BorderStyle, pdsButtonBorderStyleConstants::Fixed);
+    EXPECT_EQ(object->m_BorderStyle, pdsButtonBorderStyleConstants::Fixed);
     EXPECT_EQ(result.type(), VT_I4);
     EXPECT_EQ(result.toLong(), 1);
 }
@@ -179,7 +171,7 @@ TEST_F(Invoke, aVariantKeepsItsOwnType)
     Variant const result = roundTrip(BorderWidth, Variant::ofShort(3));
     EXPECT_EQ(result.type(), VT_I2);
     EXPECT_EQ(result.toShort(), 3);
-    EXPECT_EQ(object.m_BorderWidth.type(), VT_I2);
+    EXPECT_EQ(object->m_BorderWidth.type(), VT_I2);
 }
 
 TEST_F(Invoke, anObjectIsSetByReferenceAndComesBackTheSame)
@@ -196,7 +188,7 @@ TEST_F(Invoke, anObjectIsSetByReferenceAndComesBackTheSame)
         S_OK);
 
     ASSERT_EQ(set(Font, Variant::ofDispatch(font.get()), DISPATCH_PROPERTYPUTREF), S_OK);
-    EXPECT_EQ(object.m_Font.get(), font.get());
+    EXPECT_EQ(object->m_Font.get(), font.get());
     Variant result;
     ASSERT_EQ(get(Font, result), S_OK);
     EXPECT_EQ(result.type(), VT_DISPATCH);
@@ -215,8 +207,8 @@ TEST_F(Invoke, aMethodWithoutArgumentsIsCalled)
 {
     DISPPARAMS none{};
     for (DISPID const id : {ShowAbout, Refresh})
-        EXPECT_EQ(object.Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr), S_OK);
-    EXPECT_EQ(object.m_called, (std::vector<DISPID>{ShowAbout, Refresh}));
+        EXPECT_EQ(object->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr), S_OK);
+    EXPECT_EQ(object->m_called, (std::vector<DISPID>{ShowAbout, Refresh}));
 }
 
 TEST_F(Invoke, theWindowProcedureTakesItsArgumentsByValueAndByReference)
@@ -233,22 +225,22 @@ TEST_F(Invoke, theWindowProcedureTakesItsArgumentsByValueAndByReference)
     DISPPARAMS parameters{arguments, nullptr, 4, 0};
     Variant result;
     ASSERT_EQ(
-        object.Invoke(WindowProc, IID_NULL, 0, DISPATCH_METHOD, &parameters, result.put(), nullptr, nullptr),
+        object->Invoke(WindowProc, IID_NULL, 0, DISPATCH_METHOD, &parameters, result.put(), nullptr, nullptr),
         S_OK);
-    EXPECT_EQ(object.m_message, (std::vector<LONG>{1, 0x200, 3, 4}));
+    EXPECT_EQ(object->m_message, (std::vector<LONG>{1, 0x200, 3, 4}));
     EXPECT_EQ(result.toLong(), 42);
 }
 
 TEST_F(Invoke, aTextThatIsNoNumberIsATypeMismatch)
 {
     EXPECT_EQ(set(CaptionIndent, Variant::ofString(L"wide")), DISP_E_TYPEMISMATCH);
-    EXPECT_EQ(object.m_CaptionIndent, 0);
+    EXPECT_EQ(object->m_CaptionIndent, 0);
 }
 
 TEST_F(Invoke, aNumberBeyondAnIntegerOverflows)
 {
     EXPECT_EQ(set(CaptionIndent, Variant::ofLong(40000)), DISP_E_OVERFLOW);
-    EXPECT_EQ(object.m_CaptionIndent, 0);
+    EXPECT_EQ(object->m_CaptionIndent, 0);
 }
 
 TEST_F(Invoke, aNumberInAStringConverts)
@@ -261,7 +253,7 @@ TEST_F(Invoke, anUnknownNameIsRefused)
     OLECHAR name[] = L"NoSuchMember";
     LPOLESTR names[] = {name};
     DISPID id = 0;
-    EXPECT_EQ(object.GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(object->GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
     EXPECT_EQ(id, DISPID_UNKNOWN);
 }
 

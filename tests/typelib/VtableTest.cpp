@@ -2,6 +2,7 @@
 // the library says it is, and must be the one that the library names.
 #include "BuiltLibrary.h"
 #include "base/Bstr.h"
+#include "kit/Counterpart.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -14,19 +15,8 @@ namespace quillet {
 namespace {
 
 /// Implements no late binding; every other method notes its name.
-template <class Interface> class Recorder : public Interface {
+template <class Interface> class Recorder : public kit::DispatchCounterpart<Interface> {
 public:
-    STDMETHODIMP QueryInterface(REFIID, void**) final { return E_NOINTERFACE; }
-    STDMETHODIMP_(ULONG) AddRef() final { return 1; }
-    STDMETHODIMP_(ULONG) Release() final { return 1; }
-    STDMETHODIMP GetTypeInfoCount(UINT*) final { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) final { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) final { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) final
-    {
-        return E_NOTIMPL;
-    }
-
     std::wstring last;
 
 protected:
@@ -101,7 +91,7 @@ HRESULT callAt(void* object, FUNCDESC const& function)
 
 template <class Object> void expectSameSlots(GUID const& id, UINT functions)
 {
-    Object object;
+    auto const object = kit::make<Object>();
     ComPtr<ITypeInfo> const info = builtVtable(id);
     ASSERT_EQ(TypeAttributes(*info.get())->cFuncs, functions);
     EXPECT_EQ(TypeAttributes(*info.get())->cbSizeVft, (functions + 7) * sizeof(void*));
@@ -109,9 +99,9 @@ template <class Object> void expectSameSlots(GUID const& id, UINT functions)
         FunctionDescription const function(*info.get(), i);
         Bstr name;
         check(info->GetDocumentation(function->memid, name.put(), nullptr, nullptr, nullptr));
-        object.last = L"nothing";
-        EXPECT_EQ(callAt(&object, *function), S_OK);
-        EXPECT_EQ(object.last, prefixOf(function->invkind) + std::wstring(name.view()));
+        object->last = L"nothing";
+        EXPECT_EQ(callAt(static_cast<IDispatch*>(object.get()), *function), S_OK);
+        EXPECT_EQ(object->last, prefixOf(function->invkind) + std::wstring(name.view()));
     }
 }
 
