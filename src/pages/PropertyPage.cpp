@@ -11,6 +11,12 @@
 
 namespace quillet {
 
+namespace {
+
+bool isThere(Variant const& change) noexcept { return change.get().vt != VT_EMPTY; }
+
+} // namespace
+
 IUnknown* PropertyPage::inheritedInterface(REFIID iid) noexcept
 {
     return iid == IID_IPropertyPage ? static_cast<IPropertyPage2*>(this) : nullptr;
@@ -80,8 +86,10 @@ HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects)
             deref(objects);
         m_objects.set(objects, count);
         m_changes.clear();
+        m_properties.clear();
         m_properties = m_objects.properties();
         std::erase_if(m_properties, [this](DescribedProperty const& each) { return !edits(each); });
+        m_changes.resize(m_properties.size());
     });
 }
 
@@ -102,7 +110,7 @@ HRESULT PropertyPage::Move(LPCRECT place)
     });
 }
 
-HRESULT PropertyPage::IsPageDirty() { return m_changes.empty() ? S_FALSE : S_OK; }
+HRESULT PropertyPage::IsPageDirty() { return std::ranges::any_of(m_changes, isThere) ? S_OK : S_FALSE; }
 
 HRESULT PropertyPage::Apply()
 {
@@ -112,17 +120,18 @@ HRESULT PropertyPage::Apply()
 /// A change that an object refuses stays, so that the user can mend it.
 void PropertyPage::apply()
 {
-    while (!m_changes.empty()) {
-        auto const change = m_changes.begin();
-        std::wstring const& name = m_properties[change->first].name;
-        std::wstring reason = m_objects.put(name, change->second);
+    for (size_t i = 0; i < m_changes.size(); ++i) {
+        if (!isThere(m_changes[i]))
+            continue;
+        std::wstring const& name = m_properties[i].name;
+        std::wstring reason = m_objects.put(name, m_changes[i]);
         if (!reason.empty()) {
-            goTo(change->first);
+            goTo(i);
             ::MessageBoxW(m_window ? m_window->handle() : nullptr, reason.insert(0, name + L": ").c_str(),
                           m_title, MB_OK | MB_ICONEXCLAMATION);
             throw RunTimeError(E_FAIL);
         }
-        m_changes.erase(change);
+        m_changes[i] = {};
     }
 }
 
@@ -158,13 +167,13 @@ HRESULT PropertyPage::EditProperty(DISPID id)
 
 Variant PropertyPage::shown(size_t property) const
 {
-    auto const changed = m_changes.find(property);
-    return changed == m_changes.end() ? m_objects.get(m_properties[property].name) : changed->second;
+    Variant const& changed = m_changes[property];
+    return isThere(changed) ? changed : m_objects.get(m_properties[property].name);
 }
 
 void PropertyPage::change(size_t property, Variant value)
 {
-    m_changes.insert_or_assign(property, std::move(value));
+    m_changes[property] = std::move(value);
     if (ComPtr<IPropertyPageSite> const site = m_site)
         site->OnStatusChange(PROPPAGESTATUS_DIRTY | PROPPAGESTATUS_VALIDATE);
 }

@@ -11,9 +11,7 @@
 #include <ocidl.h>
 #include <windows.h>
 
-#include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace quillet {
@@ -64,7 +62,7 @@ private:
     ComPtr<IPropertyPageSite> m_site;
     EditedObjects m_objects;
     std::vector<DescribedProperty> m_properties;
-    std::map<size_t, Variant> m_changes; ///< by index of the property
+    std::vector<Variant> m_changes; ///< of each property: the value not applied yet, else nothing
     std::unique_ptr<PageWindow> m_window;
 };
 
