@@ -1,8 +1,5 @@
 // The caption of qvFlatCommand: where it stands, and its access key.
 #include "FlatButton.h"
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
-#include "kit/Pump.h"
 
 namespace quillet::flat {
 namespace {
@@ -11,51 +8,30 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-using Key = std::pair<int, wchar_t>; // fVirt and key
+using Key = kit::AccessKey;
 
-class FlatCaption : public FlatTest {
+class FlatCaption : public ShownTest {
 protected:
-    kit::FakeForm form;
-    ShownButton button{library(), form};
-
+    void expect(Look const& look) const { EXPECT_EQ(button.differencesFrom(look), ""); }
     /// The caption is set and shown as the expectation says.
     void expectShown(wchar_t const* caption)
     {
+        SCOPED_TRACE(kit::narrow(caption));
         button.setCaption(caption);
-        Look look = normalLook();
-        look.caption = caption;
-        EXPECT_EQ(button.differencesFrom(look), "") << kit::narrow(caption);
+        expect(normalLook(caption));
     }
-    std::vector<Key> accelerators()
-    {
-        CONTROLINFO info{};
-        info.cb = sizeof info;
-        info.dwFlags = 0xFFFF;
-        EXPECT_EQ(button.as<IOleControl>()->GetControlInfo(&info), S_OK);
-        EXPECT_EQ(info.dwFlags, 0U);
-        std::vector<ACCEL> entries(info.cAccel);
-        if (info.cAccel) {
-            EXPECT_EQ(::CopyAcceleratorTableW(info.hAccel, entries.data(), info.cAccel), info.cAccel);
-        }
-        std::vector<Key> keys;
-        for (ACCEL const& entry : entries)
-            keys.emplace_back(entry.fVirt, static_cast<wchar_t>(entry.key));
-        return keys;
-    }
+    std::vector<Key> accelerators() const { return kit::accessKeys(button.object()); }
 };
 
 // Were there no font, empty pictures would be equal.
 TEST_F(FlatCaption, isVisibleInTheExpectationItselfAndSoIsTheUnderline)
 {
-    Look look = normalLook();
     kit::Canvas without(120, 40);
     kit::Canvas plain(120, 40);
     kit::Canvas marked(120, 40);
-    paint(without, look, *formFont().get());
-    look.caption = L"Save";
-    paint(plain, look, *formFont().get());
-    look.caption = L"&Save";
-    paint(marked, look, *formFont().get());
+    paint(without, normalLook(), *formFont().get());
+    paint(plain, normalLook(L"Save"), *formFont().get());
+    paint(marked, normalLook(L"&Save"), *formFont().get());
     EXPECT_NE(kit::differences(without, plain), "");
     EXPECT_NE(kit::differences(plain, marked), "");
 }
@@ -113,14 +89,12 @@ TEST_F(FlatCaption, hasItsMarkAtThe32767thCharacterAtMost)
 TEST_F(FlatCaption, withAMarkBeyond16BitsEndsThePaintSilently)
 {
     expectShown(L"&Old");
-    Look look = normalLook();
-    look.caption = L"&Old";
     std::wstring const before(32767, L' ');
     button.events().forget();
     EXPECT_EQ(button->put_Caption(Bstr(before + L"&k").get()), S_OK);
     EXPECT_EQ(button.events().count(kPaint), 1);
     EXPECT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.differencesFrom(look), "") << "a paint that ends early shows nothing";
+    expect(normalLook(L"&Old")); // a paint that ends early shows nothing
     EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'o'}, Key{FALT, L'O'}));
     expectShown(L"&New");
 }
@@ -129,23 +103,21 @@ TEST_F(FlatCaption, longerThanTheButtonIsCutAtTheBorder)
 {
     expectShown(L"A rather &long caption that goes on and on and on");
     EXPECT_EQ(button->put_CaptionIndent(100), S_OK);
-    Look look = normalLook();
-    look.caption = button.caption();
+    Look look = normalLook(button.caption());
     look.indent = 100;
-    EXPECT_EQ(button.differencesFrom(look), "");
+    expect(look);
 }
 
 TEST_F(FlatCaption, startsItsIndentInsideTheBorderOfTheState)
 {
     button.setCaption(L"&Indented");
     for (short const indent : std::initializer_list<short>{0, 1, 25, -3}) {
+        SCOPED_TRACE(indent);
         EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
-        EXPECT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
-        Look look = normalLook();
-        look.caption = L"&Indented";
+        button.setWidth(3);
+        Look look = withBorder(3, normalLook(L"&Indented"));
         look.indent = indent;
-        look.borderWidth = 3;
-        EXPECT_EQ(button.differencesFrom(look), "") << indent;
+        expect(look);
     }
 }
 
@@ -154,16 +126,13 @@ TEST_F(FlatCaption, isCentredBothWaysAndRoundedToTheEvenPixel)
 {
     button.setCaption(L"Cen&tre");
     EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Look look = normalLook();
-    look.caption = L"Cen&tre";
+    Look look = normalLook(L"Cen&tre");
     look.centred = true;
     for (int extra = 0; extra < 4; ++extra) {
-        button.site().position = {20, 30, 140 + extra, 70 + extra};
-        ASSERT_EQ(
-            button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-            S_OK);
+        SCOPED_TRACE(extra);
+        button.place({20, 30, 140 + extra, 70 + extra});
         ASSERT_EQ(button->Refresh(), S_OK);
-        EXPECT_EQ(button.differencesFrom(look), "") << extra;
+        expect(look);
     }
 }
 
@@ -172,10 +141,9 @@ TEST_F(FlatCaption, centredIgnoresTheIndent)
     button.setCaption(L"Centre");
     EXPECT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
     EXPECT_EQ(button->put_CaptionIndent(40), S_OK);
-    Look look = normalLook();
-    look.caption = L"Centre";
+    Look look = normalLook(L"Centre");
     look.centred = true;
-    EXPECT_EQ(button.differencesFrom(look), "");
+    expect(look);
 }
 
 // What the code page has no place for is drawn as something else, which has another width.
@@ -183,12 +151,12 @@ TEST_F(FlatCaption, standsWhereItStandsWhenItIsWrittenInTheCodePage)
 {
     for (wchar_t const* const caption : {L"\x4E2D\x0E01 &Save", L"S&\x4E2D\x0E01ve", L"\x4E2D\x0416\x4E2D"})
         for (bool const centred : {false, true}) {
+            SCOPED_TRACE(kit::narrow(caption) + (centred ? " centred" : ""));
             button.setCaption(caption);
             EXPECT_EQ(button->put_CentreCaption(centred ? VARIANT_TRUE : VARIANT_FALSE), S_OK);
-            Look look = normalLook();
-            look.caption = kit::inCodePage(caption);
+            Look look = normalLook(kit::inCodePage(caption));
             look.centred = centred;
-            EXPECT_EQ(button.differencesFrom(look), "") << kit::narrow(caption) << centred;
+            expect(look);
         }
 }
 
@@ -229,32 +197,29 @@ TEST_F(FlatCaption, takesTheUnderlineOffWithoutTellingOfAChange)
 TEST_F(FlatCaption, doesNotUnderlineTheFormsOwnFontNorTheFontOfASibling)
 {
     auto const shared = formFont();
-    button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(shared.get()).get()));
-    ShownButton sibling(library(), form, {20, 80, 140, 120});
+    button.offerFont(shared.get());
+    ShownButton sibling(library(), form, kPlaceBelow);
     button.setFont(shared.get());
     sibling.setFont(shared.get());
     button.setCaption(L"&One");
     sibling.setCaption(L"T&wo");
     EXPECT_FALSE(kit::isUnderlined(*shared.get()));
-    Look look = normalLook();
-    look.caption = L"&One";
-    EXPECT_EQ(button.differencesFrom(look), "");
+    expect(normalLook(L"&One"));
 }
 
 TEST_F(FlatCaption, tellsTheContainerOfAccessKeysOnlyWhenTheyChange)
 {
     form.record().forget();
+    auto const told = [&] { return form.record().count("Site.OnControlInfoChanged"); };
     button.setCaption(L"&Save");
-    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 1);
+    EXPECT_EQ(told(), 1);
     ASSERT_EQ(button->Refresh(), S_OK);
-    button.setCaption(L"&Store");
-    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 1);
-    button.setCaption(L"S&tore");
-    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 2);
-    button.setCaption(L"Store");
-    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 3);
+    for (auto const& [caption, times] : {std::pair{L"&Store", 1}, {L"S&tore", 2}, {L"Store", 3}}) {
+        button.setCaption(caption);
+        EXPECT_EQ(told(), times);
+    }
     kit::pumpPending();
-    EXPECT_EQ(form.record().count("Site.OnControlInfoChanged"), 3);
+    EXPECT_EQ(told(), 3);
 }
 
 } // namespace

@@ -1,104 +1,76 @@
 // Which qvFlatCommand is emphasised: the one with the focus, or else the form's default button.
 #include "FlatButton.h"
-#include "kit/Input.h"
+#include "kit/HostWindow.h"
 #include "kit/MessageWatch.h"
-#include "kit/Pump.h"
 
 namespace quillet::flat {
 namespace {
 
-constexpr IID kHostButton = {0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
-
-/// A control of the form's own that is asked for by one interface.
-class HostControl final : public kit::Counterpart<IDispatch> {
-public:
-    explicit HostControl(IID const& known) : m_known(known) {}
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override
-    {
-        *count = 0;
-        return S_OK;
-    }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
-    {
-        return DISP_E_MEMBERNOTFOUND;
-    }
-
-private:
-    void* faceOf(REFIID iid) noexcept override
-    {
-        return iid == m_known ? static_cast<IDispatch*>(this) : Counterpart::faceOf(iid);
-    }
-    IID m_known;
-};
-
-Look emphasised(Look look)
-{
-    look.emphasis = 1;
-    return look;
-}
-
-Look focused(Look look)
-{
-    look.emphasis = 1;
-    look.frame = 0x808080;
-    return look;
-}
-
-class FlatEmphasis : public FlatTest {
+/// A default button while something else has the focus.
+class FlatEmphasis : public ShownTest {
 protected:
-    kit::FakeForm form;
     UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
-    ShownButton button{library(), form};
 
-    void SetUp() override
+    FlatEmphasis()
     {
-        FlatTest::SetUp();
-        ASSERT_TRUE(kit::focus(edit.get()));
-        button.site().extender().offer(L"Default", Variant::ofBool(true));
+        EXPECT_TRUE(kit::focus(edit.get()));
+        setDefault(true);
     }
+    void setDefault(bool mark) { button.site().extender().offer(L"Default", Variant::ofBool(mark)); }
     void setActive(IDispatch* control)
     {
         form.object().offer(L"ActiveControl", Variant::ofDispatch(control));
     }
-    std::string repaintedAgainst(Look const& look)
+    /// Another control is active, and the button shows that look.
+    void checkActive(IDispatch* control, Look const& look, char const* what = "")
+    {
+        setActive(control);
+        expect(look, what);
+        setActive(nullptr);
+    }
+    /// A repaint shows that look.
+    void expect(Look const& look, char const* what = "")
     {
         EXPECT_EQ(button->Refresh(), S_OK);
-        return button.differencesFrom(look);
+        EXPECT_EQ(button.differencesFrom(look), "") << what;
+    }
+    void expectEmphasis() { expect(emphasised(normalLook())); }
+    void expectNone() { expect(normalLook()); }
+    /// A control of the form's own.
+    ComPtr<kit::NamedObject> hostControl(REFIID knownBy) const
+    {
+        auto control = kit::make<kit::NamedObject>("Host", form.sharedRecord());
+        control->pretend(knownBy);
+        return control;
     }
     /// Focus of a control of this library, as the form's extender of it and as the control itself.
     void checkSibling(CLSID const& classId, bool emphasis)
     {
-        kit::Hosted sibling(library(), classId, form, {20, 80, 140, 120}, L"Sibling");
+        kit::Hosted sibling(library(), classId, form, kPlaceBelow, L"Sibling");
         ASSERT_TRUE(sibling.object());
         sibling.start();
         Look const look = emphasis ? emphasised(normalLook()) : normalLook();
-        setActive(sibling.as<IDispatch>().get());
-        EXPECT_EQ(repaintedAgainst(look), "") << "as the control itself";
-        setActive(&sibling.site().extender());
-        EXPECT_EQ(repaintedAgainst(look), "") << "as its extender";
-        setActive(nullptr);
+        checkActive(sibling.as<IDispatch>().get(), look, "as the control itself");
+        checkActive(&sibling.site().extender(), look, "as its extender");
     }
 };
 
 TEST_F(FlatEmphasis, aButtonThatIsNotDefaultAndHasNoFocusHasNone)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    setDefault(false);
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, aFocusedButtonsBorderOf1IsOf2AndItsCaptionDoesNotMove)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    setDefault(false);
     button.setCaption(L"F&ocus");
-    Look look = normalLook();
-    look.caption = L"F&ocus";
-    EXPECT_EQ(repaintedAgainst(look), "");
+    Look look = normalLook(L"F&ocus");
+    expect(look);
     POINT const before = captionPlace(look, button.size(), *button.font().get());
     ASSERT_TRUE(kit::focus(button.window()));
     look = focused(look);
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
     POINT const after = captionPlace(look, button.size(), *button.font().get());
     EXPECT_EQ(before.x, after.x);
     EXPECT_EQ(before.y, after.y);
@@ -106,29 +78,29 @@ TEST_F(FlatEmphasis, aFocusedButtonsBorderOf1IsOf2AndItsCaptionDoesNotMove)
 
 TEST_F(FlatEmphasis, aFocusedButtonLosesItAgainWithTheFocus)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    setDefault(false);
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "");
+    expect(focused(normalLook()));
     ASSERT_TRUE(kit::focus(edit.get()));
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, aFocusedButtonKeepsItWhateverMessagesSay)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
+    setDefault(false);
     ASSERT_TRUE(kit::focus(button.window()));
     ::SendMessageA(button.window(), WM_KILLFOCUS, 0, 0);
     EXPECT_EQ(button.differencesFrom(focused(normalLook())), "");
-    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "");
+    expect(focused(normalLook()));
     LONG result = 0;
     EXPECT_EQ(button->WindowProc(HandleToLong(button.window()), WM_KILLFOCUS, 0, 0, &result), S_OK);
-    EXPECT_EQ(repaintedAgainst(focused(normalLook())), "") << "published";
+    expect(focused(normalLook()), "published");
 }
 
 TEST_F(FlatEmphasis, ofTheButtonThatTheFocusLeavesIsGoneWhoeverSwallowedTheMessage)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
-    ShownButton next(library(), form, {20, 80, 140, 120});
+    setDefault(false);
+    ShownButton next(library(), form, kPlaceBelow);
     ASSERT_TRUE(kit::focus(button.window()));
     kit::SwallowedMessage const swallowed(button.window(), WM_KILLFOCUS);
     ASSERT_TRUE(kit::focus(next.window()));
@@ -138,7 +110,7 @@ TEST_F(FlatEmphasis, ofTheButtonThatTheFocusLeavesIsGoneWhoeverSwallowedTheMessa
 
 TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
 {
-    ShownButton next(library(), form, {20, 80, 140, 120});
+    ShownButton next(library(), form, kPlaceBelow);
     ASSERT_TRUE(kit::focus(button.window()));
     int paints = 0;
     next.events().action = [&](auto const& event) {
@@ -155,7 +127,7 @@ TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
 TEST_F(FlatEmphasis, ofAButtonThatWasOnlyInitialisedComesAndGoesWithTheFocus)
 {
     form.record().answer("Site.GetContainer", E_NOTIMPL);
-    FlatButton fresh(library(), form, {20, 80, 140, 120}, L"Fresh");
+    FlatButton fresh(library(), form, kPlaceBelow, L"Fresh");
     fresh.site().extender().remove(L"Parent");
     fresh.start();
     fresh->put_BorderColor(kBorder);
@@ -177,7 +149,7 @@ TEST_F(FlatEmphasis, withoutShowFocusRectangleAFocusedButtonHasTheBorderAndNoFra
 {
     EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 // The caption starts where it does without the focus, and from there to the right its face covers the frame.
@@ -187,10 +159,9 @@ TEST_F(FlatEmphasis, theFaceOfACaptionWithASmallIndentCoversTheLeftSideOfTheFram
     ASSERT_TRUE(kit::focus(button.window()));
     for (SHORT const indent : std::initializer_list<SHORT>{0, 2, 3, 4}) {
         EXPECT_EQ(button->put_CaptionIndent(indent), S_OK);
-        Look look = focused(normalLook());
-        look.caption = L"&Cover";
+        Look look = focused(normalLook(L"&Cover"));
         look.indent = indent;
-        EXPECT_EQ(repaintedAgainst(look), "") << indent;
+        expect(look, std::to_string(indent).c_str());
     }
 }
 
@@ -201,11 +172,11 @@ TEST_F(FlatEmphasis, theFocusFrameOfABackColorOf808080IsE0E0E0)
     Look look = focused(normalLook());
     look.back = 0x808080;
     look.frame = 0xE0E0E0;
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
     EXPECT_EQ(button->put_BackColor(0x808081), S_OK);
     look.back = 0x808081;
     look.frame = 0x808080;
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
 }
 
 // A system colour counts by what it is on this desktop.
@@ -220,7 +191,7 @@ TEST_F(FlatEmphasis, theFrameColourFollowsTheResolvedBackColour)
     Look look = focused(normalLook());
     look.back = 0x808080;
     look.frame = 0xE0E0E0;
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
 }
 
 TEST_F(FlatEmphasis, hotAndFocusedTheHotBorderIsOnePixelThicker)
@@ -228,11 +199,7 @@ TEST_F(FlatEmphasis, hotAndFocusedTheHotBorderIsOnePixelThicker)
     ASSERT_TRUE(kit::focus(button.window()));
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(3).get()), S_OK);
     button.makeHot();
-    Look look = focused(hotLook());
-    look.borderWidth = 3;
-    look.frame = hotLook().back == 0x808080 ? 0xE0E0E0 : 0x808080;
-    EXPECT_EQ(repaintedAgainst(look), "");
-    button.leave();
+    expect(focused(withBorder(3, hotLook())));
 }
 
 TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedButtonAtRestHasABlackBorderOnePixelThicker)
@@ -241,7 +208,7 @@ TEST_F(FlatEmphasis, inTheTaskPaneLookAFocusedButtonAtRestHasABlackBorderOnePixe
     ASSERT_TRUE(kit::focus(button.window()));
     Look look = focused(taskPaneNormalLook());
     look.border = 0;
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
 }
 
 TEST_F(FlatEmphasis, aFocusedHotButtonOfTheTaskPaneHasTheBorderOfItsState)
@@ -250,11 +217,9 @@ TEST_F(FlatEmphasis, aFocusedHotButtonOfTheTaskPaneHasTheBorderOfItsState)
     EXPECT_EQ(button->put_HotBorderWidth(Variant::ofShort(2).get()), S_OK);
     ASSERT_TRUE(kit::focus(button.window()));
     button.makeHot();
-    Look look = taskPaneHotLook();
-    look.borderWidth = 2;
+    Look look = withBorder(2, taskPaneHotLook());
     look.frame = 0x808080;
-    EXPECT_EQ(repaintedAgainst(look), "");
-    button.leave();
+    expect(look);
 }
 
 TEST_F(FlatEmphasis, inTheTaskPaneLookTheDefaultButtonAtRestHasABlackBorderOnePixelThicker)
@@ -262,7 +227,7 @@ TEST_F(FlatEmphasis, inTheTaskPaneLookTheDefaultButtonAtRestHasABlackBorderOnePi
     EXPECT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     Look look = emphasised(taskPaneNormalLook());
     look.border = 0;
-    EXPECT_EQ(repaintedAgainst(look), "");
+    expect(look);
     button.makeHot();
     EXPECT_EQ(button.differencesFrom(taskPaneHotLook()), "");
     button.leave();
@@ -272,28 +237,19 @@ TEST_F(FlatEmphasis, inTheTaskPaneLookTheDefaultButtonAtRestHasABlackBorderOnePi
 
 TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAnotherKindOfControlHasTheFocus)
 {
-    auto const textBox = kit::make<HostControl>(IID_IPicture);
-    setActive(textBox.get());
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
-    setActive(nullptr);
+    checkActive(hostControl(IID_IPicture).get(), emphasised(normalLook()));
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAHostsOwnButtonHasTheFocus)
 {
-    auto const hostButton = kit::make<HostControl>(kHostButton);
-    setActive(hostButton.get());
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
-    setActive(nullptr);
+    checkActive(hostControl(kit::kHostButton).get(), normalLook());
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonLosesItToAHostsOwnButtonInsideAnExtender)
 {
-    auto const hostButton = kit::make<HostControl>(kHostButton);
     auto const extender = kit::make<kit::NamedObject>("Active", form.sharedRecord());
-    extender->offer(L"Object", Variant::ofDispatch(hostButton.get()));
-    setActive(extender.get());
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
-    setActive(nullptr);
+    extender->offer(L"Object", Variant::ofDispatch(hostControl(kit::kHostButton).get()));
+    checkActive(extender.get(), normalLook());
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonLosesItWhileAnotherFlatCommandHasTheFocus)
@@ -314,73 +270,71 @@ TEST_F(FlatEmphasis, theDefaultButtonKeepsItWhileAFlatToolButtonHasTheFocus)
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlIsMissing)
 {
     form.object().remove(L"ActiveControl");
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheActiveControlCannotBeRead)
 {
     form.object().refuse(L"ActiveControl", E_FAIL);
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereThereIsNoActiveControl)
 {
     setActive(nullptr);
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
     form.object().offer(L"ActiveControl", Variant());
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasItWhereTheExtenderHasNoParent)
 {
     button.site().extender().remove(L"Parent");
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
     button.site().extender().offer(L"Parent", Variant::ofLong(5));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheExtenderHasNoSuchMark)
 {
     button.site().extender().remove(L"Default");
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereTheMarkCannotBeRead)
 {
     button.site().extender().refuse(L"Default", E_FAIL);
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, nobodyIsDefaultWhereThereIsNoExtender)
 {
     form.record().answerNothing("Site.GetExtendedControl");
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, theDefaultMarkMayBeAnyNumberThatIsNotZero)
 {
     button.site().extender().offer(L"Default", Variant::ofLong(1));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
     button.site().extender().offer(L"Default", Variant::ofLong(0));
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    expectNone();
 }
 
 TEST_F(FlatEmphasis, atDesignTimeAFocusedButtonHasNoFrame)
 {
-    button.site().extender().offer(L"Default", Variant::ofBool(false));
-    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
-    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
+    setDefault(false);
+    button.setUserMode(false);
     ASSERT_TRUE(kit::focus(button.window()));
-    EXPECT_EQ(repaintedAgainst(emphasised(normalLook())), "");
+    expectEmphasis();
 }
 
 TEST_F(FlatEmphasis, theDefaultButtonHasNoneAtDesignTime)
 {
-    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
-    ASSERT_EQ(button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE), S_OK);
-    EXPECT_EQ(repaintedAgainst(normalLook()), "");
+    button.setUserMode(false);
+    expectNone();
 }
 
 } // namespace

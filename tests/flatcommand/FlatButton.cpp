@@ -1,101 +1,83 @@
-// A qvFlatCommand in a form, with everybody who listens to it, and compared with the picture that it must
-// show.
+// A qvFlatCommand in a form, compared with the picture that it must show, and its saved properties as the
+// tests expect them.
 #include "FlatButton.h"
 
-#include "kit/ByName.h"
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
-#include "kit/Input.h"
-#include "kit/Pump.h"
-
-#include <utility>
+#include <algorithm>
+#include <iterator>
 
 namespace quillet::flat {
 
-namespace {
-
-constexpr wchar_t const* kNames[] = {
-    L"BackColor",        L"ForeColor",          L"Enabled",
-    L"BorderStyle",      L"BorderColor",        L"HotForeColor",
-    L"PressedForeColor", L"HotBackColor",       L"PressedBackColor",
-    L"HotBorderColor",   L"PressedBorderColor", L"BorderWidth",
-    L"HotBorderWidth",   L"PressedBorderWidth", L"DisabledForeColor",
-    L"Caption",          L"CentreCaption",      L"CaptionIndent",
-    L"MousePointer",     L"ShowFocusRectangle", L"OfficeXPColors",
-    L"ToolTipText",
-};
-
-std::string textOf(IFont* font)
-{
-    if (!font)
-        return "none";
-    return kit::narrow(kit::nameOf(*font)) + ' ' + std::to_string(kit::pointsOf(*font));
-}
-
-std::string textOf(IPictureDisp* picture)
-{
-    auto const drawn = query<IPicture>(picture);
-    OLE_XSIZE_HIMETRIC width = 0;
-    if (!drawn || FAILED(drawn->get_Width(&width)))
-        return "none";
-    return std::to_string(width);
-}
-
-} // namespace
-
-ComPtr<IFont> formFont() { return kit::newFont(L"Tahoma", 10); }
-
 FlatButton::FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place,
                        std::wstring const& name)
-    : Hosted(library, kQvFlatCommandClass, form, place, name), Listener(kit::kCommandEvents),
-      m_button(as<_qvFlatCommand>())
+    : CommandButton(library, form, kQvFlatCommandClass, __uuidof(_qvFlatCommand), kQvFlatCommandEvents, place,
+                    name)
+{}
+
+void FlatButton::assign(SavedRow const& row)
 {
-    join(object(), kQvFlatCommandEvents);
-    site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(formFont().get()).get()));
-    EXPECT_TRUE(m_button) << "the object has no _qvFlatCommand";
+    if (!row.isObject())
+        EXPECT_EQ(kit::putByName(*dual(), row.name, row.other).result, S_OK) << kit::narrow(row.name);
+    else if (std::wstring(row.name) == L"Font")
+        setFont(kit::newFont(L"Tahoma", 33, true).get());
+    else
+        EXPECT_EQ(dual()->putref_MouseIcon(kit::newBitmapPicture(7, 5, RGB(1, 2, 3)).get()), S_OK);
 }
 
-void FlatButton::remove()
+void FlatButton::assignAll()
 {
-    stopListening();
-    m_button.reset();
-    Hosted::remove();
+    for (SavedRow const& row : savedRows())
+        assign(row);
 }
 
-std::wstring FlatButton::caption() const
+std::vector<SavedRow> const& savedRows()
 {
-    Bstr text;
-    EXPECT_EQ(m_button->get_Caption(text.put()), S_OK);
-    return std::wstring(text.view());
+    static std::vector<SavedRow> const rows{
+        {L"BackColor", Variant::ofLong(0x010203)},
+        {L"ForeColor", Variant::ofLong(0x020304)},
+        {L"Enabled", Variant::ofBool(false)},
+        {L"Font", {}},
+        {L"BorderStyle", Variant::ofShort(0)},
+        {L"BorderColor", Variant::ofLong(0x030405)},
+        {L"HotForeColor", Variant::ofLong(0x040506)},
+        {L"PressedForeColor", Variant::ofLong(0x050607)},
+        {L"HotBackColor", Variant::ofLong(0x060708)},
+        {L"PressedBackColor", Variant::ofLong(0x070809)},
+        {L"HotBorderColor", Variant::ofLong(0x08090A)},
+        {L"PressedBorderColor", Variant::ofLong(0x090A0B)},
+        {L"BorderWidth", Variant::ofShort(2)},
+        {L"HotBorderWidth", Variant::ofShort(3)},
+        {L"PressedBorderWidth", Variant::ofShort(4)},
+        {L"DisabledForeColor", Variant::ofLong(0x0A0B0C)},
+        {L"Caption", Variant::ofString(L"&Save")},
+        {L"CentreCaption", Variant::ofBool(true)},
+        {L"CaptionIndent", Variant::ofShort(12)},
+        {L"MousePointer", Variant::ofShort(99)},
+        {L"MouseIcon", {}},
+        {L"ShowFocusRectangle", Variant::ofBool(false)},
+        {L"OfficeXPColors", Variant::ofBool(true)},
+    };
+    return rows;
 }
 
-void FlatButton::setCaption(wchar_t const* text) { EXPECT_EQ(m_button->put_Caption(Bstr(text).get()), S_OK); }
-
-ComPtr<IFont> FlatButton::font() const
+std::vector<SavedRow> savedValues()
 {
-    ComPtr<IFontDisp> font;
-    EXPECT_EQ(m_button->get_Font(font.put()), S_OK);
-    return query<IFont>(font.get());
+    std::vector<SavedRow> values;
+    std::ranges::remove_copy_if(savedRows(), std::back_inserter(values), &SavedRow::isObject);
+    return values;
 }
 
-void FlatButton::setFont(IFont* font)
+std::vector<std::wstring> savedNames()
 {
-    EXPECT_EQ(m_button->putref_Font(query<IFontDisp>(font).get()), S_OK);
+    std::vector<std::wstring> names;
+    std::ranges::transform(savedRows(), std::back_inserter(names), &SavedRow::name);
+    return names;
 }
 
 std::vector<std::string> stateOf(FlatButton const& button)
 {
-    std::vector<std::string> state;
-    for (wchar_t const* const name : kNames) {
-        kit::Called const got = kit::getByName(*button.dual(), name);
-        EXPECT_EQ(got.result, S_OK) << kit::narrow(name);
-        state.push_back(kit::narrow(name) + " = " + kit::narrow(got.value.toString().view()));
-    }
-    ComPtr<IPictureDisp> icon;
-    button->get_MouseIcon(icon.put());
-    state.push_back("Font = " + textOf(button.font().get()));
-    state.push_back("MouseIcon = " + textOf(icon.get()));
-    return state;
+    std::vector<std::wstring> names = savedNames();
+    names.push_back(L"ToolTipText");
+    return kit::textsByName(*button.dual(), names);
 }
 
 ShownButton::ShownButton(kit::Library const& library, kit::FakeForm& form, RECT const& place)
@@ -106,31 +88,12 @@ ShownButton::ShownButton(kit::Library const& library, kit::FakeForm& form, RECT 
     kit::pumpPending();
 }
 
-SIZE ShownButton::size() const
-{
-    RECT client{};
-    ::GetClientRect(window(), &client);
-    return {client.right, client.bottom};
-}
-
-void ShownButton::read(kit::Canvas& canvas) const { kit::readWindow(window(), canvas); }
-
 std::string ShownButton::differencesFrom(Look const& look) const
 {
-    SIZE const now = size();
-    kit::Canvas expected(now.cx, now.cy);
-    kit::Canvas shown(now.cx, now.cy);
+    kit::Canvas const shown(window());
+    kit::Canvas expected(shown.width(), shown.height());
     paint(expected, look, *font().get());
-    read(shown);
     return kit::differences(expected, shown);
-}
-
-std::string ShownButton::picture(kit::Letters const& letters) const
-{
-    SIZE const now = size();
-    kit::Canvas shown(now.cx, now.cy);
-    read(shown);
-    return shown.picture(letters);
 }
 
 void ShownButton::setColors()
@@ -143,34 +106,6 @@ void ShownButton::setColors()
 void ShownButton::setWidth(short width)
 {
     EXPECT_EQ((*this)->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
-}
-
-void ShownButton::makeHot()
-{
-    SIZE const now = size();
-    EXPECT_TRUE(kit::moveCursorTo(window(), now.cx / 2, now.cy / 2));
-    kit::pumpPending();
-    EXPECT_EQ(dual()->Refresh(), S_OK);
-}
-
-void ShownButton::makePressed()
-{
-    makeHot();
-    kit::press(kit::MouseButton::Left);
-    EXPECT_TRUE(kit::pumpUntil([this] { return count("MouseDown") > 0; }));
-    EXPECT_EQ(::GetFocus(), window());
-    m_pressed = true;
-}
-
-void ShownButton::leave()
-{
-    if (std::exchange(m_pressed, false)) {
-        kit::release(kit::MouseButton::Left);
-        EXPECT_TRUE(kit::pumpUntil([this] { return count("MouseUp") > 0; }));
-    }
-    EXPECT_TRUE(kit::moveCursorAway());
-    kit::pumpPending();
-    EXPECT_EQ(dual()->Refresh(), S_OK);
 }
 
 } // namespace quillet::flat

@@ -1,57 +1,48 @@
-// A qvFlatCommand in a form, with everybody who listens to it, and compared with the picture that it must
-// show.
+// A qvFlatCommand in a form, compared with the picture that it must show, and its saved properties as the
+// tests expect them.
 #pragma once
 
-#include "FlatButton.h"
 #include "Look.h"
-#include "kit/ControlTest.h"
-#include "kit/Hosted.h"
-#include "kit/Listener.h"
-#include "typelib/DispatchIds.h"
-#include "typelib/Guids.h"
-#include "typelib/Interfaces.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "base/Variant.h"
+#include "kit/ByName.h"
+#include "kit/CommandButton.h"
 
 #include <string>
 #include <vector>
 
 namespace quillet::flat {
 
+using kit::formFont;
+using kit::kPaint;
+using kit::kPlace;
+using kit::kPlaceBelow;
 namespace id = dispid::qvFlatCommand;
-constexpr DISPID kPaint = eventid::command::Paint;
 
-constexpr RECT kPlace{20, 30, 140, 70};
+/// One saved property.
+struct SavedRow {
+    wchar_t const* name;
+    Variant other; ///< a value that is not the default, in the type of a bag; empty for objects
 
-/// The font that the form offers, unless a test changes it.
-ComPtr<IFont> formFont();
+    bool isObject() const { return other.type() == VT_EMPTY; }
+};
 
-/// A button whose events and changed properties are recorded from the beginning. Nothing has happened to it
-/// yet.
-class FlatButton : public kit::Hosted, public kit::Listener {
+class FlatButton : public kit::CommandButton<_qvFlatCommand> {
 public:
     FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
                std::wstring const& name = L"Button1");
-    ~FlatButton() { remove(); }
 
-    _qvFlatCommand* operator->() const noexcept { return m_button.get(); }
-    _qvFlatCommand* dual() const noexcept { return m_button.get(); }
-    void remove();
-
-    std::wstring caption() const;
-    void setCaption(wchar_t const* text);
-    ComPtr<IFont> font() const;
-    void setFont(IFont* font);
-
-private:
-    ComPtr<_qvFlatCommand> m_button;
+    /// Gives a property its other value, or another object; and all of them.
+    void assign(SavedRow const& row);
+    void assignAll();
 };
 
-/// Every saved property and ToolTipText as "Name = value": fonts and pictures by what can be told of them.
-std::vector<std::string> stateOf(FlatButton const& button);
+/// All of them in the order of reading and writing; those that are no objects; the names of all.
+std::vector<SavedRow> const& savedRows();
+std::vector<SavedRow> savedValues();
+std::vector<std::wstring> savedNames();
 
-class FlatTest : public kit::ControlTest {};
+/// Every saved property and ToolTipText as "Name = value".
+std::vector<std::string> stateOf(FlatButton const& button);
 
 /// Colours that no scheme has.
 inline constexpr COLORREF kFore = RGB(10, 20, 30);
@@ -63,27 +54,29 @@ class ShownButton : public FlatButton {
 public:
     ShownButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace);
 
-    SIZE size() const;
-    /// What the window shows now.
-    void read(kit::Canvas& canvas) const;
     /// Empty when the window shows the expected look; else the pixels that differ.
     std::string differencesFrom(Look const& look) const;
-    /// The same for a picture as text, for buttons small enough.
-    std::string picture(kit::Letters const& letters) const;
 
     /// Gives the normal look the colours above.
     void setColors();
     void setWidth(short width);
+};
 
-    /// Moves the cursor onto the button and repaints it.
-    void makeHot();
-    /// The same with the left mouse button held down; the button has the focus then.
-    void makePressed();
-    /// Lets the mouse button go and takes the cursor away.
-    void leave();
+class FlatTest : public kit::ControlTest {
+protected:
+    kit::FakeForm form;
+};
 
-private:
-    bool m_pressed = false;
+/// With a button that has its site and nothing else.
+class SitedTest : public FlatTest {
+protected:
+    FlatButton button{library(), form};
+    SitedTest() { EXPECT_EQ(button.setSite(), S_OK); }
+};
+
+class ShownTest : public FlatTest {
+protected:
+    ShownButton button{library(), form};
 };
 
 } // namespace quillet::flat

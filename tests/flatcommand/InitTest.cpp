@@ -2,7 +2,6 @@
 #include "FlatButton.h"
 #include "drawing/SystemColours.h"
 #include "kit/FakeBag.h"
-#include "kit/Fonts.h"
 
 #include <algorithm>
 
@@ -11,7 +10,6 @@ namespace {
 
 class FlatInit : public FlatTest {
 protected:
-    kit::FakeForm form;
     FlatButton button{library(), form};
 
     /// The place of the first such call in the record; -1 when it never came.
@@ -27,9 +25,15 @@ protected:
         form.record().forget();
         ASSERT_EQ(button.initNew(), S_OK);
     }
-    void setAmbientFont(IFont* font)
+    void expectInitialised(wchar_t const* caption)
     {
-        button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(font).get()));
+        initialise();
+        EXPECT_EQ(button.caption(), caption);
+    }
+    void expectFont(char const* where)
+    {
+        initialise();
+        EXPECT_TRUE(button.font()) << where;
     }
 };
 
@@ -43,8 +47,7 @@ TEST_F(FlatInit, asksForTheFormsFontBeforeTheExtendersName)
 TEST_F(FlatInit, aNewInstancesCaptionEqualsItsExtenderName)
 {
     button.site().extender().offer(L"Name", Variant::ofString(L"cmdOpen & Co"));
-    initialise();
-    EXPECT_EQ(button.caption(), L"cmdOpen & Co");
+    expectInitialised(L"cmdOpen & Co");
 }
 
 TEST_F(FlatInit, theSameInstanceLoadedFromABagWithoutCaptionShowsAnEmptyCaption)
@@ -59,43 +62,37 @@ TEST_F(FlatInit, theSameInstanceLoadedFromABagWithoutCaptionShowsAnEmptyCaption)
 TEST_F(FlatInit, theCaptionIsEmptyWhereTheExtenderHasNoName)
 {
     button.site().extender().remove(L"Name");
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, theCaptionIsEmptyWhereTheNameCannotBeRead)
 {
     button.site().extender().refuse(L"Name", E_ACCESSDENIED);
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, theCaptionIsEmptyWhereTheNameIsNoText)
 {
     button.site().extender().offer(L"Name", Variant::ofUnknown(form.frame().unknown()));
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, theCaptionIsEmptyWhereThereIsNoExtender)
 {
     form.record().answerNothing("Site.GetExtendedControl");
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, theCaptionIsEmptyWhereTheExtenderIsRefused)
 {
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, theCaptionIsEmptyWhereTheSiteIsNoControlSite)
 {
     button.site().hide(__uuidof(IOleControlSite));
-    initialise();
-    EXPECT_EQ(button.caption(), L"");
+    expectInitialised(L"");
 }
 
 TEST_F(FlatInit, worksWithoutASite)
@@ -107,7 +104,7 @@ TEST_F(FlatInit, worksWithoutASite)
 
 TEST_F(FlatInit, takesTheFormsFontByValue)
 {
-    setAmbientFont(kit::newFont(L"Tahoma", 21, true).get());
+    button.offerFont(kit::newFont(L"Tahoma", 21, true).get());
     initialise();
     EXPECT_TRUE(kit::equalFonts(*button.font().get(), *kit::newFont(L"Tahoma", 21, true).get()));
 }
@@ -115,20 +112,15 @@ TEST_F(FlatInit, takesTheFormsFontByValue)
 TEST_F(FlatInit, hasAFontWhereTheFormOffersNoneFailsHandsOutNothingOrSomethingElse)
 {
     button.site().removeAmbient(DISPID_AMBIENT_FONT);
-    initialise();
-    EXPECT_TRUE(button.font()) << "missing";
+    expectFont("missing");
     button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(nullptr));
-    initialise();
-    EXPECT_TRUE(button.font()) << "S_OK with nothing";
+    expectFont("S_OK with nothing");
     button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofLong(12));
-    initialise();
-    EXPECT_TRUE(button.font()) << "a number";
+    expectFont("a number");
     button.site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(&form.object()));
-    initialise();
-    EXPECT_TRUE(button.font()) << "an object that is no font";
+    expectFont("an object that is no font");
     form.record().answer("Ambient(-703)", E_UNEXPECTED);
-    initialise();
-    EXPECT_TRUE(button.font()) << "failing";
+    expectFont("failing");
 }
 
 TEST_F(FlatInit, hasAFontWhereTheSiteHasNoAmbientProperties)
@@ -161,24 +153,11 @@ TEST_F(FlatInit, setsEveryOtherSavedPropertyBackToItsInitialValue)
 {
     initialise();
     auto const initial = stateOf(button);
-    button.setCaption(L"else");
-    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(9).get()), S_OK);
-    ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(9).get()), S_OK);
-    ASSERT_EQ(button->put_PressedBorderWidth(Variant::ofShort(9).get()), S_OK);
-    ASSERT_EQ(button->put_BorderStyle(pdsButtonBorderStyleConstants::None), S_OK);
-    ASSERT_EQ(button->put_BorderColor(1), S_OK);
-    ASSERT_EQ(button->put_HotForeColor(2), S_OK);
-    ASSERT_EQ(button->put_PressedForeColor(3), S_OK);
-    ASSERT_EQ(button->put_HotBackColor(4), S_OK);
-    ASSERT_EQ(button->put_PressedBackColor(5), S_OK);
-    ASSERT_EQ(button->put_HotBorderColor(6), S_OK);
-    ASSERT_EQ(button->put_PressedBorderColor(7), S_OK);
-    ASSERT_EQ(button->put_DisabledForeColor(8), S_OK);
-    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    ASSERT_EQ(button->put_CaptionIndent(11), S_OK);
-    ASSERT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
-    ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
-    button.setFont(kit::newFont(L"Tahoma", 30).get());
+    std::wstring const ofTheSurface = L"BackColor ForeColor Enabled MousePointer MouseIcon";
+    for (SavedRow const& row : savedRows())
+        if (ofTheSurface.find(row.name) == std::wstring::npos)
+            button.assign(row);
+    EXPECT_NE(stateOf(button), initial);
     initialise();
     EXPECT_EQ(stateOf(button), initial);
 }
@@ -186,10 +165,9 @@ TEST_F(FlatInit, setsEveryOtherSavedPropertyBackToItsInitialValue)
 TEST_F(FlatInit, paintsOnceBecauseTheFontIsAssigned)
 {
     ASSERT_EQ(button.setSite(), S_OK);
-    button.events().forget();
-    button.changes().take();
+    button.forget();
     ASSERT_EQ(button.initNew(), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button.paints(), 1);
     EXPECT_THAT(button.changes().take(), testing::ElementsAre(DISPID_FONT));
 }
 
@@ -199,7 +177,7 @@ TEST_F(FlatInit, loadingPaintsOnceBecauseTheFontIsAssigned)
     auto const bag = kit::make<kit::FakeBag>();
     button.events().forget();
     ASSERT_EQ(button.load(*bag.get()), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button.paints(), 1);
 }
 
 TEST_F(FlatInit, throughABagIsTheSame)

@@ -1,106 +1,94 @@
 // The expected picture of a qvFlatCommand, worked out by hand and painted with plain GDI calls.
 #include "Look.h"
 
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
+#include "kit/ButtonLook.h"
 
-#include <cmath>
+#include <utility>
 
 namespace quillet::flat {
 
 namespace {
 
-/// The nearest whole number, halves to the even one.
-int rounded(double value) { return static_cast<int>(std::nearbyint(value)); }
-
 int borderOf(Look const& look) { return look.bordered ? look.borderWidth + look.emphasis : 0; }
 
-int tintOf(int face, int selection, bool deep)
+Look ofDesktop(int fore, int back, int border, std::wstring const& caption)
 {
-    double const lift = deep ? (255 - face) * 100 / 255.0 : (255 - selection) * 100 / 255.0 / 2.0;
-    return rounded(lift + (selection + face) / 2.0);
+    return lookOf(::GetSysColor(fore), ::GetSysColor(back), ::GetSysColor(border), caption);
 }
 
-/// The caption without its first marker, and the marker's place in it; npos for none.
-std::pair<std::wstring, size_t> shownCaption(std::wstring text)
+/// The task-pane scheme's look of a button that the mouse is over.
+Look tinted(int fore, bool deep, std::wstring const& caption)
 {
-    size_t const marker = text.find(L'&');
-    if (marker != std::wstring::npos)
-        text.erase(marker, 1);
-    return {text, marker};
-}
-
-/// Writes one piece of the caption and answers its width.
-int paintPiece(kit::Canvas& canvas, Look const& look, POINT at, int inset, std::wstring const& text,
-               IFont& font)
-{
-    RECT const box{at.x, inset + 1, canvas.width() - inset - 1, canvas.height() - inset - 1};
-    kit::paintText(canvas, box, at, text, kit::handleOf(font), look.fore, look.back);
-    return static_cast<int>(kit::textSize(kit::handleOf(font), text).cx);
+    COLORREF const selection = ::GetSysColor(COLOR_HIGHLIGHT);
+    return lookOf(::GetSysColor(fore), kit::tint(::GetSysColor(COLOR_BTNFACE), selection, deep), selection,
+                  caption);
 }
 
 } // namespace
 
-Look normalLook()
+Look lookOf(COLORREF fore, COLORREF back, COLORREF border, std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_3DDKSHADOW)};
+    return {.fore = fore, .back = back, .border = border, .caption = caption};
 }
 
-Look hotLook()
+Look normalLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_3DHIGHLIGHT), ::GetSysColor(COLOR_BTNSHADOW),
-            ::GetSysColor(COLOR_3DDKSHADOW)};
+    return ofDesktop(COLOR_BTNTEXT, COLOR_BTNFACE, COLOR_3DDKSHADOW, caption);
 }
 
-Look pressedLook()
+Look hotLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_3DHIGHLIGHT), ::GetSysColor(COLOR_3DDKSHADOW),
-            ::GetSysColor(COLOR_3DDKSHADOW)};
+    return ofDesktop(COLOR_3DHIGHLIGHT, COLOR_BTNSHADOW, COLOR_3DDKSHADOW, caption);
 }
 
-Look disabledLook()
+Look pressedLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_3DDKSHADOW)};
+    return ofDesktop(COLOR_3DHIGHLIGHT, COLOR_3DDKSHADOW, COLOR_3DDKSHADOW, caption);
 }
 
-Look taskPaneNormalLook()
+Look disabledLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)};
+    return ofDesktop(COLOR_GRAYTEXT, COLOR_BTNFACE, COLOR_3DDKSHADOW, caption);
 }
 
-Look taskPaneHotLook()
+Look taskPaneNormalLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_BTNTEXT),
-            tint(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT), false),
-            ::GetSysColor(COLOR_HIGHLIGHT)};
+    return ofDesktop(COLOR_BTNTEXT, COLOR_BTNFACE, COLOR_BTNSHADOW, caption);
 }
 
-Look taskPanePressedLook()
+Look taskPaneHotLook(std::wstring const& caption) { return tinted(COLOR_BTNTEXT, false, caption); }
+
+Look taskPanePressedLook(std::wstring const& caption) { return tinted(COLOR_3DHIGHLIGHT, true, caption); }
+
+Look taskPaneDisabledLook(std::wstring const& caption)
 {
-    return {::GetSysColor(COLOR_3DHIGHLIGHT),
-            tint(::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_HIGHLIGHT), true),
-            ::GetSysColor(COLOR_HIGHLIGHT)};
+    return ofDesktop(COLOR_BTNSHADOW, COLOR_BTNFACE, COLOR_BTNSHADOW, caption);
 }
 
-Look taskPaneDisabledLook()
+Look emphasised(Look look)
 {
-    return {::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNFACE), ::GetSysColor(COLOR_BTNSHADOW)};
+    look.emphasis = 1;
+    return look;
 }
 
-COLORREF tint(COLORREF face, COLORREF selection, bool deep)
+Look focused(Look look)
 {
-    return RGB(tintOf(GetRValue(face), GetRValue(selection), deep),
-               tintOf(GetGValue(face), GetGValue(selection), deep),
-               tintOf(GetBValue(face), GetBValue(selection), deep));
+    look.frame = look.back == 0x808080 ? 0xE0E0E0 : 0x808080;
+    return emphasised(std::move(look));
+}
+
+Look withBorder(int width, Look look)
+{
+    look.borderWidth = width;
+    return look;
 }
 
 POINT captionPlace(Look const& look, SIZE size, IFont& font)
 {
-    SIZE const text = kit::textSize(kit::handleOf(font), shownCaption(look.caption).first);
+    SIZE const text = kit::captionSize(look.caption, font);
     // Neither the emphasis nor the focus frame moves the caption.
     int const left = (look.bordered ? look.borderWidth : 0) + look.indent;
-    return {look.centred ? rounded(size.cx / 2.0 - text.cx / 2.0) : left,
-            rounded(size.cy / 2.0 - text.cy / 2.0)};
+    return {look.centred ? kit::middle(size.cx, text.cx) : left, kit::middle(size.cy, text.cy)};
 }
 
 void paint(kit::Canvas& canvas, Look const& look, IFont& font)
@@ -116,17 +104,8 @@ void paint(kit::Canvas& canvas, Look const& look, IFont& font)
         canvas.fill(inset, inset, width - inset, height - inset, *look.frame);
         canvas.fill(inset + 1, inset + 1, width - inset - 1, height - inset - 1, look.back);
     }
-    auto const [shown, marker] = shownCaption(look.caption);
-    POINT at = captionPlace(look, {width, height}, font);
-    auto const plain = kit::copyOf(font, false);
-    if (marker == std::wstring::npos) {
-        paintPiece(canvas, look, at, inset, shown, *plain.get());
-        return;
-    }
-    auto const underlined = kit::copyOf(font, true);
-    at.x += paintPiece(canvas, look, at, inset, shown.substr(0, marker), *plain.get());
-    at.x += paintPiece(canvas, look, at, inset, shown.substr(marker, 1), *underlined.get());
-    paintPiece(canvas, look, at, inset, shown.substr(std::min(marker + 1, shown.size())), *plain.get());
+    kit::paintCaption(canvas, inset, captionPlace(look, {width, height}, font), look.caption, font, look.fore,
+                      look.back);
 }
 
 } // namespace quillet::flat

@@ -26,18 +26,23 @@ struct Look {
 };
 
 /// The looks of a button whose colours are as they come.
-Look normalLook();
-Look hotLook();
-Look pressedLook();
-Look disabledLook();
+Look normalLook(std::wstring const& caption = {});
+Look hotLook(std::wstring const& caption = {});
+Look pressedLook(std::wstring const& caption = {});
+Look disabledLook(std::wstring const& caption = {});
 /// The same in the task-pane scheme.
-Look taskPaneNormalLook();
-Look taskPaneHotLook();
-Look taskPanePressedLook();
-Look taskPaneDisabledLook();
+Look taskPaneNormalLook(std::wstring const& caption = {});
+Look taskPaneHotLook(std::wstring const& caption = {});
+Look taskPanePressedLook(std::wstring const& caption = {});
+Look taskPaneDisabledLook(std::wstring const& caption = {});
+/// Colours of one's own.
+Look lookOf(COLORREF fore, COLORREF back, COLORREF border, std::wstring const& caption = {});
 
-/// The tint of the task-pane scheme: half of the selection colour and half of the face, lifted.
-COLORREF tint(COLORREF face, COLORREF selection, bool deep);
+/// The look with the mark of the focus or the default button; with that and the focus frame.
+Look emphasised(Look look);
+Look focused(Look look);
+/// The look with a border of that many pixels.
+Look withBorder(int width, Look look);
 
 /// Where the caption stands.
 POINT captionPlace(Look const& look, SIZE size, IFont& font);

@@ -1,40 +1,28 @@
 // A paint of qvFlatCommand: the Paint event, what brings it about, and what one paint asks GDI for.
 #include "FlatButton.h"
 #include "drawing/GdiCalls.h"
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
-#include "kit/Input.h"
-#include "kit/Pump.h"
 
 namespace quillet::flat {
 namespace {
 
-class FlatPaint : public FlatTest {
+class FlatPaint : public ShownTest {
 protected:
-    kit::FakeForm form;
-    ShownButton button{library(), form};
-
-    void SetUp() override
-    {
-        FlatTest::SetUp();
-        kit::pumpPending();
-        button.events().forget();
-    }
+    FlatPaint() { button.forget(); }
 };
 
 TEST_F(FlatPaint, isRaisedOnceByRefreshAndNotByDrawButton)
 {
     EXPECT_EQ(button->Refresh(), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button.paints(), 1);
     EXPECT_EQ(button->DrawButton(), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button.paints(), 1);
 }
 
 TEST_F(FlatPaint, isRaisedWhenTheWindowIsExposed)
 {
     ::InvalidateRect(button.window(), nullptr, TRUE);
     ::UpdateWindow(button.window());
-    EXPECT_EQ(button.events().count(kPaint), 1);
+    EXPECT_EQ(button.paints(), 1);
 }
 
 TEST_F(FlatPaint, isRaisedAtOnceWhenTheButtonIsShownAgain)
@@ -43,16 +31,15 @@ TEST_F(FlatPaint, isRaisedAtOnceWhenTheButtonIsShownAgain)
     kit::pumpPending();
     button.events().forget();
     EXPECT_EQ(button.doVerb(OLEIVERB_SHOW), S_OK);
-    EXPECT_GE(button.events().count(kPaint), 1) << "before any message was handled";
+    EXPECT_GE(button.paints(), 1) << "before any message was handled";
 }
 
 TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
 {
     std::string found = "no event";
     button.events().action = [&](kit::EventRecorder::Event const& event) {
-        Look look = normalLook();
+        Look look = normalLook(L"Seen");
         look.back = RGB(7, 8, 9);
-        look.caption = L"Seen";
         if (event.id == kPaint)
             found = button.differencesFrom(look);
     };
@@ -65,7 +52,7 @@ TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
 TEST_F(FlatPaint, comesWithoutArguments)
 {
     EXPECT_EQ(button->Refresh(), S_OK);
-    ASSERT_EQ(button.events().count(kPaint), 1);
+    ASSERT_EQ(button.paints(), 1);
     EXPECT_TRUE(button.events().events.front().values.empty());
 }
 
@@ -79,16 +66,12 @@ TEST_F(FlatPaint, putsBackWhatAnotherWindowPaintedOver)
     }
     ::InvalidateRect(button.window(), nullptr, FALSE);
     kit::pumpPending();
-    Look look = normalLook();
-    look.caption = L"&Back";
-    EXPECT_EQ(button.differencesFrom(look), "");
+    EXPECT_EQ(button.differencesFrom(normalLook(L"&Back")), "");
 }
 
 TEST_F(FlatPaint, fillsANewSizeToItsEdges)
 {
-    button.site().position = {10, 10, 210, 110};
-    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-              S_OK);
+    button.place({10, 10, 210, 110});
     kit::pumpPending();
     EXPECT_EQ(button.size().cx, 200);
     EXPECT_EQ(button.size().cy, 100);
@@ -97,9 +80,7 @@ TEST_F(FlatPaint, fillsANewSizeToItsEdges)
 
 TEST_F(FlatPaint, ofAButtonWithoutAnyPixelsIsHarmless)
 {
-    button.site().position = {10, 10, 10, 10};
-    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-              S_OK);
+    button.place({10, 10, 10, 10});
     EXPECT_EQ(button->Refresh(), S_OK);
     EXPECT_EQ(button->DrawButton(), S_OK);
 }
@@ -110,7 +91,7 @@ TEST_F(FlatPaint, mousePointerAndMouseIconChangesDoNotRepaintTheButton)
     EXPECT_EQ(button->putref_MouseIcon(kit::newIconPicture().get()), S_OK);
     EXPECT_EQ(button->put_MousePointer(99), S_OK);
     kit::pumpPending();
-    EXPECT_EQ(button.events().count(kPaint), 0);
+    EXPECT_EQ(button.paints(), 0);
 }
 
 TEST_F(FlatPaint, mayAssignAPropertyAgainWithoutHangingUp)
@@ -130,8 +111,7 @@ TEST_F(FlatPaint, mayAssignAPropertyAgainWithoutHangingUp)
 
 TEST_F(FlatPaint, isNotRaisedAtDesignTime)
 {
-    button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
-    button.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
+    button.setUserMode(false);
     button.events().forget();
     EXPECT_EQ(button->Refresh(), S_OK);
     ::InvalidateRect(button.window(), nullptr, TRUE);
@@ -143,18 +123,14 @@ TEST_F(FlatPaint, isNotRaisedAtDesignTime)
 using Calls = std::vector<std::string>;
 
 /// A running button of 120 by 40 pixels.
-class FlatPaintCalls : public FlatTest {
+class FlatPaintCalls : public ShownTest {
 protected:
-    kit::FakeForm form;
-    ShownButton button{library(), form};
-    Look look{kFore, kBack, kBorder};
+    Look look = lookOf(kFore, kBack, kBorder, L"Sa&ve");
 
-    void SetUp() override
+    FlatPaintCalls()
     {
-        FlatTest::SetUp();
         button.setColors();
         button.setCaption(L"Sa&ve");
-        look.caption = L"Sa&ve";
     }
     /// What the component asks GDI for while it draws.
     Calls drawnBy(void (*draw)(FlatButton&))
@@ -186,8 +162,7 @@ TEST_F(FlatPaintCalls, atRestAreBorderFaceAndCaptionOnTheSurfaceAndOneCopy) { ex
 TEST_F(FlatPaintCalls, withTheFocusHaveTheFrameBetweenFaceAndCaptionWhichDoesNotMove)
 {
     ASSERT_TRUE(kit::focus(button.window()));
-    look.emphasis = 1;
-    look.frame = 0x808080;
+    look = focused(look);
     expectComposed();
 }
 

@@ -1,10 +1,10 @@
-// The properties of qvFlatCommand: types, initial values, and what assigning them does.
+// The properties of qvFlatCommand: types, initial values, and what assigning them does; the mouse pointer
+// that they make; the about box.
 #include "FlatButton.h"
-#include "kit/ByName.h"
+#include "base/Version.h"
 #include "kit/Errors.h"
 #include "kit/FakeBag.h"
-#include "kit/Fonts.h"
-#include "kit/Pump.h"
+#include "kit/ModalDialog.h"
 
 #include <algorithm>
 
@@ -72,75 +72,88 @@ template <class Use> void forEachRow(Use const& use)
 
 class FlatProperties : public FlatTest {
 protected:
-    kit::FakeForm form;
+    FlatButton button{library(), form};
 
-    template <class T> void checkInitial(FlatButton& button, Row<T> const& row)
+    void start()
     {
-        T value{};
-        EXPECT_EQ((button.dual()->*row.get)(&value), S_OK) << kit::narrow(row.name);
-        EXPECT_EQ(value, row.initial) << kit::narrow(row.name);
-        EXPECT_EQ(kit::idOf(*button.dual(), row.name), row.id) << kit::narrow(row.name);
+        button.start();
+        button.forget();
     }
-
-    template <class T> void checkAssigned(FlatButton& button, Row<T> const& row)
+    void checkInitial()
     {
-        SCOPED_TRACE(kit::narrow(row.name));
-        kit::pumpPending();
-        button.events().forget();
-        button.changes().take();
-        EXPECT_EQ((button.dual()->*row.put)(row.other), S_OK);
-        EXPECT_EQ(button.events().count(kPaint), row.repaints == Repaints::Yes ? 1 : 0);
-        EXPECT_THAT(button.changes().take(), ElementsAre(row.id));
-        T value{};
-        EXPECT_EQ((button.dual()->*row.get)(&value), S_OK);
-        EXPECT_EQ(value, row.other);
+        forEachRow([&]<class T>(Row<T> const& row) {
+            SCOPED_TRACE(kit::narrow(row.name));
+            T value{};
+            EXPECT_EQ((button.dual()->*row.get)(&value), S_OK);
+            EXPECT_EQ(value, row.initial);
+            EXPECT_EQ(kit::idOf(*button.dual(), row.name), row.id);
+        });
     }
-
-    template <class T> void checkNullRefused(FlatButton& button, Row<T> const& row)
+    /// Since the button started, or since the last time.
+    void expectToldAndPainted(DISPID told, int paints)
     {
-        EXPECT_EQ((button.dual()->*row.get)(nullptr), E_POINTER) << kit::narrow(row.name);
+        EXPECT_EQ(button.paints(), paints);
+        EXPECT_THAT(button.changes().take(), ElementsAre(told));
+        button.forget();
+    }
+    ComPtr<IPictureDisp> mouseIcon() const
+    {
+        ComPtr<IPictureDisp> icon;
+        EXPECT_EQ(button->get_MouseIcon(icon.put()), S_OK);
+        return icon;
+    }
+    OLE_COLOR backColor() const
+    {
+        OLE_COLOR color = 0;
+        EXPECT_EQ(button->get_BackColor(&color), S_OK);
+        return color;
+    }
+    void expectTheFormsFont() const
+    {
+        EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "not the form's font";
     }
 };
 
 TEST_F(FlatProperties, ofANewInstanceHaveTheirInitialValues)
 {
-    FlatButton button(library(), form);
     button.setSite();
     ASSERT_EQ(button.initNew(), S_OK);
-    forEachRow([&](auto const& row) { checkInitial(button, row); });
+    checkInitial();
     EXPECT_EQ(button.caption(), L"Button1");
     Bstr tip(L"poison");
     EXPECT_EQ(button->get_ToolTipText(tip.put()), S_OK);
     EXPECT_EQ(tip.view(), L"");
-    ComPtr<IPictureDisp> icon;
-    EXPECT_EQ(button->get_MouseIcon(icon.put()), S_OK);
-    EXPECT_FALSE(icon);
-    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "not the form's font";
+    EXPECT_FALSE(mouseIcon());
+    expectTheFormsFont();
 }
 
 TEST_F(FlatProperties, haveTheirInitialValuesAlreadyBeforeAnybodyInitialises)
 {
-    FlatButton button(library(), form);
-    forEachRow([&](auto const& row) { checkInitial(button, row); });
+    checkInitial();
     EXPECT_TRUE(button.font());
 }
 
 TEST_F(FlatProperties, assignedKeepTheValueTellTheContainerAndRepaintOnlyForTheRestingLook)
 {
-    FlatButton button(library(), form);
-    button.start();
-    forEachRow([&](auto const& row) { checkAssigned(button, row); });
+    start();
+    forEachRow([&]<class T>(Row<T> const& row) {
+        SCOPED_TRACE(kit::narrow(row.name));
+        EXPECT_EQ((button.dual()->*row.put)(row.other), S_OK);
+        expectToldAndPainted(row.id, row.repaints == Repaints::Yes ? 1 : 0);
+        T value{};
+        EXPECT_EQ((button.dual()->*row.get)(&value), S_OK);
+        EXPECT_EQ(value, row.other);
+    });
 }
 
 TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
 {
-    FlatButton button(library(), form);
     button.start();
     std::vector<std::string> order;
     OLE_COLOR told = 0;
     button.changes().action = [&](DISPID id) {
         order.push_back(id == id::BackColor ? "told" : "another property");
-        button->get_BackColor(&told);
+        told = backColor();
     };
     button.events().action = [&](kit::EventRecorder::Event const& event) {
         order.push_back(event.id == kPaint ? "painted" : "another event");
@@ -154,20 +167,17 @@ TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
 
 TEST_F(FlatProperties, assignedTheSameValueAgainStillTellAndRepaint)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.events().forget();
-    button.changes().take();
+    start();
     EXPECT_EQ(button->put_BackColor(0x8000000F), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 1);
-    EXPECT_THAT(button.changes().take(), ElementsAre(id::BackColor));
+    expectToldAndPainted(id::BackColor, 1);
 }
 
 TEST_F(FlatProperties, readIntoNowhereAreRefused)
 {
-    FlatButton button(library(), form);
     button.setSite();
-    forEachRow([&](auto const& row) { checkNullRefused(button, row); });
+    forEachRow([&](auto const& row) {
+        EXPECT_EQ((button.dual()->*row.get)(nullptr), E_POINTER) << kit::narrow(row.name);
+    });
     EXPECT_EQ(button->get_Caption(nullptr), E_POINTER);
     EXPECT_EQ(button->get_ToolTipText(nullptr), E_POINTER);
     EXPECT_EQ(button->get_Font(nullptr), E_POINTER);
@@ -178,13 +188,9 @@ TEST_F(FlatProperties, readIntoNowhereAreRefused)
 
 TEST_F(FlatProperties, toolTipTextIsKeptAndDoesNotRepaint)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.events().forget();
-    button.changes().take();
+    start();
     EXPECT_EQ(button->put_ToolTipText(Bstr(L"a tip").get()), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 0);
-    EXPECT_THAT(button.changes().take(), ElementsAre(id::ToolTipText));
+    expectToldAndPainted(id::ToolTipText, 0);
     Bstr tip;
     button->get_ToolTipText(tip.put());
     EXPECT_EQ(tip.view(), L"a tip");
@@ -192,77 +198,57 @@ TEST_F(FlatProperties, toolTipTextIsKeptAndDoesNotRepaint)
 
 TEST_F(FlatProperties, captionIsKeptWithItsMarkersAndRepaints)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.events().forget();
-    button.changes().take();
+    start();
     button.setCaption(L"&Save && \x00E4nder");
     EXPECT_EQ(button.caption(), L"&Save && \x00E4nder");
-    EXPECT_EQ(button.events().count(kPaint), 1);
-    EXPECT_THAT(button.changes().take(), ElementsAre(id::Caption));
+    expectToldAndPainted(id::Caption, 1);
     EXPECT_EQ(button->put_Caption(nullptr), S_OK);
     EXPECT_EQ(button.caption(), L"");
 }
 
 TEST_F(FlatProperties, fontIsTakenByValueTellsAndRepaints)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.events().forget();
-    button.changes().take();
+    start();
     auto const large = kit::newFont(L"Tahoma", 18, true);
     button.setFont(large.get());
     EXPECT_TRUE(kit::equalFonts(*button.font().get(), *large.get()));
-    EXPECT_EQ(button.events().count(kPaint), 1);
-    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT));
+    expectToldAndPainted(DISPID_FONT, 1);
 }
 
 TEST_F(FlatProperties, fontRefusesNothingAndWhatIsNoFont)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.changes().take();
+    start();
     EXPECT_TRUE(FAILED(button->putref_Font(nullptr)));
     auto const picture = kit::newIconPicture();
     EXPECT_TRUE(FAILED(button->putref_Font(reinterpret_cast<IFontDisp*>(picture.get()))));
-    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "the old font is gone";
+    expectTheFormsFont();
     EXPECT_THAT(button.changes().take(), IsEmpty());
 }
 
 // Sizes are rounded to whole pixels.
 TEST_F(FlatProperties, fontIsOf2160PointsAtMost)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.changes().take();
+    start();
     EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2170).get()).get()),
               kInvalidPropertyValue);
-    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get())) << "the old font is gone";
+    expectTheFormsFont();
     EXPECT_THAT(button.changes().take(), IsEmpty());
     EXPECT_EQ(button->putref_Font(query<IFontDisp>(kit::newFont(L"Tahoma", 2160).get()).get()), S_OK);
 }
 
 TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
 {
-    FlatButton button(library(), form);
-    button.start();
-    button.events().forget();
-    button.changes().take();
+    start();
     auto const icon = kit::newIconPicture();
     EXPECT_EQ(button->putref_MouseIcon(icon.get()), S_OK);
-    EXPECT_EQ(button.events().count(kPaint), 0);
-    EXPECT_THAT(button.changes().take(), ElementsAre(id::MouseIcon));
-    ComPtr<IPictureDisp> kept;
-    EXPECT_EQ(button->get_MouseIcon(kept.put()), S_OK);
-    EXPECT_EQ(kept.get(), icon.get());
+    expectToldAndPainted(id::MouseIcon, 0);
+    EXPECT_EQ(mouseIcon().get(), icon.get());
     EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
-    EXPECT_EQ(button->get_MouseIcon(kept.put()), S_OK);
-    EXPECT_FALSE(kept);
+    EXPECT_FALSE(mouseIcon());
 }
 
 TEST_F(FlatProperties, enabledIsWhetherTheWindowTakesInput)
 {
-    FlatButton button(library(), form);
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     button.start();
     EXPECT_FALSE(::IsWindowEnabled(button.window()));
@@ -276,7 +262,6 @@ TEST_F(FlatProperties, enabledIsWhetherTheWindowTakesInput)
 
 TEST_F(FlatProperties, hwndAndHdcAreTheWindowAndItsDeviceContext)
 {
-    FlatButton button(library(), form);
     button.start();
     LONG window = 0;
     LONG dc = 0;
@@ -289,7 +274,6 @@ TEST_F(FlatProperties, hwndAndHdcAreTheWindowAndItsDeviceContext)
 
 TEST_F(FlatProperties, hwndAndHdcCannotBeAssigned)
 {
-    FlatButton button(library(), form);
     button.start();
     EXPECT_TRUE(FAILED(kit::putByName(*button.dual(), L"hwnd", Variant::ofLong(1)).result));
     EXPECT_TRUE(FAILED(kit::putByName(*button.dual(), L"hdc", Variant::ofLong(1)).result));
@@ -298,7 +282,6 @@ TEST_F(FlatProperties, hwndAndHdcCannotBeAssigned)
 
 TEST_F(FlatProperties, valuesOutsideTheMeaningfulRangeAreStoredAsTheyAre)
 {
-    FlatButton button(library(), form);
     button.start();
     EXPECT_EQ(button->put_BorderStyle(static_cast<Style>(77)), S_OK);
     Style style{};
@@ -309,14 +292,11 @@ TEST_F(FlatProperties, valuesOutsideTheMeaningfulRangeAreStoredAsTheyAre)
     button->get_MousePointer(&pointer);
     EXPECT_EQ(pointer, -5);
     EXPECT_EQ(button->put_BackColor(0x80FFFFFF), S_OK);
-    OLE_COLOR color = 0;
-    button->get_BackColor(&color);
-    EXPECT_EQ(color, 0x80FFFFFF);
+    EXPECT_EQ(backColor(), 0x80FFFFFF);
 }
 
 TEST_F(FlatProperties, atDesignTimeAreAssignedWithoutAnyEvent)
 {
-    FlatButton button(library(), form);
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     button.start();
     EXPECT_EQ(button->put_BackColor(kOther), S_OK);
@@ -330,20 +310,80 @@ TEST_F(FlatProperties, atDesignTimeAreAssignedWithoutAnyEvent)
 // A colour arrives from scripts as a signed long; system colours are negative then.
 TEST_F(FlatProperties, systemColoursCanBeAssignedByNameAsSignedAndAsUnsignedLong)
 {
-    FlatButton button(library(), form);
     button.start();
     EXPECT_EQ(
         kit::putByName(*button.dual(), L"BackColor", Variant::ofLong(static_cast<long>(0x80000010U))).result,
         S_OK);
-    OLE_COLOR color = 0;
-    button->get_BackColor(&color);
-    EXPECT_EQ(color, 0x80000010U);
+    EXPECT_EQ(backColor(), 0x80000010U);
     Variant unsignedColor;
     unsignedColor.address()->vt = VT_UI4;
     unsignedColor.address()->ulVal = 0x80000011U;
     EXPECT_EQ(kit::putByName(*button.dual(), L"BackColor", unsignedColor).result, S_OK);
-    button->get_BackColor(&color);
-    EXPECT_EQ(color, 0x80000011U);
+    EXPECT_EQ(backColor(), 0x80000011U);
+}
+
+class FlatPointer : public ShownTest {
+protected:
+    /// The pointer after the window was asked for one.
+    HCURSOR shown()
+    {
+        ::SetCursor(nullptr);
+        ::SendMessageW(button.window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(button.window()),
+                       MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return ::GetCursor();
+    }
+    static HCURSOR system(auto name) { return ::LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(name)); }
+};
+
+TEST_F(FlatPointer, isTheArrowAtFirst) { EXPECT_EQ(shown(), system(IDC_ARROW)); }
+
+TEST_F(FlatPointer, isTheSystemsOfThatNumber)
+{
+    auto const pointers = {IDC_ARROW,    IDC_ARROW,       IDC_CROSS,    IDC_IBEAM,  IDC_ARROW,   IDC_SIZEALL,
+                           IDC_SIZENESW, IDC_SIZENS,      IDC_SIZENWSE, IDC_SIZEWE, IDC_UPARROW, IDC_WAIT,
+                           IDC_NO,       IDC_APPSTARTING, IDC_HELP,     IDC_SIZEALL};
+    for (SHORT number = 0; auto const identifier : pointers) {
+        EXPECT_EQ(button->put_MousePointer(number), S_OK);
+        EXPECT_EQ(shown(), system(identifier)) << number;
+        ++number;
+    }
+}
+
+TEST_F(FlatPointer, isTheArrowForNumbersThatNameNone)
+{
+    for (SHORT const number : std::initializer_list<SHORT>{-1, 16, 98, 32767}) {
+        EXPECT_EQ(button->put_MousePointer(number), S_OK);
+        EXPECT_EQ(shown(), system(IDC_ARROW)) << number;
+    }
+}
+
+TEST_F(FlatPointer, isTheMouseIconForNumber99AndOnlyThen)
+{
+    auto const icon = kit::newIconPicture();
+    EXPECT_EQ(button->putref_MouseIcon(icon.get()), S_OK);
+    EXPECT_EQ(shown(), system(IDC_ARROW));
+    EXPECT_EQ(button->put_MousePointer(99), S_OK);
+    OLE_HANDLE handle = 0;
+    query<IPicture>(icon.get())->get_Handle(&handle);
+    EXPECT_EQ(shown(), reinterpret_cast<HCURSOR>(static_cast<LONG_PTR>(static_cast<LONG>(handle))));
+    EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
+    EXPECT_EQ(shown(), system(IDC_ARROW));
+}
+
+TEST_F(FlatTest, theAboutBoxShowsTheVersionAndTheCallComesBackWhenItIsClosed)
+{
+    ShownButton button(library(), form);
+    int seen = 0;
+    std::vector<std::wstring> texts;
+    kit::DialogWatch const watch([&](HWND dialog) {
+        ++seen;
+        texts = kit::textsIn(dialog);
+        ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+    });
+    EXPECT_EQ(button->ShowAbout(), S_OK);
+    EXPECT_EQ(seen, 1);
+    EXPECT_THAT(texts, testing::Contains(testing::HasSubstr(L"Version " QV_VERSION)));
+    EXPECT_TRUE(::IsWindowEnabled(form.window()));
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // qvFlatCommand in a stream, whole and damaged.
 #include "FlatButton.h"
-#include "SavedRows.h"
-#include "kit/ByName.h"
-#include "kit/Fonts.h"
+#include "kit/Errors.h"
 #include "kit/Memory.h"
 
 #include <algorithm>
@@ -26,66 +24,39 @@ void append(Bytes& bytes, std::wstring const& text)
         append(bytes, letter);
 }
 
-class FlatStream : public FlatTest {
+class FlatStream : public SitedTest {
 protected:
-    kit::FakeForm form;
-    FlatButton button{library(), form};
+    FlatStream() { EXPECT_EQ(button.initNew(), S_OK); }
 
-    void SetUp() override
-    {
-        FlatTest::SetUp();
-        ASSERT_EQ(button.setSite(), S_OK);
-        ASSERT_EQ(button.initNew(), S_OK);
-    }
-    /// A value in every property.
-    static void assignAll(FlatButton& target)
-    {
-        for (SavedRow const& row : savedRows())
-            if (row.type != VT_UNKNOWN) {
-                EXPECT_EQ(kit::putByName(*target.dual(), row.name, row.other).result, S_OK)
-                    << kit::narrow(row.name);
-            }
-        target.setFont(kit::newFont(L"Tahoma", 33, true).get());
-        EXPECT_EQ(target->putref_MouseIcon(kit::newBitmapPicture(7, 5, RGB(1, 2, 3)).get()), S_OK);
-    }
-    static Bytes saved(FlatButton& from)
-    {
-        auto const stream = kit::streamOf();
-        EXPECT_EQ(from.as<IPersistStreamInit>()->Save(stream.get(), FALSE), S_OK);
-        return kit::bytesOf(*stream.get());
-    }
-    static HRESULT load(FlatButton& into, Bytes const& bytes)
-    {
-        return into.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
-    }
-    /// The text of the error info that the last call left; empty for none.
-    static std::wstring reason()
-    {
-        ComPtr<IErrorInfo> info;
-        Bstr text;
-        if (::GetErrorInfo(0, info.put()) == S_OK)
-            info->GetDescription(text.put());
-        return std::wstring(text.view());
-    }
+    ComPtr<IPersistStreamInit> face() const { return button.as<IPersistStreamInit>(); }
     /// Bytes that a button with a value in every property saves.
     Bytes fullBytes()
     {
         FlatButton full(library(), form, kPlace, L"Full");
         full.setSite();
         full.initNew();
-        assignAll(full);
-        return saved(full);
+        full.assignAll();
+        return full.saved();
+    }
+    /// Loaded without the font, which the last error tells.
+    void expectTheFormsFont(FlatButton const& of) const
+    {
+        EXPECT_EQ(kit::takenError().description, L"Invalid property value");
+        EXPECT_TRUE(kit::equalFonts(*of.font().get(), *formFont().get()));
+    }
+    static Bytes firstOf(Bytes const& bytes, size_t length)
+    {
+        return {bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(length)};
     }
 };
 
 TEST_F(FlatStream, givesBackWhatWasSaved)
 {
-    assignAll(button);
+    button.assignAll();
     auto const before = stateOf(button);
-    Bytes const bytes = saved(button);
     FlatButton other(library(), form);
     ASSERT_EQ(other.setSite(), S_OK);
-    ASSERT_EQ(load(other, bytes), S_OK);
+    ASSERT_EQ(other.load(button.saved()), S_OK);
     EXPECT_EQ(stateOf(other), before);
     EXPECT_TRUE(kit::equalFonts(*other.font().get(), *button.font().get()));
 }
@@ -94,11 +65,10 @@ TEST_F(FlatStream, givesBackDefaultsOverOtherValues)
 {
     button.setCaption(L"");
     auto const before = stateOf(button);
-    Bytes const bytes = saved(button);
     FlatButton other(library(), form);
     ASSERT_EQ(other.setSite(), S_OK);
-    assignAll(other);
-    ASSERT_EQ(load(other, bytes), S_OK);
+    other.assignAll();
+    ASSERT_EQ(other.load(button.saved()), S_OK);
     EXPECT_EQ(stateOf(other), before);
 }
 
@@ -109,28 +79,28 @@ TEST_F(FlatStream, givesBackACaptionOfAnyCharacters)
     text += std::wstring(3000, L'x');
     ASSERT_EQ(button->put_Caption(Bstr(text).get()), S_OK);
     FlatButton other(library(), form);
-    ASSERT_EQ(load(other, saved(button)), S_OK);
+    ASSERT_EQ(other.load(button.saved()), S_OK);
     EXPECT_EQ(other.caption(), text);
 }
 
 TEST_F(FlatStream, leavesOutDefaults)
 {
     button.setCaption(L"");
-    Bytes const defaults = saved(button);
+    Bytes const defaults = button.saved();
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
-    EXPECT_GT(saved(button).size(), defaults.size());
+    EXPECT_GT(button.saved().size(), defaults.size());
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(1).get()), S_OK);
-    EXPECT_EQ(saved(button), defaults);
+    EXPECT_EQ(button.saved(), defaults);
 }
 
 TEST_F(FlatStream, readsAndWritesNothingButItsOwnPart)
 {
-    assignAll(button);
+    button.assignAll();
     FlatButton second(library(), form, kPlace, L"Second");
     ASSERT_EQ(second.setSite(), S_OK);
     ASSERT_EQ(second.initNew(), S_OK);
     auto const stream = kit::streamOf();
-    ASSERT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    ASSERT_EQ(face()->Save(stream.get(), TRUE), S_OK);
     ASSERT_EQ(second.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
     Bytes const both = kit::bytesOf(*stream.get());
     auto const reading = kit::streamOf(both);
@@ -145,26 +115,26 @@ TEST_F(FlatStream, readsAndWritesNothingButItsOwnPart)
 
 TEST_F(FlatStream, saysHowLargeItWillBeAtMost)
 {
-    assignAll(button);
+    button.assignAll();
     ULARGE_INTEGER size{};
-    ASSERT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(&size), S_OK);
-    EXPECT_GE(size.QuadPart, saved(button).size());
+    ASSERT_EQ(face()->GetSizeMax(&size), S_OK);
+    EXPECT_GE(size.QuadPart, button.saved().size());
     EXPECT_LT(size.QuadPart, 0x10000U);
-    EXPECT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(nullptr), E_POINTER);
+    EXPECT_EQ(face()->GetSizeMax(nullptr), E_POINTER);
 }
 
 TEST_F(FlatStream, namesItsClass)
 {
     CLSID classId{};
-    EXPECT_EQ(button.as<IPersistStreamInit>()->GetClassID(&classId), S_OK);
+    EXPECT_EQ(face()->GetClassID(&classId), S_OK);
     EXPECT_EQ(classId, kQvFlatCommandClass);
-    EXPECT_EQ(button.as<IPersistStreamInit>()->GetClassID(nullptr), E_POINTER);
+    EXPECT_EQ(face()->GetClassID(nullptr), E_POINTER);
 }
 
 TEST_F(FlatStream, isDirtyFromAChangeToASaveThatClears)
 {
-    auto const persistent = button.as<IPersistStreamInit>();
-    ASSERT_EQ(load(button, saved(button)), S_OK);
+    auto const persistent = face();
+    ASSERT_EQ(button.load(button.saved()), S_OK);
     EXPECT_EQ(persistent->IsDirty(), S_FALSE);
     button.setCaption(L"changed");
     EXPECT_EQ(persistent->IsDirty(), S_OK);
@@ -176,8 +146,8 @@ TEST_F(FlatStream, isDirtyFromAChangeToASaveThatClears)
 
 TEST_F(FlatStream, refusesNoStream)
 {
-    EXPECT_TRUE(FAILED(button.as<IPersistStreamInit>()->Load(nullptr)));
-    EXPECT_TRUE(FAILED(button.as<IPersistStreamInit>()->Save(nullptr, TRUE)));
+    EXPECT_TRUE(FAILED(face()->Load(nullptr)));
+    EXPECT_TRUE(FAILED(face()->Save(nullptr, TRUE)));
 }
 
 TEST_F(FlatStream, endingTooEarlyIsRefusedAtEveryLengthAndChangesNothing)
@@ -185,11 +155,11 @@ TEST_F(FlatStream, endingTooEarlyIsRefusedAtEveryLengthAndChangesNothing)
     Bytes const full = fullBytes();
     auto const before = stateOf(button);
     for (size_t length = 0; length < full.size(); ++length) {
-        ASSERT_TRUE(FAILED(load(button, Bytes(full.begin(), full.begin() + static_cast<ptrdiff_t>(length)))))
-            << length << " of " << full.size();
-        ASSERT_EQ(stateOf(button), before) << length << " of " << full.size();
+        SCOPED_TRACE(length);
+        ASSERT_TRUE(FAILED(button.load(firstOf(full, length))));
+        ASSERT_EQ(stateOf(button), before);
     }
-    EXPECT_EQ(load(button, full), S_OK);
+    EXPECT_EQ(button.load(full), S_OK);
 }
 
 /// A form by hand: its mark, the version of its layout, how many values, how many bytes; then the values.
@@ -220,7 +190,7 @@ TEST_F(FlatStream, thatSaysOtherThanItHoldsIsRefusedAndChangesNothing)
 {
     Bytes const whole = captionOf(4, L"hand");
     auto const size = static_cast<DWORD>(whole.size());
-    ASSERT_EQ(load(button, formOf(1, 1, whole, size)), S_OK);
+    ASSERT_EQ(button.load(formOf(1, 1, whole, size)), S_OK);
     ASSERT_EQ(button.caption(), L"hand");
     Bytes longer = whole;
     longer.push_back(0);
@@ -238,7 +208,7 @@ TEST_F(FlatStream, thatSaysOtherThanItHoldsIsRefusedAndChangesNothing)
           Row{"a text longer than its body", formOf(1, 1, captionOf(5, L"hand"), size)},
           Row{"a text of any length", formOf(1, 1, captionOf(0xFFFFFFFF, L"hand"), size)}}) {
         button.setCaption(L"kept");
-        EXPECT_EQ(load(button, bytes), E_FAIL) << what;
+        EXPECT_EQ(button.load(bytes), E_FAIL) << what;
         EXPECT_EQ(button.caption(), L"kept") << what;
     }
 }
@@ -247,19 +217,18 @@ TEST_F(FlatStream, failingWhileItIsReadIsRefusedAndChangesNothing)
 {
     Bytes const full = fullBytes();
     auto const before = stateOf(button);
-    auto const persistent = button.as<IPersistStreamInit>();
+    auto const persistent = face();
     for (size_t length = 0; length < full.size(); length += 3) {
-        Bytes const part(full.begin(), full.begin() + static_cast<ptrdiff_t>(length));
-        ASSERT_TRUE(FAILED(persistent->Load(kit::brokenStream(part, 0).get()))) << length;
+        ASSERT_TRUE(FAILED(persistent->Load(kit::brokenStream(firstOf(full, length), 0).get()))) << length;
     }
     EXPECT_EQ(stateOf(button), before);
 }
 
 TEST_F(FlatStream, thatTakesNoMoreFailsTheSaveWhichStaysDirty)
 {
-    assignAll(button);
-    auto const persistent = button.as<IPersistStreamInit>();
-    size_t const size = saved(button).size();
+    button.assignAll();
+    auto const persistent = face();
+    size_t const size = button.saved().size();
     for (size_t taken = 0; taken < size; taken += 7)
         ASSERT_EQ(persistent->Save(kit::brokenStream({}, static_cast<ULONG>(taken)).get(), TRUE),
                   STG_E_MEDIUMFULL)
@@ -272,14 +241,13 @@ TEST_F(FlatStream, withAFontThatGrewTooLargeIsLoadedInTheFormsFontAndSaysSo)
     button.setCaption(L"&Large");
     button.setFont(kit::newFont(L"Tahoma", 33).get());
     ASSERT_EQ(button.font()->put_Size(CY{.int64 = 3000 * 10000}), S_OK); // no setter of the button's own
-    Bytes const bytes = saved(button);
+    Bytes const bytes = button.saved();
     FlatButton other(library(), form);
     ASSERT_EQ(other.setSite(), S_OK);
     other.setFont(kit::newFont(L"Tahoma", 7).get());
-    EXPECT_EQ(load(other, bytes), S_FALSE);
-    EXPECT_EQ(reason(), L"Invalid property value");
+    EXPECT_EQ(other.load(bytes), S_FALSE);
+    expectTheFormsFont(other);
     EXPECT_EQ(other.caption(), L"&Large");
-    EXPECT_TRUE(kit::equalFonts(*other.font().get(), *formFont().get()));
     EXPECT_EQ(other.as<IPersistStreamInit>()->IsDirty(), S_OK) << "what it would save is something else";
 }
 
@@ -294,10 +262,9 @@ TEST_F(FlatStream, withAFontOfDamagedBytesIsLoadedInTheFormsFont)
     BYTE& version = *(found + static_cast<ptrdiff_t>(head.size() * sizeof(wchar_t)) + 4);
     ASSERT_EQ(version, 1);
     version = 0xEE;
-    EXPECT_EQ(load(button, bytes), S_FALSE);
-    EXPECT_EQ(reason(), L"Invalid property value");
+    EXPECT_EQ(button.load(bytes), S_FALSE);
+    expectTheFormsFont(button);
     EXPECT_EQ(button.caption(), L"&Save");
-    EXPECT_TRUE(kit::equalFonts(*button.font().get(), *formFont().get()));
 }
 
 // Only a metafile's player can tell whether its records are whole: a stream takes none.
@@ -310,17 +277,17 @@ TEST_F(FlatStream, takesNoMetafileAndSaysSo)
     ASSERT_EQ(button->putref_MouseIcon(kit::newPicture(description).get()), S_OK);
     ::SetErrorInfo(0, nullptr);
     auto const stream = kit::streamOf();
-    EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_FALSE);
-    EXPECT_EQ(reason(), L"Invalid picture");
+    EXPECT_EQ(face()->Save(stream.get(), TRUE), S_FALSE);
+    EXPECT_EQ(kit::takenError().description, L"Invalid picture");
     FlatButton other(library(), form);
-    EXPECT_EQ(load(other, kit::bytesOf(*stream.get())), S_OK);
+    EXPECT_EQ(other.load(kit::bytesOf(*stream.get())), S_OK);
     EXPECT_EQ(other.caption(), L"&Played");
     ULARGE_INTEGER size{};
-    EXPECT_EQ(button.as<IPersistStreamInit>()->GetSizeMax(&size), S_OK);
+    EXPECT_EQ(face()->GetSizeMax(&size), S_OK);
     EXPECT_EQ(size.QuadPart, kit::bytesOf(*stream.get()).size());
     EXPECT_EQ(button.as<IPersistStorage>()->Save(kit::newStorage().get(), FALSE), S_FALSE);
     EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
-    EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    EXPECT_EQ(face()->Save(stream.get(), TRUE), S_OK);
 }
 
 TEST_F(FlatStream, damagedAtRandomIsLoadedOrRefusedAndChangesNothingWhenRefused)
@@ -341,7 +308,7 @@ TEST_F(FlatStream, damagedAtRandomIsLoadedOrRefusedAndChangesNothingWhenRefused)
             ASSERT_EQ(target->setSite(), S_OK);
             ASSERT_EQ(target->initNew(), S_OK);
         }
-        if (SUCCEEDED(load(*target, damaged))) {
+        if (SUCCEEDED(target->load(damaged))) {
             ++loaded;
             target.reset(); // a fresh one for the next round
             continue;
@@ -362,9 +329,9 @@ TEST_F(FlatStream, withAnyLengthAtAnyPlaceIsLoadedOrRefused)
              {0U, 1U, 0x7FFFU, 0x8000U, 0xFFFFU, 0x10000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
             Bytes damaged = full;
             memcpy(damaged.data() + at, &value, sizeof value);
-            load(button, damaged);
+            button.load(damaged);
         }
-    EXPECT_EQ(load(button, full), S_OK);
+    EXPECT_EQ(button.load(full), S_OK);
     EXPECT_EQ(button.caption(), L"&Save");
 }
 

@@ -1,12 +1,7 @@
 // Image buttons in other hosts: the system's own, which has no ambient properties, and a form in design mode.
 #include "Look.h"
 #include "Mouse.h"
-#include "Pictures.h"
-#include "kit/ByName.h"
-#include "kit/Canvas.h"
 #include "kit/Errors.h"
-#include "kit/Input.h"
-#include "kit/Pump.h"
 
 namespace quillet::image {
 namespace {
@@ -15,20 +10,7 @@ using testing::IsEmpty;
 
 class ImageAtl : public ImageInputTest {
 protected:
-    COLORREF pixelAt(int x, int y)
-    {
-        RECT client{};
-        ::GetClientRect(button().window(), &client);
-        kit::Canvas shown(client.right, client.bottom);
-        kit::readWindow(button().window(), shown);
-        return shown.at(x, y);
-    }
-    int width()
-    {
-        RECT client{};
-        ::GetClientRect(button().window(), &client);
-        return client.right;
-    }
+    void expectColor(COLORREF color) { EXPECT_EQ(pixelAt(button(), 60, 20), color); }
 };
 INSTANTIATE_TEST_SUITE_P(Of, ImageAtl,
                          testing::Combine(testing::Values(&imageCommand(), &toolButton()),
@@ -41,16 +23,16 @@ TEST_P(ImageAtl, showTheirPicturesInEveryLook)
     ASSERT_EQ(button()->putref_HotImage(pictureOf(kHot).get()), S_OK);
     ASSERT_EQ(button()->putref_PressedImage(pictureOf(kPressed).get()), S_OK);
     ASSERT_EQ(button()->putref_DisabledImage(pictureOf(kDisabled).get()), S_OK);
-    EXPECT_EQ(pixelAt(60, 20), kImage.color);
+    expectColor(kImage.color);
     button().moveTo(kInside);
-    EXPECT_EQ(pixelAt(60, 20), kHot.color);
+    expectColor(kHot.color);
     button().press();
-    EXPECT_EQ(pixelAt(60, 20), kPressed.color);
+    expectColor(kPressed.color);
     button().release();
     button().moveTo(kBeside);
-    EXPECT_EQ(pixelAt(60, 20), kImage.color);
+    expectColor(kImage.color);
     ASSERT_EQ(button()->put_Enabled(VARIANT_FALSE), S_OK);
-    EXPECT_EQ(pixelAt(60, 20), kDisabled.color);
+    expectColor(kDisabled.color);
 }
 
 TEST_P(ImageAtl, runWithoutAmbientProperties)
@@ -65,7 +47,7 @@ TEST_P(ImageAtl, keepTheirWidthWhereNobodyChangesIt)
 {
     ASSERT_EQ(button()->put_AutoSizeWidth(VARIANT_TRUE), S_OK);
     ASSERT_EQ(button()->put_Caption(Bstr(L"A caption of some length").get()), S_OK);
-    EXPECT_EQ(width(), kPlace.right - kPlace.left);
+    EXPECT_EQ(kit::Canvas(button().window()).width(), kPlace.right - kPlace.left);
 }
 
 TEST_P(ImageAtl, showACheckedButtonAndItsPressedPicture)
@@ -78,16 +60,15 @@ TEST_P(ImageAtl, showACheckedButtonAndItsPressedPicture)
     button().release();
     button().moveTo(kBeside);
     EXPECT_TRUE(button().isChecked());
-    EXPECT_EQ(pixelAt(60, 20), kPressed.color);
+    expectColor(kPressed.color);
 }
 
 class ImageDesign : public ImageTest {
 protected:
     ImageButton button{library(), form, kind()};
 
-    void SetUp() override
+    ImageDesign()
     {
-        ImageTest::SetUp();
         button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
         button.load();
         button.forget();
@@ -95,7 +76,7 @@ protected:
     Look resting() const
     {
         COLORREF const edge = ::GetSysColor(kind().isTool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW);
-        return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge};
+        return {::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 1, button.caption()};
     }
 };
 QV_BOTH_CLASSES(ImageDesign);
@@ -115,11 +96,7 @@ TEST_P(ImageDesign, raisesNothingTakesNoCaptureAndShowsTheNormalLook)
 TEST_P(ImageDesign, hearsNoAccessKey)
 {
     button.setCaption(L"&Save");
-    MSG message{};
-    message.hwnd = form.window();
-    message.message = WM_SYSCHAR;
-    message.wParam = L's';
-    button.as<IOleControl>()->OnMnemonic(&message);
+    kit::pressAccessKey(button.object(), L's');
     EXPECT_THAT(button.events().ids(), IsEmpty());
 }
 
@@ -134,16 +111,12 @@ TEST_P(ImageDesign, showsADisabledButtonAtRest)
 {
     button.setCaption(L"&Off");
     ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    Look look = resting();
-    look.caption = L"&Off";
-    EXPECT_EQ(differencesFrom(button, look), "");
+    EXPECT_EQ(differencesFrom(button, resting()), "");
 }
 
 TEST_P(ImageDesign, paintsWhenItIsShownAndWhenItsSizeChanges)
 {
-    button.site().position = {20, 30, 180, 90};
-    ASSERT_EQ(button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-              S_OK);
+    button.place({20, 30, 180, 90});
     EXPECT_EQ(button.size().cx, 160);
     EXPECT_EQ(differencesFrom(button, resting()), "");
 }
@@ -152,8 +125,7 @@ TEST_P(ImageDesign, atRunTimeShowingAndResizingEachPaint)
 {
     button.setUserMode(true);
     button.forget();
-    button.site().position = {20, 30, 180, 90};
-    button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip);
+    button.place({20, 30, 180, 90});
     EXPECT_GE(button.paints(), 1) << "before any message was handled";
     button.forget();
     EXPECT_EQ(button.doVerb(OLEIVERB_HIDE), S_OK);

@@ -1,28 +1,22 @@
-// An image command button or a tool button in a form, with everybody who listens to it.
+// An image command button or a tool button in a form, and the saved properties of both as the tests expect
+// them.
 #pragma once
 
-#include "kit/ControlTest.h"
+#include "base/Variant.h"
+#include "kit/ByName.h"
+#include "kit/CommandButton.h"
 #include "kit/FakeBag.h"
-#include "kit/Hosted.h"
-#include "kit/Listener.h"
-#include "typelib/DispatchIds.h"
-#include "typelib/Guids.h"
-#include "typelib/Interfaces.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace quillet::image {
 
+using kit::formFont;
+using kit::kPaint;
+using kit::kPlace;
+using kit::kPlaceBelow;
 using kit::Names;
-
-constexpr DISPID kPaint = eventid::command::Paint;
-
-constexpr RECT kPlace{20, 30, 140, 70};
 
 /// The two classes: what a test has to know of each.
 struct Kind {
@@ -35,58 +29,78 @@ struct Kind {
 Kind const& imageCommand();
 Kind const& toolButton();
 
-/// The font that the form offers.
-ComPtr<IFont> formFont();
-
 /// Twips of one pixel of the screen, across; it has as many down.
 double twipsPerPixel();
 
-/// A button whose events and changed properties are recorded from the beginning. Nothing has happened to it
-/// yet. The interfaces of the two classes have the same vtable: one pointer reaches both.
-class ImageButton : public kit::Hosted, public kit::Listener {
+/// The interfaces of the two classes have the same vtable: one pointer reaches both.
+class ImageButton : public kit::CommandButton<_qvImageCommand> {
 public:
     ImageButton(kit::Library const& library, kit::FakeForm& form, Kind const& kind,
                 RECT const& place = kPlace, std::wstring const& name = L"Button1");
-    ~ImageButton() { remove(); }
 
-    _qvImageCommand* operator->() const noexcept { return m_button.get(); }
-    _qvImageCommand* dual() const noexcept { return m_button.get(); }
-    int paints() const { return count("Paint"); }
     /// How often the extender was told another width.
     int widths() { return form().record().countFrom("Extender.Width = "); }
-    void forget();
-    void remove();
 
-    /// Loads what the bag says (an empty one when there is none) and shows it: subclassed, without caption.
-    void load();
-    void setUserMode(bool running);
+    using Hosted::load;
+    /// Loads what an empty bag says and shows it: subclassed, without caption.
+    void load() { start(*kit::make<kit::FakeBag>().get()); }
 
-    std::wstring caption() const;
-    void setCaption(wchar_t const* text);
-    ComPtr<IFont> font() const;
     bool isChecked() const;
-    void makeCheckButton();
-
-    SIZE size() const;
-    /// Moves the cursor onto the button and repaints it.
-    void makeHot();
-    /// The same with the left mouse button held down; the button has the focus then.
-    void makePressed();
-    /// Lets the mouse button go and takes the cursor away.
-    void leave();
-    /// A repaint by the button's own routine, as a setter without any other effect makes it.
-    void repaint();
-
-private:
-    ComPtr<_qvImageCommand> m_button;
-    bool m_pressed = false;
+    void makeCheckButton() { EXPECT_EQ(dual()->put_CheckButton(VARIANT_TRUE), S_OK); }
+    /// The same, and checked.
+    void check();
+    ComPtr<IFont> checkedFont() const;
+    void setCheckedFont(IFont* font);
 };
+
+/// What assigning a property does besides storing and telling; what measures repaints, too.
+enum Effect { kNothing = 0, kRepaints = 1, kMeasures = 3 };
+
+/// A saved property: its name, its defaults, a value that is neither, and the effect of its setter.
+struct SavedRow {
+    wchar_t const* name;
+    VARTYPE type;         ///< in a bag; VT_UNKNOWN stands for an object
+    Variant imageDefault; ///< empty for objects
+    Variant toolDefault;
+    Variant other; ///< empty for objects and flags
+    Effect effect;
+
+    Variant const& defaultOf(Kind const& kind) const { return kind.isTool ? toolDefault : imageDefault; }
+    Variant otherThanDefault(Kind const& kind) const
+    {
+        return type == VT_BOOL ? Variant::ofBool(!defaultOf(kind).toBool()) : other;
+    }
+};
+
+/// All of them in the order of reading and writing; those that are no objects; the names of all.
+std::vector<SavedRow> const& savedRows();
+std::vector<SavedRow> savedValues();
+std::vector<std::wstring> savedNames();
+
+/// A value as the member gives it, as text: colours are numbers.
+std::string valueOf(ImageButton const& button, wchar_t const* name);
+/// Every saved property and ToolTipText as "Name = value".
+std::vector<std::string> stateOf(ImageButton const& button);
 
 /// Every test runs for both classes.
 class ImageTest : public kit::ControlTest, public testing::WithParamInterface<Kind const*> {
 protected:
     static Kind const& kind() { return *GetParam(); }
     kit::FakeForm form;
+};
+
+/// With a button that has nothing but its site.
+class SitedTest : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+    SitedTest() { EXPECT_EQ(button.setSite(), S_OK); }
+};
+
+/// With a button that was loaded and is shown.
+class LoadedTest : public ImageTest {
+protected:
+    ImageButton button{library(), form, kind()};
+    LoadedTest() { button.load(); }
 };
 
 #define QV_BOTH_CLASSES(Suite)                                                                               \

@@ -1,9 +1,6 @@
 // The space key, access keys and Enter on an image button.
 #include "Mouse.h"
-#include "kit/ByName.h"
 #include "kit/MessageWatch.h"
-
-#include <olectl.h>
 
 namespace quillet::image {
 namespace {
@@ -25,14 +22,7 @@ protected:
         kit::pumpPending();
         return button().happened();
     }
-    HRESULT accessKey(wchar_t key)
-    {
-        MSG message{};
-        message.hwnd = form.window();
-        message.message = WM_SYSCHAR;
-        message.wParam = key;
-        return query<IOleControl>(button().object())->OnMnemonic(&message);
-    }
+    void pressAccessKey() { EXPECT_EQ(kit::pressAccessKey(button().object(), L's'), S_OK); }
 };
 QV_BOTH_HOSTS(ImageKeys);
 
@@ -60,27 +50,20 @@ TEST_P(ImageKeys, theAccessKeyClicksWithoutTogglingWhileTheButtonIsActive)
     ASSERT_EQ(button()->put_Caption(Bstr(L"&Save").get()), S_OK);
     ASSERT_EQ(button()->put_CheckButton(VARIANT_TRUE), S_OK);
     button().events().forget();
-    EXPECT_EQ(accessKey(L's'), S_OK);
+    pressAccessKey();
     EXPECT_THAT(button().happened(), ElementsAre("Click"));
     EXPECT_FALSE(button().isChecked());
     ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
-    EXPECT_EQ(accessKey(L's'), S_OK);
+    pressAccessKey();
     EXPECT_THAT(button().happened(), IsEmpty());
 }
 
 TEST_P(ImageKeys, theAccessKeyIsTheCharacterAfterTheFirstMarker)
 {
-    struct Row {
-        wchar_t const* caption;
-        WORD keys;
-    };
-    for (Row const& row :
-         {Row{L"&Save", 2}, Row{L"Save", 0}, Row{L"", 0}, Row{L"Save&", 0}, Row{L"A&1&2", 1}}) {
-        ASSERT_EQ(button()->put_Caption(Bstr(row.caption).get()), S_OK);
-        CONTROLINFO info{};
-        info.cb = sizeof info;
-        ASSERT_EQ(query<IOleControl>(button().object())->GetControlInfo(&info), S_OK);
-        EXPECT_EQ(info.cAccel, row.keys) << kit::narrow(row.caption);
+    for (auto const& [caption, keys] :
+         {std::pair{L"&Save", 2U}, {L"Save", 0U}, {L"", 0U}, {L"Save&", 0U}, {L"A&1&2", 1U}}) {
+        ASSERT_EQ(button()->put_Caption(Bstr(caption).get()), S_OK);
+        EXPECT_EQ(kit::accessKeys(button().object()).size(), keys) << kit::narrow(caption);
     }
 }
 

@@ -3,12 +3,14 @@
 
 #include "ImageButton.h"
 #include "Pictures.h"
-#include "kit/Canvas.h"
+#include "kit/ButtonLook.h"
 
 #include <optional>
 #include <string>
 
 namespace quillet::image {
+
+using kit::middle;
 
 /// Colours that no scheme has.
 constexpr COLORREF kFore = RGB(10, 20, 30), kBack = RGB(200, 205, 210);
@@ -35,18 +37,25 @@ struct Look {
     std::optional<Shown> shown = {};
 };
 
+/// With the caption where it stands without a picture and with the usual indent.
+Look lookOf(COLORREF fore, COLORREF back, COLORREF light, COLORREF dark, int border = 1,
+            std::wstring const& caption = {});
+/// Of the colours above.
+Look plainLook(int border = 1, std::wstring const& caption = {});
+
+/// Gives the normal look the colours above; or every look, so that they differ in nothing else.
+void setColors(ImageButton& button);
+void setColorsOfEveryLook(ImageButton& button);
+
 void paint(kit::Canvas& canvas, Look const& look, IFont& font);
 
 /// Empty when the button shows the look; else the pixels that differ.
-std::string differencesFrom(ImageButton& button, Look const& look);
+std::string differencesFrom(ImageButton const& button, Look const& look);
 
 /// The colour of one pixel that the button shows.
-COLORREF pixelAt(ImageButton& button, int x, int y);
+COLORREF pixelAt(auto const& button, int x, int y) { return kit::Canvas(button.window()).at(x, y); }
 
 /// The tint of the task-pane scheme on the present desktop.
 COLORREF taskPaneTint(bool deep);
-
-/// The middle of the space, halves to the even pixel.
-int middle(int space, int length);
 
 } // namespace quillet::image

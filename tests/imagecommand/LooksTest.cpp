@@ -1,10 +1,6 @@
 // The looks of both classes, pixel by pixel, in the user's colours and in the task-pane scheme.
 #include "Look.h"
-#include "kit/ByName.h"
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
-#include "kit/Input.h"
-#include "kit/Pump.h"
+#include "kit/HostWindow.h"
 
 namespace quillet::image {
 namespace {
@@ -21,24 +17,18 @@ constexpr COLORREF kUnused = RGB(255, 0, 0);
 
 COLORREF desktop(int index) { return ::GetSysColor(index); }
 
-class ImageLooks : public ImageTest {
+class ImageLooks : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
     UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 300, 60});
 
-    void SetUp() override
+    ImageLooks()
     {
-        ImageTest::SetUp();
-        button.load();
-        ASSERT_EQ(button->put_OffsetPressed(VARIANT_FALSE), S_OK);
+        EXPECT_EQ(button->put_OffsetPressed(VARIANT_FALSE), S_OK);
         button.setCaption(L"&Look");
     }
     void setColors()
     {
-        button->put_ForeColor(kFore);
-        button->put_BackColor(kBack);
-        button->put_LightBorderColor(kLight);
-        button->put_DarkBorderColor(kDark);
+        image::setColors(button);
         button->put_HotForeColor(kHotFore);
         button->put_HotBackColor(kHotBack);
         button->put_HotLightBorderColor(kHotLight);
@@ -63,19 +53,28 @@ protected:
         EXPECT_EQ(button->put_PressedBorderWidth(Variant::ofShort(pressed).get()), S_OK);
         button.repaint();
     }
-    void check()
+    /// Disabled after the focus has gone.
+    void disable()
     {
-        button.makeCheckButton();
-        EXPECT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+        ASSERT_TRUE(kit::focus(edit.get()));
+        ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     }
     static Look look(COLORREF fore, COLORREF back, COLORREF light, COLORREF dark, int border = 1)
     {
-        Look result{fore, back, light, dark, border};
-        result.caption = L"&Look";
-        result.captionLeft = border + 4;
-        return result;
+        return lookOf(fore, back, light, dark, border, L"&Look");
+    }
+    static Look desktopLook(int fore, int back, int light, int dark)
+    {
+        return look(desktop(fore), desktop(back), desktop(light), desktop(dark));
     }
     void expect(Look const& expected) { EXPECT_EQ(differencesFrom(button, expected), ""); }
+    /// With the picture at the left, a caption beside it.
+    static Look withImage(Look look)
+    {
+        look.shown = Shown{kImage, 5, middle(40, kImage.height)};
+        look.captionLeft = 5 + kImage.width + 1;
+        return look;
+    }
     /// Pressed, the button has the focus: its border is one pixel wider and its caption stands further in.
     static Look focused(Look look)
     {
@@ -90,21 +89,17 @@ TEST_P(ImageLooks, ofANewButtonAreThoseOfItsClass)
 {
     bool const tool = kind().isTool;
     int const edge = tool ? COLOR_3DLIGHT : COLOR_3DDKSHADOW;
-    expect(look(desktop(COLOR_BTNTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
+    expect(desktopLook(COLOR_BTNTEXT, COLOR_BTNFACE, edge, edge));
     button.makeHot();
-    expect(tool ? look(desktop(COLOR_HIGHLIGHT), desktop(COLOR_BTNFACE), desktop(COLOR_BTNHIGHLIGHT),
-                       desktop(COLOR_BTNSHADOW))
-                : look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW), desktop(COLOR_3DDKSHADOW),
-                       desktop(COLOR_3DDKSHADOW)));
+    expect(tool ? desktopLook(COLOR_HIGHLIGHT, COLOR_BTNFACE, COLOR_BTNHIGHLIGHT, COLOR_BTNSHADOW)
+                : desktopLook(COLOR_BTNHIGHLIGHT, COLOR_BTNSHADOW, COLOR_3DDKSHADOW, COLOR_3DDKSHADOW));
     button.makePressed();
-    expect(focused(tool ? look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DLIGHT),
-                               desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_BTNSHADOW))
-                        : look(desktop(COLOR_BTNHIGHLIGHT), desktop(COLOR_3DDKSHADOW),
-                               desktop(COLOR_3DDKSHADOW), desktop(COLOR_3DDKSHADOW))));
+    expect(focused(
+        tool ? desktopLook(COLOR_BTNHIGHLIGHT, COLOR_3DLIGHT, COLOR_BTNHIGHLIGHT, COLOR_BTNSHADOW)
+             : desktopLook(COLOR_BTNHIGHLIGHT, COLOR_3DDKSHADOW, COLOR_3DDKSHADOW, COLOR_3DDKSHADOW)));
     button.leave();
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
-    expect(look(desktop(COLOR_GRAYTEXT), desktop(COLOR_BTNFACE), desktop(edge), desktop(edge)));
+    disable();
+    expect(desktopLook(COLOR_GRAYTEXT, COLOR_BTNFACE, edge, edge));
 }
 
 TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
@@ -117,8 +112,7 @@ TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
     button.makePressed();
     expect(focused(look(kPressedFore, kPressedBack, kPressedLight, kPressedDark, 4)));
     button.leave();
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    disable();
     expect(look(kDisabledFore, kBack, kLight, kDark, 2));
     button.makeHot();
     expect(look(kDisabledFore, kBack, kLight, kDark, 2));
@@ -127,7 +121,7 @@ TEST_P(ImageLooks, takeEachItsOwnColoursAndWidth)
 TEST_P(ImageLooks, checkedTakeTheCheckedBordersAndAtRestTheCheckedLook)
 {
     setColors();
-    check();
+    button.check();
     expect(look(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
     button.makeHot();
     expect(look(kHotFore, kHotBack, kCheckedLight, kCheckedDark));
@@ -137,8 +131,7 @@ TEST_P(ImageLooks, checkedTakeTheCheckedBordersAndAtRestTheCheckedLook)
     ASSERT_FALSE(button.isChecked());
     expect(focused(look(kFore, kBack, kLight, kDark)));
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    disable();
     expect(look(kDisabledFore, kBack, kCheckedLight, kCheckedDark));
 }
 
@@ -166,8 +159,7 @@ TEST_P(ImageLooks, ofATaskPaneButtonAreTheDesktopsWhateverItsColours)
     button.makePressed();
     expect(focused(look(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave();
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    disable();
     expect(look(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), desktop(COLOR_BTNSHADOW),
                 desktop(COLOR_BTNSHADOW), 2));
 }
@@ -191,7 +183,7 @@ TEST_P(ImageLooks, ofADesignedTaskPaneToolButtonHaveAnOutline)
 
 TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
 {
-    check();
+    button.check();
     ASSERT_EQ(button->put_OfficeXPColors(VARIANT_TRUE), S_OK);
     COLORREF const selection = desktop(COLOR_HIGHLIGHT);
     expect(look(desktop(COLOR_BTNTEXT), taskPaneTint(false), selection, selection));
@@ -201,8 +193,7 @@ TEST_P(ImageLooks, ofACheckedTaskPaneButtonAreTintedAtRestAndSelectedAlways)
     expect(focused(look(desktop(COLOR_BTNHIGHLIGHT), taskPaneTint(true), selection, selection)));
     button.leave(); // released over it: not checked any more
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
-    ASSERT_TRUE(kit::focus(edit.get()));
-    ASSERT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
+    disable();
     expect(look(desktop(COLOR_BTNSHADOW), desktop(COLOR_BTNFACE), selection, selection));
 }
 
@@ -261,21 +252,17 @@ TEST_P(ImageLooks, cutACaptionThatIsTooLongAtTheBorder)
 TEST_P(ImageLooks, ofABorderBeyondTheButtonAreThoseOfItsRingsThatCanBeSeen)
 {
     setColors();
-    SIZE const size = button.size();
-    kit::Canvas all(size.cx, size.cy);
-    kit::Canvas more(size.cx, size.cy);
-    setWidths(static_cast<short>(size.cx + 1), 1, 1);
-    kit::readWindow(button.window(), all);
+    setWidths(static_cast<short>(button.size().cx + 1), 1, 1);
+    kit::Canvas const all(button.window());
     setWidths(32767, 1, 1);
-    kit::readWindow(button.window(), more);
-    EXPECT_EQ(kit::differences(all, more), "");
+    EXPECT_EQ(kit::differences(all, kit::Canvas(button.window())), "");
     EXPECT_EQ(all.count(kBack), 0);
 }
 
 TEST_P(ImageLooks, doNotChangeWithPropertiesThatAreOnlyStored)
 {
     setColors();
-    check();
+    button.check();
     Look const before = look(kFore, kCheckedBack, kCheckedLight, kCheckedDark);
     expect(before);
     for (wchar_t const* const name :
@@ -307,9 +294,8 @@ TEST_P(ImageLooks, ofHotAndPressedPropertiesWaitForTheirState)
 TEST_P(ImageLooks, doNotGoByTheFontForCheckedButtons)
 {
     setColors();
-    check();
-    auto const large = kit::newFont(L"Tahoma", 20, true);
-    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
+    button.check();
+    button.setCheckedFont(kit::newFont(L"Tahoma", 20, true).get());
     button.repaint();
     expect(look(kFore, kCheckedBack, kCheckedLight, kCheckedDark));
 }
@@ -353,10 +339,7 @@ TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     std::string found = "no event";
     button.events().action = [&](auto const&) {
-        Look expected = look(kFore, RGB(7, 8, 9), kLight, kDark);
-        expected.shown = Shown{kImage, 5, middle(button.size().cy, kImage.height)};
-        expected.captionLeft = 5 + kImage.width + 1;
-        found = differencesFrom(button, expected);
+        found = differencesFrom(button, withImage(look(kFore, RGB(7, 8, 9), kLight, kDark)));
     };
     ASSERT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
     button.events().action = nullptr;
@@ -366,18 +349,11 @@ TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
 TEST_P(ImageLooks, areTheSameInAViewOfTheControl)
 {
     setColors();
-    SIZE const size = button.size();
-    kit::Canvas shown(size.cx, size.cy);
-    kit::Canvas expected(size.cx, size.cy);
-    RECTL const bounds{0, 0, size.cx, size.cy};
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
-    ASSERT_EQ(button.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, shown.dc(),
-                                             &bounds, nullptr, nullptr, 0),
-              S_OK);
-    Look look = this->look(kFore, kBack, kLight, kDark);
-    look.shown = Shown{kImage, 5, middle(size.cy, kImage.height)};
-    look.captionLeft = 5 + kImage.width + 1;
-    paint(expected, look, *button.font().get());
+    kit::Canvas shown(button.size().cx, button.size().cy);
+    button.draw(shown);
+    kit::Canvas expected(shown.width(), shown.height());
+    paint(expected, withImage(look(kFore, kBack, kLight, kDark)), *button.font().get());
     EXPECT_EQ(kit::differences(expected, shown), "");
 }
 

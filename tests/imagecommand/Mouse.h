@@ -3,8 +3,6 @@
 
 #include "ImageButton.h"
 #include "kit/HostWindow.h"
-#include "kit/Input.h"
-#include "kit/Pump.h"
 
 #include <memory>
 
@@ -63,9 +61,33 @@ public:
         EXPECT_EQ(m_dual->get_Checked(&checked), S_OK);
         return checked != VARIANT_FALSE;
     }
-    Names moveTo(POINT at)
+    Names moveTo(POINT at, char const* last = "MouseMove")
     {
-        return during([&] { kit::moveCursorTo(m_window, at.x, at.y); }, "MouseMove");
+        return during([&] { kit::moveCursorTo(m_window, at.x, at.y); }, last);
+    }
+    /// Moves the cursor, whatever comes of it.
+    void put(POINT at)
+    {
+        kit::moveCursorTo(m_window, at.x, at.y);
+        kit::pumpPending();
+    }
+    /// Onto the button and down.
+    Names moveAndPress()
+    {
+        moveTo(kInside);
+        return press();
+    }
+    void send(UINT message, POINT at = kInside, WPARAM keys = 0)
+    {
+        ::SendMessageW(m_window, message, keys, MAKELPARAM(at.x, at.y));
+    }
+    /// Runs inside each event of that name until it is set to nothing.
+    void whenever(std::string const& name, std::function<void()> const& action)
+    {
+        events().action = [this, name, action](auto const&) {
+            if (lastEvent() == name)
+                action();
+        };
     }
     Names press(kit::MouseButton which = kit::MouseButton::Left)
     {
@@ -89,15 +111,10 @@ class ImageInputTest : public kit::ControlTest,
                        public testing::WithParamInterface<std::tuple<Kind const*, HostKind>> {
 protected:
     kit::FakeForm form;
-    std::unique_ptr<HostedButton> m_button;
+    std::unique_ptr<HostedButton> m_button =
+        std::make_unique<HostedButton>(library(), form, *std::get<0>(GetParam()), std::get<1>(GetParam()));
     HostedButton& button() { return *m_button; }
 
-    void SetUp() override
-    {
-        ControlTest::SetUp();
-        m_button = std::make_unique<HostedButton>(library(), form, *std::get<0>(GetParam()),
-                                                  std::get<1>(GetParam()));
-    }
     void TearDown() override
     {
         kit::release(kit::MouseButton::Left);

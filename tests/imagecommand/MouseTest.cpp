@@ -1,7 +1,6 @@
 // The mouse over an image button: hot or not, what is a click, and somebody else who takes the capture.
 #include "Mouse.h"
 
-#include "kit/Canvas.h"
 #include "kit/ModalDialog.h"
 
 namespace quillet::image {
@@ -78,8 +77,7 @@ TEST_P(ImageHover, aDoubleClickIsDownUpClickDoubleUp)
 // Unlike the flat button, this one leaves even while a mouse button is held.
 TEST_P(ImageHover, draggedOffWhilePressedLeavesAndForgetsThePress)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     EXPECT_THAT(button().moveTo(kBeside), ElementsAre("MouseExit", "Paint", "MouseMove"));
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
@@ -88,16 +86,14 @@ TEST_P(ImageHover, draggedOffWhilePressedLeavesAndForgetsThePress)
 
 TEST_P(ImageHover, repaintsEachMoveOfAPressThatLostItsButton)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     button().events().forget();
     // A move that says that no button is down, though nobody told of a release.
-    ::SendMessageW(button().window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    button().send(WM_MOUSEMOVE);
     EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseMove"));
-    ::SendMessageW(button().window(), WM_MOUSEMOVE, MK_LBUTTON | MK_RBUTTON,
-                   MAKELPARAM(kInside.x, kInside.y));
+    button().send(WM_MOUSEMOVE, kInside, MK_LBUTTON | MK_RBUTTON);
     EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseMove")) << "exactly the left one counts";
-    ::SendMessageW(button().window(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(kInside.x, kInside.y));
+    button().send(WM_MOUSEMOVE, kInside, MK_LBUTTON);
     EXPECT_THAT(button().happened(), ElementsAre("MouseMove"));
     button().release();
 }
@@ -112,7 +108,7 @@ TEST_P(ImageHover, countsAWindowOnTopEvenAChildAsOutside)
 
 TEST_P(ImageHover, tellsButtonShiftAndTheTwipsOfThePlace)
 {
-    ::SendMessageW(button().window(), WM_RBUTTONDOWN, MK_RBUTTON | MK_SHIFT | MK_CONTROL, MAKELPARAM(7, 11));
+    button().send(WM_RBUTTONDOWN, {7, 11}, MK_RBUTTON | MK_SHIFT | MK_CONTROL);
     auto const& event = button().events().events.back();
     ASSERT_EQ(event.id, eventid::command::MouseDown);
     ASSERT_EQ(event.values.size(), 4U);
@@ -127,8 +123,7 @@ TEST_P(ImageHover, ofADisabledButtonIsNothing)
     ASSERT_EQ(button()->put_Enabled(VARIANT_FALSE), S_OK);
     kit::pumpPending();
     button().events().forget();
-    kit::moveCursorTo(button().window(), kInside.x, kInside.y);
-    kit::pumpPending();
+    button().put(kInside);
     kit::press(kit::MouseButton::Left);
     kit::release(kit::MouseButton::Left);
     kit::pumpPending();
@@ -142,9 +137,8 @@ TEST_P(ImageHover, whileNotActiveRaisesNothingAndDoesNotRepaint)
     ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
     button().events().forget();
     for (UINT const message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN})
-        ::SendMessageW(button().window(), message, 0, MAKELPARAM(kInside.x, kInside.y));
-    kit::moveCursorTo(button().window(), kInside.x, kInside.y);
-    kit::pumpPending();
+        button().send(message);
+    button().put(kInside);
     EXPECT_THAT(button().happened(), IsEmpty());
     EXPECT_EQ(::GetCapture(), nullptr);
 }
@@ -177,8 +171,7 @@ protected:
     /// and MouseEnter.
     Names draggedOntoAndLetGo()
     {
-        kit::moveCursorTo(button().window(), kBeside.x, kBeside.y);
-        kit::pumpPending();
+        button().put(kBeside);
         button().events().forget();
         EXPECT_TRUE(kit::dragFrom(button().window(), kBeside, kInside));
         EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseMove") > 0; }));
@@ -186,20 +179,14 @@ protected:
         std::erase(names, "Paint");
         return names;
     }
-    void letGoSomewhereElse()
-    {
-        kit::release(MouseButton::Left);
-        EXPECT_TRUE(kit::pumpUntil([] { return ::GetKeyState(VK_LBUTTON) >= 0; }));
-    }
 };
 QV_BOTH_HOSTS(ImageClick);
 
 TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatWasDraggedOffAndLetGoOutside)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     button().moveTo(kBeside);
-    letGoSomewhereElse();
+    EXPECT_TRUE(kit::letGo());
     EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
 }
 
@@ -207,15 +194,13 @@ TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatOpenedADialog)
 {
     button().moveTo(kInside);
     bool opened = false;
-    button().events().action = [&](auto const& event) {
-        if (event.id != eventid::command::MouseDown)
-            return;
+    button().whenever("MouseDown", [&] {
         opened = true;
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
-            letGoSomewhereElse();
+            EXPECT_TRUE(kit::letGo());
         });
-    };
+    });
     button().press();
     button().events().action = nullptr;
     ASSERT_TRUE(opened);
@@ -248,16 +233,14 @@ constexpr POINT kOnTheFace{60, 20}; // where nothing is drawn but the face
 
 class ImageLostCapture : public ImageInputTest {
 protected:
-    void SetUp() override
+    ImageLostCapture()
     {
-        ImageInputTest::SetUp();
-        ASSERT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
+        EXPECT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
         button().moveTo(kInside);
     }
     bool isHot()
     {
-        WindowDc const dc(button().window());
-        return ::GetPixel(dc.get(), kOnTheFace.x, kOnTheFace.y) == kHotLook;
+        return ::GetPixel(WindowDc(button().window()).get(), kOnTheFace.x, kOnTheFace.y) == kHotLook;
     }
 };
 QV_BOTH_HOSTS(ImageLostCapture);
@@ -267,24 +250,20 @@ TEST_P(ImageLostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)
     ::SetCapture(form.window());
     kit::pumpPending();
     EXPECT_TRUE(isHot()) << "the mouse is still there";
-    EXPECT_THAT(
-        button().during([&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }, "MouseExit"),
-        ElementsAre("MouseExit", "Paint"));
+    EXPECT_THAT(button().moveTo(kBeside, "MouseExit"), ElementsAre("MouseExit", "Paint"));
     EXPECT_FALSE(isHot());
 }
 
 TEST_P(ImageLostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
 {
     bool hot = true;
-    button().events().action = [&](auto const& event) {
-        if (event.id != eventid::command::Click)
-            return;
+    button().whenever("Click", [&] {
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
             EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseExit") > 0; }));
             hot = isHot();
         });
-    };
+    });
     button().press();
     button().release();
     button().events().action = nullptr;
@@ -308,8 +287,7 @@ TEST_P(ImageLostCapture, byBecomingInactiveRaisesNothingNotEvenLater)
 {
     ASSERT_EQ(button()->put_Active(VARIANT_FALSE), S_OK);
     button().events().forget();
-    kit::moveCursorTo(button().window(), kBeside.x, kBeside.y);
-    kit::pumpPending();
+    button().put(kBeside);
     ::SendMessageA(button().window(), WM_MOUSELEAVE, 0, 0);
     ASSERT_EQ(button()->put_Active(VARIANT_TRUE), S_OK);
     ::SendMessageA(button().window(), WM_MOUSELEAVE, 0, 0);

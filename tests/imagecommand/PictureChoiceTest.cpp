@@ -1,28 +1,12 @@
 // Which of its pictures a button shows, and what of a picture is seen through.
 #include "Look.h"
-#include "kit/ByName.h"
-#include "kit/Fonts.h"
-#include "kit/Input.h"
-#include "kit/Memory.h"
-#include "kit/Pump.h"
-
-#include <olectl.h>
-
-#include <cstdlib>
 
 namespace quillet::image {
 namespace {
 
-class ImagePictureChoice : public ImageTest {
+class ImagePictureChoice : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
-    {
-        ImageTest::SetUp();
-        button.load();
-        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
-    }
+    ImagePictureChoice() { EXPECT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK); }
     void setDisabled() { EXPECT_EQ(button->putref_DisabledImage(pictureOf(kDisabled).get()), S_OK); }
     void setHot() { EXPECT_EQ(button->putref_HotImage(pictureOf(kHot).get()), S_OK); }
     void setPressed() { EXPECT_EQ(button->putref_PressedImage(pictureOf(kPressed).get()), S_OK); }
@@ -32,17 +16,8 @@ protected:
         setHot();
         setPressed();
     }
-    void check()
-    {
-        button.makeCheckButton();
-        EXPECT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
-    }
     /// The middle of the button shows the picture's colour.
-    void expectShown(Plain const& picture)
-    {
-        SIZE const size = button.size();
-        EXPECT_EQ(pixelAt(button, size.cx / 2, size.cy / 2), picture.color);
-    }
+    void expectShown(Plain const& picture) { EXPECT_EQ(pixelAt(button, 60, 20), picture.color); }
 };
 QV_BOTH_CLASSES(ImagePictureChoice);
 
@@ -72,7 +47,6 @@ TEST_P(ImagePictureChoice, pressedIsPressedImageOrElseHotImageOrElseImage)
     expectShown(kHot);
     setPressed();
     expectShown(kPressed);
-    button.leave();
 }
 
 TEST_P(ImagePictureChoice, disabledIsDisabledImageOrElseImageUnchanged)
@@ -89,7 +63,7 @@ TEST_P(ImagePictureChoice, disabledIsDisabledImageOrElseImageUnchanged)
 
 TEST_P(ImagePictureChoice, checkedAtRestIsPressedImageOrElseImage)
 {
-    check();
+    button.check();
     expectShown(kImage);
     setPressed();
     expectShown(kPressed);
@@ -103,7 +77,7 @@ TEST_P(ImagePictureChoice, checkedAtRestIsPressedImageOrElseImage)
 TEST_P(ImagePictureChoice, checkedAtRestIsPressedImageAmongAll)
 {
     setAll();
-    check();
+    button.check();
     expectShown(kPressed);
 }
 
@@ -117,7 +91,7 @@ TEST_P(ImagePictureChoice, checkedWithoutBeingACheckButtonIsImage)
 TEST_P(ImagePictureChoice, atDesignTimeIsAlwaysImage)
 {
     setAll();
-    check();
+    button.check();
     button.makeHot();
     button.setUserMode(false);
     button.repaint();
@@ -129,7 +103,7 @@ TEST_P(ImagePictureChoice, atDesignTimeIsAlwaysImage)
 TEST_P(ImagePictureChoice, whileNotActiveIsAlwaysImage)
 {
     setAll();
-    check();
+    button.check();
     ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
     button.makeHot();
     expectShown(kImage);
@@ -139,12 +113,11 @@ TEST_P(ImagePictureChoice, whileNotActiveIsAlwaysImage)
 
 TEST_P(ImagePictureChoice, passesOverPicturesThatAreEmpty)
 {
-    ImageButton fresh(library(), form, kind(), {20, 80, 140, 120}, L"Fresh");
+    ImageButton fresh(library(), form, kind(), kPlaceBelow, L"Fresh");
     fresh.start(); // its pictures are empty objects
     ASSERT_EQ(fresh->putref_Image(pictureOf(kImage).get()), S_OK);
     fresh.makeHot();
     EXPECT_EQ(pixelAt(fresh, 60, 20), kImage.color);
-    fresh.leave();
 }
 
 TEST_P(ImagePictureChoice, isShownAgainOverTheNewFaceWhenTheHostDraws)
@@ -157,16 +130,15 @@ TEST_P(ImagePictureChoice, isShownAgainOverTheNewFaceWhenTheHostDraws)
 
 TEST_P(ImagePictureChoice, isNothingWhereThereIsNoImage)
 {
-    ImageButton bare(library(), form, kind(), {20, 80, 140, 120}, L"Bare");
+    ImageButton bare(library(), form, kind(), kPlaceBelow, L"Bare");
     bare.load();
     ASSERT_EQ(bare->putref_HotImage(pictureOf(kHot).get()), S_OK);
     EXPECT_EQ(pixelAt(bare, 60, 20), ::GetSysColor(COLOR_BTNFACE));
     bare.makeHot();
     EXPECT_EQ(pixelAt(bare, 60, 20), kHot.color);
-    bare.leave();
 }
 
-constexpr COLORREF kBack = RGB(200, 100, 0);
+constexpr COLORREF kBehind = RGB(200, 100, 0);
 constexpr int kSide = 16;
 
 /// Rows of four: clear, a quarter, three quarters, solid; all of them green.
@@ -184,23 +156,17 @@ Pixels ramp()
 /// That much of the one over the rest of the other.
 int mixed(int over, int under, int alpha) { return (over * alpha + under * (255 - alpha) + 127) / 255; }
 
-class ImageTransparency : public ImageTest {
+class ImageTransparency : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
+    ImageTransparency() { EXPECT_EQ(button->put_BackColor(kBehind), S_OK); }
 
-    void SetUp() override
-    {
-        ImageTest::SetUp();
-        button.load();
-        ASSERT_EQ(button->put_BackColor(kBack), S_OK);
-    }
     void expectPixel(int column, int alpha)
     {
         COLORREF const shown = pixelAt(button, (120 - kSide) / 2 + column, 20);
         // Systems round the mixture their own way.
-        EXPECT_NEAR(GetRValue(shown), mixed(0, GetRValue(kBack), alpha), 2) << column;
-        EXPECT_NEAR(GetGValue(shown), mixed(255, GetGValue(kBack), alpha), 2) << column;
-        EXPECT_NEAR(GetBValue(shown), mixed(0, GetBValue(kBack), alpha), 2) << column;
+        EXPECT_NEAR(GetRValue(shown), mixed(0, GetRValue(kBehind), alpha), 2) << column;
+        EXPECT_NEAR(GetGValue(shown), mixed(255, GetGValue(kBehind), alpha), 2) << column;
+        EXPECT_NEAR(GetBValue(shown), mixed(0, GetBValue(kBehind), alpha), 2) << column;
     }
     void expectRamp()
     {
@@ -209,24 +175,20 @@ protected:
         expectPixel(9, 192);
         expectPixel(14, 255);
     }
+    /// Also in the next paint, as the face below is new each time.
+    void expectRampOf(ComPtr<IPictureDisp> const& picture)
+    {
+        ASSERT_EQ(button->putref_Image(picture.get()), S_OK);
+        expectRamp();
+        button.repaint();
+        expectRamp();
+    }
 };
 QV_BOTH_CLASSES(ImageTransparency);
 
-TEST_P(ImageTransparency, ofAnIconIsKept)
-{
-    ASSERT_EQ(button->putref_Image(alphaIcon(ramp(), kSide).get()), S_OK);
-    expectRamp();
-    button.repaint();
-    expectRamp(); // and the face below is new each time
-}
+TEST_P(ImageTransparency, ofAnIconIsKept) { expectRampOf(alphaIcon(ramp(), kSide)); }
 
-TEST_P(ImageTransparency, ofABitmapIsKept)
-{
-    ASSERT_EQ(button->putref_Image(alphaBitmap(ramp(), kSide).get()), S_OK);
-    expectRamp();
-    button.repaint();
-    expectRamp();
-}
+TEST_P(ImageTransparency, ofABitmapIsKept) { expectRampOf(alphaBitmap(ramp(), kSide)); }
 
 TEST_P(ImageTransparency, ofABitmapThatNeverMeantItsAlphaIsNone)
 {
@@ -239,11 +201,8 @@ TEST_P(ImageTransparency, ofAnIconIsKeptInAViewOfTheControl)
 {
     ASSERT_EQ(button->putref_Image(alphaIcon(ramp(), kSide).get()), S_OK);
     kit::Canvas canvas(120, 40, RGB(1, 2, 3));
-    RECTL const bounds{0, 0, 120, 40};
-    ASSERT_EQ(button.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas.dc(),
-                                             &bounds, nullptr, nullptr, 0),
-              S_OK);
-    EXPECT_EQ(canvas.at(53, 20), kBack);
+    button.draw(canvas);
+    EXPECT_EQ(canvas.at(53, 20), kBehind);
     EXPECT_EQ(canvas.at(66, 20), RGB(0, 255, 0));
 }
 
@@ -263,10 +222,10 @@ TEST_P(ImageTransparency, ofAMetafileThatWasLoadedIsItsOwn)
 {
     auto const bag = kit::make<kit::FakeBag>();
     bag->put(L"Image", Variant::ofDispatch(metafilePicture().get()));
-    bag->put(L"BackColor", Variant::ofLong(kBack));
-    ASSERT_EQ(button.Hosted::load(*bag.get()), S_OK);
+    bag->put(L"BackColor", Variant::ofLong(kBehind));
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
     button.repaint();
-    EXPECT_EQ(pixelAt(button, 3, 3), kBack);
+    EXPECT_EQ(pixelAt(button, 3, 3), kBehind);
 }
 
 } // namespace

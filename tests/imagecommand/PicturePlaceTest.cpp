@@ -1,11 +1,7 @@
 // Where picture and caption stand, to the pixel, and how far they move while a button is pressed or checked.
 #include "Look.h"
-#include "kit/ByName.h"
 #include "kit/Errors.h"
-#include "kit/Fonts.h"
-#include "kit/Input.h"
 #include "kit/Memory.h"
-#include "kit/Pump.h"
 
 #include <cmath>
 
@@ -16,35 +12,37 @@ constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr int kMargin = 4;
 constexpr int kGap = 1;
 
-class ImagePicturePlace : public ImageTest {
+class ImagePicturePlace : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
+    ImagePicturePlace()
     {
-        ImageTest::SetUp();
-        button.load();
-        button->put_ForeColor(kFore);
-        button->put_BackColor(kBack);
-        button->put_LightBorderColor(kLight);
-        button->put_DarkBorderColor(kDark);
-        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+        setColors(button);
+        EXPECT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     }
     void setCaption(wchar_t const* text) { button.setCaption(text); }
+    void setBorder(short width, imgCmdBorderStyleConstants style = imgCmdBorderStyleConstants::Fixed)
+    {
+        ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(width).get()), S_OK);
+        ASSERT_EQ(button->put_BorderStyle(style), S_OK);
+    }
     void resize(int width, int height)
     {
-        button.site().position = {20, 30, 20 + width, 30 + height};
-        ASSERT_EQ(
-            button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip),
-            S_OK);
+        button.place({20, 30, 20 + width, 30 + height});
         kit::pumpPending();
     }
-    Look look(int border = 1) const { return {kFore, kBack, kLight, kDark, border}; }
+    /// The caption is centred and the picture left of the middle.
+    void expectCentred()
+    {
+        ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
+        Look expected = plainLook(1, button.caption());
+        expected.centred = true;
+        expected.shown = Shown{kImage, 1 + kMargin, 14};
+        EXPECT_EQ(differencesFrom(button, expected), "");
+    }
     /// The picture stands there, and the caption, if there is one, beside it.
     void expectAt(int left, int top, Plain const& picture = kImage, int border = 1)
     {
-        Look expected = look(border);
-        expected.caption = button.caption();
+        Look expected = plainLook(border, button.caption());
         expected.captionLeft = left + picture.width + kGap;
         expected.shown = Shown{picture, left, top};
         EXPECT_EQ(differencesFrom(button, expected), "");
@@ -92,16 +90,12 @@ TEST_P(ImagePicturePlace, besideACaptionRoundsHalvesToTheEvenPixel)
 TEST_P(ImagePicturePlace, besideACaptionGoesByTheNormalBorderWhateverTheLook)
 {
     setCaption(L"&Open");
+    setColorsOfEveryLook(button);
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(3).get()), S_OK);
     ASSERT_EQ(button->put_HotBorderWidth(Variant::ofShort(5).get()), S_OK);
     expectAt(3 + kMargin, 14, kImage, 3);
-    button->put_HotForeColor(kFore);
-    button->put_HotBackColor(kBack);
-    button->put_HotLightBorderColor(kLight);
-    button->put_HotDarkBorderColor(kDark);
     button.makeHot();
     expectAt(3 + kMargin, 14, kImage, 5);
-    button.leave();
 }
 
 TEST_P(ImagePicturePlace, besideACaptionIgnoresTheIndent)
@@ -114,39 +108,27 @@ TEST_P(ImagePicturePlace, besideACaptionIgnoresTheIndent)
 TEST_P(ImagePicturePlace, withoutABorderIsFourPixelsFromTheEdge)
 {
     setCaption(L"&Open");
-    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
-    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
+    setBorder(5, imgCmdBorderStyleConstants::None);
     expectAt(kMargin, 14, kImage, 0);
 }
 
 TEST_P(ImagePicturePlace, countsTheStyleAsAFactor)
 {
     setCaption(L"&Open");
-    ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
-    ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
+    setBorder(5, imgCmdBorderStyleConstants::Sunken);
     expectAt(2 * 5 + kMargin, 14, kImage, 0);
 }
 
 TEST_P(ImagePicturePlace, leavesACentredCaptionWhereItIs)
 {
     setCaption(L"&Go");
-    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Look expected = look();
-    expected.caption = L"&Go";
-    expected.centred = true;
-    expected.shown = Shown{kImage, 1 + kMargin, 14};
-    EXPECT_EQ(differencesFrom(button, expected), "");
+    expectCentred();
 }
 
 TEST_P(ImagePicturePlace, liesOverTheCaption)
 {
     setCaption(L"MMMMMMMMMMMMMMMMMMMMMMMM");
-    ASSERT_EQ(button->put_CentreCaption(VARIANT_TRUE), S_OK);
-    Look expected = look();
-    expected.caption = button.caption();
-    expected.centred = true;
-    expected.shown = Shown{kImage, 1 + kMargin, 14};
-    EXPECT_EQ(differencesFrom(button, expected), "");
+    expectCentred();
 }
 
 TEST_P(ImagePicturePlace, withoutCaptionButAutoSizedIsTheMiddle)
@@ -166,28 +148,19 @@ TEST_P(ImagePicturePlace, followsTheShownPicturesOwnSize)
 
 TEST_P(ImagePicturePlace, movesTheCaptionOfAButtonThatHasAPictureInOneLookOnly)
 {
-    ImageButton bare(library(), form, kind(), {20, 80, 140, 120}, L"Bare");
+    ImageButton bare(library(), form, kind(), kPlaceBelow, L"Bare");
     bare.load();
     bare->put_CaptionIndent(7);
     ASSERT_EQ(bare->putref_HotImage(pictureOf(kHot).get()), S_OK);
-    for (auto const put : {&_qvImageCommand::put_ForeColor, &_qvImageCommand::put_HotForeColor})
-        (bare.dual()->*put)(kFore);
-    for (auto const put : {&_qvImageCommand::put_BackColor, &_qvImageCommand::put_HotBackColor})
-        (bare.dual()->*put)(kBack);
-    for (auto const put : {&_qvImageCommand::put_LightBorderColor, &_qvImageCommand::put_HotLightBorderColor})
-        (bare.dual()->*put)(kLight);
-    for (auto const put : {&_qvImageCommand::put_DarkBorderColor, &_qvImageCommand::put_HotDarkBorderColor})
-        (bare.dual()->*put)(kDark);
+    setColorsOfEveryLook(bare);
     bare.setCaption(L"&Open");
-    Look expected = look();
-    expected.caption = L"&Open";
+    Look expected = plainLook(1, L"&Open");
     expected.captionLeft = 1 + 7;
     EXPECT_EQ(differencesFrom(bare, expected), "");
     bare.makeHot();
     expected.captionLeft = 1 + kMargin + kHot.width + kGap;
     expected.shown = Shown{kHot, 1 + kMargin, middle(40, kHot.height)};
     EXPECT_EQ(differencesFrom(bare, expected), "");
-    bare.leave();
 }
 
 TEST_P(ImagePicturePlace, isCutAtTheEdgeWhereThePictureIsTooLarge)
@@ -233,37 +206,17 @@ TEST_P(ImagePicturePlace, overflowsWhereTheBorderDoes)
     expectAt(2 + kMargin, 14, kImage, 2);
 }
 
-class ImageOffset : public ImageTest {
+class ImageOffset : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
+    ImageOffset()
     {
-        ImageTest::SetUp();
-        button.load();
-        for (auto const put :
-             {&_qvImageCommand::put_ForeColor, &_qvImageCommand::put_HotForeColor,
-              &_qvImageCommand::put_PressedForeColor, &_qvImageCommand::put_DisabledForeColor})
-            (button.dual()->*put)(kFore);
-        for (auto const put :
-             {&_qvImageCommand::put_BackColor, &_qvImageCommand::put_HotBackColor,
-              &_qvImageCommand::put_PressedBackColor, &_qvImageCommand::put_CheckedBackColor})
-            (button.dual()->*put)(kBack);
-        for (auto const put :
-             {&_qvImageCommand::put_LightBorderColor, &_qvImageCommand::put_HotLightBorderColor,
-              &_qvImageCommand::put_PressedLightBorderColor, &_qvImageCommand::put_CheckedLightBorderColor})
-            (button.dual()->*put)(kLight);
-        for (auto const put :
-             {&_qvImageCommand::put_DarkBorderColor, &_qvImageCommand::put_HotDarkBorderColor,
-              &_qvImageCommand::put_PressedDarkBorderColor, &_qvImageCommand::put_CheckedDarkBorderColor})
-            (button.dual()->*put)(kDark);
-        ASSERT_EQ(button->put_OffsetPressed(VARIANT_TRUE), S_OK);
-        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+        setColorsOfEveryLook(button);
+        EXPECT_EQ(button->put_OffsetPressed(VARIANT_TRUE), S_OK);
+        EXPECT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     }
     void expectMoved(int pixels)
     {
-        Look look{kFore, kBack, kLight, kDark, ::GetFocus() == button.window() ? 2 : 1};
-        look.caption = button.caption();
+        Look look = plainLook(::GetFocus() == button.window() ? 2 : 1, button.caption());
         bool const named = !look.caption.empty();
         int const left = named ? 5 : (120 - kImage.width) / 2;
         look.shown = Shown{kImage, left + pixels, (40 - kImage.height) / 2 + pixels};
@@ -312,25 +265,21 @@ TEST_P(ImageOffset, isTwoPixelsWhileACheckButtonIsPressedCheckedOrNot)
     expectMoved(2);
     ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
     expectMoved(2);
-    button.leave();
 }
 
 TEST_P(ImageOffset, isNoneWhereItIsSwitchedOff)
 {
     ASSERT_EQ(button->put_OffsetPressed(VARIANT_FALSE), S_OK);
     button.setCaption(L"&Check");
-    button.makeCheckButton();
-    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    button.check();
     expectMoved(0);
     button.makePressed();
     expectMoved(0);
-    button.leave();
 }
 
 TEST_P(ImageOffset, needsNoUserWhileChecked)
 {
-    button.makeCheckButton();
-    ASSERT_EQ(button->put_Checked(VARIANT_TRUE), S_OK);
+    button.check();
     button.setUserMode(false);
     button.repaint();
     expectMoved(1);
@@ -338,18 +287,13 @@ TEST_P(ImageOffset, needsNoUserWhileChecked)
 
 TEST_P(ImageOffset, movesACentredCaptionAndOneWithoutPicture)
 {
-    ImageButton bare(library(), form, kind(), {20, 80, 140, 120}, L"Bare");
+    ImageButton bare(library(), form, kind(), kPlaceBelow, L"Bare");
     bare.load();
     bare->put_OffsetPressed(VARIANT_TRUE);
-    bare->put_CheckButton(VARIANT_TRUE);
-    bare->put_Checked(VARIANT_TRUE);
-    bare->put_ForeColor(kFore);
-    bare->put_CheckedBackColor(kBack);
-    bare->put_CheckedLightBorderColor(kLight);
-    bare->put_CheckedDarkBorderColor(kDark);
+    bare.check();
+    setColorsOfEveryLook(bare);
     bare.setCaption(L"&Down");
-    Look look{kFore, kBack, kLight, kDark};
-    look.caption = L"&Down";
+    Look look = plainLook(1, L"&Down");
     look.offset = 1;
     EXPECT_EQ(differencesFrom(bare, look), "");
     bare->put_CentreCaption(VARIANT_TRUE);

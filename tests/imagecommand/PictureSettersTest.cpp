@@ -1,11 +1,8 @@
 // Which pictures the four picture properties take, and how they refuse the others.
+#include "ImageButton.h"
 #include "Pictures.h"
-#include "SavedRows.h"
-#include "kit/ByName.h"
 #include "kit/Errors.h"
-#include "kit/Fonts.h"
 #include "kit/ModalDialog.h"
-#include "kit/Pump.h"
 
 #include <optional>
 
@@ -80,16 +77,9 @@ private:
     kit::DialogWatch m_watch{[this](HWND dialog) { read(dialog); }};
 };
 
-class ImagePictureSetters : public ImageTest {
+class ImagePictureSetters : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
-    {
-        ImageTest::SetUp();
-        button.load();
-        button.forget();
-    }
+    ImagePictureSetters() { button.forget(); }
     ComPtr<IPictureDisp> stored(PictureRow const& row)
     {
         ComPtr<IPictureDisp> picture;
@@ -99,6 +89,13 @@ protected:
     HRESULT assign(PictureRow const& row, IPictureDisp* picture)
     {
         return (button.dual()->*row.put)(picture);
+    }
+    void setStored(PictureRow const& row, IPictureDisp* picture)
+    {
+        SCOPED_TRACE(kit::narrow(row.name));
+        ASSERT_EQ(assign(row, picture), S_OK);
+        EXPECT_EQ(stored(row).get(), picture);
+        button.forget();
     }
     void expectNothingHappened()
     {
@@ -111,18 +108,15 @@ QV_BOTH_CLASSES(ImagePictureSetters);
 TEST_P(ImagePictureSetters, takeBitmapsAndIconsAndKeepTheVeryObject)
 {
     for (PictureRow const& row : kRows)
-        for (auto const& picture : {pictureOf(kImage), kit::newIconPicture()}) {
-            EXPECT_EQ(assign(row, picture.get()), S_OK) << kit::narrow(row.name);
-            EXPECT_EQ(stored(row).get(), picture.get()) << kit::narrow(row.name);
-        }
+        for (auto const& picture : {pictureOf(kImage), kit::newIconPicture()})
+            setStored(row, picture.get());
 }
 
 TEST_P(ImagePictureSetters, refuseOthersWithError481InUserModeAndKeepWhatTheyHad)
 {
     for (PictureRow const& row : kRows) {
         auto const before = pictureOf(kImage);
-        ASSERT_EQ(assign(row, before.get()), S_OK);
-        button.forget();
+        setStored(row, before.get());
         for (auto const& refused :
              {emptyPicture(), unloadedPicture(), metafilePicture(), ComPtr<IPictureDisp>()}) {
             EXPECT_EQ(assign(row, refused.get()), kInvalidPicture) << kit::narrow(row.name);
@@ -145,7 +139,7 @@ TEST_P(ImagePictureSetters, refuseWhatIsNoPictureAtAll)
     EXPECT_TRUE(FAILED(kit::setByName(*button.dual(), L"Image", kit::newFont(L"Tahoma", 9).get()).result));
     auto const bag = kit::make<kit::FakeBag>();
     bag->put(L"Image", Variant::ofUnknown(kit::newFont(L"Tahoma", 9).get()));
-    EXPECT_EQ(button.Hosted::load(*bag.get()), kTypeMismatch);
+    EXPECT_EQ(button.load(*bag.get()), kTypeMismatch);
 }
 
 TEST_P(ImagePictureSetters, atDesignTimeTellTheDesignerAndKeepWhatTheyHad)
@@ -153,7 +147,7 @@ TEST_P(ImagePictureSetters, atDesignTimeTellTheDesignerAndKeepWhatTheyHad)
     for (PictureRow const& row : kRows)
         for (auto const& refused : {metafilePicture(), emptyPicture()}) {
             auto const before = pictureOf(kImage);
-            ASSERT_EQ(assign(row, before.get()), S_OK);
+            setStored(row, before.get());
             button.setUserMode(false);
             button.forget();
             BoxReader box;

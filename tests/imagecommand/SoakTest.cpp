@@ -1,7 +1,6 @@
 // Many buttons with pictures one after another, and many paints of one, leave nothing behind.
-#include "Mouse.h"
+#include "ImageButton.h"
 #include "Pictures.h"
-#include "kit/Fonts.h"
 #include "kit/UiThread.h"
 #include "kit/Usage.h"
 

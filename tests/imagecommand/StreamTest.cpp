@@ -1,8 +1,7 @@
 // Both classes in a stream: whole, with a damaged picture, and damaged throughout.
+#include "ImageButton.h"
 #include "Pictures.h"
-#include "SavedRows.h"
-#include "kit/ByName.h"
-#include "kit/Fonts.h"
+#include "kit/Errors.h"
 #include "kit/Memory.h"
 
 #include <algorithm>
@@ -13,37 +12,27 @@ namespace {
 
 using kit::Bytes;
 
-class ImageStream : public ImageTest {
+/// A new button, and another for what it saves.
+class ImageStream : public SitedTest {
 protected:
-    ImageButton button{library(), form, kind()};
+    ImageStream() { EXPECT_EQ(button.initNew(), S_OK); }
 
-    void SetUp() override
-    {
-        ImageTest::SetUp();
-        ASSERT_EQ(button.setSite(), S_OK);
-        ASSERT_EQ(button.initNew(), S_OK);
-    }
     void assignAll()
     {
-        for (SavedRow const& row : savedRows())
-            if (row.type != VT_UNKNOWN && std::wstring(row.name) != L"Active") {
+        for (SavedRow const& row : savedValues())
+            if (std::wstring(row.name) != L"Active") {
                 EXPECT_EQ(kit::putByName(*button.dual(), row.name, row.otherThanDefault(kind())).result,
                           S_OK);
             }
-        EXPECT_EQ(button->putref_CheckedFont(query<IFontDisp>(kit::newFont(L"Tahoma", 31).get()).get()),
-                  S_OK);
+        button.setCheckedFont(kit::newFont(L"Tahoma", 31).get());
         EXPECT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
         EXPECT_EQ(button->putref_DisabledImage(pictureOf(kDisabled).get()), S_OK);
         EXPECT_EQ(button->putref_HotImage(kit::newIconPicture().get()), S_OK);
         EXPECT_EQ(button->putref_PressedImage(pictureOf(kPressed).get()), S_OK);
         EXPECT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
     }
-    kit::Bytes saved()
-    {
-        auto const stream = kit::streamOf();
-        EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
-        return kit::bytesOf(*stream.get());
-    }
+    std::string value(wchar_t const* name) const { return valueOf(button, name); }
+    Bytes saved() { return button.saved(TRUE); }
 };
 QV_BOTH_CLASSES(ImageStream);
 
@@ -53,15 +42,15 @@ TEST_P(ImageStream, givesBackEverythingPicturesIncluded)
     auto const before = stateOf(button);
     ImageButton other(library(), form, kind());
     ASSERT_EQ(other.setSite(), S_OK);
-    ASSERT_EQ(other.as<IPersistStreamInit>()->Load(kit::streamOf(saved()).get()), S_OK);
+    ASSERT_EQ(other.load(saved()), S_OK);
     EXPECT_EQ(stateOf(other), before);
 }
 
 TEST_P(ImageStream, savedAgainIsTheSameByteForByte)
 {
     assignAll();
-    kit::Bytes const first = saved();
-    ASSERT_EQ(button.as<IPersistStreamInit>()->Load(kit::streamOf(first).get()), S_OK);
+    Bytes const first = saved();
+    ASSERT_EQ(button.load(first), S_OK);
     EXPECT_EQ(saved(), first);
 }
 
@@ -88,50 +77,41 @@ TEST_P(ImageStream, takesNoMetafileThatABagGaveAndSaysSo)
     auto const bag = kit::make<kit::FakeBag>();
     bag->put(L"Image", Variant::ofDispatch(metafilePicture().get()));
     bag->put(L"HotImage", Variant::ofDispatch(pictureOf(kHot).get()));
-    ASSERT_EQ(button.Hosted::load(*bag.get()), S_OK);
+    ASSERT_EQ(button.load(*bag.get()), S_OK);
     auto const stream = kit::streamOf();
     EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_FALSE);
-    ASSERT_EQ(button.as<IPersistStreamInit>()->Load(kit::streamOf(kit::bytesOf(*stream.get())).get()), S_OK);
-    EXPECT_EQ(valueOf(button, L"Image"), "none");
-    EXPECT_NE(valueOf(button, L"HotImage"), "none");
+    ASSERT_EQ(button.load(kit::bytesOf(*stream.get())), S_OK);
+    EXPECT_EQ(value(L"Image"), "none");
+    EXPECT_NE(value(L"HotImage"), "none");
 }
 
 TEST_P(ImageStream, ofTheOtherClassIsReadWithTheOwnDefaults)
 {
-    kit::Bytes const nothing = saved();
     Kind const& other = kind().isTool ? imageCommand() : toolButton();
     ImageButton reader(library(), form, other);
     ASSERT_EQ(reader.setSite(), S_OK);
-    ASSERT_EQ(reader.as<IPersistStreamInit>()->Load(kit::streamOf(nothing).get()), S_OK);
-    for (SavedRow const& row : savedRows())
-        if (row.type != VT_UNKNOWN) {
-            EXPECT_EQ(valueOf(reader, row.name), textOf(row.defaultOf(other)));
-        }
+    ASSERT_EQ(reader.load(saved()), S_OK);
+    for (SavedRow const& row : savedValues())
+        EXPECT_EQ(valueOf(reader, row.name), kit::textOf(row.defaultOf(other)));
 }
 
-class ImageDamage : public ImageTest {
+class ImageDamage : public ImageStream {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
+    ImageDamage()
     {
-        ImageTest::SetUp();
-        ASSERT_EQ(button.setSite(), S_OK);
-        ASSERT_EQ(button.initNew(), S_OK);
         button.setCaption(L"&Print");
-        ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
-        ASSERT_EQ(button->putref_HotImage(pictureOf(kHot).get()), S_OK);
-        ASSERT_EQ(button->put_CheckButton(VARIANT_TRUE), S_OK);
+        EXPECT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
+        EXPECT_EQ(button->putref_HotImage(pictureOf(kHot).get()), S_OK);
+        button.makeCheckButton();
     }
-    Bytes saved()
+    /// Told, and without one of the pictures.
+    void expectLoadedWithoutImage(Bytes const& bytes)
     {
-        auto const stream = kit::streamOf();
-        EXPECT_EQ(button.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
-        return kit::bytesOf(*stream.get());
-    }
-    HRESULT load(Bytes const& bytes)
-    {
-        return button.as<IPersistStreamInit>()->Load(kit::streamOf(bytes).get());
+        EXPECT_EQ(button.load(bytes), S_FALSE);
+        EXPECT_EQ(kit::takenError().description, L"Invalid picture");
+        EXPECT_EQ(value(L"Image"), "none");
+        EXPECT_NE(value(L"HotImage"), "none");
+        EXPECT_EQ(button.caption(), L"&Print");
     }
     /// The place of the first picture's own bytes: they begin with its mark and its length.
     static Bytes::iterator firstPicture(Bytes& bytes)
@@ -149,16 +129,8 @@ TEST_P(ImageDamage, ofAPictureIsToldAndTheRestOfTheControlIsLoaded)
     ASSERT_NE(picture, bytes.end());
     std::fill_n(picture, 24, BYTE{0xEE});
     ::SetErrorInfo(0, nullptr);
-    EXPECT_EQ(load(bytes), S_FALSE);
-    ComPtr<IErrorInfo> info;
-    ASSERT_EQ(::GetErrorInfo(0, info.put()), S_OK);
-    Bstr text;
-    ASSERT_EQ(info->GetDescription(text.put()), S_OK);
-    EXPECT_EQ(text.view(), L"Invalid picture");
-    EXPECT_EQ(valueOf(button, L"Image"), "none");
-    EXPECT_NE(valueOf(button, L"HotImage"), "none");
-    EXPECT_EQ(button.caption(), L"&Print");
-    EXPECT_EQ(valueOf(button, L"CheckButton"), "-1");
+    expectLoadedWithoutImage(bytes);
+    EXPECT_EQ(value(L"CheckButton"), "-1");
     EXPECT_EQ(button.as<IPersistStreamInit>()->IsDirty(), S_OK) << "what it would save is something else";
 }
 
@@ -171,10 +143,7 @@ TEST_P(ImageDamage, ofAnIconsHeightLeavesTheIconOut)
     constexpr ptrdiff_t kHeight = 8 + 6 + 16 + 8; // behind its frame, the directory, an entry, size and width
     ASSERT_EQ(picture[kHeight], 2 * picture[kHeight - 4]) << "rows of colours, and as many of the mask";
     picture[kHeight + 3] = 0x20; // more than 536,870,912 rows: systems that believe it read behind the data
-    EXPECT_EQ(load(bytes), S_FALSE);
-    EXPECT_EQ(valueOf(button, L"Image"), "none");
-    EXPECT_NE(valueOf(button, L"HotImage"), "none");
-    EXPECT_EQ(button.caption(), L"&Print");
+    expectLoadedWithoutImage(bytes);
 }
 
 TEST_P(ImageDamage, atAnyLengthIsRefusedAndChangesNothing)
@@ -182,7 +151,7 @@ TEST_P(ImageDamage, atAnyLengthIsRefusedAndChangesNothing)
     Bytes const full = saved();
     auto const before = stateOf(button);
     for (size_t length = 0; length < full.size(); length += length < 200 ? 1 : 37) {
-        ASSERT_TRUE(FAILED(load(Bytes(full.begin(), full.begin() + static_cast<ptrdiff_t>(length)))))
+        ASSERT_TRUE(FAILED(button.load(Bytes(full.begin(), full.begin() + static_cast<ptrdiff_t>(length)))))
             << length;
         ASSERT_EQ(stateOf(button), before) << length;
     }
@@ -198,12 +167,12 @@ TEST_P(ImageDamage, atRandomIsLoadedOrRefused)
         Bytes damaged = full;
         for (unsigned changes = 1 + random() % 4; changes > 0; --changes)
             damaged[random() % damaged.size()] = static_cast<BYTE>(random());
-        ++(SUCCEEDED(load(damaged)) ? loaded : refused);
+        ++(SUCCEEDED(button.load(damaged)) ? loaded : refused);
         button->DrawButton();
     }
     EXPECT_GT(loaded, 0);
     EXPECT_GT(refused, 0);
-    EXPECT_EQ(load(full), S_OK);
+    EXPECT_EQ(button.load(full), S_OK);
     EXPECT_EQ(button.caption(), L"&Print");
 }
 

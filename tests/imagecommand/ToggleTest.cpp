@@ -9,17 +9,16 @@ using testing::IsEmpty;
 
 class ImageToggle : public ImageInputTest {
 protected:
-    void SetUp() override
+    ImageToggle()
     {
-        ImageInputTest::SetUp();
-        ASSERT_EQ(button()->put_CheckButton(VARIANT_TRUE), S_OK);
+        EXPECT_EQ(button()->put_CheckButton(VARIANT_TRUE), S_OK);
         button().events().forget();
     }
     /// Whether a release of the left button there turns the button over.
     bool togglesAt(int x, int y)
     {
         bool const before = button().isChecked();
-        ::SendMessageW(button().window(), WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+        button().send(WM_LBUTTONUP, {x, y});
         return button().isChecked() != before;
     }
 };
@@ -27,8 +26,7 @@ QV_BOTH_HOSTS(ImageToggle);
 
 TEST_P(ImageToggle, aClickTurnsItOnAndTheNextOff)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     EXPECT_FALSE(button().isChecked());
     EXPECT_THAT(button().release(), ElementsAre("Paint", "MouseUp", "Click"));
     EXPECT_TRUE(button().isChecked());
@@ -40,13 +38,9 @@ TEST_P(ImageToggle, aClickTurnsItOnAndTheNextOff)
 
 TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     bool checked = false;
-    button().events().action = [&](auto const& event) {
-        if (event.id == eventid::command::MouseUp)
-            checked = button().isChecked();
-    };
+    button().whenever("MouseUp", [&] { checked = button().isChecked(); });
     button().release();
     button().events().action = nullptr;
     EXPECT_TRUE(checked);
@@ -58,17 +52,14 @@ TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
     constexpr COLORREF kHotLook = RGB(23, 45, 67);
     ASSERT_EQ(button()->put_CheckedLightBorderColor(kEdge), S_OK);
     ASSERT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     COLORREF edge = CLR_INVALID;
     COLORREF look = CLR_INVALID;
-    button().events().action = [&](auto const& event) {
-        if (event.id != eventid::command::MouseUp)
-            return;
+    button().whenever("MouseUp", [&] {
         WindowDc const dc(button().window());
         edge = ::GetPixel(dc.get(), 0, 0);
         look = ::GetPixel(dc.get(), 60, 20);
-    };
+    });
     button().release();
     button().events().action = nullptr;
     EXPECT_EQ(edge, kEdge);
@@ -97,13 +88,12 @@ TEST_P(ImageToggle, countsTheLeftAndTheTopEdgeAsInside)
 
 TEST_P(ImageToggle, aReleaseOutsideClearsThePressAndRepaints)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     button().events().forget();
-    ::SendMessageW(button().window(), WM_LBUTTONUP, 0, MAKELPARAM(-5, 20));
+    button().send(WM_LBUTTONUP, {-5, 20});
     EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseUp")) << "and no Click";
     EXPECT_FALSE(button().isChecked());
-    ::SendMessageW(button().window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
+    button().send(WM_MOUSEMOVE);
     EXPECT_THAT(button().happened(), ElementsAre("MouseMove")) << "it is still pressed";
 }
 
@@ -117,7 +107,7 @@ TEST_P(ImageToggle, happensWithoutAChangeOfProperties)
 TEST_P(ImageToggle, otherButtonsNever)
 {
     for (UINT const message : {WM_RBUTTONUP, WM_MBUTTONUP})
-        ::SendMessageW(button().window(), message, 0, MAKELPARAM(60, 20));
+        button().send(message, {60, 20});
     EXPECT_FALSE(button().isChecked());
 }
 
@@ -141,8 +131,7 @@ TEST_P(ImageToggle, byCodeRaisesNoEventButPaint)
 
 TEST_P(ImageToggle, aSecondPressInQuickSuccessionTurnsItBack)
 {
-    button().moveTo(kInside);
-    button().press();
+    button().moveAndPress();
     button().release();
     button().during([] { kit::press(kit::MouseButton::Left); }, "DblClick");
     button().release();

@@ -1,8 +1,5 @@
 // The width that follows picture and caption, to the twip, and the ways it reaches the container.
 #include "Look.h"
-#include "kit/Canvas.h"
-#include "kit/Fonts.h"
-#include "kit/Pump.h"
 
 #include <cmath>
 
@@ -12,26 +9,21 @@ namespace {
 /// So many pixels in whole twips.
 double twips(int pixels) { return std::nearbyint(pixels * twipsPerPixel()); }
 
-class ImageWidth : public ImageTest {
+class ImageWidth : public LoadedTest {
 protected:
-    ImageButton button{library(), form, kind()};
-
-    void SetUp() override
-    {
-        ImageTest::SetUp();
-        button.load();
-        ASSERT_EQ(button->put_AutoSizeWidth(VARIANT_TRUE), S_OK);
-    }
+    ImageWidth() { EXPECT_EQ(button->put_AutoSizeWidth(VARIANT_TRUE), S_OK); }
     double width()
     {
         Variant const value = button.site().extender().value(L"Width");
         return value.convertedTo(VT_R8).get().dblVal;
     }
-    int textWidth(wchar_t const* text, IFont& font)
+    int textWidth(std::wstring const& text, IFont& font)
     {
         return static_cast<int>(kit::textSize(kit::handleOf(font), text).cx);
     }
-    int textWidth(wchar_t const* text) { return textWidth(text, *button.font().get()); }
+    int textWidth(std::wstring const& text) { return textWidth(text, *button.font().get()); }
+    /// Of a caption and nothing else, inside borders of one pixel.
+    void expectCaption(std::wstring const& text) { EXPECT_EQ(width(), twips(4 + textWidth(text) + 3 + 2)); }
     void setImage() { ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK); }
 };
 QV_BOTH_CLASSES(ImageWidth);
@@ -39,7 +31,7 @@ QV_BOTH_CLASSES(ImageWidth);
 TEST_P(ImageWidth, ofACaptionIsIndentTextThreePixelsAndBothBorders)
 {
     button.setCaption(L"&Save as");
-    EXPECT_EQ(width(), twips(4 + textWidth(L"Save as") + 3 + 2));
+    expectCaption(L"Save as");
     ASSERT_EQ(button->put_BorderWidth(Variant::ofShort(5).get()), S_OK);
     EXPECT_EQ(width(), twips(4 + textWidth(L"Save as") + 3 + 10));
 }
@@ -48,13 +40,13 @@ TEST_P(ImageWidth, isOfTheCaptionAsItIsWrittenInTheCodePage)
 {
     wchar_t const* const text = L"\x4E2D\x0E01\x0416\x4E2D";
     button.setCaption(text);
-    EXPECT_EQ(width(), twips(4 + textWidth(kit::inCodePage(text).c_str()) + 3 + 2));
+    expectCaption(kit::inCodePage(text));
 }
 
 TEST_P(ImageWidth, losesOnlyTheFirstMarker)
 {
     button.setCaption(L"A&B&C");
-    EXPECT_EQ(width(), twips(4 + textWidth(L"AB&C") + 3 + 2));
+    expectCaption(L"AB&C");
 }
 
 TEST_P(ImageWidth, ofPictureAndCaptionTakesThePictureForTheIndentAndTwoPixelsMore)
@@ -70,18 +62,17 @@ TEST_P(ImageWidth, ofPictureAndCaptionTakesThePictureForTheIndentAndTwoPixelsMor
 TEST_P(ImageWidth, isFilledExactlyByPictureGapAndCaption)
 {
     button.site().extender().onWrite(L"Width", [&](Variant const& value) {
-        button.site().position.right =
-            button.site().position.left + static_cast<LONG>(std::lround(value.toLong() / twipsPerPixel()));
-        button.as<IOleInPlaceObject>()->SetObjectRects(&button.site().position, &button.site().clip);
+        RECT place = button.site().position;
+        place.right = place.left + static_cast<LONG>(std::lround(value.toLong() / twipsPerPixel()));
+        button.place(place);
     });
     setImage();
     button.setCaption(L"WWW");
     kit::pumpPending();
-    Look look{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), 0, 0};
     OLE_COLOR light = 0;
     button->get_LightBorderColor(&light);
-    look.light = look.dark = ::GetSysColor(static_cast<int>(light & 0xFF));
-    look.caption = L"WWW";
+    COLORREF const edge = ::GetSysColor(static_cast<int>(light & 0xFF));
+    Look look{::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_BTNFACE), edge, edge, 1, L"WWW"};
     look.captionLeft = 1 + 4 + 16 + 1;
     look.shown = Shown{kImage, 5, 14};
     EXPECT_EQ(button.size().cx, look.captionLeft + textWidth(L"WWW") + 1);
@@ -107,20 +98,19 @@ TEST_P(ImageWidth, leavesTheBordersOutWhereThereIsNoStyleAndCountsThemForAnyStyl
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::None), S_OK);
     EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3));
     ASSERT_EQ(button->put_BorderStyle(imgCmdBorderStyleConstants::Sunken), S_OK);
-    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3 + 2));
+    expectCaption(L"Wide");
 }
 
 TEST_P(ImageWidth, takesTheWiderOfBothFonts)
 {
     auto const large = kit::newFont(L"Tahoma", 20, true);
-    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(large.get()).get()), S_OK);
+    button.setCheckedFont(large.get());
     button.setCaption(L"Wide");
     ASSERT_GT(textWidth(L"Wide", *large.get()), textWidth(L"Wide"));
     EXPECT_EQ(width(), twips(4 + textWidth(L"Wide", *large.get()) + 3 + 2));
-    auto const small = kit::newFont(L"Tahoma", 5);
-    ASSERT_EQ(button->putref_CheckedFont(query<IFontDisp>(small.get()).get()), S_OK);
+    button.setCheckedFont(kit::newFont(L"Tahoma", 5).get());
     button.setCaption(L"Wide");
-    EXPECT_EQ(width(), twips(4 + textWidth(L"Wide") + 3 + 2));
+    expectCaption(L"Wide");
 }
 
 TEST_P(ImageWidth, goesByTheNormalPictureAndBorderInEveryLook)
@@ -132,7 +122,6 @@ TEST_P(ImageWidth, goesByTheNormalPictureAndBorderInEveryLook)
     ASSERT_EQ(button->put_PressedBorderWidth(Variant::ofShort(9).get()), S_OK);
     EXPECT_EQ(width(), twips(16 + 2 + 2));
     EXPECT_EQ(pixelAt(button, 60, 20), RGB(1, 1, 1)) << "measuring must not leave the other picture shown";
-    button.leave();
 }
 
 TEST_P(ImageWidth, staysStaleAfterTheIndentUntilSomethingMeasures)
@@ -177,7 +166,7 @@ TEST_P(ImageWidth, livesWithASiteThatRefuses)
 
 TEST_P(ImageWidth, changesTheOwnExtentBeforeActivation)
 {
-    ImageButton lonely(library(), form, kind(), {20, 80, 140, 120}, L"Lonely");
+    ImageButton lonely(library(), form, kind(), kPlaceBelow, L"Lonely");
     lonely->put_AutoSizeWidth(VARIANT_TRUE);
     lonely.setCaption(L"Wide");
     SIZEL extent{};

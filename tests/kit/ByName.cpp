@@ -1,6 +1,11 @@
 // Late-bound calls, as a script makes them.
 #include "kit/ByName.h"
 
+#include "kit/Fonts.h"
+#include "kit/NamedObject.h"
+
+#include <gtest/gtest.h>
+
 namespace quillet::kit {
 
 namespace {
@@ -17,6 +22,19 @@ Called invokeNamed(IDispatch& object, wchar_t const* name, WORD kind, std::vecto
 }
 
 std::wstring taken(BSTR owned) { return std::wstring(Bstr::adopt(owned).view()); }
+
+std::string textOfObject(IUnknown* object)
+{
+    if (auto const font = query<IFont>(object))
+        return narrow(nameOf(*font.get())) + ' ' + std::to_string(pointsOf(*font.get()));
+    auto const picture = query<IPicture>(object);
+    OLE_XSIZE_HIMETRIC width = 0;
+    SHORT type = 0;
+    if (!picture || FAILED(picture->get_Type(&type)) || type == 0)
+        return "none";
+    picture->get_Width(&width);
+    return "picture " + std::to_string(type) + ' ' + std::to_string(width);
+}
 
 } // namespace
 
@@ -75,6 +93,32 @@ Called setByName(IDispatch& object, wchar_t const* name, IUnknown* value)
 Called callByName(IDispatch& object, wchar_t const* name, std::vector<Variant> const& arguments)
 {
     return invokeNamed(object, name, DISPATCH_METHOD, arguments);
+}
+
+std::string textOf(Variant const& value)
+{
+    if (value.type() == VT_DISPATCH || value.type() == VT_UNKNOWN)
+        return textOfObject(value.toObject().get());
+    if (value.type() == VT_BSTR)
+        return narrow(Bstr::viewOf(value.get().bstrVal));
+    if (value.type() == VT_UI4)
+        return std::to_string(static_cast<long>(value.get().ulVal));
+    return std::to_string(value.toLong());
+}
+
+std::string textByName(IDispatch& object, wchar_t const* name)
+{
+    Called const got = getByName(object, name);
+    EXPECT_EQ(got.result, S_OK) << narrow(name);
+    return textOf(got.value);
+}
+
+std::vector<std::string> textsByName(IDispatch& object, std::vector<std::wstring> const& names)
+{
+    std::vector<std::string> texts;
+    for (std::wstring const& name : names)
+        texts.push_back(narrow(name) + " = " + textByName(object, name.c_str()));
+    return texts;
 }
 
 } // namespace quillet::kit

@@ -33,4 +33,10 @@ Called putByName(IDispatch& object, wchar_t const* name, Variant const& value);
 Called setByName(IDispatch& object, wchar_t const* name, IUnknown* value); ///< assigns an object by reference
 Called callByName(IDispatch& object, wchar_t const* name, std::vector<Variant> const& arguments = {});
 
+/// A value as text: numbers, colours as signed ones, strings; fonts and pictures by what can be told of them.
+std::string textOf(Variant const& value);
+std::string textByName(IDispatch& object, wchar_t const* name);
+/// The properties of these names as "Name = value".
+std::vector<std::string> textsByName(IDispatch& object, std::vector<std::wstring> const& names);
+
 } // namespace quillet::kit

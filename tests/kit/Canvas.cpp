@@ -12,6 +12,13 @@ namespace quillet::kit {
 
 namespace {
 
+RECT clientOf(HWND window)
+{
+    RECT client{};
+    ::GetClientRect(window, &client);
+    return client;
+}
+
 HBITMAP newPicture(int width, int height, std::uint32_t*& pixels)
 {
     BITMAPINFO info{};
@@ -58,6 +65,11 @@ Canvas::Canvas(int width, int height)
 {}
 
 Canvas::Canvas(int width, int height, COLORREF background) : Canvas(width, height) { fill(background); }
+
+Canvas::Canvas(HWND window) : Canvas(clientOf(window).right, clientOf(window).bottom)
+{
+    readWindow(window, *this);
+}
 
 void Canvas::fill(COLORREF color) { fill(0, 0, m_width, m_height, color); }
 

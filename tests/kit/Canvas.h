@@ -25,6 +25,7 @@ class Canvas : NotCopied {
 public:
     Canvas(int width, int height);
     Canvas(int width, int height, COLORREF background);
+    explicit Canvas(HWND window); ///< what its client area shows on the screen
 
     HDC dc() const noexcept { return m_dc.get(); }
     HBITMAP bitmap() const noexcept { return m_bitmap.get(); }

@@ -15,7 +15,11 @@ namespace quillet::kit {
 /// test class have gone.
 class ControlTest : public testing::Test {
 protected:
-    ControlTest() : m_aliveBefore(liveObjects()), m_cleanBefore(library().canUnloadNow() == S_OK) {}
+    ControlTest() : m_aliveBefore(liveObjects()), m_cleanBefore(library().canUnloadNow() == S_OK)
+    {
+        EXPECT_TRUE(moveCursorAway()); // before a member of a test class shows itself below it
+        ::SetErrorInfo(0, nullptr);
+    }
     ~ControlTest() override
     {
         pumpPending();
@@ -28,8 +32,6 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(library().loaded()) << "quilbt.ocx does not load from the program's folder";
-        ASSERT_TRUE(moveCursorAway());
-        ::SetErrorInfo(0, nullptr);
     }
 
     /// Loaded once for the whole program, as in a host.

@@ -99,7 +99,7 @@ public:
     {
         if (!object)
             return E_POINTER;
-        *object = isHidden(iid) ? nullptr : faceOf(iid);
+        *object = has(m_hidden, iid) ? nullptr : has(m_pretended, iid) ? unknown() : faceOf(iid);
         if (!*object)
             return E_NOINTERFACE;
         AddRef();
@@ -120,6 +120,8 @@ public:
     /// From here on the interface is answered with E_NOINTERFACE, or offered again.
     void hide(REFIID iid) { m_hidden.push_back(iid); }
     void show(REFIID iid) { std::erase(m_hidden, iid); }
+    /// From here on it is known by that interface, too, which nobody calls.
+    void pretend(REFIID iid) { m_pretended.push_back(iid); }
 
     IUnknown* unknown() noexcept { return static_cast<First*>(this); }
     ULONG references() const noexcept { return static_cast<ULONG>(m_references); }
@@ -138,11 +140,15 @@ protected:
     }
 
 private:
-    bool isHidden(REFIID iid) const { return std::ranges::find(m_hidden, iid) != m_hidden.end(); }
+    static bool has(std::vector<IID> const& list, REFIID iid)
+    {
+        return std::ranges::find(list, iid) != list.end();
+    }
 
     LiveObject m_live;
     LONG volatile m_references = 1;
     std::vector<IID> m_hidden;
+    std::vector<IID> m_pretended;
 };
 
 /// An object that can be called by name and has no member: a derived one overrides what it is asked for.

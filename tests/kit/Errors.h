@@ -1,9 +1,15 @@
 // Errors that hosts see, by their published numbers.
 #pragma once
 
+#include "base/Bstr.h"
+#include "base/ComPtr.h"
 #include "base/RunTimeError.h"
 
 #include <windows.h>
+
+#include <oleauto.h>
+
+#include <string>
 
 namespace quillet {
 
@@ -26,5 +32,26 @@ template <class Body> HRESULT thrownBy(Body&& body)
         return error.result();
     }
 }
+
+namespace kit {
+
+/// What the last call left behind as the thread's error; empty texts for none. It is taken away.
+struct ErrorTexts {
+    std::wstring description;
+    std::wstring source;
+};
+inline ErrorTexts takenError()
+{
+    ComPtr<IErrorInfo> info;
+    Bstr description;
+    Bstr source;
+    if (::GetErrorInfo(0, info.put()) == S_OK) {
+        info->GetDescription(description.put());
+        info->GetSource(source.put());
+    }
+    return {std::wstring(description.view()), std::wstring(source.view())};
+}
+
+} // namespace kit
 
 } // namespace quillet

@@ -3,6 +3,8 @@
 
 #include "kit/Pump.h"
 
+#include <gtest/gtest.h>
+
 namespace quillet::kit {
 
 Hosted::Hosted(Library const& library, REFCLSID classId, FakeForm& form, RECT const& position,
@@ -18,6 +20,15 @@ HRESULT Hosted::setSite()
 {
     m_site->inPlaceObject = as<IOleInPlaceObject>().get();
     return ask(&IOleObject::SetClientSite, m_site.get());
+}
+
+HRESULT Hosted::load(Bytes const& bytes) { return ask(&IPersistStreamInit::Load, streamOf(bytes).get()); }
+
+Bytes Hosted::saved(BOOL clearDirty)
+{
+    auto const stream = streamOf();
+    EXPECT_EQ(ask(&IPersistStreamInit::Save, stream.get(), clearDirty), S_OK);
+    return bytesOf(*stream.get());
 }
 
 HRESULT Hosted::setExtent()
@@ -50,11 +61,43 @@ void Hosted::start(IPropertyBag& bag)
     pumpPending();
 }
 
+void Hosted::draw(Canvas& on) const
+{
+    RECTL const bounds{0, 0, on.width(), on.height()};
+    EXPECT_EQ(ask(&IViewObject::Draw, DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, on.dc(), &bounds,
+                  nullptr, nullptr, 0),
+              S_OK);
+}
+
 HWND Hosted::window() const
 {
     HWND window = nullptr;
     ask(&IOleWindow::GetWindow, &window);
     return window;
+}
+
+SIZE Hosted::size() const
+{
+    RECT client{};
+    ::GetClientRect(window(), &client);
+    return {client.right, client.bottom};
+}
+
+void Hosted::place(RECT const& position)
+{
+    m_site->position = position;
+    EXPECT_EQ(ask(&IOleInPlaceObject::SetObjectRects, &m_site->position, &m_site->clip), S_OK);
+}
+
+void Hosted::setUserMode(bool running)
+{
+    m_site->setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(running));
+    EXPECT_EQ(ask(&IOleControl::OnAmbientPropertyChange, DISPID_AMBIENT_USERMODE), S_OK);
+}
+
+void Hosted::offerFont(IFont* font)
+{
+    m_site->setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(query<IDispatch>(font).get()));
 }
 
 void Hosted::remove()
@@ -70,6 +113,31 @@ void Hosted::release()
     std::erase(m_form.container().objects, m_object.get());
     m_site->dismantle();
     m_object.reset();
+}
+
+std::vector<AccessKey> accessKeys(IUnknown* control)
+{
+    CONTROLINFO info{};
+    info.cb = sizeof info;
+    info.dwFlags = 0xFFFF;
+    EXPECT_EQ(query<IOleControl>(control)->GetControlInfo(&info), S_OK);
+    EXPECT_EQ(info.dwFlags, 0U);
+    std::vector<ACCEL> entries(info.cAccel);
+    if (info.cAccel) {
+        EXPECT_EQ(::CopyAcceleratorTableW(info.hAccel, entries.data(), info.cAccel), info.cAccel);
+    }
+    std::vector<AccessKey> keys;
+    for (ACCEL const& entry : entries)
+        keys.emplace_back(entry.fVirt, static_cast<wchar_t>(entry.key));
+    return keys;
+}
+
+HRESULT pressAccessKey(IUnknown* control, wchar_t key)
+{
+    MSG message{};
+    message.message = WM_SYSCHAR;
+    message.wParam = key;
+    return query<IOleControl>(control)->OnMnemonic(&message);
 }
 
 SIZEL himetricOf(SIZE pixels)

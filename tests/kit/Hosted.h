@@ -2,9 +2,11 @@
 #pragma once
 
 #include "base/ComPtr.h"
+#include "kit/Canvas.h"
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
 #include "kit/Library.h"
+#include "kit/Memory.h"
 #include "kit/NotCopied.h"
 
 #include <ocidl.h>
@@ -14,6 +16,8 @@
 
 #include <string>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 namespace quillet::kit {
 
@@ -52,6 +56,9 @@ public:
     {
         return ask(&IPersistPropertyBag::Save, &bag, clearDirty, allProperties);
     }
+    /// By the stream form.
+    HRESULT load(Bytes const& bytes);
+    Bytes saved(BOOL clearDirty = FALSE);
     HRESULT setExtent();
     HRESULT doVerb(LONG verb, MSG* message = nullptr);
     HRESULT activate() { return doVerb(OLEIVERB_INPLACEACTIVATE); }
@@ -60,7 +67,17 @@ public:
     /// Site, load, extent, activation and the first painting.
     void start(IPropertyBag& bag);
 
+    /// Draws the control as a view of its own, as large as the picture.
+    void draw(Canvas& on) const;
+
     HWND window() const;
+    SIZE size() const; ///< of the window
+    /// The container gives the window another place.
+    void place(RECT const& position);
+    /// The form runs or is designed from now on, and tells of it.
+    void setUserMode(bool running);
+    /// The font of the form, which nobody is told of.
+    void offerFont(IFont* font);
 
     /// Closes, takes the site away and releases. Once is enough.
     void remove();
@@ -72,6 +89,16 @@ private:
     ComPtr<FakeSite> m_site;
     ComPtr<IUnknown> m_object;
 };
+
+/// What a command button of some hosts' own is known by.
+inline constexpr IID kHostButton = {
+    0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
+
+/// The keys that a control tells its container of, as fVirt and key.
+using AccessKey = std::pair<int, wchar_t>;
+std::vector<AccessKey> accessKeys(IUnknown* control);
+/// Tells a control that its access key was pressed.
+HRESULT pressAccessKey(IUnknown* control, wchar_t key);
 
 /// Pixels into hundredths of a millimetre at the screen's resolution.
 SIZEL himetricOf(SIZE pixels);

@@ -44,6 +44,12 @@ void sendMouse(HWND window, POINT at, std::initializer_list<std::pair<UINT, WPAR
         ::SendMessageA(window, message, keys, MAKELPARAM(at.x, at.y));
 }
 
+bool letGo()
+{
+    release(MouseButton::Left);
+    return pumpUntil([] { return ::GetKeyState(VK_LBUTTON) >= 0; });
+}
+
 bool dragFrom(HWND window, POINT from, POINT to)
 {
     if (!moveCursorTo(window, from.x, from.y))

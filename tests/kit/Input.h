@@ -16,6 +16,8 @@ bool moveCursorAway();
 enum class MouseButton { Left, Right, Middle };
 void press(MouseButton button);
 void release(MouseButton button);
+/// Lets the left button go and waits until the thread has heard of it.
+bool letGo();
 /// Presses the left button over a point of a window, waits until the thread has heard of it, and moves the
 /// cursor to another point: the beginning of a drag. False where the system does not follow.
 bool dragFrom(HWND window, POINT from, POINT to);

@@ -9,7 +9,7 @@ namespace quillet::kit {
 
 namespace {
 
-std::string textOf(Variant const& value)
+std::string textOfWritten(Variant const& value)
 {
     return orFallback(std::string("object"), [&] { return narrow(value.toString().view()); });
 }
@@ -66,7 +66,7 @@ STDMETHODIMP NamedObject::Invoke(DISPID id, REFIID, LCID, WORD kind, DISPPARAMS*
     if (writes && arguments->cArgs != 1)
         return DISP_E_BADPARAMCOUNT;
     std::string const called = m_who + '.' + narrow(property->name);
-    m_record->note(writes ? called + " = " + textOf(Variant::copyOf(arguments->rgvarg[0])) : called);
+    m_record->note(writes ? called + " = " + textOfWritten(Variant::copyOf(arguments->rgvarg[0])) : called);
     property = find(id); // what hears of the call may have taken the property away
     if (!property)
         return DISP_E_MEMBERNOTFOUND;
