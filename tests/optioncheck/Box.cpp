@@ -9,7 +9,13 @@ namespace quillet::box {
 Kind const kOption = {"Option", kQvFlatOptionClass, kQvFlatOptionEvents, L"Option1"};
 Kind const kCheck = {"Check", kQvFlatCheckClass, kQvFlatCheckEvents, L"Check1"};
 
-ComPtr<kit::FakeBag> newBag() { return kit::make<kit::FakeBag>(); }
+ComPtr<kit::FakeBag> newBag(Saved const& values)
+{
+    auto bag = kit::make<kit::FakeBag>();
+    for (auto const& [name, value] : values)
+        bag->put(name, value);
+    return bag;
+}
 
 Box::Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place,
          std::wstring const& name, Mode mode)
@@ -65,10 +71,6 @@ void Box::remove()
 
 HWND Box::hwnd() const { return static_cast<HWND>(LongToHandle(get(L"hwnd").toLong())); }
 
-long Box::value() const { return get(L"Value").toLong(); }
-
-HRESULT Box::setValue(long value) { return put(L"Value", Variant::ofLong(value)); }
-
 Variant Box::get(wchar_t const* name) const
 {
     kit::Called const called = kit::getByName(dispatch(), name);
@@ -78,14 +80,13 @@ Variant Box::get(wchar_t const* name) const
 
 HRESULT Box::put(wchar_t const* name, Variant const& value)
 {
-    kit::Called const called = kit::putByName(dispatch(), name, value);
-    return called.error();
+    return kit::putByName(dispatch(), name, value).error();
 }
 
 void Box::setColours(COLORREF fore, COLORREF hot)
 {
-    EXPECT_EQ(put(L"HotForeColor", Variant::ofLong(static_cast<long>(hot))), S_OK);
-    EXPECT_EQ(put(L"ForeColor", Variant::ofLong(static_cast<long>(fore))), S_OK);
+    EXPECT_EQ(put(L"HotForeColor", hot), S_OK);
+    EXPECT_EQ(put(L"ForeColor", fore), S_OK);
     kit::pumpPending();
 }
 
@@ -97,14 +98,17 @@ COLORREF Box::pixel(POINT at) const
 
 bool Box::captionHas(COLORREF color) const
 {
-    RECT client;
-    ::GetClientRect(m_inner, &client);
-    WindowDc const dc(m_inner);
-    for (int y = 0; y < client.bottom; ++y)
-        for (int x = 16; x < client.right; ++x)
-            if (::GetPixel(dc.get(), x, y) == color)
-                return true;
-    return false;
+    kit::Canvas shown(m_inner);
+    shown.fill(0, 0, 16, shown.height(), ~color & 0xFFFFFF); // the glyph
+    return shown.count(color) > 0;
+}
+
+void Box::whenever(std::string const& name, std::function<void()> const& action)
+{
+    events().action = [this, name, action](auto const&) {
+        if (lastEvent() == name)
+            action();
+    };
 }
 
 void Box::moveTo(POINT at) { EXPECT_TRUE(kit::moveCursorTo(m_inner, at.x, at.y)); }
@@ -119,11 +123,35 @@ Names Box::letGo(kit::MouseButton which)
     return during([&] { kit::release(which); }, "MouseUp");
 }
 
+Names Box::pressAndLetGo(kit::MouseButton which)
+{
+    Names order = press(which);
+    Names const released = letGo(which);
+    order.insert(order.end(), released.begin(), released.end());
+    std::erase(order, "MouseMove");
+    return order;
+}
+
 void Box::click()
 {
     moveTo(kInside); // where it may be already: no move comes then
     press();
     letGo();
+}
+
+PostedCall::PostedCall(std::function<void()> body)
+    : m_body(std::move(body)),
+      m_window(::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr))
+{
+    ::SetWindowLongPtrW(m_window.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&m_body));
+    ::SetWindowLongPtrW(m_window.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure));
+}
+
+LRESULT CALLBACK PostedCall::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_APP)
+        (*reinterpret_cast<std::function<void()>*>(::GetWindowLongPtrW(window, GWLP_USERDATA)))();
+    return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
 } // namespace quillet::box

@@ -16,6 +16,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <concepts>
 #include <functional>
 #include <memory>
 #include <string>
@@ -36,6 +37,7 @@ extern Kind const kOption;
 extern Kind const kCheck;
 
 constexpr RECT kPlace{20, 30, 140, 50};
+constexpr RECT kPlaceBelow{20, 80, 140, 100};
 /// In pixels from the box's top left corner: on its caption, and beside it over the same form.
 constexpr POINT kInside{60, 10};
 constexpr POINT kInsideToo{70, 12};
@@ -51,8 +53,9 @@ constexpr COLORREF kHot = RGB(255, 64, 0);
 
 enum class Mode { Run, Design };
 
-/// An empty bag; what a test wants saved it puts in.
-ComPtr<kit::FakeBag> newBag();
+/// A bag with what a test wants saved.
+using Saved = std::vector<std::pair<wchar_t const*, Variant>>;
+ComPtr<kit::FakeBag> newBag(Saved const& values = {});
 
 /// One control with its site and its listener.
 class Box : public kit::Listener {
@@ -81,16 +84,37 @@ public:
     /// Asks the control for its window once more.
     HWND hwnd() const;
 
-    long value() const;
-    HRESULT setValue(long value);
+    long value() const { return number(L"Value"); }
+    HRESULT setValue(long value) { return put(L"Value", value); }
     Variant get(wchar_t const* name) const;
+    long number(wchar_t const* name) const { return get(name).toLong(); }
+    std::wstring text(wchar_t const* name) const { return std::wstring(get(name).toString().view()); }
+    std::wstring caption() const { return text(L"Caption"); }
+    ComPtr<IFont> font() const { return query<IFont>(get(L"Font").toObject().get()); }
     HRESULT put(wchar_t const* name, Variant const& value);
+    HRESULT put(wchar_t const* name, bool value) { return put(name, Variant::ofBool(value)); }
+    HRESULT put(wchar_t const* name, std::integral auto value)
+    {
+        return put(name, Variant::ofLong(static_cast<long>(value)));
+    }
+    HRESULT put(wchar_t const* name, wchar_t const* value) { return put(name, Variant::ofString(value)); }
+    HRESULT setFont(IFont* font) { return kit::setByName(dispatch(), L"Font", font).error(); }
+    void disable() { EXPECT_EQ(put(L"Enabled", false), S_OK); }
+    void refresh() { EXPECT_EQ(kit::callByName(dispatch(), L"Refresh").result, S_OK); }
     void setColours(COLORREF fore, COLORREF hot);
 
     /// The colour of a pixel on the screen.
     COLORREF pixel(POINT at) const;
     /// Whether a pixel of the caption has the colour.
     bool captionHas(COLORREF color) const;
+
+    /// Sends the inner button a message of the mouse.
+    void send(UINT message, POINT at, WPARAM keys = 0) const
+    {
+        ::SendMessageW(m_inner, message, keys, MAKELPARAM(at.x, at.y));
+    }
+    /// Runs inside each event of that name until it is set to nothing.
+    void whenever(std::string const& name, std::function<void()> const& action);
 
     // A user's deeds, each awaited.
     void moveTo(POINT at);
@@ -105,6 +129,8 @@ public:
     Names press(kit::MouseButton which = kit::MouseButton::Left);
     Names letGo(kit::MouseButton which = kit::MouseButton::Left);
     void click();
+    /// Presses and lets go where the cursor is: the events but moves.
+    Names pressAndLetGo(kit::MouseButton which = kit::MouseButton::Left);
 
 private:
     void listen();
@@ -113,14 +139,26 @@ private:
     HWND m_inner = nullptr;
 };
 
+/// A window that runs the body whenever a message posted to it is handled.
+class PostedCall {
+public:
+    explicit PostedCall(std::function<void()> body);
+    PostedCall(PostedCall const&) = delete;
+    PostedCall& operator=(PostedCall const&) = delete;
+
+    void post() const { ::PostMessageW(m_window.get(), WM_APP, 0, 0); }
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    std::function<void()> m_body;
+    UniqueWindow m_window;
+};
+
 inline std::string nameOfEvent(DISPID event) { return kit::eventName(kit::kOptionCheckEvents, event); }
 
-/// A test with a form; the cursor is out of the way at first.
 class BoxTest : public kit::ControlTest {
 protected:
-    BoxTest() { kit::moveCursorAway(); }
-    ~BoxTest() override { kit::moveCursorAway(); }
-
     kit::FakeForm form;
 };
 
@@ -129,6 +167,14 @@ class EachBoxTest : public BoxTest, public testing::WithParamInterface<Kind cons
 protected:
     Kind const& kind() const { return *GetParam(); }
     bool isOption() const { return GetParam() == &kOption; }
+};
+
+/// With one that was loaded and is shown.
+class StartedBoxTest : public EachBoxTest {
+protected:
+    StartedBoxTest() { box.start(); }
+
+    Box box{kind(), library(), form};
 };
 
 #define QV_EACH_BOX(suite)                                                                                   \

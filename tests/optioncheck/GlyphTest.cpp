@@ -1,6 +1,5 @@
 // The circle and the square, pixel by pixel, against pictures drawn by hand.
 #include "Box.h"
-#include "kit/Canvas.h"
 #include "kit/Fonts.h"
 
 #include <algorithm>
@@ -93,11 +92,7 @@ std::string thirdState()
 /// What stands in the control's left 13 columns, from the row on in which the glyph has to begin.
 std::string glyphOf(Box const& box, int top)
 {
-    RECT client;
-    ::GetClientRect(box.inner(), &client);
-    kit::Canvas canvas(client.right, client.bottom);
-    kit::readWindow(box.inner(), canvas);
-    return canvas.picture(kLetters, 0, top, 13, top + 13);
+    return kit::Canvas(box.inner()).picture(kLetters, 0, top, 13, top + 13);
 }
 
 std::span<std::uint32_t> pixelsOf(kit::Canvas const& canvas)
@@ -113,14 +108,11 @@ std::span<std::uint32_t> pixelsOf(kit::Canvas const& canvas)
 /// They look the same and are not equal any more.
 void changeBitsAboveTheColours(HWND window)
 {
-    RECT client;
-    ::GetClientRect(window, &client);
-    kit::Canvas picture(client.right, client.bottom);
-    kit::readWindow(window, picture);
+    kit::Canvas picture(window);
     for (std::uint32_t& pixel : pixelsOf(picture))
         pixel |= 0xFF000000U;
     WindowDc const dc(window);
-    ::BitBlt(dc.get(), 0, 0, client.right, client.bottom, picture.dc(), 0, 0, SRCCOPY);
+    ::BitBlt(dc.get(), 0, 0, picture.width(), picture.height(), picture.dc(), 0, 0, SRCCOPY);
     kit::readWindow(window, picture);
     EXPECT_TRUE(std::ranges::all_of(pixelsOf(picture), [](std::uint32_t pixel) { return pixel >> 24; }))
         << "this system keeps colours alone";
@@ -134,10 +126,9 @@ protected:
     std::unique_ptr<Box> shown(Kind const& kind, long value, Mode mode = Mode::Run, int height = 20)
     {
         RECT const place{20, 30, 140, 30 + height};
-        auto const bag = newBag();
-        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kAround)));
-        bag->put(L"Caption", Variant::ofString(L""));
-        bag->put(L"Value", Variant::ofLong(value));
+        auto const bag = newBag({{L"BackColor", Variant::ofLong(kAround)},
+                                 {L"Caption", Variant::ofString(L"")},
+                                 {L"Value", Variant::ofLong(value)}});
         auto box = std::make_unique<Box>(kind, library(), form, place, L"Box1", mode);
         box->start(*bag.get());
         return box;
@@ -167,17 +158,13 @@ TEST_F(Glyph, keepsItsGreyMarkUnderAFill) { EXPECT_EQ(glyphOf(*shown(kCheck, 2),
 
 TEST_F(Glyph, isShadedInsideItsOutlineAloneAndItsMarkStaysBlack)
 {
-    auto option = shown(kOption, 1);
-    option->enter();
-    EXPECT_EQ(glyphOf(*option, kTop), with(kChosenCircle, ' ', 'g'));
-    option->leave();
-    EXPECT_EQ(glyphOf(*option, kTop), kChosenCircle);
-    option.reset();
-    auto const check = shown(kCheck, 1);
-    check->enter();
-    EXPECT_EQ(glyphOf(*check, kTop), with(kSetSquare, ' ', 'g'));
-    check->leave();
-    EXPECT_EQ(glyphOf(*check, kTop), kSetSquare);
+    for (auto const& [kind, picture] : {std::pair{&kOption, kChosenCircle}, {&kCheck, kSetSquare}}) {
+        auto const box = shown(*kind, 1);
+        box->enter();
+        EXPECT_EQ(glyphOf(*box, kTop), with(picture, ' ', 'g'));
+        box->leave();
+        EXPECT_EQ(glyphOf(*box, kTop), picture);
+    }
 }
 
 TEST_F(Glyph, ofTheThirdStateIsShadedRoundItsGreyMark)
@@ -207,46 +194,35 @@ TEST_F(Glyph, isShadedAloneWhateverHappenedToThePictureBefore)
                 EXPECT_EQ(box->pixel({60, 10}), kAround)
                     << "the fill ran out: " << kind->name << ' ' << value;
             };
-            changeBitsAboveTheColours(box->inner());
-            box->enter();
-            expect(with(atRest, ' ', 'g'));
-            changeBitsAboveTheColours(box->inner());
-            kit::callByName(box->dispatch(), L"Refresh");
-            expect(with(atRest, ' ', 'g'));
-            changeBitsAboveTheColours(box->inner());
-            box->leave();
-            expect(atRest);
-            changeBitsAboveTheColours(box->inner());
-            ::RedrawWindow(form.window(), nullptr, nullptr,
-                           RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-            expect(atRest);
-            changeBitsAboveTheColours(box->inner());
-            ::RedrawWindow(box->outer(), nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN | RDW_UPDATENOW);
-            expect(atRest);
-            changeBitsAboveTheColours(box->inner());
-            box->put(L"HotForeColor", Variant::ofLong(static_cast<long>(0x80000012)));
-            expect(atRest);
+            auto const after = [&](std::string const& picture, auto const& act) {
+                changeBitsAboveTheColours(box->inner());
+                act();
+                expect(picture);
+            };
+            std::string const shaded = with(atRest, ' ', 'g');
+            after(shaded, [&] { box->enter(); });
+            after(shaded, [&] { box->refresh(); });
+            after(atRest, [&] { box->leave(); });
+            after(atRest, [&] {
+                ::RedrawWindow(form.window(), nullptr, nullptr,
+                               RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+            });
+            after(atRest, [&] {
+                ::RedrawWindow(box->outer(), nullptr, nullptr,
+                               RDW_INVALIDATE | RDW_NOCHILDREN | RDW_UPDATENOW);
+            });
+            after(atRest, [&] { box->put(L"HotForeColor", 0x80000012); });
         }
 }
 
 TEST_F(Glyph, ofADisabledBoxIsShadedAloneWhateverRanBetween)
 {
-    struct Changer {
-        static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-        {
-            if (message == WM_APP)
-                changeBitsAboveTheColours(reinterpret_cast<HWND>(lParam));
-            return ::DefWindowProcW(window, message, wParam, lParam);
-        }
-    };
-    UniqueWindow const other(
-        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
-    ::SetWindowLongPtrW(other.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Changer::procedure));
     for (Kind const* kind : {&kOption, &kCheck}) {
         auto const box = shown(*kind, 1);
         std::string const shaded = with(glyphOf(*box, kTop), ' ', 'g');
-        ::PostMessageW(other.get(), WM_APP, 0, reinterpret_cast<LPARAM>(box->inner()));
-        box->put(L"Enabled", Variant::ofBool(false));
+        PostedCall const change([&] { changeBitsAboveTheColours(box->inner()); });
+        change.post();
+        box->disable();
         EXPECT_EQ(glyphOf(*box, kTop), shaded) << kind->name;
         EXPECT_EQ(box->pixel({60, 10}), kAround) << "the fill ran out: " << kind->name;
     }
@@ -277,8 +253,7 @@ int fillRow(int height)
 // The fill's point is in row 6 of 17, and not in 7; the glyph begins 4 rows above it.
 TEST_F(Glyph, standsRoundThePointOfItsFillAtOddHeights)
 {
-    for (auto const& [height, top] :
-         {std::pair{15, 2}, std::pair{17, 2}, std::pair{19, 4}, std::pair{21, 4}, std::pair{23, 6}}) {
+    for (auto const& [height, top] : {std::pair{15, 2}, {17, 2}, {19, 4}, {21, 4}, {23, 6}}) {
         auto const check = shown(kCheck, 1, Mode::Run, height);
         EXPECT_EQ(glyphOf(*check, top), kSetSquare) << height;
         check->enter();
@@ -292,24 +267,20 @@ TEST_F(Glyph, isShadedAtEveryHeight)
     for (Kind const* kind : {&kOption, &kCheck})
         for (int height = 4; height <= 48; ++height) {
             Box box(*kind, library(), form, {20, 30, 140, 30 + height});
-            auto const bag = newBag();
-            bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kAround)));
-            bag->put(L"Enabled", Variant::ofBool(false));
-            bag->put(L"Value", Variant::ofLong(1));
-            box.start(*bag.get());
-            kit::Canvas canvas(120, height);
-            kit::readWindow(box.inner(), canvas);
-            EXPECT_EQ(canvas.at(4, fillRow(height)), kLightGrey) << kind->name << ' ' << height;
+            SCOPED_TRACE(std::string(kind->name) + ' ' + std::to_string(height));
+            box.start(*newBag({{L"BackColor", Variant::ofLong(kAround)},
+                               {L"Enabled", Variant::ofBool(false)},
+                               {L"Value", Variant::ofLong(1)}})
+                           .get());
+            kit::Canvas const canvas(box.inner());
+            EXPECT_EQ(canvas.at(4, fillRow(height)), kLightGrey);
             if (height >= 13) { // in a lower one the mark cuts off corners
-                EXPECT_EQ(canvas.count(kWhite), 0) << kind->name << ' ' << height;
+                EXPECT_EQ(canvas.count(kWhite), 0);
             }
-            EXPECT_EQ(canvas.at(14, height / 2), kAround)
-                << "the fill ran out: " << kind->name << ' ' << height;
+            EXPECT_EQ(canvas.at(14, height / 2), kAround) << "the fill ran out";
             changeBitsAboveTheColours(box.inner());
-            box.put(L"HotForeColor", Variant::ofLong(0)); // fills once more
-            kit::Canvas again(120, height);
-            kit::readWindow(box.inner(), again);
-            EXPECT_EQ(kit::differences(canvas, again), "") << kind->name << ' ' << height;
+            box.put(L"HotForeColor", 0); // fills once more
+            EXPECT_EQ(kit::differences(canvas, kit::Canvas(box.inner())), "");
         }
 }
 
@@ -329,7 +300,7 @@ TEST_F(Glyph, isShadedWithoutLeavingTheBrushBehind)
 TEST_F(Glyph, standsAtTheSamePlaceForEveryFont)
 {
     auto const box = shown(kCheck, 1);
-    EXPECT_EQ(kit::setByName(box->dispatch(), L"Font", kit::newFont(L"Tahoma", 48).get()).result, S_OK);
+    EXPECT_EQ(box->setFont(kit::newFont(L"Tahoma", 48).get()), S_OK);
     kit::pumpPending();
     EXPECT_EQ(glyphOf(*box, kTop), kSetSquare);
 }

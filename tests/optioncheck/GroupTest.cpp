@@ -6,14 +6,6 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A container of a form that tells its window as containers do.
-ComPtr<kit::NamedObject> newContainer(kit::FakeForm& form, long window)
-{
-    auto container = kit::make<kit::NamedObject>("Container" + std::to_string(window), form.sharedRecord());
-    container->offer(L"hwnd", Variant::ofLong(window));
-    return container;
-}
-
 class Group : public BoxTest {
 protected:
     ~Group() override
@@ -23,10 +15,19 @@ protected:
             container->removeAll();
     }
 
+    /// A container of the form that tells its window as containers do.
     kit::NamedObject& container(long window)
     {
-        containers.push_back(newContainer(form, window));
+        containers.push_back(kit::make<kit::NamedObject>("Container", form.sharedRecord()));
+        containers.back()->offer(L"hwnd", Variant::ofLong(window));
         return *containers.back().get();
+    }
+    /// So many options in one container.
+    void addOptions(int count, Mode mode = Mode::Run)
+    {
+        auto& frame = container(1);
+        for (int i = 0; i < count; ++i)
+            add(kOption, &frame, mode);
     }
 
     Box& add(Kind const& kind, kit::NamedObject* in, Mode mode = Mode::Run)
@@ -41,6 +42,7 @@ protected:
         return *boxes.back();
     }
 
+    void choose(size_t which) { boxes[which]->setValue(1); }
     std::vector<long> values() const
     {
         std::vector<long> all;
@@ -55,12 +57,10 @@ protected:
 
 TEST_F(Group, keepsOneChoiceInAContainer)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 4; ++i)
-        add(kOption, &frame);
-    boxes[1]->setValue(1);
+    addOptions(4);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1, 0, 0));
-    boxes[3]->setValue(1);
+    choose(3);
     EXPECT_THAT(values(), ElementsAre(0, 0, 0, 1));
     boxes[0]->click();
     EXPECT_THAT(values(), ElementsAre(1, 0, 0, 0));
@@ -74,12 +74,12 @@ TEST_F(Group, keepsOneChoiceForEachContainer)
     add(kOption, &right);
     add(kOption, &left);
     add(kOption, &right);
-    boxes[0]->setValue(1);
-    boxes[1]->setValue(1);
+    choose(0);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(1, 1, 0, 0));
-    boxes[2]->setValue(1);
+    choose(2);
     EXPECT_THAT(values(), ElementsAre(0, 1, 1, 0));
-    boxes[3]->setValue(1);
+    choose(3);
     EXPECT_THAT(values(), ElementsAre(0, 0, 1, 1));
 }
 
@@ -87,8 +87,8 @@ TEST_F(Group, isToldByTheWindowAndNotByTheObjectOfTheContainer)
 {
     add(kOption, &container(7));
     add(kOption, &container(7));
-    boxes[0]->setValue(1);
-    boxes[1]->setValue(1);
+    choose(0);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1));
 }
 
@@ -99,11 +99,11 @@ TEST_F(Group, isTheWholeFormWhereContainersHaveNoWindow)
     add(kOption, &left);
     add(kOption, &container(2));
     add(kOption, nullptr); // on the form, which tells no window here
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_THAT(values(), ElementsAre(1, 0, 0));
-    boxes[1]->setValue(1);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1, 0));
-    boxes[2]->setValue(1);
+    choose(2);
     EXPECT_THAT(values(), ElementsAre(0, 0, 1));
 }
 
@@ -112,12 +112,12 @@ TEST_F(Group, isTheWholeFormWhereAContainerFails)
     auto& left = container(1);
     add(kOption, &left);
     add(kOption, &container(2));
-    boxes[0]->setValue(1);
-    boxes[1]->setValue(1);
+    choose(0);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(1, 1));
     left.refuse(L"hwnd");
     boxes[1]->setValue(0);
-    boxes[1]->setValue(1);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1));
 }
 
@@ -127,9 +127,9 @@ TEST_F(Group, leavesCheckBoxesAlone)
     add(kCheck, &frame);
     add(kOption, &frame);
     add(kCheck, &frame);
-    boxes[0]->setValue(1);
+    choose(0);
     boxes[2]->setValue(2);
-    boxes[1]->setValue(1);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(1, 1, 2));
     boxes[0]->click();
     boxes[0]->moveTo(kBeside);
@@ -146,10 +146,8 @@ TEST_F(Group, leavesPlainOptionButtonsAlone)
     auto const plain = kit::make<kit::NamedObject>("Plain", form.sharedRecord());
     plain->offer(L"Value", Variant::ofBool(true));
     form.container().objects.push_back(plain->unknown()); // as its form lists it among the others
-    auto& frame = container(1);
-    add(kOption, &frame);
-    add(kOption, &frame);
-    boxes[0]->setValue(1);
+    addOptions(2);
+    choose(0);
     boxes[1]->click();
     std::erase(form.container().objects, plain->unknown());
     EXPECT_THAT(values(), ElementsAre(0, 1));
@@ -159,11 +157,9 @@ TEST_F(Group, leavesPlainOptionButtonsAlone)
 
 TEST_F(Group, clearsEveryOtherOneWhateverItsValue)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 3; ++i)
-        add(kOption, &frame);
+    addOptions(3);
     form.record().forget();
-    boxes[2]->setValue(1);
+    choose(2);
     // Two siblings lose their tab stop; the chosen one has it by its click and by its setter.
     EXPECT_EQ(form.record().count("Extender.TabStop = 0"), 2);
     EXPECT_EQ(form.record().count("Extender.TabStop = -1"), 2);
@@ -171,16 +167,14 @@ TEST_F(Group, clearsEveryOtherOneWhateverItsValue)
 
 TEST_F(Group, givesTheChosenOneItsTabStopThenClearsTheOthersAndThenRaisesClick)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 3; ++i)
-        add(kOption, &frame);
+    addOptions(3);
     std::vector<std::string> order;
     form.record().whenNoted = [&](std::string const& call) {
         if (call.starts_with("Extender.TabStop ="))
             order.push_back(call);
     };
     boxes[1]->events().action = [&](auto const& event) { order.push_back(nameOfEvent(event.id)); };
-    boxes[1]->setValue(1);
+    choose(1);
     form.record().whenNoted = nullptr;
     EXPECT_THAT(order, ElementsAre("Extender.TabStop = -1", "Extender.TabStop = 0", "Extender.TabStop = 0",
                                    "Click", "Extender.TabStop = -1"));
@@ -188,16 +182,14 @@ TEST_F(Group, givesTheChosenOneItsTabStopThenClearsTheOthersAndThenRaisesClick)
 
 TEST_F(Group, leavesOneTabStop)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 3; ++i)
-        add(kOption, &frame);
+    addOptions(3);
     auto const tabStops = [&] {
         std::vector<bool> all;
         for (auto const& box : boxes)
             all.push_back(box->extender().value(L"TabStop").toBool());
         return all;
     };
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_THAT(tabStops(), ElementsAre(true, false, false));
     boxes[2]->click();
     EXPECT_THAT(tabStops(), ElementsAre(false, false, true));
@@ -207,12 +199,10 @@ TEST_F(Group, keepsItsChoiceWhileItIsLoaded)
 {
     auto& frame = container(1);
     add(kOption, &frame);
-    boxes[0]->setValue(1);
-    auto const bag = newBag();
-    bag->put(L"Value", Variant::ofLong(1));
+    choose(0);
     boxes.push_back(std::make_unique<Box>(kOption, library(), form, kPlace));
     boxes[1]->extender().offer(L"Container", Variant::ofDispatch(&frame));
-    boxes[1]->start(*bag.get());
+    boxes[1]->start(*newBag({{L"Value", Variant::ofLong(1)}}).get());
     EXPECT_THAT(values(), ElementsAre(0, 1));
 }
 
@@ -223,10 +213,10 @@ TEST_F(Group, isFoundThroughTheParentWhereTheSiteHasNoContainer)
     add(kOption, &left);
     add(kOption, &left);
     add(kOption, &container(2));
-    boxes[2]->setValue(1);
-    boxes[0]->setValue(1);
+    choose(2);
+    choose(0);
     EXPECT_THAT(values(), ElementsAre(1, 0, 1));
-    boxes[1]->setValue(1);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1, 1));
 }
 
@@ -245,7 +235,7 @@ TEST_F(Group, asksACollectionForNoMoreControlsThanAFormCanHave)
             form.controls().refuse(L"Item"); // or it would go on for hours
         return Variant::ofDispatch(stranger.get());
     });
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_EQ(asked, kMostControls);
 }
 
@@ -260,31 +250,25 @@ TEST_F(Group, needsNoContainerAtAll)
 
 TEST_F(Group, holdsAtDesignTime)
 {
-    auto& frame = container(1);
-    add(kOption, &frame, Mode::Design);
-    add(kOption, &frame, Mode::Design);
-    boxes[0]->setValue(1);
-    boxes[1]->setValue(1);
+    addOptions(2, Mode::Design);
+    choose(0);
+    choose(1);
     EXPECT_THAT(values(), ElementsAre(0, 1));
 }
 
 TEST_F(Group, raisesClickWhenTheOthersAreClear)
 {
-    auto& frame = container(1);
-    add(kOption, &frame);
-    add(kOption, &frame);
-    boxes[0]->setValue(1);
+    addOptions(2);
+    choose(0);
     std::vector<long> seen;
     boxes[1]->events().action = [&](auto const&) { seen = values(); };
-    boxes[1]->setValue(1);
+    choose(1);
     EXPECT_THAT(seen, ElementsAre(0, 1));
 }
 
 TEST_F(Group, followsASinkThatChoosesAnotherInsideClick)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 3; ++i)
-        add(kOption, &frame);
+    addOptions(3);
     Names order;
     for (size_t i = 0; i < 3; ++i)
         boxes[i]->events().action = [&, i](auto const&) {
@@ -292,20 +276,18 @@ TEST_F(Group, followsASinkThatChoosesAnotherInsideClick)
             if (i == 0)
                 boxes[2]->setValue(1);
         };
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_THAT(values(), ElementsAre(0, 0, 1));
     EXPECT_THAT(order, ElementsAre("0", "2"));
 }
 
 TEST_F(Group, letsASinkTakeTheChoiceBackInsideClick)
 {
-    auto& frame = container(1);
-    add(kOption, &frame);
-    add(kOption, &frame);
-    boxes[1]->setValue(1);
+    addOptions(2);
+    choose(1);
     boxes[1]->happened();
     boxes[0]->events().action = [&](auto const&) { boxes[0]->setValue(0); };
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_THAT(values(), ElementsAre(0, 0));
     EXPECT_FALSE(boxes[0]->extender().value(L"TabStop").toBool());
     EXPECT_THAT(boxes[1]->happened(), testing::IsEmpty());
@@ -313,18 +295,15 @@ TEST_F(Group, letsASinkTakeTheChoiceBackInsideClick)
 
 TEST_F(Group, endsWhereASinkChoosesItselfAgainInsideClick)
 {
-    auto& frame = container(1);
-    add(kOption, &frame);
+    addOptions(1);
     boxes[0]->events().action = [&](auto const&) { boxes[0]->setValue(1); };
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_EQ(boxes[0]->count("Click"), 1);
 }
 
 TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
 {
-    auto& frame = container(1);
-    add(kOption, &frame);
-    add(kOption, &frame);
+    addOptions(2);
     kit::ChangeRecorder& sink = boxes[1]->changes();
     sink.action = [&](DISPID) {
         sink.action = nullptr;
@@ -332,7 +311,7 @@ TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
         boxes[0]->setValue(1); // a click in the middle of clearing: it does not clear a second time
     };
     form.record().forget();
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_THAT(values(), ElementsAre(1, 0));
     EXPECT_EQ(boxes[0]->count("Click"), 2);
     EXPECT_EQ(form.record().countFrom("Container.EnumObjects"), 1);
@@ -340,28 +319,24 @@ TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
 
 TEST_F(Group, outlivesASiblingThatGoesInsideTheChange)
 {
-    auto& frame = container(1);
-    for (int i = 0; i < 3; ++i)
-        add(kOption, &frame);
+    addOptions(3);
     kit::ChangeRecorder& sink = boxes[1]->changes();
     sink.action = [&](DISPID) {
         sink.action = nullptr;
         boxes[2]->remove();
     };
-    boxes[0]->setValue(1);
+    choose(0);
     EXPECT_EQ(boxes[0]->value(), 1);
 }
 
 TEST_F(Group, runsOverASiblingThatFails)
 {
-    auto& frame = container(1);
-    add(kOption, &frame);
-    add(kOption, &frame);
-    boxes[1]->setValue(1);
+    addOptions(2);
+    choose(1);
     auto const stranger = kit::make<kit::NamedObject>("Stranger", form.sharedRecord());
     auto& objects = form.container().objects;
     objects.insert(objects.begin(), stranger.get());
-    boxes[0]->setValue(1);
+    choose(0);
     std::erase(objects, stranger->unknown());
     EXPECT_THAT(values(), ElementsAre(1, 0));
 }

@@ -1,6 +1,5 @@
 // The window inside: one of the system's button class, owned and covered by the control.
 #include "Box.h"
-#include "kit/Canvas.h"
 #include "kit/Fonts.h"
 
 #include <algorithm>
@@ -8,17 +7,42 @@
 namespace quillet::box {
 namespace {
 
-BOOL CALLBACK countOne(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-class Inner : public EachBoxTest {
+class Inner : public StartedBoxTest {
 protected:
-    Inner() : box(kind(), library(), form) { box.start(); }
-
-    Box box;
+    static BOOL CALLBACK countOne(HWND, LPARAM count) { return ++*reinterpret_cast<int*>(count); }
+    static int allWindows()
+    {
+        int count = 0;
+        ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&count));
+        return count;
+    }
+    /// How many rows of the caption show the colour below, and the first and last of them; -1 for none.
+    struct Rows {
+        int count = 0;
+        int first = -1;
+        int last = -1;
+    };
+    static constexpr COLORREF kInk = RGB(1, 2, 3);
+    Rows captionRows() const
+    {
+        kit::Canvas const shown(box.inner());
+        Rows rows;
+        for (int y = 0; y < shown.height(); ++y) {
+            bool found = false;
+            for (int x = 17; x < shown.width(); ++x)
+                found = found || shown.at(x, y) == kInk;
+            if (!found)
+                continue;
+            ++rows.count;
+            rows.first = rows.first < 0 ? y : rows.first;
+            rows.last = y;
+        }
+        return rows;
+    }
+    std::string differencesTo(kit::Canvas const& expected) const
+    {
+        return kit::differences(expected, kit::Canvas(box.inner()));
+    }
 };
 
 TEST_P(Inner, isASystemButtonOfItsKind)
@@ -49,7 +73,7 @@ TEST_P(Inner, isOfAClassThatGoesWithTheComponent)
     {
         kit::Library const second(copy);
         module = second.module();
-        Box other(kind(), second, form, {20, 80, 140, 100}, L"Other");
+        Box other(kind(), second, form, kPlaceBelow, L"Other");
         other.start();
         for (HWND const window : {other.inner(), other.outer()}) {
             wchar_t name[64] = {};
@@ -66,7 +90,7 @@ TEST_P(Inner, isOfAClassThatGoesWithTheComponent)
 
 TEST_P(Inner, saysItsStateAndItsTextByTheSystemsMessages)
 {
-    box.put(L"Caption", Variant::ofString(L"Said"));
+    box.put(L"Caption", L"Said");
     wchar_t text[20] = {};
     ::GetWindowTextW(box.inner(), text, 20);
     EXPECT_STREQ(text, L"Said");
@@ -78,12 +102,12 @@ TEST_P(Inner, saysItsStateAndItsTextByTheSystemsMessages)
 TEST_P(Inner, takesTextFromOutside)
 {
     ::SetWindowTextW(box.inner(), L"&Told");
-    EXPECT_EQ(box.get(L"Caption").toString().view(), L"&Told");
+    EXPECT_EQ(box.caption(), L"&Told");
 }
 
 TEST_P(Inner, isMadeOnceWhoeverAsksFirst)
 {
-    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    Box other(kind(), library(), form, kPlaceBelow, L"Other");
     other.hosted().setSite();
     other.hosted().load(*newBag().get());
     HWND const early = other.hwnd(); // before any container shows it
@@ -97,16 +121,11 @@ TEST_P(Inner, isMadeOnceWhoeverAsksFirst)
 
 TEST_P(Inner, isNotMadeByLoading)
 {
-    Box other(kind(), library(), form, {20, 80, 140, 100}, L"Other");
+    Box other(kind(), library(), form, kPlaceBelow, L"Other");
     other.hosted().setSite();
-    auto const bag = newBag();
-    bag->put(L"Enabled", Variant::ofBool(false));
-    int before = 0;
-    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&before));
-    other.hosted().load(*bag.get());
-    int after = 0;
-    ::EnumChildWindows(::GetDesktopWindow(), countOne, reinterpret_cast<LPARAM>(&after));
-    EXPECT_EQ(after, before);
+    int const before = allWindows();
+    other.hosted().load(*newBag({{L"Enabled", Variant::ofBool(false)}}).get());
+    EXPECT_EQ(allWindows(), before);
 }
 
 TEST_P(Inner, ownsItsDeviceContext)
@@ -130,19 +149,14 @@ TEST_P(Inner, keepsTheSystemFromDrawing)
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
     kit::focus(edit.get());
     kit::pumpPending();
-    RECT client;
-    ::GetClientRect(box.inner(), &client);
-    kit::Canvas before(client.right, client.bottom);
-    kit::readWindow(box.inner(), before);
+    kit::Canvas const before(box.inner());
     // Nobody paints between these messages and the look: what they draw by themselves would show.
     ::SendMessageW(box.inner(), BM_SETSTATE, TRUE, 0);
     ::SendMessageW(box.inner(), BM_SETSTATE, FALSE, 0);
     ::SendMessageW(box.inner(), WM_ENABLE, FALSE, 0);
     ::SendMessageW(box.inner(), WM_ENABLE, TRUE, 0);
     ::SendMessageW(box.inner(), BM_SETCHECK, BST_UNCHECKED, 0);
-    kit::Canvas after(client.right, client.bottom);
-    kit::readWindow(box.inner(), after);
-    EXPECT_EQ(kit::differences(before, after), "");
+    EXPECT_EQ(differencesTo(before), "");
     EXPECT_TRUE(::IsWindowVisible(box.inner()));
 }
 
@@ -151,13 +165,12 @@ TEST_P(Inner, writesItsCaptionBesideTheGlyphInTheMiddle)
     COLORREF const face = RGB(250, 250, 200);
     COLORREF const fore = RGB(0, 0, 160);
     auto const font = kit::newFont(L"Tahoma", 9);
-    kit::setByName(box.dispatch(), L"Font", font.get());
-    box.put(L"Caption", Variant::ofString(L"Word"));
-    box.put(L"BackColor", Variant::ofLong(static_cast<long>(face)));
-    box.put(L"ForeColor", Variant::ofLong(static_cast<long>(fore)));
-    box.put(L"HotForeColor", Variant::ofLong(static_cast<long>(fore)));
-    kit::Canvas shown(120, 20);
-    kit::readWindow(box.inner(), shown);
+    box.setFont(font.get());
+    box.put(L"Caption", L"Word");
+    box.put(L"BackColor", face);
+    box.put(L"ForeColor", fore);
+    box.put(L"HotForeColor", fore);
+    kit::Canvas shown(box.inner());
     shown.fill(0, 0, 13, 20, face); // the glyph has tests of its own
     kit::Canvas expected(120, 20, face);
     HFONT const handle = kit::handleOf(*font.get());
@@ -168,80 +181,50 @@ TEST_P(Inner, writesItsCaptionBesideTheGlyphInTheMiddle)
 
 TEST_P(Inner, movesItsCaptionWithItsTextItsFontAndItsSize)
 {
-    auto const rows = [&] { // of the caption, from its first dark row to its last
-        RECT client;
-        ::GetClientRect(box.inner(), &client);
-        kit::Canvas shown(client.right, client.bottom);
-        kit::readWindow(box.inner(), shown);
-        int first = -1;
-        int last = -1;
-        for (int y = 0; y < client.bottom; ++y)
-            for (int x = 17; x < client.right; ++x)
-                if (shown.at(x, y) == RGB(1, 2, 3)) {
-                    first = first < 0 ? y : first;
-                    last = y;
-                }
-        return std::pair(first, last);
-    };
-    box.setColours(RGB(1, 2, 3), RGB(1, 2, 3));
-    box.put(L"Caption", Variant::ofString(L"H"));
-    auto const small = rows();
-    box.put(L"Caption", Variant::ofString(L"Hj"));
-    EXPECT_GT(rows().second, small.second); // the j goes down
-    box.put(L"Caption", Variant::ofString(L"H"));
-    EXPECT_EQ(rows(), small);
-    kit::setByName(box.dispatch(), L"Font", kit::newFont(L"Tahoma", 12).get());
-    EXPECT_GT(rows().second - rows().first, small.second - small.first);
-    auto const large = rows();
-    RECT const higher = {20, 30, 140, 90};
-    box.as<IOleInPlaceObject>()->SetObjectRects(&higher, &higher);
+    box.setColours(kInk, kInk);
+    box.put(L"Caption", L"H");
+    auto const small = captionRows();
+    box.put(L"Caption", L"Hj");
+    EXPECT_GT(captionRows().last, small.last); // the j goes down
+    box.put(L"Caption", L"H");
+    EXPECT_EQ(captionRows().first, small.first);
+    EXPECT_EQ(captionRows().last, small.last);
+    box.setFont(kit::newFont(L"Tahoma", 12).get());
+    auto const large = captionRows();
+    EXPECT_GT(large.last - large.first, small.last - small.first);
+    box.hosted().place({20, 30, 140, 90});
     kit::pumpPending();
     if (large.first > 0) { // else the resolution is so high that the text did not fit
-        EXPECT_EQ(rows().first, large.first + 20) << "40 pixels higher: in the middle again";
+        EXPECT_EQ(captionRows().first, large.first + 20) << "40 pixels higher: in the middle again";
     }
 }
 
 TEST_P(Inner, wrapsALongCaption)
 {
-    RECT const higher = {20, 30, 140, 90};
-    box.as<IOleInPlaceObject>()->SetObjectRects(&higher, &higher);
-    box.setColours(RGB(1, 2, 3), RGB(1, 2, 3));
-    box.put(L"Caption", Variant::ofString(L"A caption that takes more than a line of so narrow a button"));
-    kit::Canvas shown(120, 60);
-    kit::readWindow(box.inner(), shown);
-    int dark = 0; // rows with text: more than one line has
-    for (int y = 0; y < 60; ++y) {
-        bool found = false;
-        for (int x = 17; x < 120; ++x)
-            found = found || shown.at(x, y) == RGB(1, 2, 3);
-        dark += found;
-    }
-    EXPECT_GT(dark, 18);
+    box.hosted().place({20, 30, 140, 90});
+    box.setColours(kInk, kInk);
+    box.put(L"Caption", L"A caption that takes more than a line of so narrow a button");
+    EXPECT_GT(captionRows().count, 18); // more than one line has
 }
 
 TEST_P(Inner, paintsIntoAnotherContextOnRequest)
 {
-    box.put(L"BackColor", Variant::ofLong(RGB(250, 250, 200)));
-    kit::Canvas window(120, 20);
-    kit::readWindow(box.inner(), window);
+    box.put(L"BackColor", RGB(250, 250, 200));
     kit::Canvas printed(120, 20);
     ::SendMessageW(box.inner(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(printed.dc()), PRF_CLIENT);
-    EXPECT_EQ(kit::differences(window, printed), "");
+    EXPECT_EQ(differencesTo(printed), "");
     kit::Canvas drawn(120, 20);
-    RECTL const bounds = {0, 0, 120, 20};
-    EXPECT_EQ(box.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.dc(),
-                                          &bounds, nullptr, nullptr, 0),
-              S_OK);
-    EXPECT_EQ(kit::differences(window, drawn), "");
+    box.hosted().draw(drawn);
+    EXPECT_EQ(differencesTo(drawn), "");
 }
 
 TEST_P(Inner, survivesTheLossOfItsWindow)
 {
-    box.put(L"Caption", Variant::ofString(L"Kept"));
+    box.put(L"Caption", L"Kept");
     box.setValue(1);
     ::DestroyWindow(box.inner());
     EXPECT_EQ(box.value(), 1);
-    EXPECT_EQ(box.get(L"Caption").toString().view(), L"Kept");
+    EXPECT_EQ(box.caption(), L"Kept");
     HWND const made = box.hwnd(); // a new one
     EXPECT_TRUE(::IsWindow(made));
     EXPECT_EQ(::SendMessageW(made, BM_GETCHECK, 0, 0), BST_CHECKED);

@@ -13,13 +13,12 @@ constexpr COLORREF kBack = RGB(240, 230, 140);
 
 class Keys : public EachBoxTest {
 protected:
-    Keys() : box(kind(), library(), form)
-    {
-        auto const bag = newBag();
-        bag->put(L"BackColor", Variant::ofLong(static_cast<long>(kBack)));
-        box.start(*bag.get());
-    }
+    Box box{kind(), library(), form};
+    UniqueWindow edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
 
+    Keys() { box.start(*newBag({{L"BackColor", Variant::ofLong(kBack)}}).get()); }
+
+    void focusElsewhere() { EXPECT_TRUE(kit::focus(edit.get())); }
     void focus()
     {
         EXPECT_TRUE(kit::focus(box.inner()));
@@ -30,8 +29,6 @@ protected:
     {
         return box.during([&] { kit::typeKey(key); }, "KeyUp");
     }
-
-    Box box;
 };
 
 TEST_P(Keys, spaceClicks)
@@ -102,7 +99,6 @@ TEST_P(Keys, usedUpByASinkDoNothing)
     box.setValue(0);
     kit::pumpPending();
     box.events().forget();
-    auto const point = kit::make<kit::EventRecorder>(kind().eventsId);
     class Eater final : public kit::Counterpart<IDispatch> {
     public:
         STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
@@ -129,7 +125,7 @@ TEST_P(Keys, usedUpByASinkDoNothing)
 TEST_P(Keys, reachNoDisabledBox)
 {
     focus();
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     EXPECT_NE(::GetFocus(), box.inner());
     box.events().forget();
     kit::typeKey(VK_SPACE);
@@ -139,25 +135,23 @@ TEST_P(Keys, reachNoDisabledBox)
 
 TEST_P(Keys, focusOnTheControlIsPassedOnToTheInnerButton)
 {
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     ::SetFocus(box.outer());
     EXPECT_EQ(::GetFocus(), box.inner());
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     EXPECT_EQ(box.hosted().doVerb(OLEIVERB_UIACTIVATE), S_OK);
     EXPECT_EQ(::GetFocus(), box.inner());
 }
 
 TEST_P(Keys, focusIsToldToTheContainerOnceEachWay)
 {
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     form.record().forget();
     ::SetFocus(box.outer());
     EXPECT_EQ(form.record().count("Site.OnUIActivate"), 1);
     EXPECT_EQ(form.record().count("Site.OnFocus(gained)"), 1);
     EXPECT_EQ(form.record().count("Site.OnFocus(lost)"), 0);
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     EXPECT_EQ(form.record().count("Site.OnFocus(lost)"), 1);
 }
 
@@ -173,8 +167,7 @@ TEST_P(Keys, focusByAPressIsToldToTheContainer)
 
 TEST_P(Keys, focusShowsTheFocusRectangleAndItsLossTakesItAway)
 {
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     auto const framed = [&] { // dots on the frame's left edge
         int dots = 0;
         for (int y = 0; y < 20; ++y)
@@ -184,49 +177,39 @@ TEST_P(Keys, focusShowsTheFocusRectangleAndItsLossTakesItAway)
     EXPECT_EQ(framed(), 0);
     EXPECT_TRUE(kit::focus(box.inner()));
     EXPECT_GT(framed(), 3);
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     EXPECT_EQ(framed(), 0);
 }
 
 TEST_P(Keys, focusFromTheKeyboardChoosesAnOptionAndNoCheckBox)
 {
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     box.events().forget();
     ::SetFocus(box.outer());
     EXPECT_EQ(box.value(), isOption() ? 1 : 0);
     EXPECT_EQ(box.count("Click"), isOption() ? 1 : 0);
-    EXPECT_TRUE(kit::focus(edit.get()));
+    focusElsewhere();
     ::SetFocus(box.outer());
     EXPECT_EQ(box.count("Click"), isOption() ? 1 : 0); // the chosen one just gets the focus
 }
 
 TEST_P(Keys, accessKeyOfTheCaptionIsTheControls)
 {
-    box.put(L"Caption", Variant::ofString(L"Fish && &Chips"));
-    CONTROLINFO info = {};
-    info.cb = sizeof info;
-    EXPECT_EQ(box.as<IOleControl>()->GetControlInfo(&info), S_OK);
-    ASSERT_EQ(info.cAccel, 2);
-    ACCEL rows[2] = {};
-    ::CopyAcceleratorTableW(info.hAccel, rows, 2);
-    EXPECT_EQ(rows[0].key, 'c');
-    EXPECT_EQ(rows[1].key, 'C');
-    box.put(L"Caption", Variant::ofString(L"None && nobody"));
-    EXPECT_EQ(box.as<IOleControl>()->GetControlInfo(&info), S_OK);
-    EXPECT_EQ(info.cAccel, 0);
+    box.put(L"Caption", L"Fish && &Chips");
+    auto const keys = kit::accessKeys(box.hosted().object());
+    ASSERT_EQ(keys.size(), 2U);
+    EXPECT_EQ(keys[0].second, L'c');
+    EXPECT_EQ(keys[1].second, L'C');
+    box.put(L"Caption", L"None && nobody");
+    EXPECT_THAT(kit::accessKeys(box.hosted().object()), IsEmpty());
 }
 
 TEST_P(Keys, accessKeyGivesTheFocusAndClicksOnce)
 {
-    box.put(L"Caption", Variant::ofString(L"&Yes"));
-    auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_TRUE(kit::focus(edit.get()));
+    box.put(L"Caption", L"&Yes");
+    focusElsewhere();
     box.events().forget();
-    MSG message = {};
-    message.message = WM_SYSCHAR;
-    message.wParam = 'y';
-    EXPECT_EQ(box.as<IOleControl>()->OnMnemonic(&message), S_OK);
+    EXPECT_EQ(kit::pressAccessKey(box.hosted().object(), L'y'), S_OK);
     EXPECT_EQ(::GetFocus(), box.inner());
     EXPECT_EQ(box.value(), 1);
     EXPECT_EQ(box.count("Click"), 1);

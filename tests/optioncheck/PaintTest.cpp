@@ -1,7 +1,8 @@
-// The steps of a paint: what each state shows, and what runs in between.
+// The steps of a paint: what each state shows, and what runs in between. Many paints and lives leave nothing
+// behind: no window, no handle, no memory.
 #include "Box.h"
-
-#include <ole2.h>
+#include "kit/UiThread.h"
+#include "kit/Usage.h"
 
 namespace quillet::box {
 namespace {
@@ -10,68 +11,54 @@ COLORREF shadow() { return ::GetSysColor(COLOR_BTNSHADOW); }
 
 class Paint : public EachBoxTest {
 protected:
-    Paint() : box(kind(), library(), form)
-    {
-        auto const bag = newBag();
-        bag->put(L"BackColor", Variant::ofLong(RGB(250, 240, 230)));
-        box.start(*bag.get());
-    }
+    Box box{kind(), library(), form};
 
-    static void draw(Box& drawn, kit::Canvas& on)
-    {
-        RECTL const bounds = {0, 0, 120, 20};
-        EXPECT_EQ(drawn.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, on.dc(),
-                                                &bounds, nullptr, nullptr, 0),
-                  S_OK);
-    }
+    Paint() { box.start(*newBag({{L"BackColor", Variant::ofLong(RGB(250, 240, 230))}}).get()); }
 
-    Box box;
+    void expectGlyph(COLORREF color) const { EXPECT_EQ(box.pixel(kInGlyph), color); }
+    void repaint() const
+    {
+        ::InvalidateRect(box.inner(), nullptr, TRUE);
+        ::UpdateWindow(box.inner());
+    }
+    static COLORREF drawnGlyph(kit::Canvas const& drawn) { return drawn.at(kInGlyph.x, kInGlyph.y); }
 };
 
 TEST_P(Paint, ofADisabledOneShowsAShadowedCaptionAndAGreyGlyph)
 {
     box.setColours(kFore, kHot);
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     EXPECT_TRUE(box.captionHas(shadow()));
     EXPECT_FALSE(box.captionHas(kFore));
-    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
-    box.put(L"Enabled", Variant::ofBool(true));
+    expectGlyph(kLightGrey);
+    box.put(L"Enabled", true);
     EXPECT_TRUE(box.captionHas(kFore));
-    EXPECT_EQ(box.pixel(kInGlyph), kWhite);
+    expectGlyph(kWhite);
 }
 
 TEST_P(Paint, ofADisabledOneLooksTheSameUnderTheMouse)
 {
     box.setColours(kFore, kHot);
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     box.moveTo(kInside);
     kit::pumpPending();
-    kit::callByName(box.dispatch(), L"Refresh");
+    box.refresh();
     EXPECT_TRUE(box.captionHas(shadow()));
     EXPECT_FALSE(box.captionHas(kHot));
 }
 
 TEST_P(Paint, ofADisabledOneLetsWaitingMessagesRun)
 {
-    struct Answer {
-        static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-        {
-            if (message == WM_APP)
-                ::SetWindowLongPtrW(window, GWLP_USERDATA, static_cast<LONG_PTR>(wParam));
-            return ::DefWindowProcW(window, message, wParam, lParam);
-        }
-    };
-    UniqueWindow const other(
-        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
-    ::SetWindowLongPtrW(other.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Answer::procedure));
-    ::PostMessageW(other.get(), WM_APP, 42, 0);
-    kit::callByName(box.dispatch(), L"Refresh");
-    EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 0); // an enabled one lets nothing run
-    box.put(L"Enabled", Variant::ofBool(false));
-    EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 42);
-    ::PostMessageW(other.get(), WM_APP, 43, 0);
-    kit::callByName(box.dispatch(), L"Refresh");
-    EXPECT_EQ(::GetWindowLongPtrW(other.get(), GWLP_USERDATA), 43);
+    int handled = 0;
+    PostedCall const call([&] { ++handled; });
+    call.post();
+    box.refresh();
+    EXPECT_EQ(handled, 0); // an enabled one lets nothing run
+    box.disable();
+    EXPECT_EQ(handled, 1);
+    call.post();
+    box.refresh();
+    EXPECT_EQ(handled, 2);
 }
 
 TEST_P(Paint, ofADisabledOneLeavesKeysToTheHostsLoop)
@@ -80,7 +67,7 @@ TEST_P(Paint, ofADisabledOneLeavesKeysToTheHostsLoop)
     ASSERT_TRUE(kit::focus(edit.get()));
     kit::pumpPending();
     kit::typeKey(VK_F2);
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     bool seen = false;
     for (ULONGLONG const end = ::GetTickCount64() + kit::kPumpLimit; !seen && ::GetTickCount64() < end;) {
         ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
@@ -94,7 +81,7 @@ TEST_P(Paint, ofADisabledOneLeavesKeysToTheHostsLoop)
 TEST_P(Paint, ofADisabledOneLeavesTheEndOfTheLoopToItsOwner)
 {
     ::PostQuitMessage(7);
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     MSG message;
     ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(message.wParam, 7U);
@@ -103,30 +90,19 @@ TEST_P(Paint, ofADisabledOneLeavesTheEndOfTheLoopToItsOwner)
 TEST_P(Paint, endsWhereAMessageEnablesTheBoxAgain)
 {
     box.setColours(kFore, kFore);
-    struct Enabler {
-        static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-        {
-            if (message == WM_APP)
-                reinterpret_cast<Box*>(lParam)->put(L"Enabled", Variant::ofBool(true));
-            return ::DefWindowProcW(window, message, wParam, lParam);
-        }
-    };
-    UniqueWindow const other(
-        ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
-    ::SetWindowLongPtrW(other.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Enabler::procedure));
-    ::PostMessageW(other.get(), WM_APP, 0, reinterpret_cast<LPARAM>(&box));
-    box.put(L"Enabled", Variant::ofBool(false));
-    EXPECT_EQ(box.pixel(kInGlyph), kWhite);
+    PostedCall const enable([&] { box.put(L"Enabled", true); });
+    enable.post();
+    box.disable();
+    expectGlyph(kWhite);
     EXPECT_TRUE(box.captionHas(kFore));
 }
 
 TEST_P(Paint, afterTheSystemAskedForItShowsTheSame)
 {
     box.setColours(kFore, kFore);
-    box.put(L"Enabled", Variant::ofBool(false));
-    ::InvalidateRect(box.inner(), nullptr, TRUE);
-    ::UpdateWindow(box.inner());
-    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
+    box.disable();
+    repaint();
+    expectGlyph(kLightGrey);
     EXPECT_TRUE(box.captionHas(shadow()));
 }
 
@@ -134,46 +110,45 @@ TEST_P(Paint, ofAHotOneWithItsOwnColourColoursTheCaption)
 {
     box.setColours(kFore, kHot);
     box.enter();
-    ::InvalidateRect(box.inner(), nullptr, TRUE);
-    ::UpdateWindow(box.inner());
+    repaint();
     EXPECT_TRUE(box.captionHas(kHot));
-    box.put(L"HotForeColor", Variant::ofLong(RGB(0, 0, 255))); // paints at once
+    box.put(L"HotForeColor", RGB(0, 0, 255)); // paints at once
     EXPECT_TRUE(box.captionHas(RGB(0, 0, 255)));
-    box.put(L"HotForeColor", Variant::ofLong(static_cast<long>(kFore)));
+    box.put(L"HotForeColor", kFore);
     EXPECT_TRUE(box.captionHas(kFore));
-    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
+    expectGlyph(kLightGrey);
 }
 
 TEST_P(Paint, clearsAShadedGlyphWithTheNextCaption)
 {
     box.setColours(kFore, kFore);
     box.enter();
-    EXPECT_EQ(box.pixel(kInGlyph), kLightGrey);
-    box.put(L"ForeColor", Variant::ofLong(RGB(9, 9, 9)));
+    expectGlyph(kLightGrey);
+    box.put(L"ForeColor", RGB(9, 9, 9));
     box.leave(); // the caption changes back, and the glyph is painted with it
-    EXPECT_EQ(box.pixel(kInGlyph), kWhite);
+    expectGlyph(kWhite);
 }
 
 TEST_P(Paint, shadesNothingAtDesignTime)
 {
-    Box designed(kind(), library(), form, {20, 80, 140, 100}, L"Designed", Mode::Design);
+    Box designed(kind(), library(), form, kPlaceBelow, L"Designed", Mode::Design);
     designed.start();
     designed.setColours(kFore, kHot);
-    designed.put(L"Enabled", Variant::ofBool(false));
+    designed.disable();
     EXPECT_TRUE(designed.captionHas(shadow()));
     EXPECT_EQ(designed.pixel(kInGlyph), kWhite);
     kit::Canvas drawn(120, 20);
-    draw(designed, drawn);
-    EXPECT_EQ(drawn.at(kInGlyph.x, kInGlyph.y), kWhite);
+    designed.hosted().draw(drawn);
+    EXPECT_EQ(drawnGlyph(drawn), kWhite);
 }
 
 TEST_P(Paint, ofAnInactiveOneIsDisabledInAPictureToo)
 {
     box.setColours(kFore, kFore);
-    box.put(L"Enabled", Variant::ofBool(false));
+    box.disable();
     kit::Canvas drawn(120, 20);
-    draw(box, drawn);
-    EXPECT_EQ(drawn.at(kInGlyph.x, kInGlyph.y), kLightGrey);
+    box.hosted().draw(drawn);
+    EXPECT_EQ(drawnGlyph(drawn), kLightGrey);
     EXPECT_GT(drawn.count(shadow()), 0);
     EXPECT_EQ(drawn.count(kFore), 0);
 }
@@ -188,7 +163,7 @@ TEST_P(Paint, ofManyDisabledOnesDoesNotNest)
         many.back()->start();
     }
     for (auto const& each : many) {
-        each->put(L"Enabled", Variant::ofBool(false));
+        each->disable();
         ::InvalidateRect(each->outer(), nullptr, FALSE);
         ::InvalidateRect(each->inner(), nullptr, FALSE);
     }
@@ -198,6 +173,43 @@ TEST_P(Paint, ofManyDisabledOnesDoesNotNest)
 }
 
 QV_EACH_BOX(Paint);
+
+constexpr int kFills = 3000;
+constexpr int kWarmUp = 20; // until caches of the system's have what they keep
+
+using Soak = EachBoxTest;
+
+/// The fill never gives its device context back. As the window owns its one, that costs nothing.
+TEST_P(Soak, ofThreeThousandFillsLosesNoDeviceContext)
+{
+    Box box(kind(), library(), form);
+    box.start();
+    HDC const own = ::GetDC(box.inner());
+    for (int i = 0; i < kWarmUp; ++i)
+        box.refresh();
+    int const before = kit::Usage::now().gdi;
+    for (int i = 0; i < kFills; ++i)
+        box.refresh();
+    EXPECT_LE(kit::Usage::now().gdi, before + 20);
+    EXPECT_EQ(::GetDC(box.inner()), own);
+}
+
+TEST_P(Soak, ofThreeHundredLivesLeavesNothingBehind)
+{
+    kit::onNewThread([this] {
+        kit::FakeForm own;
+        kit::expectNothingIsLeft(300, [&](int) {
+            Box box(kind(), library(), own);
+            box.start();
+            box.setValue(1);
+            box.disable();
+            box.remove();
+            own.record().forget();
+        });
+    });
+}
+
+QV_EACH_BOX(Soak);
 
 } // namespace
 } // namespace quillet::box

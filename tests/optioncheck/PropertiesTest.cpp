@@ -17,61 +17,55 @@ using testing::IsEmpty;
 constexpr long kButtonText = static_cast<long>(0x80000012);
 constexpr long kButtonFace = static_cast<long>(0x8000000F);
 
-class Properties : public EachBoxTest {
+class Properties : public StartedBoxTest {
 protected:
-    Properties() : box(kind(), library(), form) { box.start(); }
-
-    long number(wchar_t const* name) const { return box.get(name).toLong(); }
-    std::wstring text(wchar_t const* name) const { return std::wstring(box.get(name).toString().view()); }
-
-    Box box;
+    HFONT innerFont() const { return reinterpret_cast<HFONT>(::SendMessageW(box.inner(), WM_GETFONT, 0, 0)); }
 };
 
-class NewBox : public EachBoxTest {};
+class NewBox : public EachBoxTest {
+protected:
+    Box box{kind(), library(), form, kPlace, L"optOne"};
+};
 
 TEST_P(NewBox, hasTheNameOfItsExtenderAndTheAmbientFont)
 {
     auto const font = kit::newFont(L"Courier New", 14, true);
-    Box box(kind(), library(), form, kPlace, L"optOne");
-    box.hosted().site().setAmbient(DISPID_AMBIENT_FONT, Variant::ofDispatch(font.as<IFontDisp>().get()));
+    box.hosted().offerFont(font.get());
     box.startNew();
-    EXPECT_EQ(box.get(L"Caption").toString().view(), L"optOne");
-    auto const own = query<IFont>(box.get(L"Font").toObject().get());
+    EXPECT_EQ(box.caption(), L"optOne");
+    auto const own = box.font();
     ASSERT_TRUE(own);
     EXPECT_TRUE(kit::equalFonts(*own.get(), *font.get()));
-    EXPECT_EQ(box.get(L"HotForeColor").toLong(), kButtonText);
-    EXPECT_EQ(box.get(L"ForeColor").toLong(), kButtonText);
-    EXPECT_EQ(box.get(L"BackColor").toLong(), kButtonFace);
+    EXPECT_EQ(box.number(L"HotForeColor"), kButtonText);
+    EXPECT_EQ(box.number(L"ForeColor"), kButtonText);
+    EXPECT_EQ(box.number(L"BackColor"), kButtonFace);
     EXPECT_TRUE(box.get(L"Enabled").toBool());
     EXPECT_EQ(box.value(), 0);
 }
 
 TEST_P(NewBox, keepsItsLaidOutCaptionWhereThereIsNoName)
 {
-    Box box(kind(), library(), form);
     box.extender().remove(L"Name");
     box.startNew();
-    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+    EXPECT_EQ(box.caption(), kind().laidOutCaption);
 }
 
 TEST_P(NewBox, initialisedAgainHasWhatANewOneHasButForWhatTheUserChose)
 {
-    Box box(kind(), library(), form, kPlace, L"optOne");
     box.startNew();
-    box.put(L"Caption", Variant::ofString(L"Other"));
-    box.put(L"HotForeColor", Variant::ofLong(0x010203));
-    box.put(L"ForeColor", Variant::ofLong(0x040506));
-    box.put(L"BackColor", Variant::ofLong(0x070809));
+    box.put(L"Caption", L"Other");
+    box.put(L"HotForeColor", 0x010203);
+    box.put(L"ForeColor", 0x040506);
+    box.put(L"BackColor", 0x070809);
     EXPECT_EQ(box.hosted().initNew(), S_OK);
-    EXPECT_EQ(box.get(L"Caption").toString().view(), L"optOne");
-    EXPECT_EQ(box.get(L"HotForeColor").toLong(), kButtonText);
-    EXPECT_EQ(box.get(L"ForeColor").toLong(), isOption() ? 0x040506 : kButtonText);
-    EXPECT_EQ(box.get(L"BackColor").toLong(), 0x070809);
+    EXPECT_EQ(box.caption(), L"optOne");
+    EXPECT_EQ(box.number(L"HotForeColor"), kButtonText);
+    EXPECT_EQ(box.number(L"ForeColor"), isOption() ? 0x040506 : kButtonText);
+    EXPECT_EQ(box.number(L"BackColor"), 0x070809);
 }
 
 TEST_P(NewBox, tellsOfTheFontThatItIsGiven)
 {
-    Box box(kind(), library(), form);
     box.hosted().setSite();
     EXPECT_EQ(box.hosted().initNew(), S_OK);
     EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_FONT));
@@ -82,32 +76,25 @@ TEST_P(NewBox, tellsOfTheFontThatItIsGiven)
 
 TEST_P(NewBox, worksWithoutLoadingOrInitialising)
 {
-    Box box(kind(), library(), form);
     box.hosted().setSite();
     box.hosted().activate();
-    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+    EXPECT_EQ(box.caption(), kind().laidOutCaption);
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_EQ(box.value(), 1);
 }
 
 TEST_P(Properties, storeWhatTheyAreGivenAndTellOfIt)
 {
-    EXPECT_EQ(box.put(L"Caption", Variant::ofString(L"&Yes")), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(id::Caption));
-    EXPECT_EQ(text(L"Caption"), L"&Yes");
-    EXPECT_EQ(box.put(L"BackColor", Variant::ofLong(0x123456)), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(id::BackColor));
-    EXPECT_EQ(number(L"BackColor"), 0x123456);
-    EXPECT_EQ(box.put(L"ForeColor", Variant::ofLong(0x654321)), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(id::ForeColor));
-    EXPECT_EQ(number(L"ForeColor"), 0x654321);
-    EXPECT_EQ(box.put(L"HotForeColor", Variant::ofLong(0x010203)), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(id::HotForeColor));
-    EXPECT_EQ(number(L"HotForeColor"), 0x010203);
-    EXPECT_EQ(box.put(L"Enabled", Variant::ofBool(false)), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(id::Enabled));
-    EXPECT_FALSE(box.get(L"Enabled").toBool());
-    EXPECT_EQ(kit::setByName(box.dispatch(), L"Font", kit::newFont(L"Arial", 10).get()).result, S_OK);
+    for (auto const& [name, told, value] : {std::tuple{L"Caption", id::Caption, Variant::ofString(L"&Yes")},
+                                            {L"BackColor", id::BackColor, Variant::ofLong(0x123456)},
+                                            {L"ForeColor", id::ForeColor, Variant::ofLong(0x654321)},
+                                            {L"HotForeColor", id::HotForeColor, Variant::ofLong(0x010203)},
+                                            {L"Enabled", id::Enabled, Variant::ofBool(false)}}) {
+        EXPECT_EQ(box.put(name, value), S_OK);
+        EXPECT_THAT(box.changes().take(), ElementsAre(told));
+        EXPECT_EQ(kit::textOf(box.get(name)), kit::textOf(value)) << kit::narrow(name);
+    }
+    EXPECT_EQ(box.setFont(kit::newFont(L"Arial", 10).get()), S_OK);
     EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_FONT));
 }
 
@@ -118,7 +105,7 @@ TEST_P(Properties, makeTheControlDirtyAndItsViewChange)
     for (wchar_t const* name : {L"ForeColor", L"BackColor", L"HotForeColor"}) {
         box.hosted().save(*newBag().get());
         view->calls.clear();
-        EXPECT_EQ(box.put(name, Variant::ofLong(0x334455)), S_OK);
+        EXPECT_EQ(box.put(name, 0x334455), S_OK);
         EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_OK) << kit::narrow(name);
         EXPECT_EQ(view->count("OnViewChange(1,-1)"), 1) << kit::narrow(name);
     }
@@ -127,12 +114,12 @@ TEST_P(Properties, makeTheControlDirtyAndItsViewChange)
 
 TEST_P(Properties, thatDoNotConvertChangeNothing)
 {
-    EXPECT_NE(box.put(L"ForeColor", Variant::ofString(L"green")), S_OK);
-    EXPECT_NE(box.put(L"Enabled", Variant::ofString(L"maybe")), S_OK);
-    EXPECT_NE(box.put(L"Value", Variant::ofString(L"x")), S_OK);
-    EXPECT_EQ(number(L"ForeColor"), kButtonText);
+    EXPECT_NE(box.put(L"ForeColor", L"green"), S_OK);
+    EXPECT_NE(box.put(L"Enabled", L"maybe"), S_OK);
+    EXPECT_NE(box.put(L"Value", L"x"), S_OK);
+    EXPECT_EQ(box.number(L"ForeColor"), kButtonText);
     EXPECT_TRUE(box.get(L"Enabled").toBool());
-    EXPECT_EQ(kit::setByName(box.dispatch(), L"Font", nullptr).code, kObjectNotSet);
+    EXPECT_EQ(box.setFont(nullptr), kObjectNotSet);
 }
 
 TEST_P(Properties, giveTheWindowOfTheInnerButton)
@@ -144,39 +131,36 @@ TEST_P(Properties, giveTheWindowOfTheInnerButton)
 
 TEST_P(Properties, showTheirColoursAtOnce)
 {
-    box.put(L"BackColor", Variant::ofLong(RGB(1, 200, 100)));
+    box.put(L"BackColor", RGB(1, 200, 100));
     EXPECT_EQ(box.pixel({118, 1}), RGB(1, 200, 100));
-    box.put(L"ForeColor", Variant::ofLong(RGB(200, 0, 0)));
+    box.put(L"ForeColor", RGB(200, 0, 0));
     EXPECT_TRUE(box.captionHas(RGB(200, 0, 0)));
 }
 
 TEST_P(Properties, ofTheFontAreTheControlsOwn)
 {
     auto const font = kit::newFont(L"Arial", 10);
-    kit::setByName(box.dispatch(), L"Font", font.get());
+    box.setFont(font.get());
     font->put_Bold(TRUE);
-    auto const own = query<IFont>(box.get(L"Font").toObject().get());
     BOOL bold = TRUE;
-    own->get_Bold(&bold);
+    box.font()->get_Bold(&bold);
     EXPECT_FALSE(bold);
 }
 
 TEST_P(Properties, followAChangeInsideTheFont)
 {
-    auto const own = query<IFont>(box.get(L"Font").toObject().get());
-    auto const before = reinterpret_cast<HFONT>(::SendMessageW(box.inner(), WM_GETFONT, 0, 0));
+    auto const own = box.font();
+    HFONT const before = innerFont();
     own->put_Bold(TRUE);
-    HFONT handle = nullptr;
-    own->get_hFont(&handle);
-    EXPECT_EQ(reinterpret_cast<HFONT>(::SendMessageW(box.inner(), WM_GETFONT, 0, 0)), handle);
-    EXPECT_NE(handle, before);
+    EXPECT_EQ(innerFont(), kit::handleOf(*own.get()));
+    EXPECT_NE(innerFont(), before);
 }
 
 TEST_P(Properties, takeAnyUnicodeCaption)
 {
     std::wstring const caption = L"\x043F\x0440\x0438\x0432\x0435\x0442 \x4F60\x597D";
-    EXPECT_EQ(box.put(L"Caption", Variant::ofString(caption)), S_OK);
-    EXPECT_EQ(text(L"Caption"), caption);
+    EXPECT_EQ(box.put(L"Caption", caption.c_str()), S_OK);
+    EXPECT_EQ(box.caption(), caption);
     wchar_t seen[40] = {};
     ::InternalGetWindowText(box.inner(), seen, 40); // what another program is told
     EXPECT_EQ(std::wstring(seen), caption);
@@ -184,12 +168,9 @@ TEST_P(Properties, takeAnyUnicodeCaption)
 
 TEST_P(Properties, refreshPaintsTheInnerButton)
 {
-    {
-        WindowDc const dc(box.inner());
-        ::SetPixelV(dc.get(), 110, 3, RGB(255, 0, 255));
-    }
+    ::SetPixelV(WindowDc(box.inner()).get(), 110, 3, RGB(255, 0, 255));
     EXPECT_EQ(box.pixel({110, 3}), RGB(255, 0, 255));
-    EXPECT_EQ(kit::callByName(box.dispatch(), L"Refresh").result, S_OK);
+    box.refresh();
     EXPECT_NE(box.pixel({110, 3}), RGB(255, 0, 255));
 }
 

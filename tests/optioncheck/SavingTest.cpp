@@ -15,20 +15,19 @@ constexpr long kButtonShadow = static_cast<long>(colour::kButtonShadow);
 
 ComPtr<kit::FakeBag> fullBag(long value)
 {
-    auto bag = newBag();
-    bag->put(L"ForeColor", Variant::ofLong(0x010203));
-    bag->put(L"Enabled", Variant::ofBool(false));
-    bag->put(L"Font", Variant::ofUnknown(kit::newFont(L"Courier New", 12).get()));
-    bag->put(L"Caption", Variant::ofString(L"Saved"));
-    bag->put(L"Value", Variant::ofLong(value));
-    bag->put(L"HotForeColor", Variant::ofLong(0x020304));
-    bag->put(L"BackColor", Variant::ofLong(0x030405));
-    return bag;
+    return newBag({{L"ForeColor", Variant::ofLong(0x010203)},
+                   {L"Enabled", Variant::ofBool(false)},
+                   {L"Font", Variant::ofUnknown(kit::newFont(L"Courier New", 12).get())},
+                   {L"Caption", Variant::ofString(L"Saved")},
+                   {L"Value", Variant::ofLong(value)},
+                   {L"HotForeColor", Variant::ofLong(0x020304)},
+                   {L"BackColor", Variant::ofLong(0x030405)}});
 }
 
 class Saving : public EachBoxTest {
 protected:
-    Saving() : box(kind(), library(), form) {}
+    Box box{kind(), library(), form};
+    Box other{kind(), library(), form, kPlace, L"Other"}; ///< for what the first one saved
 
     ComPtr<kit::FakeBag> saved()
     {
@@ -36,8 +35,13 @@ protected:
         EXPECT_EQ(box.hosted().save(*bag.get()), S_OK);
         return bag;
     }
-
-    Box box;
+    void start(Saved const& values) { box.start(*newBag(values).get()); }
+    /// By the stream form.
+    void saveAndLoad()
+    {
+        other.hosted().setSite();
+        ASSERT_EQ(other.hosted().load(box.hosted().saved(TRUE)), S_OK);
+    }
 };
 
 TEST_P(Saving, readsInOrder)
@@ -71,10 +75,7 @@ private:
 TEST_P(Saving, refreshesAnOptionBeforeItReadsAndNoCheckBox)
 {
     box.start();
-    {
-        WindowDc const dc(box.inner());
-        ::SetPixelV(dc.get(), 110, 3, RGB(255, 0, 255));
-    }
+    ::SetPixelV(WindowDc(box.inner()).get(), 110, 3, RGB(255, 0, 255));
     auto const bag = kit::make<LookingBag>(box);
     EXPECT_EQ(box.hosted().load(*bag.get()), S_OK);
     EXPECT_EQ(bag->seen, isOption() ? ::GetSysColor(COLOR_BTNFACE) : RGB(255, 0, 255));
@@ -102,67 +103,59 @@ TEST_P(Saving, writesItsTypes)
 {
     box.start(*fullBag(1).get());
     auto const bag = saved();
-    EXPECT_EQ(bag->value(L"ForeColor").type(), VT_I4);
-    EXPECT_EQ(bag->value(L"Enabled").type(), VT_BOOL);
-    EXPECT_EQ(bag->value(L"Font").type(), VT_UNKNOWN);
-    EXPECT_EQ(bag->value(L"Caption").type(), VT_BSTR);
-    EXPECT_EQ(bag->value(L"Value").type(), isOption() ? VT_I4 : VT_I2);
-    EXPECT_EQ(bag->value(L"HotForeColor").type(), VT_I4);
-    EXPECT_EQ(bag->value(L"BackColor").type(), VT_I4);
+    for (auto const& [name, type] : {std::pair{L"ForeColor", VT_I4},
+                                     {L"Enabled", VT_BOOL},
+                                     {L"Font", VT_UNKNOWN},
+                                     {L"Caption", VT_BSTR},
+                                     {L"Value", isOption() ? VT_I4 : VT_I2},
+                                     {L"HotForeColor", VT_I4},
+                                     {L"BackColor", VT_I4}})
+        EXPECT_EQ(bag->value(name).type(), type) << kit::narrow(name);
 }
 
 TEST_P(Saving, restoresWhatItSaved)
 {
     box.start(*fullBag(1).get());
     auto const bag = saved();
-    Box other(kind(), library(), form, kPlace, L"Other");
     other.start(*bag.get());
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), 0x010203);
+    EXPECT_EQ(other.number(L"ForeColor"), 0x010203);
     EXPECT_FALSE(other.get(L"Enabled").toBool());
-    EXPECT_EQ(other.get(L"Caption").toString().view(), L"Saved");
+    EXPECT_EQ(other.caption(), L"Saved");
     EXPECT_EQ(other.value(), 1);
-    EXPECT_EQ(other.get(L"HotForeColor").toLong(), 0x020304);
-    EXPECT_EQ(other.get(L"BackColor").toLong(), 0x030405);
-    auto const font = query<IFont>(other.get(L"Font").toObject().get());
-    EXPECT_TRUE(kit::equalFonts(*font.get(), *kit::newFont(L"Courier New", 12).get()));
+    EXPECT_EQ(other.number(L"HotForeColor"), 0x020304);
+    EXPECT_EQ(other.number(L"BackColor"), 0x030405);
+    EXPECT_TRUE(kit::equalFonts(*other.font().get(), *kit::newFont(L"Courier New", 12).get()));
 }
 
 TEST_P(Saving, keepsAnEmptyCaption)
 {
-    auto const bag = newBag();
-    bag->put(L"Caption", Variant::ofString(L""));
-    box.start(*bag.get());
-    EXPECT_EQ(box.get(L"Caption").toString().view(), L"");
+    start({{L"Caption", Variant::ofString(L"")}});
+    EXPECT_EQ(box.caption(), L"");
     EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"Caption"));
 }
 
 TEST_P(Saving, hasTheLaidOutCaptionForDefault)
 {
     box.start();
-    EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption);
+    EXPECT_EQ(box.caption(), kind().laidOutCaption);
 }
 
 TEST_P(Saving, keepsTheUsersColourOfADisabledOneThatIsTheDefault)
 {
-    auto const bag = newBag();
-    bag->put(L"Enabled", Variant::ofBool(false));
-    box.start(*bag.get());
+    start({{L"Enabled", Variant::ofBool(false)}});
     // What is shown is no default, so it is written; the user's colour has to take its place.
     auto const again = saved();
     EXPECT_THAT(again->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"ForeColor"));
-    Box other(kind(), library(), form, kPlace, L"Other");
     other.start(*again.get());
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(colour::kButtonText));
+    EXPECT_EQ(other.number(L"ForeColor"), static_cast<long>(colour::kButtonText));
 }
 
 TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
 {
     box.start();
     box.setColours(RGB(200, 0, 0), RGB(200, 0, 0));
-    auto const bag = newBag();
-    bag->put(L"ForeColor", Variant::ofLong(RGB(0, 0, 200)));
-    EXPECT_EQ(box.hosted().load(*bag.get()), S_OK);
-    EXPECT_EQ(box.get(L"ForeColor").toLong(), static_cast<long>(RGB(0, 0, 200)));
+    EXPECT_EQ(box.hosted().load(*newBag({{L"ForeColor", Variant::ofLong(RGB(0, 0, 200))}}).get()), S_OK);
+    EXPECT_EQ(box.number(L"ForeColor"), static_cast<long>(RGB(0, 0, 200)));
     EXPECT_TRUE(box.captionHas(RGB(0, 0, 200)));
     EXPECT_FALSE(box.captionHas(RGB(200, 0, 0)));
     EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"ForeColor", L"ForeColor"));
@@ -171,28 +164,17 @@ TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
 TEST_P(Saving, goesThroughAStream)
 {
     box.start(*fullBag(1).get());
-    auto const stream = kit::streamOf();
-    ASSERT_EQ(box.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
-    Box other(kind(), library(), form, kPlace, L"Other");
-    other.hosted().setSite();
-    auto const copy = kit::streamOf(kit::bytesOf(*stream.get()));
-    ASSERT_EQ(other.as<IPersistStreamInit>()->Load(copy.get()), S_OK);
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), 0x010203);
-    EXPECT_EQ(other.get(L"Caption").toString().view(), L"Saved");
+    saveAndLoad();
+    EXPECT_EQ(other.number(L"ForeColor"), 0x010203);
+    EXPECT_EQ(other.caption(), L"Saved");
     EXPECT_EQ(other.value(), 1);
 }
 
 TEST_P(Saving, aDisabledOneKeepsItsColourThroughAStream)
 {
-    auto const bag = newBag();
-    bag->put(L"Enabled", Variant::ofBool(false));
-    box.start(*bag.get());
-    auto const stream = kit::streamOf();
-    ASSERT_EQ(box.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
-    Box other(kind(), library(), form, kPlace, L"Other");
-    other.hosted().setSite();
-    ASSERT_EQ(other.as<IPersistStreamInit>()->Load(kit::streamOf(kit::bytesOf(*stream.get())).get()), S_OK);
-    EXPECT_EQ(other.get(L"ForeColor").toLong(), static_cast<long>(colour::kButtonText));
+    start({{L"Enabled", Variant::ofBool(false)}});
+    saveAndLoad();
+    EXPECT_EQ(other.number(L"ForeColor"), static_cast<long>(colour::kButtonText));
 }
 
 TEST_P(Saving, goesThroughAStorage)
@@ -200,21 +182,17 @@ TEST_P(Saving, goesThroughAStorage)
     box.start(*fullBag(1).get());
     auto const storage = kit::newStorage();
     ASSERT_EQ(box.as<IPersistStorage>()->Save(storage.get(), TRUE), S_OK);
-    Box other(kind(), library(), form, kPlace, L"Other");
     other.hosted().setSite();
     ASSERT_EQ(other.as<IPersistStorage>()->Load(storage.get()), S_OK);
-    EXPECT_EQ(other.get(L"BackColor").toLong(), 0x030405);
+    EXPECT_EQ(other.number(L"BackColor"), 0x030405);
     EXPECT_EQ(other.value(), 1);
 }
 
 TEST_P(Saving, takesNumbersAsText)
 {
-    auto const bag = newBag();
-    bag->put(L"Value", Variant::ofString(L"1"));
-    bag->put(L"ForeColor", Variant::ofString(L"197121"));
-    box.start(*bag.get());
+    start({{L"Value", Variant::ofString(L"1")}, {L"ForeColor", Variant::ofString(L"197121")}});
     EXPECT_EQ(box.value(), 1);
-    EXPECT_EQ(box.get(L"ForeColor").toLong(), 197121);
+    EXPECT_EQ(box.number(L"ForeColor"), 197121);
 }
 
 TEST_P(Saving, leavesTheControlAsItWasWhereAValueIsBroken)
@@ -224,7 +202,7 @@ TEST_P(Saving, leavesTheControlAsItWasWhereAValueIsBroken)
         auto const bag = fullBag(1);
         bag->put(name, Variant::ofString(L"broken"));
         EXPECT_NE(box.hosted().load(*bag.get()), S_OK) << kit::narrow(name);
-        EXPECT_EQ(box.get(L"Caption").toString().view(), kind().laidOutCaption) << kit::narrow(name);
+        EXPECT_EQ(box.caption(), kind().laidOutCaption) << kit::narrow(name);
         EXPECT_EQ(box.value(), 0);
         EXPECT_TRUE(box.get(L"Enabled").toBool());
     }
@@ -269,7 +247,7 @@ TEST_F(CheckSaving, refusesAValueOutOfRange)
         auto const bag = fullBag(value);
         EXPECT_NE(box.hosted().load(*bag.get()), S_OK) << value;
         EXPECT_EQ(box.value(), 0);
-        EXPECT_EQ(box.get(L"Caption").toString().view(), L"Check1");
+        EXPECT_EQ(box.caption(), L"Check1");
     }
 }
 
@@ -278,21 +256,17 @@ using OptionSaving = BoxTest;
 TEST_F(OptionSaving, takesAnyValueButOneForCleared)
 {
     for (long const value : {0L, 2L, -1L, 70000L}) {
-        auto const bag = newBag();
-        bag->put(L"Value", Variant::ofLong(value));
         Box box(kOption, library(), form);
-        box.start(*bag.get());
+        box.start(*newBag({{L"Value", Variant::ofLong(value)}}).get());
         EXPECT_EQ(box.value(), 0) << value;
     }
 }
 
 TEST_F(OptionSaving, raisesResizeAtLoadingAndClickWhereItIsChosen)
 {
-    auto const bag = newBag();
-    bag->put(L"Value", Variant::ofLong(1));
     Box box(kOption, library(), form);
     box.hosted().setSite();
-    box.hosted().load(*bag.get());
+    box.hosted().load(*newBag({{L"Value", Variant::ofLong(1)}}).get());
     EXPECT_THAT(box.happened(), ElementsAre("Click", "Resize"));
 }
 

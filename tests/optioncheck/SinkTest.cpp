@@ -20,7 +20,7 @@ constexpr Deed kDeeds[] = {
     {"FormDestroyed", [](Box& box) { ::DestroyWindow(box.hosted().form().window()); }},
     {"InnerWindowDestroyed", [](Box& box) { ::DestroyWindow(box.inner()); }},
     {"Deactivated", [](Box& box) { box.as<IOleInPlaceObject>()->InPlaceDeactivate(); }},
-    {"Disabled", [](Box& box) { box.put(L"Enabled", Variant::ofBool(false)); }},
+    {"Disabled", [](Box& box) { box.disable(); }},
     {"LoadedAgain", [](Box& box) { box.hosted().load(*newBag().get()); }},
     {"ValueSet", [](Box& box) { box.setValue(1); }},
     {"ValueCleared", [](Box& box) { box.setValue(0); }},
@@ -65,18 +65,10 @@ void typeSpace(Box& box)
 }
 
 constexpr Occasion kOccasions[] = {
-    {"MouseMove", moveOnto},
-    {"MouseDown", clickWithTheMouse},
-    {"MouseUp", clickWithTheMouse},
-    {"Click", clickWithTheMouse},
-    {"KeyDown", typeSpace},
-    {"KeyPress", typeSpace},
-    {"KeyUp", typeSpace},
-    {"Resize",
-     [](Box& box) {
-         RECT const larger = {20, 30, 200, 60};
-         box.as<IOleInPlaceObject>()->SetObjectRects(&larger, &larger);
-     }},
+    {"MouseMove", moveOnto},        {"MouseDown", clickWithTheMouse},
+    {"MouseUp", clickWithTheMouse}, {"Click", clickWithTheMouse},
+    {"KeyDown", typeSpace},         {"KeyPress", typeSpace},
+    {"KeyUp", typeSpace},           {"Resize", [](Box& box) { box.hosted().place({20, 30, 200, 60}); }},
 };
 
 using Given = std::tuple<Kind const*, Occasion, Deed>;
@@ -135,6 +127,11 @@ protected:
         EXPECT_EQ(box.as<IOleInPlaceObject>()->SetObjectRects(&at, nullptr), S_OK);
         return box.happened();
     }
+    void loadAndActivate()
+    {
+        load();
+        activate();
+    }
     void leave() { EXPECT_EQ(box.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK); }
     void close() { EXPECT_EQ(box.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK); }
 };
@@ -177,8 +174,7 @@ TEST_P(Resize, isRaisedAtTheFirstSizeWhateverWasToldBeforeActivation)
 
 TEST_P(Resize, isRaisedByAnActivationWithAnotherSizeAlone)
 {
-    load();
-    activate();
+    loadAndActivate();
     leave();
     EXPECT_THAT(activate(), IsEmpty());
     leave();
@@ -192,8 +188,7 @@ TEST_P(Resize, isRaisedByAnActivationWithAnotherSizeAlone)
 
 TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
 {
-    load();
-    activate();
+    loadAndActivate();
     close();
     EXPECT_THAT(activate(), IsEmpty());
     close();
@@ -209,8 +204,7 @@ TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
 
 TEST_P(Resize, isRaisedOnceForEachChange)
 {
-    load();
-    activate();
+    loadAndActivate();
     EXPECT_THAT(place(kLarger), ElementsAre("Resize"));
     EXPECT_THAT(place(kLarger), IsEmpty());
     EXPECT_THAT(place(kPlace), ElementsAre("Resize"));

@@ -14,14 +14,23 @@ using winsvc::theToolTipWindow;
 using winsvc::ToolTipWatch;
 using winsvc::toolTipWindows;
 
-class ToolTip : public EachBoxTest {};
+class ToolTip : public EachBoxTest {
+protected:
+    /// A box on a thread where no tooltip window was ever made.
+    void onNewThread(std::function<void(Box&)> const& body) const
+    {
+        kit::onNewThread([&] {
+            kit::FakeForm own;
+            Box box(kind(), library(), own);
+            body(box);
+        });
+    }
+};
 
 TEST_P(ToolTip, isOfTheInnerWindow)
 {
-    kit::onNewThread([this] {
-        kit::FakeForm own;
+    onNewThread([](Box& box) {
         ToolTipWatch watch;
-        Box box(kind(), library(), own);
         box.start();
         ASSERT_GE(watch.messages.size(), 3U);
         EXPECT_EQ(watch.messages[0].message, static_cast<UINT>(TTM_ACTIVATE));
@@ -34,14 +43,12 @@ TEST_P(ToolTip, isOfTheInnerWindow)
 
 TEST_P(ToolTip, seesTheMouseOfTheInnerWindow)
 {
-    kit::onNewThread([this] {
-        kit::FakeForm own;
-        Box box(kind(), library(), own);
+    onNewThread([](Box& box) {
         box.start();
         ToolTipWatch watch;
         for (UINT const message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP,
                                    WM_MBUTTONDOWN, WM_MBUTTONUP, WM_LBUTTONDBLCLK})
-            ::SendMessageA(box.inner(), message, 0, MAKELPARAM(60, 10));
+            box.send(message, kInside);
         auto const relayed = watch.relayed();
         EXPECT_THAT(relayed,
                     testing::IsSupersetOf({WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN,
@@ -52,9 +59,7 @@ TEST_P(ToolTip, seesTheMouseOfTheInnerWindow)
 
 TEST_P(ToolTip, textIsTheExtendersOfNow)
 {
-    kit::onNewThread([this] {
-        kit::FakeForm own;
-        Box box(kind(), library(), own);
+    onNewThread([](Box& box) {
         box.start();
         box.extender().offer(L"ToolTipText", Variant::ofString(L"Choose me"));
         NMTTDISPINFOA request = {};
@@ -67,9 +72,7 @@ TEST_P(ToolTip, textIsTheExtendersOfNow)
 
 TEST_P(ToolTip, isMissingWhereNothingWasLoaded)
 {
-    kit::onNewThread([this] {
-        kit::FakeForm own;
-        Box box(kind(), library(), own);
+    onNewThread([](Box& box) {
         box.startNew();
         EXPECT_THAT(toolTipWindows(), IsEmpty());
         EXPECT_EQ(::GetWindowLongPtrA(box.inner(), GWLP_USERDATA), 0);
@@ -119,10 +122,7 @@ TEST_P(ToolTip, focusMessagesPaintBeforeTheButtonSeesThem)
         ::SetWindowLongPtrW(box.hwnd(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&FocusLook::procedure)));
     box.start();
     for (long const message : {WM_SETFOCUS, WM_KILLFOCUS}) {
-        {
-            WindowDc const dc(box.inner());
-            ::SetPixelV(dc.get(), FocusLook::kAt.x, FocusLook::kAt.y, RGB(255, 0, 255));
-        }
+        ::SetPixelV(WindowDc(box.inner()).get(), FocusLook::kAt.x, FocusLook::kAt.y, RGB(255, 0, 255));
         FocusLook::s_seen = CLR_INVALID;
         std::vector<Variant> const told = {Variant::ofLong(HandleToLong(box.inner())),
                                            Variant::ofLong(message), Variant::ofLong(0), Variant::ofLong(0)};

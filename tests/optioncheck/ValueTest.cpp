@@ -1,7 +1,6 @@
 // Value: what it takes, what it answers, what it raises, and the tab stop that goes with it.
 #include "Box.h"
 #include "kit/Errors.h"
-#include "kit/Fonts.h"
 
 namespace quillet::box {
 namespace {
@@ -9,28 +8,42 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using OptionValue = BoxTest;
-using CheckValue = BoxTest;
+class OptionValue : public BoxTest {
+protected:
+    Box box{kOption, library(), form};
 
-std::vector<std::string> tabStopWrites(kit::FakeForm& form)
-{
-    std::vector<std::string> writes;
-    for (std::string const& call : form.record().take())
-        if (call.starts_with("Extender.TabStop ="))
-            writes.push_back(call);
-    return writes;
-}
+    void offerTabStop(Variant const& value) { box.extender().offer(L"TabStop", value); }
+    bool tabStop() { return box.extender().value(L"TabStop").toBool(); }
+    std::vector<std::string> tabStopWrites()
+    {
+        std::vector<std::string> writes = form.record().take();
+        std::erase_if(writes, [](auto const& call) { return !call.starts_with("Extender.TabStop ="); });
+        return writes;
+    }
+};
+
+class CheckValue : public BoxTest {
+protected:
+    Box box{kCheck, library(), form};
+
+    CheckValue() { box.start(); }
+    /// Of a value that was set before.
+    void expectRefused(long value, HRESULT error)
+    {
+        long const before = box.value();
+        EXPECT_EQ(box.setValue(value), error) << value;
+        EXPECT_EQ(box.value(), before);
+    }
+};
 
 TEST_F(OptionValue, ofANewOneIsZero)
 {
-    Box box(kOption, library(), form);
     box.startNew();
     EXPECT_EQ(box.value(), 0);
 }
 
 TEST_F(OptionValue, oneChoosesItAndRaisesClick)
 {
-    Box box(kOption, library(), form);
     box.start();
     box.changes().take();
     EXPECT_EQ(box.setValue(1), S_OK);
@@ -42,7 +55,6 @@ TEST_F(OptionValue, oneChoosesItAndRaisesClick)
 
 TEST_F(OptionValue, otherThanOneClearsItWithoutAClick)
 {
-    Box box(kOption, library(), form);
     box.start();
     for (long const other : {0L, 2L, -1L, 70000L}) {
         EXPECT_EQ(box.setValue(1), S_OK);
@@ -56,7 +68,6 @@ TEST_F(OptionValue, otherThanOneClearsItWithoutAClick)
 
 TEST_F(OptionValue, oneOfTheChosenIsToldButNoClick)
 {
-    Box box(kOption, library(), form);
     box.start();
     box.setValue(1);
     box.happened();
@@ -68,7 +79,6 @@ TEST_F(OptionValue, oneOfTheChosenIsToldButNoClick)
 
 TEST_F(OptionValue, isWhatTheAccessibleWindowSays)
 {
-    Box box(kOption, library(), form);
     box.start();
     ::SendMessageW(box.inner(), BM_SETCHECK, BST_CHECKED, 0);
     EXPECT_EQ(box.value(), 1);
@@ -79,73 +89,62 @@ TEST_F(OptionValue, isWhatTheAccessibleWindowSays)
 
 TEST_F(OptionValue, givesTheTabStopBackThatTheHostHadAtLoading)
 {
-    Box box(kOption, library(), form);
     box.start();
     EXPECT_EQ(box.setValue(0), S_OK);
-    EXPECT_THAT(tabStopWrites(form), ElementsAre("Extender.TabStop = 0"));
+    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = 0"));
     EXPECT_EQ(box.setValue(1), S_OK); // once by the click, once by the setter
-    EXPECT_THAT(tabStopWrites(form), ElementsAre("Extender.TabStop = -1", "Extender.TabStop = -1"));
+    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = -1", "Extender.TabStop = -1"));
 }
 
 TEST_F(OptionValue, givesAHostThatWantedNoTabStopNone)
 {
-    Box box(kOption, library(), form);
-    box.extender().offer(L"TabStop", Variant::ofBool(false));
+    offerTabStop(Variant::ofBool(false));
     box.start();
     EXPECT_EQ(box.setValue(1), S_OK);
-    EXPECT_THAT(tabStopWrites(form), ElementsAre("Extender.TabStop = 0", "Extender.TabStop = 0"));
+    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = 0", "Extender.TabStop = 0"));
 }
 
 TEST_F(OptionValue, readsTheHostsTabStopAtTheEndOfLoading)
 {
-    Box box(kOption, library(), form);
-    box.events().action = [&](auto const& event) { // the last step before
-        if (nameOfEvent(event.id) == "Resize")
-            box.extender().offer(L"TabStop", Variant::ofBool(false));
-    };
+    box.whenever("Resize", [&] { offerTabStop(Variant::ofBool(false)); }); // the last step before
     box.hosted().setSite();
     EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
     box.events().action = nullptr;
-    box.extender().offer(L"TabStop", Variant::ofBool(true));
+    offerTabStop(Variant::ofBool(true));
     EXPECT_EQ(box.setValue(1), S_OK);
-    EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
+    EXPECT_FALSE(tabStop());
 }
 
 TEST_F(OptionValue, isStoredThenToldAndThenTakesTheTabStopAlong)
 {
-    Box box(kOption, library(), form);
     box.start();
     box.setValue(1);
     box.changes().take();
     long value = -1;
-    bool tabStop = false;
+    bool told = false;
     box.changes().action = [&](DISPID) {
         value = box.value();
-        tabStop = box.extender().value(L"TabStop").toBool();
+        told = tabStop();
     };
     EXPECT_EQ(box.setValue(0), S_OK);
     box.changes().action = nullptr;
     EXPECT_EQ(value, 0);
-    EXPECT_TRUE(tabStop);
-    EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
+    EXPECT_TRUE(told);
+    EXPECT_FALSE(tabStop());
 }
 
 TEST_F(OptionValue, leavesTheTabStopOfAChosenOneThatIsBeingLoaded)
 {
-    auto const bag = newBag();
-    bag->put(L"Value", Variant::ofLong(1));
-    Box box(kOption, library(), form);
-    box.start(*bag.get());
-    EXPECT_TRUE(box.extender().value(L"TabStop").toBool());
+    box.start(*newBag({{L"Value", Variant::ofLong(1)}}).get());
+    EXPECT_TRUE(tabStop());
     box.setValue(0);
-    EXPECT_FALSE(box.extender().value(L"TabStop").toBool());
+    EXPECT_FALSE(tabStop());
     box.setValue(1);
-    EXPECT_TRUE(box.extender().value(L"TabStop").toBool());
+    EXPECT_TRUE(tabStop());
 }
 
 TEST_F(OptionValue, needsNoHostWithTabStops)
 {
-    Box box(kOption, library(), form);
     box.extender().remove(L"TabStop");
     box.start();
     EXPECT_EQ(box.setValue(1), S_OK);
@@ -156,15 +155,13 @@ TEST_F(OptionValue, needsNoHostWithTabStops)
 
 TEST_F(OptionValue, survivesAHostWhoseTabStopIsNoFlag)
 {
-    Box box(kOption, library(), form);
-    box.extender().offer(L"TabStop", Variant::ofString(L"perhaps"));
+    offerTabStop(Variant::ofString(L"perhaps"));
     box.start();
     EXPECT_EQ(box.setValue(1), S_OK);
 }
 
 TEST_F(OptionValue, showsAtOnce)
 {
-    Box box(kOption, library(), form);
     box.start();
     EXPECT_EQ(box.pixel({5, 10}), kWhite);
     box.setValue(1);
@@ -175,8 +172,6 @@ TEST_F(OptionValue, showsAtOnce)
 
 TEST_F(CheckValue, takesThreeStatesAndRaisesClickForEachChange)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     box.changes().take();
     for (long const state : {1L, 2L, 0L, 2L, 1L, 0L}) {
         EXPECT_EQ(box.setValue(state), S_OK);
@@ -189,8 +184,6 @@ TEST_F(CheckValue, takesThreeStatesAndRaisesClickForEachChange)
 
 TEST_F(CheckValue, thatIsTheSameRaisesNoClick)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     for (long const state : {0L, 1L, 2L}) {
         box.setValue(state);
         box.happened();
@@ -201,16 +194,12 @@ TEST_F(CheckValue, thatIsTheSameRaisesNoClick)
 
 TEST_F(CheckValue, outside16BitsOverflowsBeforeAnythingChanges)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     box.setValue(2);
     box.happened();
     EXPECT_EQ(box.hosted().save(*newBag().get()), S_OK);
     box.changes().take();
-    for (long const large : {70000L, 32768L, -32769L, 65537L}) {
-        EXPECT_EQ(box.setValue(large), kOverflow) << large;
-        EXPECT_EQ(box.value(), 2);
-    }
+    for (long const large : {70000L, 32768L, -32769L, 65537L})
+        expectRefused(large, kOverflow);
     EXPECT_THAT(box.happened(), IsEmpty());
     EXPECT_THAT(box.changes().take(), IsEmpty());
     EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
@@ -218,21 +207,15 @@ TEST_F(CheckValue, outside16BitsOverflowsBeforeAnythingChanges)
 
 TEST_F(CheckValue, thatTheBoxDoesNotAcceptIsRejected)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     box.setValue(1);
     box.happened();
-    for (long const other : {3L, -1L, 32767L}) {
-        EXPECT_EQ(box.setValue(other), kInvalidPropertyValue) << other;
-        EXPECT_EQ(box.value(), 1);
-    }
+    for (long const other : {3L, -1L, 32767L})
+        expectRefused(other, kInvalidPropertyValue);
     EXPECT_THAT(box.happened(), IsEmpty());
 }
 
 TEST_F(CheckValue, touchesNoTabStop)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     box.setValue(1);
     box.setValue(0);
     box.click();
@@ -241,8 +224,6 @@ TEST_F(CheckValue, touchesNoTabStop)
 
 TEST_F(CheckValue, goesBetweenClearAndSetByClicks)
 {
-    Box box(kCheck, library(), form);
-    box.start();
     std::vector<long> states;
     for (int i = 0; i < 3; ++i) {
         box.click();
@@ -255,32 +236,27 @@ TEST_F(CheckValue, goesBetweenClearAndSetByClicks)
     EXPECT_EQ(box.value(), 0);
 }
 
-using Values = EachBoxTest;
+class Values : public StartedBoxTest {
+protected:
+    template <class Face> void expectTristate()
+    {
+        OLE_TRISTATE value = triGray;
+        EXPECT_EQ(box.as<Face>()->put_Value(triChecked), S_OK);
+        EXPECT_EQ(box.as<Face>()->get_Value(&value), S_OK);
+        EXPECT_EQ(box.as<Face>()->get_Value(nullptr), E_POINTER);
+        EXPECT_EQ(value, triChecked);
+    }
+};
 
 TEST_P(Values, areOfThePublishedEnumeration)
 {
-    Box box(kind(), library(), form);
-    box.start();
-    OLE_TRISTATE value = triGray;
-    if (isOption()) {
-        EXPECT_EQ(box.as<_qvFlatOption>()->put_Value(triChecked), S_OK);
-        EXPECT_EQ(box.as<_qvFlatOption>()->get_Value(&value), S_OK);
-        EXPECT_EQ(box.as<_qvFlatOption>()->get_Value(nullptr), E_POINTER);
-    } else {
-        EXPECT_EQ(box.as<_qvFlatCheck>()->put_Value(triChecked), S_OK);
-        EXPECT_EQ(box.as<_qvFlatCheck>()->get_Value(&value), S_OK);
-        EXPECT_EQ(box.as<_qvFlatCheck>()->get_Value(nullptr), E_POINTER);
-    }
-    EXPECT_EQ(value, triChecked);
+    isOption() ? expectTristate<_qvFlatOption>() : expectTristate<_qvFlatCheck>();
 }
 
 TEST_P(Values, areTheDefaultMember)
 {
-    Box box(kind(), library(), form);
-    box.start();
-    kit::Called const put =
-        kit::invoke(box.dispatch(), DISPID_VALUE, DISPATCH_PROPERTYPUT, {Variant::ofLong(1)});
-    EXPECT_EQ(put.result, S_OK);
+    EXPECT_EQ(kit::invoke(box.dispatch(), DISPID_VALUE, DISPATCH_PROPERTYPUT, {Variant::ofLong(1)}).result,
+              S_OK);
     EXPECT_EQ(kit::invoke(box.dispatch(), DISPID_VALUE, DISPATCH_PROPERTYGET).value.toLong(), 1);
 }
 
