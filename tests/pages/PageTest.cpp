@@ -1,17 +1,14 @@
-// Pages opened, changed and applied under a real window.
+// Pages opened, changed and applied under a real window, and in the system's own frame, which finds them by
+// their classes.
 #include "OpenPage.h"
-#include "base/Bstr.h"
 #include "base/Variant.h"
 #include "browse/PageIds.h"
+#include "kit/Fonts.h"
+#include "kit/Hosted.h"
 #include "kit/Input.h"
 #include "kit/ModalDialog.h"
 #include "kit/Pump.h"
 #include "typelib/DispatchIds.h"
-
-#include <olectl.h>
-
-#include <algorithm>
-#include <iterator>
 
 namespace quillet::pages {
 namespace {
@@ -25,6 +22,36 @@ std::wstring captionOf(_qvFlatCommand& button)
     Bstr caption;
     EXPECT_EQ(button.get_Caption(caption.put()), S_OK);
     return std::wstring(caption.view());
+}
+
+short borderWidthOf(_qvFlatCommand& button)
+{
+    Variant width;
+    EXPECT_EQ(button.get_BorderWidth(width.put()), S_OK);
+    return width.toShort();
+}
+
+/// What a page tells of itself.
+struct PageInfo {
+    std::wstring title;
+    std::wstring helpFile;
+    DWORD topic;
+    SIZE size;
+};
+
+std::wstring taken(wchar_t* owned)
+{
+    std::wstring const text(owned);
+    ::CoTaskMemFree(owned);
+    return text;
+}
+
+PageInfo infoOf(OpenPage const& page)
+{
+    PROPPAGEINFO info{};
+    info.cb = sizeof(info);
+    EXPECT_EQ(page->GetPageInfo(&info), S_OK);
+    return {taken(info.pszTitle), taken(info.pszHelpFile), info.dwHelpContext, info.size};
 }
 
 /// Closes the message box that is about to open; what it said is in text.
@@ -51,49 +78,34 @@ std::wstring helpFile() { return kit::Library::folder() + L"quillet.chm"; }
 
 TEST_F(Pages, tellTheirTitleSizeAndHelpFile)
 {
-    struct Row {
-        CLSID const& page;
-        wchar_t const* title;
-    };
-    for (Row const& row : {Row{kGeneralPageClass, L"General"}, Row{kColoursPageClass, L"Colors"},
-                           Row{kFontsPageClass, L"Fonts"}, Row{kPicturesPageClass, L"Pictures"}}) {
-        OpenPage page(library(), row.page);
-        PROPPAGEINFO info{};
-        info.cb = sizeof(info);
-        ASSERT_EQ(page->GetPageInfo(&info), S_OK);
-        EXPECT_STREQ(info.pszTitle, row.title);
-        EXPECT_EQ(info.pszHelpFile, helpFile());
-        EXPECT_EQ(info.dwHelpContext, 1U) << "the manual, while there is no control";
+    for (auto const& [classId, title] : {std::pair{kGeneralPageClass, L"General"},
+                                         {kColoursPageClass, L"Colors"},
+                                         {kFontsPageClass, L"Fonts"},
+                                         {kPicturesPageClass, L"Pictures"}}) {
+        OpenPage page(library(), classId);
+        PageInfo const info = infoOf(page);
+        EXPECT_EQ(info.title, title);
+        EXPECT_EQ(info.helpFile, helpFile());
+        EXPECT_EQ(info.topic, 1U) << "the manual, while there is no control";
         EXPECT_GT(info.size.cx, 250);
         EXPECT_GT(info.size.cy, 110);
-        ::CoTaskMemFree(info.pszTitle);
-        ::CoTaskMemFree(info.pszHelpFile);
         EXPECT_EQ(page->GetPageInfo(nullptr), E_POINTER);
     }
 }
 
 TEST_F(Pages, openTheTopicOfTheirControl)
 {
-    struct Row {
-        CLSID const& control;
-        DWORD topic;
-    };
     FakeHelp help(library().module());
-    for (Row const& row : {Row{kQvFlatCommandClass, 10}, Row{kQvFlatCheckClass, 50}}) {
+    for (auto const& [classId, topic] : {std::pair{kQvFlatCommandClass, 10U}, {kQvFlatCheckClass, 50U}}) {
         OpenPage page(library(), kGeneralPageClass);
-        auto const control = library().create(row.control);
+        auto const control = library().create(classId);
         ASSERT_EQ(page.open(control.get()), S_OK);
-        PROPPAGEINFO info{};
-        info.cb = sizeof(info);
-        ASSERT_EQ(page->GetPageInfo(&info), S_OK);
-        EXPECT_EQ(info.dwHelpContext, row.topic);
-        ::CoTaskMemFree(info.pszTitle);
-        ::CoTaskMemFree(info.pszHelpFile);
+        EXPECT_EQ(infoOf(page).topic, topic);
         EXPECT_EQ(page->Help(L"C:\\Elsewhere"), S_OK);
         EXPECT_EQ(help.last.caller, page.parent());
         EXPECT_EQ(help.last.file, helpFile());
         EXPECT_EQ(help.last.command, 0xFU) << "a topic by its number";
-        EXPECT_EQ(help.last.topic, row.topic);
+        EXPECT_EQ(help.last.topic, topic);
     }
 }
 
@@ -186,13 +198,10 @@ TEST_F(Pages, aRefusedValueIsToldAndStaysToBeMended)
     }
     EXPECT_EQ(page->IsPageDirty(), S_OK);
     EXPECT_EQ(textOf(page.fieldOf(L"BorderWidth")), L"40000");
-    Variant width;
-    page.button().get_BorderWidth(width.put());
-    EXPECT_EQ(width.toShort(), 1);
+    EXPECT_EQ(borderWidthOf(page.button()), 1);
     ::SetWindowTextW(page.fieldOf(L"BorderWidth"), L"4");
     EXPECT_EQ(page->Apply(), S_OK);
-    page.button().get_BorderWidth(width.put());
-    EXPECT_EQ(width.toShort(), 4);
+    EXPECT_EQ(borderWidthOf(page.button()), 4);
 }
 
 TEST_F(Pages, editSeveralControlsAtOnce)
@@ -302,37 +311,19 @@ TEST_F(Pages, theColoursPageNamesNoDesktopColourForAnother)
 TEST_F(Pages, theFontsPageTellsTheFont)
 {
     OpenPage page(library(), kFontsPageClass);
-    FONTDESC description{};
-    wchar_t name[] = L"Arial";
-    description.cbSizeofstruct = sizeof(description);
-    description.lpstrName = name;
-    description.cySize.int64 = 120000; // a whole number of pixels
-    description.sWeight = FW_NORMAL;
-    ComPtr<IFontDisp> font;
-    ASSERT_EQ(::OleCreateFontIndirect(&description, IID_IFontDisp, reinterpret_cast<void**>(font.put())),
-              S_OK);
+    auto const font = query<IFontDisp>(kit::newFont(L"Arial", 12).get()); // a whole number of pixels
     ASSERT_EQ(page.button().putref_Font(font.get()), S_OK);
     ASSERT_EQ(page.open(), S_OK);
     // The font has the name of what the system has in its place.
     ComPtr<IFontDisp> own;
     ASSERT_EQ(page.button().get_Font(own.put()), S_OK);
-    Bstr face;
-    ASSERT_EQ(own.as<IFont>(IID_IFont)->get_Name(face.put()), S_OK);
-    EXPECT_NE(page.named(std::wstring(face.view()) + L", 12 pt"), nullptr);
+    EXPECT_NE(page.named(kit::nameOf(*own.as<IFont>(IID_IFont).get()) + L", 12 pt"), nullptr);
 }
 
 TEST_F(Pages, thePicturesPageTakesAPictureAway)
 {
     OpenPage page(library(), kPicturesPageClass);
-    PICTDESC description{};
-    description.cbSizeofstruct = sizeof(description);
-    description.picType = PICTYPE_ICON;
-    description.icon.hicon = ::LoadIconW(nullptr, MAKEINTRESOURCEW(32512));
-    ComPtr<IPictureDisp> picture;
-    ASSERT_EQ(::OleCreatePictureIndirect(&description, IID_IPictureDisp, FALSE,
-                                         reinterpret_cast<void**>(picture.put())),
-              S_OK);
-    ASSERT_EQ(page.button().putref_MouseIcon(picture.get()), S_OK);
+    ASSERT_EQ(page.button().putref_MouseIcon(kit::newIconPicture().get()), S_OK);
     ASSERT_EQ(page.open(), S_OK);
     kit::pumpPending(); // the preview is drawn
     ::SendMessageW(page.named(L"Cl&ear"), BM_CLICK, 0, 0);
@@ -357,6 +348,44 @@ TEST_F(Pages, thePicturesPageClearsOnlyWhatTheControlCanLose)
     }
     EXPECT_EQ(page->EditProperty(dispid::imageButton::HotImage), S_OK);
     EXPECT_FALSE(::IsWindowEnabled(clear));
+}
+
+/// Makes a class known to this process alone.
+class KnownClass {
+public:
+    KnownClass(kit::Library const& library, CLSID const& classId)
+    {
+        EXPECT_EQ(::CoRegisterClassObject(classId, library.factory(classId).get(), CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &m_cookie),
+                  S_OK);
+    }
+    ~KnownClass() { ::CoRevokeClassObject(m_cookie); }
+    KnownClass(KnownClass const&) = delete;
+    KnownClass& operator=(KnownClass const&) = delete;
+
+private:
+    DWORD m_cookie = 0;
+};
+
+class Frame : public kit::ControlTest {};
+
+TEST_F(Frame, ofTheSystemsShowsTheFourPagesWhenTheContainerHasNoneOfItsOwn)
+{
+    KnownClass const known[] = {{library(), kGeneralPageClass},
+                                {library(), kColoursPageClass},
+                                {library(), kFontsPageClass},
+                                {library(), kPicturesPageClass}};
+    kit::FakeForm form;
+    form.record().answer("Site.ShowPropertyFrame", E_NOTIMPL);
+    kit::Hosted control(library(), kQvFlatCommandClass, form, {20, 20, 140, 60});
+    control.start();
+    std::vector<std::wstring> titles;
+    kit::DialogWatch const watch([&](HWND frame) {
+        titles = kit::pageTitles(frame);
+        ::PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
+    });
+    EXPECT_EQ(control.doVerb(OLEIVERB_PROPERTIES), S_OK);
+    EXPECT_THAT(titles, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
 }
 
 } // namespace
