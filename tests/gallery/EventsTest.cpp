@@ -4,9 +4,7 @@
 #include "gallery/app/EventLog.h"
 #include "gallery/app/EventPane.h"
 #include "gallery/app/EventText.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "kit/Input.h"
 
 #include <algorithm>
 #include <array>
@@ -15,9 +13,6 @@
 
 namespace quillet::gallery::test {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 /// A form with one button and one of a control array, and events that they are said to raise.
 class EventOutput : public ::testing::Test {
@@ -72,13 +67,6 @@ TEST_F(EventOutput, aControlOfAnArrayIsNamedWithItsIndex)
     EXPECT_EQ(eventText(event(L"cmdTwo", L"Click")), L"cmdTwo(2).Click");
 }
 
-std::wstring logPath()
-{
-    wchar_t folder[MAX_PATH];
-    ::GetTempPathW(MAX_PATH, folder);
-    return std::wstring(folder) + L"quillet-events.txt";
-}
-
 /// As another program reads it while it is written.
 std::string contents(std::wstring const& path)
 {
@@ -94,7 +82,7 @@ std::string contents(std::wstring const& path)
 
 TEST(EventLog, everyLineIsInTheFileAtOnceAndAnOldFileIsReplaced)
 {
-    std::wstring const path = logPath();
+    std::wstring const path = programFolder() + L"\\quillet-events.txt";
     {
         EventLog log(path);
         log.add(L"cmdOne.MouseEnter");
@@ -185,16 +173,16 @@ class EventOrder : public ::testing::Test {
 protected:
     Demo demo;
 
-    void SetUp() override
+    EventOrder()
     {
         ::SetCursorPos(2, 2);
         demo.form().show();
         demo.focusOn(L"cmdPlain");
         settle();
     }
-    void TearDown() override
+    ~EventOrder() override
     {
-        ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+        kit::release(kit::MouseButton::Left);
         ::SetCursorPos(2, 2);
         demo.pump();
     }
@@ -207,13 +195,6 @@ protected:
         demo.pump();
         demo.events.clear();
         demo.lines.clear();
-    }
-
-    void moveInto()
-    {
-        POINT at = kInside;
-        ::ClientToScreen(demo.control(L"cmdPlain").window(), &at);
-        ::SetCursorPos(at.x, at.y);
     }
 
     /// The lines of what follows an act, up to an event and what is left to handle then. The
@@ -234,15 +215,16 @@ protected:
 
     Lines enter()
     {
-        return during([&] { moveInto(); }, "cmdPlain.MouseMove");
+        HWND const window = demo.control(L"cmdPlain").window();
+        return during([&] { kit::moveCursorTo(window, kInside.x, kInside.y); }, "cmdPlain.MouseMove");
     }
     Lines press()
     {
-        return during([] { ::mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0); }, "cmdPlain.MouseDown");
+        return during([] { kit::press(kit::MouseButton::Left); }, "cmdPlain.MouseDown");
     }
     Lines letGo()
     {
-        return during([] { ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0); }, "cmdPlain.Click");
+        return during([] { kit::release(kit::MouseButton::Left); }, "cmdPlain.Click");
     }
 
     /// The line of a mouse event of cmdPlain at the given pixels, which a button measures in twips.

@@ -57,106 +57,37 @@ void FakeControl::raise(DISPID id)
 
 HRESULT STDMETHODCALLTYPE FakeControl::SetClientSite(IOleClientSite* site)
 {
-    note(site ? "SetClientSite" : "SetClientSite null");
     m_site = site;
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::GetClientSite(IOleClientSite** out)
-{
-    *out = m_site.copy();
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::Close(DWORD)
-{
-    note("Close");
-    m_window.reset();
-    return S_OK;
+    return noted(site ? "SetClientSite" : "SetClientSite null");
 }
 
 HRESULT STDMETHODCALLTYPE FakeControl::DoVerb(LONG verb, MSG*, IOleClientSite*, LONG, HWND parent,
                                               RECT const* rect)
 {
-    note("DoVerb " + std::to_string(verb));
-    switch (verb) {
-    case OLEIVERB_INPLACEACTIVATE:
+    noted("DoVerb " + std::to_string(verb));
+    if (verb == OLEIVERB_INPLACEACTIVATE)
         makeWindow(parent, *rect);
-        return S_OK;
-    case OLEIVERB_UIACTIVATE:
+    else if (verb == OLEIVERB_UIACTIVATE)
         ::SetFocus(m_window.get());
-        return S_OK;
-    case OLEIVERB_HIDE:
-        ::ShowWindow(m_window.get(), SW_HIDE);
-        return S_OK;
-    case OLEIVERB_SHOW:
-        ::ShowWindow(m_window.get(), SW_SHOWNA);
-        return S_OK;
-    default:
+    else if (verb == OLEIVERB_HIDE || verb == OLEIVERB_SHOW)
+        ::ShowWindow(m_window.get(), verb == OLEIVERB_HIDE ? SW_HIDE : SW_SHOWNA);
+    else
         return E_NOTIMPL;
-    }
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::SetExtent(DWORD, SIZEL* size)
-{
-    note("SetExtent");
-    extent = *size;
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::Advise(IAdviseSink*, DWORD* cookie)
-{
-    note("Advise");
-    *cookie = 11;
     return S_OK;
 }
 
 HRESULT STDMETHODCALLTYPE FakeControl::Unadvise(DWORD cookie)
 {
-    note("Unadvise " + std::to_string(cookie));
     if (cookie == 12)
         m_listener.reset();
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::GetMiscStatus(DWORD, DWORD* out)
-{
-    note("GetMiscStatus");
-    *out = m_traits.status;
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::GetWindow(HWND* out)
-{
-    *out = m_window.get();
-    return m_window ? S_OK : E_FAIL;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::InPlaceDeactivate()
-{
-    note("InPlaceDeactivate");
-    m_window.reset();
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::UIDeactivate()
-{
-    note("UIDeactivate");
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::SetObjectRects(RECT const* rect, RECT const*)
-{
-    note("SetObjectRects");
-    place = *rect;
-    return S_OK;
+    return noted("Unadvise " + std::to_string(cookie));
 }
 
 HRESULT STDMETHODCALLTYPE FakeControl::TranslateAccelerator(MSG* message)
 {
     if (message->message != WM_KEYDOWN)
         return S_FALSE;
-    note("TranslateAccelerator " + std::to_string(message->wParam));
+    noted("TranslateAccelerator " + std::to_string(message->wParam));
     return m_traits.usedKey && message->wParam == m_traits.usedKey ? S_OK : S_FALSE;
 }
 
@@ -168,28 +99,9 @@ HRESULT STDMETHODCALLTYPE FakeControl::GetControlInfo(CONTROLINFO* info)
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE FakeControl::OnMnemonic(MSG* message)
-{
-    ++mnemonics;
-    mnemonicMessage = message->message;
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::OnAmbientPropertyChange(DISPID id)
-{
-    ambientChanges.push_back(id);
-    return S_OK;
-}
-
-HRESULT STDMETHODCALLTYPE FakeControl::InitNew()
-{
-    note("InitNew");
-    return S_OK;
-}
-
 HRESULT STDMETHODCALLTYPE FakeControl::Load(IPropertyBag* bag, IErrorLog*)
 {
-    note("Load");
+    noted("Load");
     for (wchar_t const* const name : kRead) {
         Variant value;
         if (SUCCEEDED(bag->Read(name, value.put(), nullptr)))
@@ -216,7 +128,7 @@ HRESULT STDMETHODCALLTYPE FakeControl::FindConnectionPoint(REFIID iid, IConnecti
 
 HRESULT STDMETHODCALLTYPE FakeControl::Advise(IUnknown* sink, DWORD* cookie)
 {
-    note("Advise events");
+    noted("Advise events");
     m_listener = query<IDispatch>(sink, kFakeEvents);
     *cookie = 12;
     return m_listener ? S_OK : CONNECT_E_CANNOTCONNECT;
@@ -276,7 +188,7 @@ void FakeControl::makeWindow(HWND parent, RECT const& rect)
 
 void FakeControl::gotFocus()
 {
-    note("focus");
+    noted("focus");
     if (auto const controlSite = m_site.as<IOleControlSite>())
         controlSite->OnFocus(TRUE);
 }

@@ -68,9 +68,17 @@ public:
 
     // IOleObject
     HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) override;
-    HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** out) override;
+    HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** out) override
+    {
+        *out = m_site.copy();
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE SetHostNames(LPCOLESTR, LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE Close(DWORD) override;
+    HRESULT STDMETHODCALLTYPE Close(DWORD) override
+    {
+        m_window.reset();
+        return noted("Close");
+    }
     HRESULT STDMETHODCALLTYPE SetMoniker(DWORD, IMoniker*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE InitFromData(IDataObject*, BOOL, DWORD) override { return E_NOTIMPL; }
@@ -82,20 +90,44 @@ public:
     HRESULT STDMETHODCALLTYPE IsUpToDate() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetUserClassID(CLSID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetUserType(DWORD, LPOLESTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetExtent(DWORD, SIZEL* size) override;
+    HRESULT STDMETHODCALLTYPE SetExtent(DWORD, SIZEL* size) override
+    {
+        extent = *size;
+        return noted("SetExtent");
+    }
     HRESULT STDMETHODCALLTYPE GetExtent(DWORD, SIZEL*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Advise(IAdviseSink*, DWORD* cookie) override;
+    HRESULT STDMETHODCALLTYPE Advise(IAdviseSink*, DWORD* cookie) override
+    {
+        *cookie = 11;
+        return noted("Advise");
+    }
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD) override;
     HRESULT STDMETHODCALLTYPE EnumAdvise(IEnumSTATDATA**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetMiscStatus(DWORD, DWORD* out) override;
+    HRESULT STDMETHODCALLTYPE GetMiscStatus(DWORD, DWORD* out) override
+    {
+        *out = m_traits.status;
+        return noted("GetMiscStatus");
+    }
     HRESULT STDMETHODCALLTYPE SetColorScheme(LOGPALETTE*) override { return E_NOTIMPL; }
 
     // in-place object and active object
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* out) override;
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* out) override
+    {
+        *out = m_window.get();
+        return m_window ? S_OK : E_FAIL;
+    }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE InPlaceDeactivate() override;
-    HRESULT STDMETHODCALLTYPE UIDeactivate() override;
-    HRESULT STDMETHODCALLTYPE SetObjectRects(RECT const* rect, RECT const*) override;
+    HRESULT STDMETHODCALLTYPE InPlaceDeactivate() override
+    {
+        m_window.reset();
+        return noted("InPlaceDeactivate");
+    }
+    HRESULT STDMETHODCALLTYPE UIDeactivate() override { return noted("UIDeactivate"); }
+    HRESULT STDMETHODCALLTYPE SetObjectRects(RECT const* rect, RECT const*) override
+    {
+        place = *rect;
+        return noted("SetObjectRects");
+    }
     HRESULT STDMETHODCALLTYPE ReactivateAndUndo() override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* message) override;
     HRESULT STDMETHODCALLTYPE OnFrameWindowActivate(BOOL) override { return S_OK; }
@@ -105,13 +137,22 @@ public:
 
     // IOleControl
     HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* info) override;
-    HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) override;
-    HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID id) override;
+    HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) override
+    {
+        ++mnemonics;
+        mnemonicMessage = message->message;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID id) override
+    {
+        ambientChanges.push_back(id);
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL) override { return S_OK; }
 
     // persistence
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE InitNew() override;
+    HRESULT STDMETHODCALLTYPE InitNew() override { return noted("InitNew"); }
     HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog*) override;
     HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL, BOOL) override;
     HRESULT STDMETHODCALLTYPE IsDirty() override { return S_FALSE; }
@@ -139,7 +180,11 @@ protected:
 
 private:
     static LRESULT CALLBACK windowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-    void note(std::string call) { calls.push_back(std::move(call)); }
+    HRESULT noted(std::string call)
+    {
+        calls.push_back(std::move(call));
+        return S_OK;
+    }
     void makeWindow(HWND parent, RECT const& rect);
     void gotFocus();
 

@@ -6,7 +6,6 @@
 #include "gallery/form/FileBytes.h"
 #include "gallery/host/Extender.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace quillet::gallery::test {
@@ -129,28 +128,6 @@ void Demo::key(UINT message, WPARAM key)
     MSG sent{::GetFocus(), message, key, message == WM_SYSCHAR ? 1 << 29 | 1 : 1, 0, {}};
     if (!m_form->translate(sent))
         ::SendMessageW(sent.hwnd, message, key, sent.lParam);
-}
-
-bool Demo::waitFor(std::string const& event)
-{
-    DWORD const start = ::GetTickCount();
-    while (std::find(events.begin(), events.end(), event) == events.end()) {
-        if (::GetTickCount() - start > kPatience)
-            return false;
-        pump();
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-    }
-    return true;
-}
-
-void Demo::pump()
-{
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        if (!m_form->translate(message)) {
-            ::TranslateMessage(&message);
-            ::DispatchMessageW(&message);
-        }
 }
 
 } // namespace quillet::gallery::test

@@ -8,6 +8,10 @@
 #include "gallery/form/FormReader.h"
 #include "gallery/host/Form.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -23,7 +27,34 @@ inline void putByName(IDispatch& object, wchar_t const* name, Variant value)
     putPropertyByName(&object, name, std::move(value));
 }
 
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
 constexpr DWORD kPatience = 5000; // milliseconds
+
+/// Handles the messages that wait, as a program's loop does whose host translates them first.
+template <class Host> void pumpThrough(Host& host)
+{
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        if (!host.translate(message)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+}
+
+/// The same until the check holds; whether it came to that.
+template <class Host, class Check> bool waitThrough(Host& host, Check const& check)
+{
+    for (DWORD const begin = ::GetTickCount(); !check(); pumpThrough(host)) {
+        if (::GetTickCount() - begin > kPatience)
+            return false;
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+    return true;
+}
 
 /// A form that is shipped.
 inline std::wstring formFile(wchar_t const* name) { return std::wstring(GALLERY_FORMS L"/") + name; }
@@ -51,6 +82,10 @@ public:
     bool key(UINT message, WPARAM key);
     bool press(WPARAM key) { return this->key(WM_KEYDOWN, key); }
     bool pressAlt(wchar_t letter) { return key(WM_SYSCHAR, letter); }
+    Variant get(wchar_t const* control, wchar_t const* member)
+    {
+        return getByName(extender(control), member);
+    }
     /// The name of the active control; empty for none.
     std::wstring active();
 
@@ -82,9 +117,18 @@ public:
 
     /// One key message, the way that the message loop handles it.
     void key(UINT message, WPARAM key);
+    Variant get(wchar_t const* control, wchar_t const* member)
+    {
+        return getByName(extender(control), member);
+    }
+    /// How often the event was raised.
+    std::ptrdiff_t count(std::string const& event) const { return std::ranges::count(events, event); }
     /// Pumps messages until the event has been raised; whether it was.
-    bool waitFor(std::string const& event);
-    void pump();
+    bool waitFor(std::string const& event)
+    {
+        return waitThrough(*m_form, [&] { return count(event) > 0; });
+    }
+    void pump() { pumpThrough(*m_form); }
 
     std::vector<std::string> events; ///< names: cmdSave.Click
     std::vector<std::string> lines;  ///< the same events as the gallery's log has them

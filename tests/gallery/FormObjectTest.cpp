@@ -3,14 +3,11 @@
 
 #include "gallery/FormKit.h"
 #include "gallery/host/Extender.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "kit/ByName.h"
+#include "kit/Hosted.h"
 
 namespace quillet::gallery::test {
 namespace {
-
-using ::testing::ElementsAre;
 
 std::string const kObjectForm =
     "Caption = \"A form\"\nBackColor = &H00FF0000&\n"
@@ -19,20 +16,15 @@ std::string const kObjectForm =
     node("VB.Frame", "Group", "", node("Fake.Button", "Inner") + node("VB.TextBox", "Text")) +
     node("Fake.Button", "Outer");
 
-IDispatch& controls(FormKit& kit, Variant& keeper)
+/// What the collection of controls answers.
+Variant ofControls(FormKit& kit, DISPID member, std::vector<Variant> const& arguments = {})
 {
-    keeper = getByName(kit.form().object(), L"Controls");
-    return *keeper.get().pdispVal;
+    auto const controls = getByName(kit.form().object(), L"Controls").toObject().as<IDispatch>();
+    kit::Called const called = kit::invoke(*controls.get(), member, DISPATCH_PROPERTYGET, arguments);
+    check(called.result);
+    return called.value;
 }
-
-Variant itemOf(IDispatch& collection, Variant index)
-{
-    DISPPARAMS params{index.address(), nullptr, 1, 0};
-    Variant item;
-    check(collection.Invoke(DISPID_VALUE, IID_NULL, 0, DISPATCH_PROPERTYGET, &params, item.put(), nullptr,
-                            nullptr));
-    return item;
-}
+Variant itemOf(FormKit& kit, Variant const& index) { return ofControls(kit, DISPID_VALUE, {index}); }
 
 std::wstring nameOf(Variant const& extender)
 {
@@ -42,27 +34,20 @@ std::wstring nameOf(Variant const& extender)
 TEST(FormObject, controlsAreCountedAndFoundByIndexFromZeroAndByName)
 {
     FormKit kit(kObjectForm);
-    Variant keeper;
-    IDispatch& all = controls(kit, keeper);
-    EXPECT_EQ(getByName(all, L"Count").toLong(), 5);
-    EXPECT_EQ(nameOf(itemOf(all, Variant::ofLong(0))), L"Hint");
-    EXPECT_EQ(nameOf(itemOf(all, Variant::ofShort(2))), L"Inner");
-    EXPECT_EQ(nameOf(itemOf(all, Variant::ofString(L"outer"))), L"Outer");
-    EXPECT_THROW(itemOf(all, Variant::ofLong(5)), RunTimeError);
-    EXPECT_THROW(itemOf(all, Variant::ofLong(-1)), RunTimeError);
-    EXPECT_THROW(itemOf(all, Variant::ofString(L"frog")), RunTimeError);
+    ComPtr<IDispatch> const all = getByName(kit.form().object(), L"Controls").toObject().as<IDispatch>();
+    EXPECT_EQ(getByName(*all.get(), L"Count").toLong(), 5);
+    EXPECT_EQ(nameOf(itemOf(kit, Variant::ofLong(0))), L"Hint");
+    EXPECT_EQ(nameOf(itemOf(kit, Variant::ofShort(2))), L"Inner");
+    EXPECT_EQ(nameOf(itemOf(kit, Variant::ofString(L"outer"))), L"Outer");
+    EXPECT_THROW(itemOf(kit, Variant::ofLong(5)), RunTimeError);
+    EXPECT_THROW(itemOf(kit, Variant::ofLong(-1)), RunTimeError);
+    EXPECT_THROW(itemOf(kit, Variant::ofString(L"frog")), RunTimeError);
 }
 
 TEST(FormObject, forEachVisitsEveryControlInTheFormsOrder)
 {
     FormKit kit(kObjectForm);
-    Variant keeper;
-    DISPPARAMS none{};
-    Variant made;
-    check(
-        controls(kit, keeper)
-            .Invoke(DISPID_NEWENUM, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, made.put(), nullptr, nullptr));
-    auto const all = made.toObject().as<IEnumVARIANT>();
+    auto const all = ofControls(kit, DISPID_NEWENUM).toObject().as<IEnumVARIANT>();
     ASSERT_TRUE(all);
     std::vector<std::wstring> names;
     Variant item;
@@ -113,10 +98,14 @@ TEST(FormObject, aSitesContainerIsTheForm)
     EXPECT_EQ(container.as<IDispatch>().get(), static_cast<IDispatch*>(&kit.form().object()));
 }
 
-TEST(Ambients, theFormsLookAndModeReachTheControl)
-{
-    FormKit kit(kObjectForm);
+class Ambients : public testing::Test {
+protected:
+    FormKit kit{kObjectForm};
     FakeControl& fake = kit.fake(L"Inner");
+};
+
+TEST_F(Ambients, theFormsLookAndModeReachTheControl)
+{
     EXPECT_EQ(fake.ambient(DISPID_AMBIENT_BACKCOLOR).toLong(), 0xFF0000);
     EXPECT_EQ(fake.ambient(DISPID_AMBIENT_FORECOLOR).toLong(), static_cast<long>(0x80000012));
     EXPECT_EQ(fake.ambient(DISPID_AMBIENT_DISPLAYNAME).toString().view(), L"Inner");
@@ -134,10 +123,8 @@ TEST(Ambients, theFormsLookAndModeReachTheControl)
     EXPECT_TRUE(isItalic);
 }
 
-TEST(Ambients, flagsHaveTheirRunTimeValues)
+TEST_F(Ambients, flagsHaveTheirRunTimeValues)
 {
-    FormKit kit(kObjectForm);
-    FakeControl& fake = kit.fake(L"Inner");
     for (DISPID const on : {DISPID_AMBIENT_USERMODE, DISPID_AMBIENT_SUPPORTSMNEMONICS})
         EXPECT_TRUE(fake.ambient(on).toBool()) << on;
     for (DISPID const off :
@@ -149,19 +136,18 @@ TEST(Ambients, flagsHaveTheirRunTimeValues)
     EXPECT_THROW(fake.ambient(DISPID_AMBIENT_PALETTE), RunTimeError);
 }
 
-TEST(Ambients, theyAreFoundByNameToo)
+TEST_F(Ambients, theyAreFoundByNameToo)
 {
-    FormKit kit(kObjectForm);
-    auto const ambients = query<IDispatch>(kit.fake(L"Inner").site());
+    auto const ambients = query<IDispatch>(fake.site());
     EXPECT_TRUE(getByName(*ambients.get(), L"UserMode").toBool());
     EXPECT_THROW(putByName(*ambients.get(), L"UserMode", Variant::ofBool(false)), RunTimeError);
 }
 
-TEST(Ambients, aDesignFormIsNotInUserMode)
+TEST_F(Ambients, aDesignFormIsNotInUserMode)
 {
-    FormKit kit(kObjectForm, {}, UserMode::Design);
-    EXPECT_FALSE(kit.fake(L"Inner").ambient(DISPID_AMBIENT_USERMODE).toBool());
-    EXPECT_FALSE(kit.fake(L"Inner").ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
+    FormKit designed(kObjectForm, {}, UserMode::Design);
+    EXPECT_FALSE(designed.fake(L"Inner").ambient(DISPID_AMBIENT_USERMODE).toBool());
+    EXPECT_FALSE(designed.fake(L"Inner").ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
 }
 
 std::map<std::wstring, FakeTraits> buttons()
@@ -197,106 +183,97 @@ HRESULT resultOf(IDispatch& object, wchar_t const* name)
     }
 }
 
-TEST(Extender, theFormsLinesAreItsMembers)
-{
-    FormKit kit(kForm, buttons());
+class Extender : public testing::Test {
+protected:
+    FormKit kit{kForm, buttons()};
     IDispatch& one = kit.extender(L"One");
-    EXPECT_EQ(getByName(one, L"Name").toString().view(), L"One");
-    EXPECT_EQ(getByName(one, L"ToolTipText").toString().view(), L"tip");
-    EXPECT_EQ(getByName(one, L"Tag").toString().view(), L"label");
-    EXPECT_EQ(getByName(one, L"Left").toLong(), 150);
-    EXPECT_EQ(getByName(one, L"Top").toLong(), 300);
-    EXPECT_EQ(getByName(one, L"Width").toLong(), 1500);
-    EXPECT_EQ(getByName(one, L"Height").toLong(), 450);
-    EXPECT_EQ(getByName(one, L"TabIndex").toLong(), 4);
+    FakeControl& fake = kit.fake(L"One");
+};
+
+TEST_F(Extender, theFormsLinesAreItsMembers)
+{
+    for (auto const& [name, text] :
+         {std::pair{L"Name", L"One"}, {L"ToolTipText", L"tip"}, {L"Tag", L"label"}})
+        EXPECT_EQ(getByName(one, name).toString().view(), text);
+    for (auto const& [name, number] : {std::pair{L"Left", 150L},
+                                       {L"Top", 300L},
+                                       {L"Width", 1500L},
+                                       {L"Height", 450L},
+                                       {L"TabIndex", 4L},
+                                       {L"TabStop", -1L},
+                                       {L"Visible", -1L},
+                                       {L"Default", -1L},
+                                       {L"Cancel", 0L}})
+        EXPECT_EQ(getByName(one, name).toLong(), number) << narrow(name);
     EXPECT_EQ(getByName(one, L"TabStop").type(), VT_BOOL);
-    EXPECT_TRUE(getByName(one, L"TabStop").toBool());
-    EXPECT_TRUE(getByName(one, L"Visible").toBool());
-    EXPECT_TRUE(getByName(one, L"Default").toBool());
-    EXPECT_FALSE(getByName(one, L"Cancel").toBool());
-    EXPECT_FALSE(getByName(kit.extender(L"Two"), L"TabStop").toBool());
-    EXPECT_EQ(getByName(kit.extender(L"Two"), L"Index").toLong(), 3);
+    EXPECT_FALSE(kit.get(L"Two", L"TabStop").toBool());
+    EXPECT_EQ(kit.get(L"Two", L"Index").toLong(), 3);
     EXPECT_EQ(resultOf(one, L"Index"), DISP_E_MEMBERNOTFOUND)
         << "only members of a control array have an index";
 }
 
-TEST(Extender, namesAreFoundWhateverTheirCase)
+TEST_F(Extender, namesAreFoundWhateverTheirCase)
 {
-    FormKit kit(kForm, buttons());
-    EXPECT_EQ(getByName(kit.extender(L"One"), L"tooltiptext").toString().view(), L"tip");
+    EXPECT_EQ(getByName(one, L"tooltiptext").toString().view(), L"tip");
 }
 
-TEST(Extender, defaultAndCancelAreThereForButtonsOnly)
+TEST_F(Extender, defaultAndCancelAreThereForButtonsOnly)
 {
-    FormKit kit(kForm, buttons());
-    EXPECT_NE(idOf(kit.extender(L"One"), L"Default"), DISPID_UNKNOWN);
-    EXPECT_NE(idOf(kit.extender(L"One"), L"Cancel"), DISPID_UNKNOWN);
+    EXPECT_NE(idOf(one, L"Default"), DISPID_UNKNOWN);
+    EXPECT_NE(idOf(one, L"Cancel"), DISPID_UNKNOWN);
     EXPECT_EQ(idOf(kit.extender(L"Two"), L"Default"), DISPID_UNKNOWN);
     EXPECT_EQ(idOf(kit.extender(L"Two"), L"Cancel"), DISPID_UNKNOWN);
     EXPECT_EQ(resultOf(kit.extender(L"Two"), L"Default"), DISP_E_UNKNOWNNAME);
 }
 
-TEST(Extender, unknownNamesAreTheControlsOwn)
+TEST_F(Extender, unknownNamesAreTheControlsOwn)
 {
-    FormKit kit(kForm, buttons());
-    IDispatch& one = kit.extender(L"One");
     EXPECT_EQ(idOf(one, L"Caption"), kCaptionId);
     EXPECT_EQ(getByName(one, L"Caption").toString().view(), L"Go");
     putByName(one, L"Caption", Variant::ofString(L"Stop"));
-    EXPECT_EQ(kit.fake(L"One").caption.view(), L"Stop");
+    EXPECT_EQ(fake.caption.view(), L"Stop");
     EXPECT_EQ(idOf(one, L"Frog"), DISPID_UNKNOWN);
 }
 
-TEST(Extender, writingMovesTheControl)
+TEST_F(Extender, writingMovesTheControl)
 {
-    FormKit kit(kForm, buttons());
-    FakeControl& fake = kit.fake(L"One");
     fake.calls.clear();
-    putByName(kit.extender(L"One"), L"Width", Variant::ofLong(3000));
+    putByName(one, L"Width", Variant::ofLong(3000));
     EXPECT_EQ(fake.calls, (std::vector<std::string>{"SetExtent", "SetObjectRects"}));
     EXPECT_EQ(fake.extent.cx, 5292);
     EXPECT_EQ(fake.place.right - fake.place.left, screenResolution().pixelsX(3000));
     fake.calls.clear();
-    putByName(kit.extender(L"One"), L"Width", Variant::ofString(L"3000"));
+    putByName(one, L"Width", Variant::ofString(L"3000"));
     EXPECT_TRUE(fake.calls.empty()) << "the same width again is no move";
 }
 
-TEST(Extender, moveTakesFromOneToFourPlaces)
+TEST_F(Extender, moveTakesFromOneToFourPlaces)
 {
-    FormKit kit(kForm, buttons());
-    IDispatch& one = kit.extender(L"One");
-    Variant arguments[] = {Variant::ofLong(600), Variant::ofLong(450)}; // last argument first
-    DISPPARAMS params{reinterpret_cast<VARIANTARG*>(arguments), nullptr, 2, 0};
-    static_assert(sizeof(Variant) == sizeof(VARIANTARG));
-    EXPECT_EQ(
-        one.Invoke(idOf(one, L"Move"), IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, nullptr),
-        S_OK);
+    EXPECT_EQ(kit::callByName(one, L"Move", {Variant::ofLong(450), Variant::ofLong(600)}).result, S_OK);
     EXPECT_EQ(kit.control(L"One").state().place, (Place{450, 600, 1500, 450}));
 }
 
-TEST(Extender, settingDefaultTakesItFromTheOther)
+TEST_F(Extender, settingDefaultTakesItFromTheOther)
 {
-    FormKit kit(kForm + node("Fake.Button", "Three"), buttons());
-    putByName(kit.extender(L"Three"), L"Default", Variant::ofBool(true));
-    EXPECT_FALSE(getByName(kit.extender(L"One"), L"Default").toBool());
-    EXPECT_TRUE(getByName(kit.extender(L"Three"), L"Default").toBool());
+    FormKit more(kForm + node("Fake.Button", "Three"), buttons());
+    putByName(more.extender(L"Three"), L"Default", Variant::ofBool(true));
+    EXPECT_FALSE(more.get(L"One", L"Default").toBool());
+    EXPECT_TRUE(more.get(L"Three", L"Default").toBool());
 }
 
-TEST(Extender, readOnlyMembersRefuseToBeWritten)
+TEST_F(Extender, readOnlyMembersRefuseToBeWritten)
 {
-    FormKit kit(kForm, buttons());
-    EXPECT_THROW(putByName(kit.extender(L"One"), L"Name", Variant::ofString(L"x")), RunTimeError);
-    EXPECT_EQ(getByName(kit.extender(L"One"), L"Name").toString().view(), L"One");
+    EXPECT_THROW(putByName(one, L"Name", Variant::ofString(L"x")), RunTimeError);
+    EXPECT_EQ(getByName(one, L"Name").toString().view(), L"One");
 }
 
-TEST(Extender, parentIsTheFormAndContainerWhatTheControlStandsIn)
+TEST_F(Extender, parentIsTheFormAndContainerWhatTheControlStandsIn)
 {
-    FormKit kit(kForm, buttons());
     ComPtr<IUnknown> const form = query<IUnknown>(static_cast<IDispatch*>(&kit.form().object()));
-    EXPECT_EQ(getByName(kit.extender(L"One"), L"Parent").toObject().as<IUnknown>().get(), form.get());
-    EXPECT_EQ(getByName(kit.extender(L"Two"), L"Parent").toObject().as<IUnknown>().get(), form.get());
-    EXPECT_EQ(getByName(kit.extender(L"One"), L"Container").toObject().as<IUnknown>().get(), form.get());
-    auto const group = getByName(kit.extender(L"Two"), L"Container").toObject().as<IDispatch>();
+    EXPECT_EQ(getByName(one, L"Parent").toObject().as<IUnknown>().get(), form.get());
+    EXPECT_EQ(kit.get(L"Two", L"Parent").toObject().as<IUnknown>().get(), form.get());
+    EXPECT_EQ(getByName(one, L"Container").toObject().as<IUnknown>().get(), form.get());
+    auto const group = kit.get(L"Two", L"Container").toObject().as<IDispatch>();
     EXPECT_EQ(getByName(*group.get(), L"Name").toString().view(), L"Group");
     auto const expected = static_cast<long>(reinterpret_cast<LONG_PTR>(kit.control(L"Group").window()));
     EXPECT_EQ(getByName(*group.get(), L"hwnd").toLong(), expected);
@@ -304,53 +281,47 @@ TEST(Extender, parentIsTheFormAndContainerWhatTheControlStandsIn)
     EXPECT_EQ(getByName(kit.form().object(), L"hWnd").toLong(), formWindow);
 }
 
-TEST(Extender, objectIsTheControlWithoutTheFormsAdditions)
+TEST_F(Extender, objectIsTheControlWithoutTheFormsAdditions)
 {
-    FormKit kit(kForm, buttons());
-    auto const inner = getByName(kit.extender(L"One"), L"Object").toObject();
+    auto const inner = getByName(one, L"Object").toObject();
     EXPECT_EQ(inner.as<IUnknown>().get(), query<IUnknown>(kit.control(L"One").object()).get());
 }
 
-TEST(Extender, theSiteHandsOutTheSameExtenderEachTime)
+TEST_F(Extender, theSiteHandsOutTheSameExtenderEachTime)
 {
-    FormKit kit(kForm, buttons());
-    EXPECT_EQ(kit.fake(L"One").extender().get(), &kit.extender(L"One"));
-    EXPECT_EQ(kit.fake(L"One").extender().get(), kit.fake(L"One").extender().get());
+    EXPECT_EQ(fake.extender().get(), &one);
+    EXPECT_EQ(fake.extender().get(), fake.extender().get());
 }
 
-TEST(Extender, itsIdentityIsItsOwnWhileOtherInterfacesAreTheControls)
+TEST_F(Extender, itsIdentityIsItsOwnWhileOtherInterfacesAreTheControls)
 {
-    FormKit kit(kForm, buttons());
-    ComPtr<IDispatch> const one = &kit.extender(L"One");
-    EXPECT_EQ(one.as<IUnknown>().get(), one.as<IDispatch>().as<IUnknown>().get());
-    EXPECT_NE(one.as<IUnknown>().get(), query<IUnknown>(kit.control(L"One").object()).get());
-    EXPECT_TRUE(one.as<IUnknown>(kFakeFace)) << "a type check of a control by its extender must work";
-    EXPECT_FALSE(one.as<IPersistFile>());
+    EXPECT_EQ(query<IUnknown>(&one).get(), query<IDispatch>(&one).as<IUnknown>().get());
+    EXPECT_NE(query<IUnknown>(&one).get(), query<IUnknown>(kit.control(L"One").object()).get());
+    EXPECT_TRUE(query<IUnknown>(&one, kFakeFace)) << "a type check of a control by its extender must work";
+    EXPECT_FALSE(query<IPersistFile>(&one));
 }
 
-TEST(Extender, theEnvironmentsOwnButtonIsRecognisedByItsInterface)
+TEST_F(Extender, theEnvironmentsOwnButtonIsRecognisedByItsInterface)
 {
-    constexpr IID kCommandButton = {
-        0x33AD4EF1, 0x6699, 0x11CF, {0xB7, 0x0C, 0x00, 0xAA, 0x00, 0x60, 0xD3, 0x93}};
-    FormKit kit(node("VB.CommandButton", "Native") + node("VB.CheckBox", "Check") + kForm, buttons());
-    EXPECT_TRUE(query<IUnknown>(&kit.extender(L"Native"), kCommandButton));
-    EXPECT_FALSE(query<IUnknown>(&kit.extender(L"Check"), kCommandButton));
-    EXPECT_FALSE(query<IUnknown>(&kit.extender(L"One"), kCommandButton));
+    FormKit more(node("VB.CommandButton", "Native") + node("VB.CheckBox", "Check") + kForm, buttons());
+    EXPECT_TRUE(query<IUnknown>(&more.extender(L"Native"), kit::kHostButton));
+    EXPECT_FALSE(query<IUnknown>(&more.extender(L"Check"), kit::kHostButton));
+    EXPECT_FALSE(query<IUnknown>(&more.extender(L"One"), kit::kHostButton));
 }
 
-TEST(Extender, itOutlivesTheFormHarmlessly)
+TEST_F(Extender, itOutlivesTheFormHarmlessly)
 {
-    ComPtr<IDispatch> one;
+    ComPtr<IDispatch> held;
     ComPtr<IDispatch> form;
     {
-        FormKit kit(kForm, buttons());
-        one = &kit.extender(L"One");
-        form = &kit.form().object();
+        FormKit closing(kForm, buttons());
+        held = &closing.extender(L"One");
+        form = &closing.form().object();
     }
-    EXPECT_EQ(resultOf(*one.get(), L"Name"), RPC_E_DISCONNECTED);
-    EXPECT_EQ(resultOf(*one.get(), L"Caption"), RPC_E_DISCONNECTED);
+    EXPECT_EQ(resultOf(*held.get(), L"Name"), RPC_E_DISCONNECTED);
+    EXPECT_EQ(resultOf(*held.get(), L"Caption"), RPC_E_DISCONNECTED);
     EXPECT_EQ(resultOf(*form.get(), L"Caption"), RPC_E_DISCONNECTED);
-    EXPECT_FALSE(one.as<IUnknown>(kFakeFace));
+    EXPECT_FALSE(held.as<IUnknown>(kFakeFace));
 }
 
 } // namespace

@@ -6,13 +6,8 @@
 #include "gallery/host/Extender.h"
 #include "kit/ModalDialog.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace quillet::gallery::test {
 namespace {
-
-using ::testing::HasSubstr;
 
 std::wstring textOf(HWND window)
 {
@@ -30,26 +25,15 @@ protected:
         pump();
     }
 
-    void pump()
-    {
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-            if (!gallery.translate(message)) {
-                ::TranslateMessage(&message);
-                ::DispatchMessageW(&message);
-            }
-    }
+    void pump() { pumpThrough(gallery); }
+    template <class Check> bool waitUntil(Check const& check) { return waitThrough(gallery, check); }
 
-    template <class Check> bool waitUntil(Check const& check)
+    FormControl& control(wchar_t const* name) { return *gallery.form().find(name); }
+    void expectDialog(bool open)
     {
-        for (DWORD const begin = ::GetTickCount(); !check(); pump()) {
-            if (::GetTickCount() - begin > kPatience)
-                return false;
-            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-        }
-        return true;
+        ASSERT_TRUE(waitUntil([&] { return (gallery.dialog() != nullptr) == open; }));
+        EXPECT_NE(::IsWindowEnabled(gallery.window()) != FALSE, open);
     }
-
     /// The button of the bar that opens the form.
     static FormControl& opener(Form& bar, wchar_t const* file)
     {
@@ -151,7 +135,7 @@ TEST_F(GalleryWindowTest, aFormThatCannotBeOpenedLeavesTheOldOne)
 TEST_F(GalleryWindowTest, theEventsStandBesideTheForm)
 {
     start(L"buttons.frm");
-    click(*gallery.form().find(L"cmdPlain"));
+    click(control(L"cmdPlain"));
     EXPECT_TRUE(waitUntil([&] {
         return ::SendMessageW(gallery.events(), LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                               reinterpret_cast<LPARAM>(L"cmdPlain.Click")) != LB_ERR;
@@ -194,25 +178,22 @@ TEST_F(GalleryWindowTest, oneOfAnArrayOfCheckButtonsIsChosenAndShowsWhatItsTagNa
 TEST_F(GalleryWindowTest, aButtonWhoseTagNamesAFormOpensItAsADialog)
 {
     start(L"mail.frm");
-    click(*gallery.form().find(L"tbOptions"));
-    ASSERT_TRUE(waitUntil([&] { return gallery.dialog() != nullptr; }));
-    EXPECT_FALSE(::IsWindowEnabled(gallery.window()));
+    click(control(L"tbOptions"));
+    expectDialog(true);
     EXPECT_EQ(gallery.dialog()->caption(), L"Send options");
     click(*gallery.dialog()->find(L"optHigh"));
     EXPECT_TRUE(gallery.dialog()) << "only its default and cancel buttons end it";
     click(*gallery.dialog()->find(L"imgOk"));
-    EXPECT_TRUE(waitUntil([&] { return gallery.dialog() == nullptr; }));
-    EXPECT_TRUE(::IsWindowEnabled(gallery.window()));
+    expectDialog(false);
 }
 
 TEST_F(GalleryWindowTest, aDialogsOwnCloseButtonEndsIt)
 {
     start(L"mail.frm");
-    click(*gallery.form().find(L"tbOptions"));
-    ASSERT_TRUE(waitUntil([&] { return gallery.dialog() != nullptr; }));
+    click(control(L"tbOptions"));
+    expectDialog(true);
     ::PostMessageW(gallery.dialog()->window(), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(waitUntil([&] { return gallery.dialog() == nullptr; }));
-    EXPECT_TRUE(::IsWindowEnabled(gallery.window()));
+    expectDialog(false);
 }
 
 TEST_F(GalleryWindowTest, aDoubleClickAtDesignTimeOpensThePropertyPages)
@@ -224,7 +205,7 @@ TEST_F(GalleryWindowTest, aDoubleClickAtDesignTimeOpensThePropertyPages)
         pages = kit::pageTitles(frame);
         ::PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
     });
-    click(*gallery.form().find(L"cmdPlain"), 2);
+    click(control(L"cmdPlain"), 2);
     EXPECT_TRUE(waitUntil([&] { return !pages.empty(); }));
     EXPECT_THAT(pages, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
 }
@@ -232,9 +213,9 @@ TEST_F(GalleryWindowTest, aDoubleClickAtDesignTimeOpensThePropertyPages)
 TEST_F(GalleryWindowTest, aDesignedOptionHearsNothingOfTheMouse)
 {
     start(L"options.frm", UserMode::Design);
-    FormControl& small = *gallery.form().find(L"optSmall");
+    FormControl& small = control(L"optSmall");
     long const before = getByName(small.extender(), L"Value").toLong();
-    FormControl& other = *gallery.form().find(before ? L"optLarge" : L"optSmall");
+    FormControl& other = control(before ? L"optLarge" : L"optSmall");
     click(other);
     EXPECT_EQ(getByName(small.extender(), L"Value").toLong(), before);
     EXPECT_EQ(::SendMessageW(gallery.events(), LB_GETCOUNT, 0, 0), 0);
@@ -255,15 +236,14 @@ TEST_F(GalleryWindowTest, whatWasDesignedRunsAndIsSaved)
     gallery.open(path, UserMode::Design);
     gallery.show();
     EXPECT_TRUE(gallery.bar().find(L"tbSave")->isShown());
-    putByName(gallery.form().find(L"cmdNormal")->extender(), L"Caption", Variant::ofString(L"Another"));
+    putByName(control(L"cmdNormal").extender(), L"Caption", Variant::ofString(L"Another"));
     click(*gallery.bar().find(L"tbDesign"));
     ASSERT_TRUE(waitUntil([&] { return !gallery.form().isDesign(); }));
-    EXPECT_EQ(getByName(gallery.form().find(L"cmdNormal")->extender(), L"Caption").toString().view(),
-              L"Another");
+    EXPECT_EQ(getByName(control(L"cmdNormal").extender(), L"Caption").toString().view(), L"Another");
     EXPECT_FALSE(gallery.bar().find(L"tbSave")->isShown());
     EXPECT_THAT(fileBytes(path), testing::Not(HasSubstr("Another"))) << "nothing was saved yet";
 
-    click(*gallery.form().find(L"cmdNormal")); // or the next click would be a double click's second one
+    click(control(L"cmdNormal")); // or the next click would be a double click's second one
     click(*gallery.bar().find(L"tbDesign"));
     ASSERT_TRUE(waitUntil([&] { return gallery.form().isDesign(); }));
     click(*gallery.bar().find(L"tbSave"));

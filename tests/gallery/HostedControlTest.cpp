@@ -3,48 +3,41 @@
 
 #include "gallery/FormKit.h"
 #include "gallery/host/Extender.h"
+#include "kit/Input.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <iterator>
 
 namespace quillet::gallery::test {
 namespace {
 
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-
 std::string const kFakeButton = node("Fake.Button", "One",
                                      "Left = 150\nTop = 300\nWidth = 1500\nHeight = 450\n"
                                      "Caption = \"Go\"\nTabIndex = 4\nToolTipText = \"tip\"");
 
+/// What happens to a control of these traits until its form is open.
+std::vector<std::string> callsOf(FakeTraits const& traits)
+{
+    return FormKit(kFakeButton, {{L"Button", traits}}).fake(L"One").calls;
+}
+
 TEST(HostedControl, theSiteComesFirstWhereTheControlWantsItSo)
 {
-    FormKit kit(kFakeButton);
-    EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "SetClientSite", "Load", "Advise events",
-                                                    "SetExtent", "DoVerb -5"));
+    EXPECT_THAT(callsOf({}), ElementsAre("GetMiscStatus", "SetClientSite", "Load", "Advise events",
+                                         "SetExtent", "DoVerb -5"));
 }
 
 TEST(HostedControl, theSiteComesBehindLoadingElsewhere)
 {
-    FakeTraits traits;
-    traits.status = OLEMISC_INSIDEOUT;
-    FormKit kit(kFakeButton, {{L"Button", traits}});
-    EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "Load", "SetClientSite", "Advise events",
-                                                    "SetExtent", "DoVerb -5"));
+    EXPECT_THAT(
+        callsOf({.status = OLEMISC_INSIDEOUT}),
+        ElementsAre("GetMiscStatus", "Load", "SetClientSite", "Advise events", "SetExtent", "DoVerb -5"));
 }
 
 TEST(HostedControl, aControlWithoutAPropertyBagIsInitialisedAsNew)
 {
-    FakeTraits traits;
-    traits.loadResult = E_NOTIMPL;
-    FormKit kit(kFakeButton, {{L"Button", traits}});
-    EXPECT_THAT(kit.fake(L"One").calls, ElementsAre("GetMiscStatus", "SetClientSite", "Load", "InitNew",
-                                                    "Advise events", "SetExtent", "DoVerb -5"));
+    EXPECT_THAT(callsOf({.loadResult = E_NOTIMPL}),
+                ElementsAre("GetMiscStatus", "SetClientSite", "Load", "InitNew", "Advise events", "SetExtent",
+                            "DoVerb -5"));
 }
 
 TEST(HostedControl, itsEndUndoesEverythingInOrder)
@@ -136,11 +129,9 @@ TEST(HostedControl, eventsComeToTheFormUntilItCloses)
 
 TEST(HostedControl, aControlThatCannotBeMadeLeavesAPlaceholderAndTheRestOpens)
 {
-    FakeTraits broken;
-    broken.loadResult = E_FAIL;
     FormKit kit(node("Gone.Widget", "Lost", "Left = 15") + node("Fake.Broken", "Sick") +
                     node("VB.Nonsense", "Odd") + kFakeButton,
-                {{L"Broken", broken}});
+                {{L"Broken", {.loadResult = E_FAIL}}});
     ASSERT_EQ(kit.form().controls().size(), 4u);
     ASSERT_EQ(kit.warnings.size(), 2u);
     EXPECT_EQ(kit.warnings[0], L"test.frm:5: Gone.Widget cannot be opened: there is no such library");
@@ -155,9 +146,7 @@ TEST(HostedControl, aControlThatCannotBeMadeLeavesAPlaceholderAndTheRestOpens)
 
 TEST(HostedControl, aControlThatRefusedToLoadKeepsNoWayBackIntoTheForm)
 {
-    FakeTraits broken;
-    broken.loadResult = E_FAIL;
-    ComPtr<FakeControl> const fake = makeCounted<FakeControl>(broken);
+    ComPtr<FakeControl> const fake = makeCounted<FakeControl>(FakeTraits{.loadResult = E_FAIL});
     FormOptions options;
     options.factory = [&](auto, auto) { return NewControl{fake->identity(), {}, {}}; };
     Form form(readForm(formText(kFakeButton), L"test.frm"), std::move(options));
@@ -239,9 +228,9 @@ TEST(RealControl, theFormsLinesAreTheControlsProperties)
     EXPECT_EQ(getByName(thick, L"HotBorderWidth").toLong(), 5);
     EXPECT_EQ(getByName(thick, L"BorderColor").toLong(), 0x408000);
     EXPECT_EQ(getByName(thick, L"ToolTipText").toString().view(), L"3 pixels, 5 when hot, 2 when pressed");
-    EXPECT_FALSE(getByName(demo.extender(L"cmdDisabled"), L"Enabled").toBool());
-    EXPECT_TRUE(getByName(demo.extender(L"cmdBlank"), L"OfficeXPColors").toBool());
-    auto const font = getByName(demo.extender(L"cmdItalic"), L"Font").toObject().as<IFont>();
+    EXPECT_FALSE(demo.get(L"cmdDisabled", L"Enabled").toBool());
+    EXPECT_TRUE(demo.get(L"cmdBlank", L"OfficeXPColors").toBool());
+    auto const font = demo.get(L"cmdItalic", L"Font").toObject().as<IFont>();
     ASSERT_TRUE(font);
     BOOL italic = FALSE;
     font->get_Italic(&italic);
@@ -277,8 +266,8 @@ TEST(RealControl, enterPressesTheFocusedButtonOnce)
     demo.focusOn(L"cmdThick");
     demo.events.clear();
     demo.key(WM_KEYDOWN, VK_RETURN);
-    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdThick.Click"), 1);
-    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdSave.Click"), 0);
+    EXPECT_EQ(demo.count("cmdThick.Click"), 1);
+    EXPECT_EQ(demo.count("cmdSave.Click"), 0);
 }
 
 TEST(RealControl, anAccessKeyClicksItsButtonOnceAndFocusesIt)
@@ -288,7 +277,7 @@ TEST(RealControl, anAccessKeyClicksItsButtonOnceAndFocusesIt)
     ::RedrawWindow(demo.control(L"cmdThick").window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     demo.events.clear();
     demo.key(WM_SYSCHAR, 't');
-    EXPECT_EQ(std::count(demo.events.begin(), demo.events.end(), "cmdThick.Click"), 1);
+    EXPECT_EQ(demo.count("cmdThick.Click"), 1);
     EXPECT_EQ(demo.form().focus().active(), &demo.control(L"cmdThick"));
 }
 
@@ -309,9 +298,9 @@ TEST(RealControl, theMouseEntersPressesAndLeavesAButton)
     ::SetCursorPos(inside.x, inside.y);
     ::mouse_event(MOUSEEVENTF_MOVE, 1, 0, 0, 0);
     EXPECT_TRUE(demo.waitFor("cmdPlain.MouseEnter"));
-    ::mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    kit::press(kit::MouseButton::Left);
     EXPECT_TRUE(demo.waitFor("cmdPlain.MouseDown"));
-    ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    kit::release(kit::MouseButton::Left);
     EXPECT_TRUE(demo.waitFor("cmdPlain.Click"));
     EXPECT_EQ(demo.form().focus().active(), &demo.control(L"cmdPlain"));
     ::SetCursorPos(0, 0);

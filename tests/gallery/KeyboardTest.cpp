@@ -12,9 +12,6 @@
 namespace quillet::gallery::test {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
 std::map<std::wstring, FakeTraits> classes()
 {
     FakeTraits button;
@@ -63,6 +60,22 @@ struct Active : FormKit {
         form().focus().restore();
         form().focus().update();
     }
+    /// The form uses the key up, and the control of that name is active then.
+    void expectGoes(WPARAM key, wchar_t const* to)
+    {
+        EXPECT_TRUE(press(key));
+        EXPECT_EQ(active(), to);
+    }
+    void expectAltGoes(wchar_t letter, wchar_t const* to)
+    {
+        EXPECT_TRUE(pressAlt(letter));
+        EXPECT_EQ(active(), to);
+    }
+    int clicks(wchar_t const* name) { return fake(name).clicks; }
+    bool isShownAsDefault(wchar_t const* name)
+    {
+        return fake(name).ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool();
+    }
 };
 
 TEST(TabOrder, tabGoesByTabIndexRoundTheForm)
@@ -70,22 +83,17 @@ TEST(TabOrder, tabGoesByTabIndexRoundTheForm)
     Active kit(node("VB.TextBox", "Third", "TabIndex = 9") + node("Fake.Button", "First", "TabIndex = 1") +
                node("VB.CommandButton", "Second", "TabIndex = 4"));
     EXPECT_EQ(kit.active(), L"First");
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"Second");
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"Third");
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"First");
+    kit.expectGoes(VK_TAB, L"Second");
+    kit.expectGoes(VK_TAB, L"Third");
+    kit.expectGoes(VK_TAB, L"First");
 }
 
 TEST(TabOrder, shiftTabGoesBackwards)
 {
     Active kit(node("Fake.Button", "A") + node("Fake.Button", "B") + node("Fake.Button", "C"));
     HeldKey const shift(VK_SHIFT);
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"C");
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"B");
+    kit.expectGoes(VK_TAB, L"C");
+    kit.expectGoes(VK_TAB, L"B");
 }
 
 TEST(TabOrder, hiddenDisabledAndSkippedControlsAreNoStops)
@@ -95,10 +103,8 @@ TEST(TabOrder, hiddenDisabledAndSkippedControlsAreNoStops)
                node("VB.Label", "Label") +
                node("VB.Frame", "Unseen", "Visible = 0", node("VB.TextBox", "Inside")) +
                node("Fake.Button", "Z"));
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"Z");
-    EXPECT_TRUE(kit.press(VK_TAB));
-    EXPECT_EQ(kit.active(), L"A");
+    kit.expectGoes(VK_TAB, L"Z");
+    kit.expectGoes(VK_TAB, L"A");
 }
 
 TEST(TabOrder, aFormWithoutStopsLeavesTabAlone)
@@ -113,10 +119,8 @@ TEST(TabOrder, aGroupOfOptionButtonsIsOneStop)
     Active kit(node("VB.TextBox", "Text") + node("VB.OptionButton", "O1") +
                node("VB.OptionButton", "O2", "Value = -1") + node("VB.OptionButton", "O3") +
                node("VB.TextBox", "Last"));
-    kit.press(VK_TAB);
-    EXPECT_EQ(kit.active(), L"O2");
-    kit.press(VK_TAB);
-    EXPECT_EQ(kit.active(), L"Last");
+    kit.expectGoes(VK_TAB, L"O2");
+    kit.expectGoes(VK_TAB, L"Last");
 }
 
 TEST(Keyboard, arrowsChooseAmongTheOptionButtonsOfOneContainer)
@@ -125,15 +129,12 @@ TEST(Keyboard, arrowsChooseAmongTheOptionButtonsOfOneContainer)
                node("VB.Frame", "Group", "", node("VB.OptionButton", "Other")) +
                node("VB.OptionButton", "O2"));
     EXPECT_EQ(kit.active(), L"O1");
-    EXPECT_TRUE(kit.press(VK_DOWN));
-    EXPECT_EQ(kit.active(), L"O2");
+    kit.expectGoes(VK_DOWN, L"O2");
     EXPECT_THAT(kit.events, ElementsAre(L"O2.Click"));
-    EXPECT_FALSE(getByName(kit.extender(L"O1"), L"Value").toBool());
-    EXPECT_TRUE(getByName(kit.extender(L"O2"), L"Value").toBool());
-    EXPECT_TRUE(kit.press(VK_RIGHT));
-    EXPECT_EQ(kit.active(), L"O1");
-    EXPECT_TRUE(kit.press(VK_UP));
-    EXPECT_EQ(kit.active(), L"O2");
+    EXPECT_FALSE(kit.get(L"O1", L"Value").toBool());
+    EXPECT_TRUE(kit.get(L"O2", L"Value").toBool());
+    kit.expectGoes(VK_RIGHT, L"O1");
+    kit.expectGoes(VK_UP, L"O2");
 }
 
 TEST(Keyboard, arrowsElsewhereBelongToTheControl)
@@ -168,8 +169,8 @@ TEST(Keyboard, enterPressesTheDefaultButtonFromATextBox)
     Active kit(node("VB.TextBox", "Text") + node("Fake.Button", "Ok", "Default = -1") +
                node("Fake.Button", "No"));
     EXPECT_TRUE(kit.press(VK_RETURN));
-    EXPECT_EQ(kit.fake(L"Ok").clicks, 1);
-    EXPECT_EQ(kit.fake(L"No").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"Ok"), 1);
+    EXPECT_EQ(kit.clicks(L"No"), 0);
     EXPECT_EQ(kit.active(), L"Text") << "the default button is pressed from afar";
 }
 
@@ -177,16 +178,16 @@ TEST(Keyboard, enterPressesTheFocusedButtonInsteadOfTheDefaultOne)
 {
     Active kit(node("Fake.Button", "No") + node("Fake.Button", "Ok", "Default = -1"));
     EXPECT_TRUE(kit.press(VK_RETURN));
-    EXPECT_EQ(kit.fake(L"No").clicks, 1);
-    EXPECT_EQ(kit.fake(L"Ok").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"No"), 1);
+    EXPECT_EQ(kit.clicks(L"Ok"), 0);
 }
 
 TEST(Keyboard, escPressesTheCancelButton)
 {
     Active kit(node("Fake.Button", "Ok", "Default = -1") + node("Fake.Button", "No", "Cancel = -1"));
     EXPECT_TRUE(kit.press(VK_ESCAPE));
-    EXPECT_EQ(kit.fake(L"No").clicks, 1);
-    EXPECT_EQ(kit.fake(L"Ok").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"No"), 1);
+    EXPECT_EQ(kit.clicks(L"Ok"), 0);
 }
 
 TEST(Keyboard, enterAndEscWithoutSuchAButtonBelongToTheControl)
@@ -194,14 +195,14 @@ TEST(Keyboard, enterAndEscWithoutSuchAButtonBelongToTheControl)
     Active kit(node("VB.TextBox", "Text") + node("Fake.Button", "B"));
     EXPECT_FALSE(kit.press(VK_RETURN));
     EXPECT_FALSE(kit.press(VK_ESCAPE));
-    EXPECT_EQ(kit.fake(L"B").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"B"), 0);
 }
 
 TEST(Keyboard, aHiddenDefaultButtonIsNotPressed)
 {
     Active kit(node("VB.TextBox", "Text") + node("Fake.Button", "Ok", "Default = -1\nVisible = 0"));
     EXPECT_FALSE(kit.press(VK_RETURN));
-    EXPECT_EQ(kit.fake(L"Ok").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"Ok"), 0);
 }
 
 TEST(Keyboard, aControlMayKeepEnterAndEscForItself)
@@ -210,14 +211,14 @@ TEST(Keyboard, aControlMayKeepEnterAndEscForItself)
                node("Fake.Button", "No", "Cancel = -1"));
     EXPECT_FALSE(kit.press(VK_RETURN));
     EXPECT_FALSE(kit.press(VK_ESCAPE));
-    EXPECT_EQ(kit.fake(L"Ok").clicks + kit.fake(L"No").clicks + kit.fake(L"Greedy").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"Ok") + kit.clicks(L"No") + kit.clicks(L"Greedy"), 0);
 }
 
 TEST(Keyboard, aButtonWithoutTheClickMethodIsToldByTheMnemonic)
 {
     Active kit(node("VB.TextBox", "Text") + node("Fake.Unclickable", "Ok", "Default = -1"));
     EXPECT_TRUE(kit.press(VK_RETURN));
-    EXPECT_EQ(kit.fake(L"Ok").clicks, 0);
+    EXPECT_EQ(kit.clicks(L"Ok"), 0);
     EXPECT_EQ(kit.fake(L"Ok").mnemonics, 1);
     EXPECT_EQ(kit.fake(L"Ok").mnemonicMessage, static_cast<UINT>(WM_KEYDOWN));
 }
@@ -245,20 +246,16 @@ TEST(Keyboard, controlsThatShareAnAccessKeyTakeTurns)
 {
     Active kit(node("Fake.Save", "A") + node("Fake.Save", "B"));
     EXPECT_EQ(kit.active(), L"A");
-    kit.pressAlt(L's');
-    EXPECT_EQ(kit.active(), L"B");
-    kit.pressAlt(L's');
-    EXPECT_EQ(kit.active(), L"A");
+    kit.expectAltGoes(L's', L"B");
+    kit.expectAltGoes(L's', L"A");
 }
 
 TEST(Keyboard, labelsSpeakForTheControlBehindThem)
 {
     Active kit(node("Fake.Button", "First") + node("VB.Label", "Hint", "Caption = \"&Name\"") +
                node("VB.TextBox", "Name") + node("Fake.Label", "Other") + node("VB.TextBox", "Place"));
-    EXPECT_TRUE(kit.pressAlt(L'n'));
-    EXPECT_EQ(kit.active(), L"Name");
-    EXPECT_TRUE(kit.pressAlt(L'l'));
-    EXPECT_EQ(kit.active(), L"Place");
+    kit.expectAltGoes(L'n', L"Name");
+    kit.expectAltGoes(L'l', L"Place");
 }
 
 TEST(Keyboard, hiddenAndDisabledControlsHaveNoAccessKey)
@@ -278,8 +275,8 @@ TEST(Keyboard, nativeButtonsBoxesAndOptionsFollowTheirAccessKeys)
     kit.pressAlt(L'k');
     kit.pressAlt(L'r');
     EXPECT_THAT(kit.events, ElementsAre(L"Go.Click", L"Keep.Click", L"Rich.Click"));
-    EXPECT_EQ(getByName(kit.extender(L"Keep"), L"Value").toLong(), 1);
-    EXPECT_TRUE(getByName(kit.extender(L"Rich"), L"Value").toBool());
+    EXPECT_EQ(kit.get(L"Keep", L"Value").toLong(), 1);
+    EXPECT_TRUE(kit.get(L"Rich", L"Value").toBool());
     EXPECT_FALSE(kit.pressAlt(L'h'));
 }
 
@@ -289,7 +286,7 @@ TEST(Keyboard, aDesignFormLeavesEveryKeyAlone)
     EXPECT_FALSE(kit.press(VK_TAB));
     EXPECT_FALSE(kit.press(VK_RETURN));
     EXPECT_FALSE(kit.pressAlt(L's'));
-    EXPECT_EQ(kit.fake(L"A").clicks + kit.fake(L"A").mnemonics, 0);
+    EXPECT_EQ(kit.clicks(L"A") + kit.fake(L"A").mnemonics, 0);
 }
 
 TEST(Focus, theActiveControlIsTheOneWithTheFocus)
@@ -328,16 +325,16 @@ TEST(Focus, theDefaultButtonIsShownUntilAnotherButtonHasTheFocus)
                node("Fake.Button", "No"));
     FakeControl& ok = kit.fake(L"Ok");
     FakeControl& no = kit.fake(L"No");
-    EXPECT_TRUE(ok.ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
+    EXPECT_TRUE(kit.isShownAsDefault(L"Ok"));
     ok.ambientChanges.clear();
     kit.control(L"No").focus();
-    EXPECT_FALSE(ok.ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
-    EXPECT_TRUE(no.ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
+    EXPECT_FALSE(kit.isShownAsDefault(L"Ok"));
+    EXPECT_TRUE(kit.isShownAsDefault(L"No"));
     EXPECT_THAT(ok.ambientChanges, ElementsAre(DISPID_AMBIENT_DISPLAYASDEFAULT));
     EXPECT_THAT(no.ambientChanges, ElementsAre(DISPID_AMBIENT_DISPLAYASDEFAULT));
     kit.control(L"Text").focus();
-    EXPECT_TRUE(ok.ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
-    EXPECT_FALSE(no.ambient(DISPID_AMBIENT_DISPLAYASDEFAULT).toBool());
+    EXPECT_TRUE(kit.isShownAsDefault(L"Ok"));
+    EXPECT_FALSE(kit.isShownAsDefault(L"No"));
 }
 
 TEST(Focus, onlyTheFirstOfSeveralDefaultButtonsIsOne)

@@ -14,102 +14,101 @@ namespace {
 
 using ::testing::HasSubstr;
 
+using Words = std::vector<std::wstring>;
+
+/// Of words that make sense.
+Options parsed(Words const& words)
+{
+    auto const options = parseOptions(words);
+    EXPECT_TRUE(options);
+    return options.value_or(Options());
+}
+
+void expectRefused(std::vector<Words> const& lines)
+{
+    for (Words const& words : lines)
+        EXPECT_FALSE(parseOptions(words)) << testing::PrintToString(words);
+}
+
 TEST(Options, aFormAloneRuns)
 {
-    auto const options = parseOptions({L"a.frm"});
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->form, L"a.frm");
-    EXPECT_FALSE(options->design);
-    EXPECT_FALSE(options->announceReady);
+    Options const options = parsed({L"a.frm"});
+    EXPECT_EQ(options.form, L"a.frm");
+    EXPECT_FALSE(options.design);
+    EXPECT_FALSE(options.announceReady);
 }
 
 TEST(Options, switchesMayStandBeforeAndBehindTheForm)
 {
-    auto const options = parseOptions({L"--design", L"a.frm", L"--screenshot-ready=r.txt"});
-    ASSERT_TRUE(options);
-    EXPECT_TRUE(options->design);
-    EXPECT_TRUE(options->announceReady);
-    EXPECT_EQ(options->readyFile, L"r.txt");
-    auto const plain = parseOptions({L"--screenshot-ready", L"a.frm"});
-    ASSERT_TRUE(plain);
-    EXPECT_TRUE(plain->announceReady);
-    EXPECT_EQ(plain->readyFile, L"");
-}
-
-void expectLogAndForm(std::optional<Options> const& options, bool design)
-{
-    ASSERT_TRUE(options);
-    EXPECT_EQ(options->logFile, L"e.txt");
-    EXPECT_EQ(options->form, L"a.frm");
-    EXPECT_EQ(options->design, design);
+    Options const options = parsed({L"--design", L"a.frm", L"--screenshot-ready=r.txt"});
+    EXPECT_TRUE(options.design);
+    EXPECT_TRUE(options.announceReady);
+    EXPECT_EQ(options.readyFile, L"r.txt");
+    Options const plain = parsed({L"--screenshot-ready", L"a.frm"});
+    EXPECT_TRUE(plain.announceReady);
+    EXPECT_EQ(plain.readyFile, L"");
 }
 
 TEST(Options, theLogsFileIsTheNextWordOrStandsBehindAnEqualsSign)
 {
-    expectLogAndForm(parseOptions({L"--log", L"e.txt", L"a.frm"}), false);
-    expectLogAndForm(parseOptions({L"a.frm", L"--log", L"e.txt"}), false);
-    expectLogAndForm(parseOptions({L"--log=e.txt", L"a.frm"}), false);
-    expectLogAndForm(parseOptions({L"--design", L"--log", L"e.txt", L"a.frm"}), true);
-    auto const without = parseOptions({L"a.frm"});
-    ASSERT_TRUE(without);
-    EXPECT_TRUE(without->logFile.empty());
+    for (Words const& words : {Words{L"--log", L"e.txt", L"a.frm"},
+                               {L"a.frm", L"--log", L"e.txt"},
+                               {L"--log=e.txt", L"a.frm"},
+                               {L"--design", L"--log", L"e.txt", L"a.frm"}}) {
+        Options const options = parsed(words);
+        EXPECT_EQ(options.logFile, L"e.txt");
+        EXPECT_EQ(options.form, L"a.frm");
+        EXPECT_EQ(options.design, words.front() == L"--design");
+    }
+    EXPECT_TRUE(parsed({L"a.frm"}).logFile.empty());
 }
 
 TEST(Options, theFolderToSaveToIsTheNextWordOrStandsBehindAnEqualsSign)
 {
-    for (auto const& words : std::vector<std::vector<std::wstring>>{
-             {L"--save", L"b", L"a.frm"}, {L"a.frm", L"--save", L"b"}, {L"--save=b", L"a.frm"}}) {
-        auto const options = parseOptions(words);
-        ASSERT_TRUE(options);
-        EXPECT_EQ(options->saveFolder, L"b");
-        EXPECT_EQ(options->form, L"a.frm");
+    for (Words const& words :
+         {Words{L"--save", L"b", L"a.frm"}, {L"a.frm", L"--save", L"b"}, {L"--save=b", L"a.frm"}}) {
+        Options const options = parsed(words);
+        EXPECT_EQ(options.saveFolder, L"b");
+        EXPECT_EQ(options.form, L"a.frm");
     }
-    EXPECT_FALSE(parseOptions({L"a.frm", L"--save"}));
-    EXPECT_FALSE(parseOptions({L"--save", L"a.frm"})) << "the only word is the folder, so there is no form";
-    EXPECT_FALSE(parseOptions({L"--save=", L"a.frm"}));
+    // The only word is the folder, so there is no form.
+    expectRefused({{L"a.frm", L"--save"}, {L"--save", L"a.frm"}, {L"--save=", L"a.frm"}});
 }
 
 TEST(Options, aLogWithoutAFileIsRefused)
 {
-    EXPECT_FALSE(parseOptions({L"a.frm", L"--log"}));
-    EXPECT_FALSE(parseOptions({L"a.frm", L"--log="}));
-    EXPECT_FALSE(parseOptions({L"--log", L"--design", L"a.frm"}));
-    EXPECT_FALSE(parseOptions({L"--log", std::wstring(), L"a.frm"}));
-    EXPECT_FALSE(parseOptions({L"--log", L"a.frm"})) << "the only word is the log, and that is a form";
-    EXPECT_FALSE(parseOptions({L"--logs", L"e.txt"}));
+    expectRefused({{L"a.frm", L"--log"},
+                   {L"a.frm", L"--log="},
+                   {L"--log", L"--design", L"a.frm"},
+                   {L"--log", L"", L"a.frm"},
+                   {L"--log", L"a.frm"}, // the only word is the log, and that is a form
+                   {L"--logs", L"e.txt"}});
 }
 
 TEST(Options, aFormAsTheLogIsRefusedRatherThanWrittenOver)
 {
-    EXPECT_FALSE(parseOptions({L"--log", L"a.frm", L"b.frm"}));
-    EXPECT_FALSE(parseOptions({L"--log=A.FRM", L"b.frm"}));
+    expectRefused({{L"--log", L"a.frm", L"b.frm"}, {L"--log=A.FRM", L"b.frm"}});
     EXPECT_TRUE(parseOptions({L"--log", L"frm", L"b.frm"}));
 }
 
 TEST(Options, withoutAFormTheGallerysOwnIsMeant)
 {
-    for (auto const& words :
-         std::vector<std::vector<std::wstring>>{{}, {L"--design"}, {L"--log", L"e.txt"}}) {
-        auto const options = parseOptions(words);
-        ASSERT_TRUE(options);
-        EXPECT_EQ(options->form, L"");
-    }
+    for (Words const& words : {Words{}, {L"--design"}, {L"--log", L"e.txt"}})
+        EXPECT_EQ(parsed(words).form, L"");
 }
 
 TEST(Options, helpNeedsNoForm)
 {
-    auto const options = parseOptions({L"--help"});
-    ASSERT_TRUE(options);
-    EXPECT_TRUE(options->help);
-    EXPECT_FALSE(parseOptions({L"a.frm"})->help);
+    EXPECT_TRUE(parsed({L"--help"}).help);
+    EXPECT_FALSE(parsed({L"a.frm"}).help);
 }
 
 TEST(Options, whatMakesNoSenseIsRefused)
 {
-    EXPECT_FALSE(parseOptions({L"a.frm", L"b.frm"}));
-    EXPECT_FALSE(parseOptions({L"--frog", L"a.frm"}));
-    EXPECT_FALSE(parseOptions({L"--screenshot-ready=", L"a.frm"}));
-    EXPECT_FALSE(parseOptions({L"--screenshot-readyness", L"a.frm"}));
+    expectRefused({{L"a.frm", L"b.frm"},
+                   {L"--frog", L"a.frm"},
+                   {L"--screenshot-ready=", L"a.frm"},
+                   {L"--screenshot-readyness", L"a.frm"}});
 }
 
 wchar_t const* const kManifest =

@@ -141,25 +141,20 @@ TEST(ControlBag, aFontBlockBecomesAStandardFontWithEveryAttribute)
     ASSERT_TRUE(font);
     Bstr name;
     CY size{};
-    BOOL italic = FALSE;
-    BOOL underline = FALSE;
-    BOOL strikethrough = FALSE;
-    SHORT weight = 0;
-    SHORT charset = 0;
     font->get_Name(name.put());
     font->get_Size(&size);
-    font->get_Italic(&italic);
-    font->get_Underline(&underline);
-    font->get_Strikethrough(&strikethrough);
-    font->get_Weight(&weight);
-    font->get_Charset(&charset);
     EXPECT_EQ(name.view(), knownFace());
     EXPECT_NEAR(static_cast<double>(size.int64), 127500, 7500); // the system rounds to whole pixels
-    EXPECT_TRUE(italic);
-    EXPECT_TRUE(underline);
-    EXPECT_TRUE(strikethrough);
-    EXPECT_EQ(weight, 700);
-    EXPECT_EQ(charset, 0);
+    for (auto const get : {&IFont::get_Italic, &IFont::get_Underline, &IFont::get_Strikethrough}) {
+        BOOL set = FALSE;
+        (font.get()->*get)(&set);
+        EXPECT_TRUE(set);
+    }
+    for (auto const& [get, expected] : {std::pair{&IFont::get_Weight, 700}, {&IFont::get_Charset, 0}}) {
+        SHORT number = -1;
+        (font.get()->*get)(&number);
+        EXPECT_EQ(number, expected);
+    }
 }
 
 TEST(ControlBag, onlyTheStandardFontsIdentifierMakesAFont)

@@ -8,12 +8,8 @@
 #include "gallery/form/FormEditor.h"
 #include "gallery/form/FormReader.h"
 #include "gallery/form/Pictures.h"
-#include "gallery/host/LateBoundObject.h"
-
-#include <olectl.h>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "kit/ByName.h"
+#include "kit/Fonts.h"
 
 namespace quillet::gallery {
 namespace {
@@ -79,63 +75,62 @@ std::wstring readAgain(SavedForm const& form, wchar_t const* name)
     return found ? std::wstring(found->toString().view()) : L"nothing";
 }
 
-TEST(FormEditor, leavesANameThatStandsTwiceAlone)
+/// Saved without a change, the form is the same.
+void expectUnchanged(std::string const& text, std::string const& companion = {})
 {
-    Edited const form(formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
-    EXPECT_EQ(form.saved(*form.bag().get()).text,
-              formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
+    Edited const form(text, companion);
+    SavedForm const saved = form.saved(*form.bag().get());
+    EXPECT_EQ(saved.text, text);
+    EXPECT_EQ(saved.companion, companion);
 }
+
+/// The form after some of the control's values have changed.
+SavedForm changed(Edited const& form, std::vector<std::pair<wchar_t const*, wchar_t const*>> const& values)
+{
+    auto const bag = form.bag();
+    for (auto const& [name, text] : values)
+        bag->set(name, Variant::ofString(text));
+    return form.saved(*bag.get());
+}
+
+std::string const kTwice = formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n");
+
+TEST(FormEditor, leavesANameThatStandsTwiceAlone) { expectUnchanged(kTwice); }
 
 TEST(FormEditor, changesTheLineThatCountsOfANameThatStandsTwice)
 {
-    Edited const form(formWith("      Caption = \"a\"\r\n      Caption = \"b\"\r\n"));
-    auto const bag = form.bag();
-    bag->set(L"Caption", Variant::ofString(L"new"));
-    EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Caption"), L"new");
+    EXPECT_EQ(readAgain(changed(Edited(kTwice), {{L"Caption", L"new"}}), L"Caption"), L"new");
 }
 
 TEST(FormEditor, leavesAShortTextInTheCompanion)
 {
-    std::string const text = formWith("      Caption = $\"a.frx\":0000\r\n");
-    Edited const form(text, "\2\0\0\0ab"s);
-    EXPECT_EQ(form.saved(*form.bag().get()).text, text);
+    expectUnchanged(formWith("      Caption = $\"a.frx\":0000\r\n"), "\2\0\0\0ab"s);
 }
 
 TEST(FormEditor, leavesATextInTheCompanionOfAnotherForm)
 {
-    std::string const text = formWith("      Caption = $\"b.frx\":0000\r\n");
-    Edited const form(text);
     writeFileBytes(Edited::folder() + L"\\b.frx", "\2\0\0\0ab"s);
-    SavedForm const saved = form.saved(*form.bag().get());
-    EXPECT_EQ(saved.text, text);
-    EXPECT_EQ(saved.companion, "");
+    expectUnchanged(formWith("      Caption = $\"b.frx\":0000\r\n"));
 }
 
 TEST(FormEditor, leavesATextInTheCompanionThatIsNotWellCoded)
 {
-    std::string const text = kUtf8Mark + formWith("      Caption = $\"a.frx\":0000\r\n");
-    Edited const form(text, "\4\0\0\0a\r\n\xFF"s);
-    SavedForm const saved = form.saved(*form.bag().get());
-    EXPECT_EQ(saved.text, text);
-    EXPECT_EQ(saved.companion, "\4\0\0\0a\r\n\xFF"s);
+    expectUnchanged(kUtf8Mark + formWith("      Caption = $\"a.frx\":0000\r\n"), "\4\0\0\0a\r\n\xFF"s);
 }
 
 TEST(FormEditor, savesALongTextInTheCodingOfItsForm)
 {
     for (std::string const& mark : {std::string(), kUtf8Mark}) {
         Edited const form(mark + formWith("      Caption = \"x\"\r\n"));
-        auto const bag = form.bag();
-        bag->set(L"Caption", Variant::ofString(L"\x00E4\r\n\x20AC"));
-        EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Caption"), L"\x00E4\r\n\x20AC");
+        wchar_t const* const text = L"\x00E4\r\n\x20AC";
+        EXPECT_EQ(readAgain(changed(form, {{L"Caption", text}}), L"Caption"), text);
     }
 }
 
 TEST(FormEditor, marksAPropertyWhoseNameTheExtenderHasTaken)
 {
     Edited const form(formWith("      Tag = \"the form's\"\r\n"));
-    auto const bag = form.bag();
-    bag->set(L"Tag", Variant::ofString(L"the control's"));
-    SavedForm const saved = form.saved(*bag.get());
+    SavedForm const saved = changed(form, {{L"Tag", L"the control's"}});
     EXPECT_THAT(saved.text, HasSubstr("Tag = \"the form's\""));
     EXPECT_EQ(readAgain(saved, L"Tag"), L"the control's");
 }
@@ -152,10 +147,7 @@ TEST(FormEditor, leavesABlockThatIsNoFontWhenAFontOfItsNameGoes)
 TEST(FormEditor, losesALineThatLeadsNowhereBeforeANewRecordIsTakenForIt)
 {
     Edited const form(formWith("      Image = \"a.frx\":0000\r\n")); // the companion file is empty
-    auto const bag = form.bag();
-    bag->set(L"Caption", Variant::ofString(L"two\r\nlines"));
-    bag->set(L"Text", Variant::ofString(L"a\nb"));
-    SavedForm const saved = form.saved(*bag.get());
+    SavedForm const saved = changed(form, {{L"Caption", L"two\r\nlines"}, {L"Text", L"a\nb"}});
     EXPECT_EQ(readAgain(saved, L"Image"), L"nothing");
     EXPECT_EQ(readAgain(saved, L"Caption"), L"two\r\nlines");
     EXPECT_EQ(readAgain(saved, L"Text"), L"a\nb");
@@ -164,16 +156,12 @@ TEST(FormEditor, losesALineThatLeadsNowhereBeforeANewRecordIsTakenForIt)
 TEST(FormEditor, losesALineThatLeadsToWhereARecordIsAdded)
 {
     Edited const form(formWith("      Odd = $\"a.frx\":0000\r\n")); // the companion file is empty
-    auto const bag = form.bag();
-    bag->set(L"Caption", Variant::ofString(L"two\r\nlines"));
-    EXPECT_EQ(readAgain(form.saved(*bag.get()), L"Odd"), L"nothing");
+    EXPECT_EQ(readAgain(changed(form, {{L"Caption", L"two\r\nlines"}}), L"Odd"), L"nothing");
 }
 
 TEST(FormEditor, leavesAReferenceThatLeadsNowhereWhileNothingIsAdded)
 {
-    std::string const text = formWith("      Image = \"a.frx\":0000\r\n");
-    Edited const form(text);
-    EXPECT_EQ(form.saved(*form.bag().get()).text, text);
+    expectUnchanged(formWith("      Image = \"a.frx\":0000\r\n"));
 }
 
 } // namespace
@@ -182,7 +170,6 @@ TEST(FormEditor, leavesAReferenceThatLeadsNowhereWhileNothingIsAdded)
 namespace quillet::gallery::test {
 namespace {
 
-using ::testing::IsEmpty;
 using ::testing::Not;
 
 /// A folder of the test's own, empty at first.
@@ -224,17 +211,13 @@ public:
     }
     Demo& demo() { return *m_demo; }
 
-    void put(wchar_t const* member, Variant value, WORD kind = DISPATCH_PROPERTYPUT)
+    void put(wchar_t const* member, Variant const& value)
     {
-        IDispatch& control = *m_demo->control(L"imgOne").automation();
-        auto* name = const_cast<wchar_t*>(member);
-        DISPID id = DISPID_UNKNOWN;
-        ASSERT_EQ(control.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id), S_OK);
-        DISPID assigned = DISPID_PROPERTYPUT;
-        DISPPARAMS arguments{value.address(), &assigned, 1, 1};
-        ASSERT_EQ(
-            control.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &arguments, nullptr, nullptr, nullptr),
-            S_OK);
+        EXPECT_EQ(kit::putByName(automation(), member, value).result, S_OK);
+    }
+    void putObject(wchar_t const* member, IUnknown* object)
+    {
+        EXPECT_EQ(kit::setByName(automation(), member, object).result, S_OK);
     }
     Document& saved()
     {
@@ -243,26 +226,13 @@ public:
     }
 
 private:
+    IDispatch& automation() { return *m_demo->control(L"imgOne").automation(); }
+
     std::wstring m_path;
     std::unique_ptr<Demo> m_demo;
 };
 
-ComPtr<IPictureDisp> redPicture(int side)
-{
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = info.bmiHeader.biHeight = side;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 24;
-    void* bits = nullptr;
-    PICTDESC description{};
-    description.cbSizeofstruct = sizeof description;
-    description.picType = PICTYPE_BITMAP;
-    description.bmp.hbitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    ComPtr<IPictureDisp> picture;
-    ::OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.put()));
-    return picture;
-}
+ComPtr<IPictureDisp> redPicture(int side) { return kit::newBitmapPicture(side, side, RGB(255, 0, 0)); }
 
 class SavedForms : public testing::TestWithParam<wchar_t const*> {};
 
@@ -325,7 +295,7 @@ TEST(SavedForm, hasANewPictureInItsCompanion)
 {
     Designed form(kHead + kButton + kTail, std::string("\1\0\0\0x", 5));
     auto const picture = redPicture(3);
-    form.put(L"Image", Variant::ofDispatch(picture.get()), DISPATCH_PROPERTYPUTREF);
+    form.putObject(L"Image", picture.get());
     Document& saved = form.saved();
     EXPECT_THAT(saved.text(), HasSubstr("      Image           =   \"test.frx\":0005\r\n"));
     Companion const& companion = saved.companion();
@@ -339,11 +309,7 @@ TEST(SavedForm, hasAChangedFontAsABlock)
     std::string text;
     { // one form at a time: the component is let go with its last control
         Designed form(kHead + kButton + kTail);
-        FontFace face;
-        face.name = L"Tahoma";
-        face.points = 12;
-        face.weight = FW_BOLD;
-        form.put(L"Font", Variant::ofDispatch(makeFont(face).as<IDispatch>().get()), DISPATCH_PROPERTYPUTREF);
+        form.putObject(L"Font", kit::newFont(L"Tahoma", 12, true).get());
         text = form.saved().text();
     }
     EXPECT_THAT(text, HasSubstr("      BeginProperty Font {0BE35203-8F91-11CE-9DE3-00AA004BB851}\r\n"));

@@ -3,19 +3,12 @@
 #include "gallery/FormKit.h"
 #include "gallery/host/Extender.h"
 #include "gallery/host/HostedControl.h"
-#include "gallery/host/LateBoundObject.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "kit/Canvas.h"
 
 #include <set>
 
 namespace quillet::gallery::test {
 namespace {
-
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class OptionForm : public testing::Test {
 protected:
@@ -26,18 +19,23 @@ protected:
         demo.pump();
     }
 
-    long value(wchar_t const* name) { return getByName(demo.extender(name), L"Value").toLong(); }
-    std::vector<long> sizes()
+    long value(wchar_t const* name) { return demo.get(name, L"Value").toLong(); }
+    using Names = std::initializer_list<wchar_t const*>;
+    std::vector<long> values(Names names)
     {
-        return {value(L"optSmall"), value(L"optMedium"), value(L"optLarge"), value(L"optHuge")};
+        std::vector<long> all;
+        std::ranges::transform(names, std::back_inserter(all), [&](auto name) { return value(name); });
+        return all;
     }
-    std::vector<long> colours()
+    std::vector<long> sizes() { return values({L"optSmall", L"optMedium", L"optLarge", L"optHuge"}); }
+    std::vector<long> colours() { return values({L"optRed", L"optGreen", L"optBlue", L"optGrey"}); }
+    std::vector<long> deliveries() { return values({L"optPost", L"optCourier", L"optFetch", L"optPigeon"}); }
+    std::vector<bool> tabStops()
     {
-        return {value(L"optRed"), value(L"optGreen"), value(L"optBlue"), value(L"optGrey")};
-    }
-    std::vector<long> deliveries()
-    {
-        return {value(L"optPost"), value(L"optCourier"), value(L"optFetch"), value(L"optPigeon")};
+        std::vector<bool> all;
+        for (wchar_t const* const name : {L"optSmall", L"optMedium", L"optLarge"})
+            all.push_back(demo.get(name, L"TabStop").toBool());
+        return all;
     }
     std::string active()
     {
@@ -64,10 +62,7 @@ protected:
         }
         EXPECT_TRUE(up) << "the key did not come";
     }
-    int clicks(std::string const& name)
-    {
-        return static_cast<int>(std::count(demo.events.begin(), demo.events.end(), name + ".Click"));
-    }
+    std::ptrdiff_t clicks(std::string const& name) const { return demo.count(name + ".Click"); }
 
     Demo demo{formFile(L"options.frm"), UserMode::Run};
 };
@@ -98,15 +93,9 @@ TEST_F(OptionForm, tabReachesTheChosenOptionOfEachFrameAndEachCheckBox)
 
 TEST_F(OptionForm, chosenOptionAloneIsATabStopOfItsFrame)
 {
-    std::vector<bool> stops;
-    for (wchar_t const* name : {L"optSmall", L"optMedium", L"optLarge"})
-        stops.push_back(getByName(demo.extender(name), L"TabStop").toBool());
-    EXPECT_THAT(stops, ElementsAre(false, true, false));
+    EXPECT_THAT(tabStops(), ElementsAre(false, true, false));
     type(VK_DOWN);
-    stops.clear();
-    for (wchar_t const* name : {L"optSmall", L"optMedium", L"optLarge"})
-        stops.push_back(getByName(demo.extender(name), L"TabStop").toBool());
-    EXPECT_THAT(stops, ElementsAre(false, false, true));
+    EXPECT_THAT(tabStops(), ElementsAre(false, false, true));
 }
 
 TEST_F(OptionForm, arrowKeysChooseAmongTheOptionsOfAFrame)
@@ -176,27 +165,15 @@ TEST_F(OptionForm, everyGroupKeepsOneChoiceThroughAWholeRound)
     EXPECT_THAT(deliveries(), ElementsAre(-1, 0, 0, 0));
 }
 
-std::wstring const kToolbar = formFile(L"toolbar.frm");
-
 class Toolbar : public testing::Test {
 protected:
-    Demo demo{kToolbar, UserMode::Run};
+    Demo demo{formFile(L"toolbar.frm"), UserMode::Run};
 
-    Variant get(wchar_t const* control, wchar_t const* member)
+    bool isChecked(wchar_t const* control) { return demo.get(control, L"Checked").toBool(); }
+    long width(wchar_t const* control) { return demo.get(control, L"Width").toLong(); }
+    void setCaption(wchar_t const* control, wchar_t const* text)
     {
-        return getByName(demo.extender(control), member);
-    }
-    void put(wchar_t const* control, wchar_t const* member, Variant value)
-    {
-        IDispatch& extender = demo.extender(control);
-        auto* name = const_cast<wchar_t*>(member);
-        DISPID id = DISPID_UNKNOWN;
-        ASSERT_EQ(extender.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id), S_OK);
-        DISPID assigned = DISPID_PROPERTYPUT;
-        DISPPARAMS arguments{value.address(), &assigned, 1, 1};
-        ASSERT_EQ(extender.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments,
-                                  nullptr, nullptr, nullptr),
-                  S_OK);
+        putByName(demo.extender(control), L"Caption", Variant::ofString(text));
     }
     void click(wchar_t const* control)
     {
@@ -204,24 +181,16 @@ protected:
         ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(8, 8));
         ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
     }
-    LONG windowWidth(wchar_t const* control)
-    {
-        RECT client{};
-        ::GetClientRect(demo.control(control).window(), &client);
-        return client.right;
-    }
     /// How many colours the control shows.
     std::size_t colors(wchar_t const* control)
     {
         HWND const window = demo.control(control).window();
         ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-        RECT client{};
-        ::GetClientRect(window, &client);
-        WindowDc const dc(window);
+        kit::Canvas const shown(window);
         std::set<COLORREF> seen;
-        for (int y = 0; y < client.bottom; ++y)
-            for (int x = 0; x < client.right; ++x)
-                seen.insert(::GetPixel(dc.get(), x, y));
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                seen.insert(shown.at(x, y));
         return seen.size();
     }
 };
@@ -248,32 +217,33 @@ TEST_F(Toolbar, showsItsPicturesWithSoftEdges)
 
 TEST_F(Toolbar, aClickTurnsACheckButtonOnAndOffAndTheSpaceKeyDoesNot)
 {
-    ASSERT_FALSE(get(L"tbItalic", L"Checked").toBool());
+    ASSERT_FALSE(isChecked(L"tbItalic"));
     click(L"tbItalic");
-    EXPECT_TRUE(get(L"tbItalic", L"Checked").toBool());
+    EXPECT_TRUE(isChecked(L"tbItalic"));
     EXPECT_THAT(demo.events, Contains("tbItalic.Click"));
     click(L"tbItalic");
-    EXPECT_FALSE(get(L"tbItalic", L"Checked").toBool());
+    EXPECT_FALSE(isChecked(L"tbItalic"));
     demo.events.clear();
     ::SendMessageW(demo.control(L"tbItalic").window(), WM_CHAR, L' ', 0);
     EXPECT_THAT(demo.events, Contains("tbItalic.Click"));
-    EXPECT_FALSE(get(L"tbItalic", L"Checked").toBool());
+    EXPECT_FALSE(isChecked(L"tbItalic"));
 }
 
 TEST_F(Toolbar, anAutoSizedButtonGrowsAndShrinksWithItsCaption)
 {
     demo.form().show();
-    long const before = get(L"imgMiddle", L"Width").toLong();
-    put(L"imgMiddle", L"Caption", Variant::ofString(L"A much longer caption than before"));
-    long const wide = get(L"imgMiddle", L"Width").toLong();
+    long const before = width(L"imgMiddle");
+    setCaption(L"imgMiddle", L"A much longer caption than before");
+    long const wide = width(L"imgMiddle");
     EXPECT_GT(wide, before);
     WindowDc const screen(nullptr);
-    EXPECT_EQ(windowWidth(L"imgMiddle"), ::MulDiv(wide, ::GetDeviceCaps(screen.get(), LOGPIXELSX), 1440));
-    put(L"imgMiddle", L"Caption", Variant::ofString(L""));
-    EXPECT_LT(get(L"imgMiddle", L"Width").toLong(), before);
-    long const fixed = get(L"imgFixed", L"Width").toLong();
-    put(L"imgFixed", L"Caption", Variant::ofString(L"A much longer caption than before"));
-    EXPECT_EQ(get(L"imgFixed", L"Width").toLong(), fixed);
+    EXPECT_EQ(kit::Canvas(demo.control(L"imgMiddle").window()).width(),
+              ::MulDiv(wide, ::GetDeviceCaps(screen.get(), LOGPIXELSX), 1440));
+    setCaption(L"imgMiddle", L"");
+    EXPECT_LT(width(L"imgMiddle"), before);
+    long const fixed = width(L"imgFixed");
+    setCaption(L"imgFixed", L"A much longer caption than before");
+    EXPECT_EQ(width(L"imgFixed"), fixed);
 }
 
 TEST_F(Toolbar, escPressesTheCancelButtonAndAnAccessKeyItsOwn)
