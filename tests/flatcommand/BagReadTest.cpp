@@ -6,10 +6,6 @@
 namespace quillet::flat {
 namespace {
 
-using testing::AnyOf;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-
 class FlatBagRead : public SitedTest {
 protected:
     ComPtr<kit::FakeBag> bag = kit::make<kit::FakeBag>();
@@ -36,12 +32,6 @@ protected:
             EXPECT_EQ(got(row.name), kit::textOf(row.other)) << kit::narrow(row.name);
     }
     void expectFont(IFont& font) const { EXPECT_TRUE(kit::equalFonts(*button.font().get(), font)); }
-    ComPtr<IPictureDisp> mouseIcon() const
-    {
-        ComPtr<IPictureDisp> icon;
-        EXPECT_EQ(button->get_MouseIcon(icon.put()), S_OK);
-        return icon;
-    }
 };
 
 TEST_F(FlatBagRead, readsEachNameOnceAndInOrder)
@@ -80,31 +70,10 @@ TEST_F(FlatBagRead, takesTheDefaultWhereTheBagHasNoEntry)
     load();
     auto const empty = kit::make<kit::FakeBag>();
     ASSERT_EQ(button.load(*empty.get()), S_OK);
-    constexpr auto sys = [](long index) { return static_cast<long>(0x80000000U) | index; };
-    for (auto const& [name, value] : {std::pair{L"Enabled", -1L},
-                                      {L"BorderStyle", 1},
-                                      {L"BorderWidth", 1},
-                                      {L"HotBorderWidth", 1},
-                                      {L"PressedBorderWidth", 1},
-                                      {L"CentreCaption", 0},
-                                      {L"CaptionIndent", 4},
-                                      {L"MousePointer", 0},
-                                      {L"ShowFocusRectangle", -1},
-                                      {L"OfficeXPColors", 0},
-                                      {L"BackColor", sys(0x0F)},
-                                      {L"ForeColor", sys(0x12)},
-                                      {L"BorderColor", sys(0x15)},
-                                      {L"HotForeColor", sys(0x14)},
-                                      {L"PressedForeColor", sys(0x14)},
-                                      {L"HotBackColor", sys(0x10)},
-                                      {L"PressedBackColor", sys(0x15)},
-                                      {L"HotBorderColor", sys(0x15)},
-                                      {L"PressedBorderColor", sys(0x15)},
-                                      {L"DisabledForeColor", sys(0x11)}})
-        EXPECT_EQ(got(name), std::to_string(value)) << kit::narrow(name);
-    EXPECT_EQ(button.caption(), L"");
+    for (SavedRow const& row : savedValues())
+        EXPECT_EQ(got(row.name), row.initial) << kit::narrow(row.name);
     expectFont(*formFont().get());
-    EXPECT_FALSE(mouseIcon());
+    EXPECT_FALSE(button.mouseIcon());
 }
 
 TEST_F(FlatBagRead, takesValuesAsTextFromABagThatKeepsNothingElse)
@@ -167,10 +136,10 @@ TEST_F(FlatBagRead, takesAMouseIconByEitherKindOfObjectAndNothing)
     auto const icon = kit::newIconPicture();
     bag->put(L"MouseIcon", Variant::ofUnknown(icon.get()));
     load();
-    EXPECT_EQ(mouseIcon().get(), icon.get());
+    EXPECT_EQ(button.mouseIcon().get(), icon.get());
     bag->put(L"MouseIcon", Variant::ofDispatch(nullptr));
     load();
-    EXPECT_FALSE(mouseIcon());
+    EXPECT_FALSE(button.mouseIcon());
 }
 
 TEST_F(FlatBagRead, failsWithTheErrorOfAValueThatDoesNotConvert)

@@ -6,11 +6,6 @@
 namespace quillet::flat {
 namespace {
 
-using testing::AnyOf;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
-
 class FlatBagWrite : public SitedTest {
 protected:
     ComPtr<kit::FakeBag> bag = kit::make<kit::FakeBag>();

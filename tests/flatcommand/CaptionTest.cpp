@@ -4,8 +4,6 @@
 namespace quillet::flat {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 using Key = kit::AccessKey;

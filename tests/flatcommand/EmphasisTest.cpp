@@ -113,13 +113,12 @@ TEST_F(FlatEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
     ShownButton next(library(), form, kPlaceBelow);
     ASSERT_TRUE(kit::focus(button.window()));
     int paints = 0;
-    next.events().action = [&](auto const& event) {
-        if (event.id == kPaint && ++paints == 1) {
+    kit::Inside const paint(next, "Paint", [&] {
+        if (++paints == 1) {
             EXPECT_EQ(next.differencesFrom(focused(normalLook())), "");
         }
-    };
+    });
     ASSERT_TRUE(kit::focus(next.window()));
-    next.events().action = nullptr;
     EXPECT_GT(paints, 0);
 }
 

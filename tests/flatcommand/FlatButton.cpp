@@ -7,11 +7,25 @@
 
 namespace quillet::flat {
 
+namespace {
+
+/// A system colour, as a signed number.
+std::string sys(long index) { return std::to_string(static_cast<long>(0x80000000U) | index); }
+
+} // namespace
+
 FlatButton::FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place,
                        std::wstring const& name)
     : CommandButton(library, form, kQvFlatCommandClass, __uuidof(_qvFlatCommand), kQvFlatCommandEvents, place,
                     name)
 {}
+
+ComPtr<IPictureDisp> FlatButton::mouseIcon() const
+{
+    ComPtr<IPictureDisp> icon;
+    EXPECT_EQ(dual()->get_MouseIcon(icon.put()), S_OK);
+    return icon;
+}
 
 void FlatButton::assign(SavedRow const& row)
 {
@@ -32,29 +46,29 @@ void FlatButton::assignAll()
 std::vector<SavedRow> const& savedRows()
 {
     static std::vector<SavedRow> const rows{
-        {L"BackColor", Variant::ofLong(0x010203)},
-        {L"ForeColor", Variant::ofLong(0x020304)},
-        {L"Enabled", Variant::ofBool(false)},
-        {L"Font", {}},
-        {L"BorderStyle", Variant::ofShort(0)},
-        {L"BorderColor", Variant::ofLong(0x030405)},
-        {L"HotForeColor", Variant::ofLong(0x040506)},
-        {L"PressedForeColor", Variant::ofLong(0x050607)},
-        {L"HotBackColor", Variant::ofLong(0x060708)},
-        {L"PressedBackColor", Variant::ofLong(0x070809)},
-        {L"HotBorderColor", Variant::ofLong(0x08090A)},
-        {L"PressedBorderColor", Variant::ofLong(0x090A0B)},
-        {L"BorderWidth", Variant::ofShort(2)},
-        {L"HotBorderWidth", Variant::ofShort(3)},
-        {L"PressedBorderWidth", Variant::ofShort(4)},
-        {L"DisabledForeColor", Variant::ofLong(0x0A0B0C)},
-        {L"Caption", Variant::ofString(L"&Save")},
-        {L"CentreCaption", Variant::ofBool(true)},
-        {L"CaptionIndent", Variant::ofShort(12)},
-        {L"MousePointer", Variant::ofShort(99)},
-        {L"MouseIcon", {}},
-        {L"ShowFocusRectangle", Variant::ofBool(false)},
-        {L"OfficeXPColors", Variant::ofBool(true)},
+        {L"BackColor", sys(0x0F), Variant::ofLong(0x010203)},
+        {L"ForeColor", sys(0x12), Variant::ofLong(0x020304)},
+        {L"Enabled", "-1", Variant::ofBool(false)},
+        {L"Font", "", {}},
+        {L"BorderStyle", "1", Variant::ofShort(0)},
+        {L"BorderColor", sys(0x15), Variant::ofLong(0x030405)},
+        {L"HotForeColor", sys(0x14), Variant::ofLong(0x040506)},
+        {L"PressedForeColor", sys(0x14), Variant::ofLong(0x050607)},
+        {L"HotBackColor", sys(0x10), Variant::ofLong(0x060708)},
+        {L"PressedBackColor", sys(0x15), Variant::ofLong(0x070809)},
+        {L"HotBorderColor", sys(0x15), Variant::ofLong(0x08090A)},
+        {L"PressedBorderColor", sys(0x15), Variant::ofLong(0x090A0B)},
+        {L"BorderWidth", "1", Variant::ofShort(2)},
+        {L"HotBorderWidth", "1", Variant::ofShort(3)},
+        {L"PressedBorderWidth", "1", Variant::ofShort(4)},
+        {L"DisabledForeColor", sys(0x11), Variant::ofLong(0x0A0B0C)},
+        {L"Caption", "", Variant::ofString(L"&Save")},
+        {L"CentreCaption", "0", Variant::ofBool(true)},
+        {L"CaptionIndent", "4", Variant::ofShort(12)},
+        {L"MousePointer", "0", Variant::ofShort(99)},
+        {L"MouseIcon", "", {}},
+        {L"ShowFocusRectangle", "-1", Variant::ofBool(false)},
+        {L"OfficeXPColors", "0", Variant::ofBool(true)},
     };
     return rows;
 }

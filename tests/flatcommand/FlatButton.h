@@ -16,12 +16,17 @@ using kit::formFont;
 using kit::kPaint;
 using kit::kPlace;
 using kit::kPlaceBelow;
+using testing::AnyOf;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 namespace id = dispid::qvFlatCommand;
 
 /// One saved property.
 struct SavedRow {
     wchar_t const* name;
-    Variant other; ///< a value that is not the default, in the type of a bag; empty for objects
+    std::string initial; ///< as text; empty for objects
+    Variant other;       ///< a value that is not the default, in the type of a bag; empty for objects
 
     bool isObject() const { return other.type() == VT_EMPTY; }
 };
@@ -31,6 +36,7 @@ public:
     FlatButton(kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
                std::wstring const& name = L"Button1");
 
+    ComPtr<IPictureDisp> mouseIcon() const;
     /// Gives a property its other value, or another object; and all of them.
     void assign(SavedRow const& row);
     void assignAll();

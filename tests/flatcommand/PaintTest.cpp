@@ -37,16 +37,14 @@ TEST_F(FlatPaint, isRaisedAtOnceWhenTheButtonIsShownAgain)
 TEST_F(FlatPaint, isRaisedAfterThePictureIsComplete)
 {
     std::string found = "no event";
-    button.events().action = [&](kit::EventRecorder::Event const& event) {
+    kit::Inside const paint(button, "Paint", [&] {
         Look look = normalLook(L"Seen");
         look.back = RGB(7, 8, 9);
-        if (event.id == kPaint)
-            found = button.differencesFrom(look);
-    };
+        found = button.differencesFrom(look);
+    });
     EXPECT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
     button.setCaption(L"Seen");
     EXPECT_EQ(found, "");
-    button.events().action = nullptr;
 }
 
 TEST_F(FlatPaint, comesWithoutArguments)
@@ -97,12 +95,11 @@ TEST_F(FlatPaint, mousePointerAndMouseIconChangesDoNotRepaintTheButton)
 TEST_F(FlatPaint, mayAssignAPropertyAgainWithoutHangingUp)
 {
     int rounds = 0;
-    button.events().action = [&](kit::EventRecorder::Event const& event) {
-        if (event.id == kPaint && ++rounds < 4)
+    kit::Inside const paint(button, "Paint", [&] {
+        if (++rounds < 4)
             button->put_BackColor(static_cast<OLE_COLOR>(rounds));
-    };
+    });
     EXPECT_EQ(button->Refresh(), S_OK);
-    button.events().action = nullptr;
     EXPECT_EQ(rounds, 4);
     Look look = normalLook();
     look.back = 3;

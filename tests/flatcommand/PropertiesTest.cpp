@@ -11,9 +11,6 @@
 namespace quillet::flat {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 enum class Repaints { No, Yes };
 
 /// One property that is read and assigned by value.
@@ -96,12 +93,6 @@ protected:
         EXPECT_THAT(button.changes().take(), ElementsAre(told));
         button.forget();
     }
-    ComPtr<IPictureDisp> mouseIcon() const
-    {
-        ComPtr<IPictureDisp> icon;
-        EXPECT_EQ(button->get_MouseIcon(icon.put()), S_OK);
-        return icon;
-    }
     OLE_COLOR backColor() const
     {
         OLE_COLOR color = 0;
@@ -123,7 +114,7 @@ TEST_F(FlatProperties, ofANewInstanceHaveTheirInitialValues)
     Bstr tip(L"poison");
     EXPECT_EQ(button->get_ToolTipText(tip.put()), S_OK);
     EXPECT_EQ(tip.view(), L"");
-    EXPECT_FALSE(mouseIcon());
+    EXPECT_FALSE(button.mouseIcon());
     expectTheFormsFont();
 }
 
@@ -242,9 +233,9 @@ TEST_F(FlatProperties, mouseIconIsKeptTellsAndDoesNotRepaint)
     auto const icon = kit::newIconPicture();
     EXPECT_EQ(button->putref_MouseIcon(icon.get()), S_OK);
     expectToldAndPainted(id::MouseIcon, 0);
-    EXPECT_EQ(mouseIcon().get(), icon.get());
+    EXPECT_EQ(button.mouseIcon().get(), icon.get());
     EXPECT_EQ(button->putref_MouseIcon(nullptr), S_OK);
-    EXPECT_FALSE(mouseIcon());
+    EXPECT_FALSE(button.mouseIcon());
 }
 
 TEST_F(FlatProperties, enabledIsWhetherTheWindowTakesInput)

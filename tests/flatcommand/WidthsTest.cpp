@@ -5,8 +5,6 @@
 namespace quillet::flat {
 namespace {
 
-using testing::IsEmpty;
-
 using F = _qvFlatCommand;
 
 struct Width {

@@ -8,10 +8,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::AnyOf;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
-
 constexpr wchar_t const* kPictureNames[] = {L"Image", L"DisabledImage", L"HotImage", L"PressedImage"};
 
 class ImageBag : public SitedTest {
@@ -121,11 +117,8 @@ TEST_P(ImageBag, isFollowedByTheToolTipAndThenByThePaint)
     HWND const window = button.window();
     ASSERT_EQ(::GetWindowLongPtrA(window, GWLP_USERDATA), 0);
     bool subclassed = false;
-    button.events().action = [&](auto const&) {
-        subclassed = ::GetWindowLongPtrA(window, GWLP_USERDATA) != 0;
-    };
+    kit::Inside const any(button, "", [&] { subclassed = ::GetWindowLongPtrA(window, GWLP_USERDATA) != 0; });
     ASSERT_EQ(load(), S_OK);
-    button.events().action = nullptr;
     EXPECT_TRUE(subclassed);
 }
 

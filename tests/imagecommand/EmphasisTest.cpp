@@ -90,12 +90,11 @@ TEST_P(ImageEmphasis, isThereAtTheFirstPaintThatTheFocusBrings)
 {
     setDefault(false);
     int paints = 0;
-    button.events().action = [&](auto const& event) {
-        if (event.id == kPaint && ++paints == 1)
+    kit::Inside const paint(button, "Paint", [&] {
+        if (++paints == 1)
             expect(look(2)); // with the caption inside the border as drawn
-    };
+    });
     ASSERT_TRUE(kit::focus(button.window()));
-    button.events().action = nullptr;
     EXPECT_EQ(paints, 1);
 }
 

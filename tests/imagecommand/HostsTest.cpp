@@ -6,8 +6,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::IsEmpty;
-
 class ImageAtl : public ImageInputTest {
 protected:
     void expectColor(COLORREF color) { EXPECT_EQ(pixelAt(button(), 60, 20), color); }

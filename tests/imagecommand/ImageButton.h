@@ -17,6 +17,10 @@ using kit::kPaint;
 using kit::kPlace;
 using kit::kPlaceBelow;
 using kit::Names;
+using testing::AnyOf;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 /// The two classes: what a test has to know of each.
 struct Kind {

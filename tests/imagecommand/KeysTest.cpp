@@ -5,9 +5,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class ImageKeys : public ImageInputTest {
 protected:
     Names typed(BYTE key)

@@ -338,11 +338,10 @@ TEST_P(ImageLooks, areCompleteWhenThePaintIsTold)
     setColors();
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     std::string found = "no event";
-    button.events().action = [&](auto const&) {
+    kit::Inside const any(button, "", [&] {
         found = differencesFrom(button, withImage(look(kFore, RGB(7, 8, 9), kLight, kDark)));
-    };
+    });
     ASSERT_EQ(button->put_BackColor(RGB(7, 8, 9)), S_OK);
-    button.events().action = nullptr;
     EXPECT_EQ(found, "");
 }
 

@@ -81,14 +81,6 @@ public:
     {
         ::SendMessageW(m_window, message, keys, MAKELPARAM(at.x, at.y));
     }
-    /// Runs inside each event of that name until it is set to nothing.
-    void whenever(std::string const& name, std::function<void()> const& action)
-    {
-        events().action = [this, name, action](auto const&) {
-            if (lastEvent() == name)
-                action();
-        };
-    }
     Names press(kit::MouseButton which = kit::MouseButton::Left)
     {
         return during([&] { kit::press(which); }, "MouseDown");

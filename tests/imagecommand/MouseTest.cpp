@@ -7,8 +7,6 @@ namespace quillet::image {
 namespace {
 
 using kit::MouseButton;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class ImageHover : public ImageInputTest {};
 QV_BOTH_HOSTS(ImageHover);
@@ -194,7 +192,7 @@ TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatOpenedADialog)
 {
     button().moveTo(kInside);
     bool opened = false;
-    button().whenever("MouseDown", [&] {
+    kit::Inside const event(button(), "MouseDown", [&] {
         opened = true;
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
@@ -202,7 +200,6 @@ TEST_P(ImageClick, needsAPressOfItsOwnAfterOneThatOpenedADialog)
         });
     });
     button().press();
-    button().events().action = nullptr;
     ASSERT_TRUE(opened);
     EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
 }
@@ -257,7 +254,7 @@ TEST_P(ImageLostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)
 TEST_P(ImageLostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
 {
     bool hot = true;
-    button().whenever("Click", [&] {
+    kit::Inside const event(button(), "Click", [&] {
         kit::runDialog(form.window(), {150, 120}, [&](HWND dialog) {
             kit::moveCursorTo(dialog, 20, 20);
             EXPECT_TRUE(kit::pumpUntil([&] { return button().count("MouseExit") > 0; }));
@@ -266,7 +263,6 @@ TEST_P(ImageLostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
     });
     button().press();
     button().release();
-    button().events().action = nullptr;
     EXPECT_FALSE(hot);
     EXPECT_THAT(button().moveTo(kInside), ElementsAre("MouseEnter", "Paint", "MouseMove"));
 }

@@ -9,8 +9,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::IsEmpty;
-
 using Get = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp**);
 using Put = HRESULT (STDMETHODCALLTYPE _qvImageCommand::*)(IPictureDisp*);
 

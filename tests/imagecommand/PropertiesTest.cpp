@@ -5,9 +5,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class ImageProperties : public ImageTest {
 protected:
     ImageButton button{library(), form, kind()};
@@ -113,14 +110,13 @@ TEST_P(ImageProperties, initialisingPaintsBeforeThePicturesAreEmptied)
     initialise();
     ASSERT_EQ(button->putref_Image(pictureOf(kImage).get()), S_OK);
     short type = -2;
-    button.events().action = [&](auto const&) {
+    kit::Inside const any(button, "", [&] {
         ComPtr<IPictureDisp> picture;
         button->get_Image(picture.put());
         type = typeOf(picture.get());
-    };
+    });
     ASSERT_EQ(button.initNew(), S_OK);
     EXPECT_EQ(type, PICTYPE_BITMAP);
-    button.events().action = nullptr;
     EXPECT_EQ(value(L"Image"), "none");
 }
 
@@ -133,13 +129,12 @@ TEST_P(ImageProperties, initialisingPaintsBetweenTheFocusRectangleAndTheDarkBord
     ASSERT_EQ(button->put_ShowFocusRectangle(static_cast<VARIANT_BOOL>(~focusRectangle)), S_OK);
     ASSERT_EQ(button->put_CheckButton(VARIANT_TRUE), S_OK);
     std::vector<std::string> seen;
-    button.events().action = [&](auto const&) {
+    kit::Inside const any(button, "", [&] {
         for (wchar_t const* const name : {L"CaptionIndent", L"ShowFocusRectangle", L"DarkBorderColor",
                                           L"HotDarkBorderColor", L"CheckButton"})
             seen.push_back(value(name));
-    };
+    });
     ASSERT_EQ(button.initNew(), S_OK);
-    button.events().action = nullptr;
     EXPECT_THAT(seen, ElementsAre("4", std::to_string(focusRectangle), "99", "99", "-1"));
 }
 

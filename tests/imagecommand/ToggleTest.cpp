@@ -4,9 +4,6 @@
 namespace quillet::image {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class ImageToggle : public ImageInputTest {
 protected:
     ImageToggle()
@@ -40,9 +37,8 @@ TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
 {
     button().moveAndPress();
     bool checked = false;
-    button().whenever("MouseUp", [&] { checked = button().isChecked(); });
+    kit::Inside const event(button(), "MouseUp", [&] { checked = button().isChecked(); });
     button().release();
-    button().events().action = nullptr;
     EXPECT_TRUE(checked);
 }
 
@@ -55,13 +51,12 @@ TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
     button().moveAndPress();
     COLORREF edge = CLR_INVALID;
     COLORREF look = CLR_INVALID;
-    button().whenever("MouseUp", [&] {
+    kit::Inside const event(button(), "MouseUp", [&] {
         WindowDc const dc(button().window());
         edge = ::GetPixel(dc.get(), 0, 0);
         look = ::GetPixel(dc.get(), 60, 20);
     });
     button().release();
-    button().events().action = nullptr;
     EXPECT_EQ(edge, kEdge);
     EXPECT_EQ(look, kHotLook);
 }

@@ -52,4 +52,23 @@ private:
     std::optional<Connection> m_toChanges;
 };
 
+/// Runs an action inside each event of that name, of any where it is empty, as long as it lives.
+class Inside {
+public:
+    Inside(Listener& listener, std::string const& name, std::function<void()> const& action)
+        : m_events(&listener.events())
+    {
+        m_events->action = [&listener, name, action](auto const&) {
+            if (name.empty() || listener.lastEvent() == name)
+                action();
+        };
+    }
+    ~Inside() { m_events->action = nullptr; }
+    Inside(Inside const&) = delete;
+    Inside& operator=(Inside const&) = delete;
+
+private:
+    ComPtr<EventRecorder> m_events;
+};
+
 } // namespace quillet::kit

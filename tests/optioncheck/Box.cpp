@@ -103,14 +103,6 @@ bool Box::captionHas(COLORREF color) const
     return shown.count(color) > 0;
 }
 
-void Box::whenever(std::string const& name, std::function<void()> const& action)
-{
-    events().action = [this, name, action](auto const&) {
-        if (lastEvent() == name)
-            action();
-    };
-}
-
 void Box::moveTo(POINT at) { EXPECT_TRUE(kit::moveCursorTo(m_inner, at.x, at.y)); }
 
 Names Box::press(kit::MouseButton which)

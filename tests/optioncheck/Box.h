@@ -25,6 +25,8 @@
 namespace quillet::box {
 
 using kit::Names;
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 /// What tells the two controls apart from outside.
 struct Kind {
@@ -107,14 +109,17 @@ public:
     COLORREF pixel(POINT at) const;
     /// Whether a pixel of the caption has the colour.
     bool captionHas(COLORREF color) const;
+    void expectCaption(COLORREF color, COLORREF notThat) const
+    {
+        EXPECT_TRUE(captionHas(color));
+        EXPECT_FALSE(captionHas(notThat));
+    }
 
     /// Sends the inner button a message of the mouse.
     void send(UINT message, POINT at, WPARAM keys = 0) const
     {
         ::SendMessageW(m_inner, message, keys, MAKELPARAM(at.x, at.y));
     }
-    /// Runs inside each event of that name until it is set to nothing.
-    void whenever(std::string const& name, std::function<void()> const& action);
 
     // A user's deeds, each awaited.
     void moveTo(POINT at);

@@ -4,8 +4,6 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-
 class Group : public BoxTest {
 protected:
     ~Group() override

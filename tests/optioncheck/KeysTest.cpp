@@ -6,9 +6,6 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr COLORREF kBack = RGB(240, 230, 140);
 
 class Keys : public EachBoxTest {
@@ -19,9 +16,11 @@ protected:
     Keys() { box.start(*newBag({{L"BackColor", Variant::ofLong(kBack)}}).get()); }
 
     void focusElsewhere() { EXPECT_TRUE(kit::focus(edit.get())); }
-    void focus()
+    /// Has the focus and that value; nothing has happened yet.
+    void focus(long value = 0)
     {
         EXPECT_TRUE(kit::focus(box.inner()));
+        EXPECT_EQ(box.setValue(value), S_OK);
         kit::pumpPending();
         box.events().forget();
     }
@@ -34,15 +33,13 @@ protected:
 TEST_P(Keys, spaceClicks)
 {
     focus();
-    box.setValue(0);
     EXPECT_THAT(typed(VK_SPACE), ElementsAre("KeyDown", "KeyPress", "KeyUp", "Click"));
     EXPECT_EQ(box.value(), 1);
 }
 
 TEST_P(Keys, spaceTurnsACheckBoxRoundAndLeavesAChosenOption)
 {
-    focus();
-    box.setValue(1);
+    focus(1);
     typed(VK_SPACE);
     EXPECT_EQ(box.value(), isOption() ? 1 : 0);
 }
@@ -50,7 +47,6 @@ TEST_P(Keys, spaceTurnsACheckBoxRoundAndLeavesAChosenOption)
 TEST_P(Keys, otherKeysRaiseTheirEventsAlone)
 {
     focus();
-    box.setValue(0);
     EXPECT_THAT(typed('A'), ElementsAre("KeyDown", "KeyPress", "KeyUp"));
     EXPECT_THAT(typed(VK_F2), ElementsAre("KeyDown", "KeyUp"));
     EXPECT_EQ(box.value(), 0);
@@ -59,7 +55,6 @@ TEST_P(Keys, otherKeysRaiseTheirEventsAlone)
 TEST_P(Keys, tellTheirCodeAndTheirCharacter)
 {
     focus();
-    box.events().forget();
     kit::typeKey('A');
     EXPECT_TRUE(kit::pumpUntil([&] { return box.count("KeyUp") > 0; }));
     auto const& events = box.events().events;
@@ -75,7 +70,6 @@ TEST_P(Keys, tellTheirCodeAndTheirCharacter)
 TEST_P(Keys, tellTheShiftState)
 {
     focus();
-    box.events().forget();
     ::keybd_event(VK_CONTROL, 0, 0, 0);
     ::keybd_event(VK_SHIFT, 0, 0, 0);
     kit::typeKey(VK_F5);
@@ -96,9 +90,6 @@ TEST_P(Keys, tellTheShiftState)
 TEST_P(Keys, usedUpByASinkDoNothing)
 {
     focus();
-    box.setValue(0);
-    kit::pumpPending();
-    box.events().forget();
     class Eater final : public kit::Counterpart<IDispatch> {
     public:
         STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }

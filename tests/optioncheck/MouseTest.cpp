@@ -5,8 +5,6 @@ namespace quillet::box {
 namespace {
 
 using kit::MouseButton;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class Mouse : public StartedBoxTest {
 protected:
@@ -75,14 +73,13 @@ TEST_P(Mouse, isHeldAndTheLookIsHotWhenMouseMoveIsRaised)
     box.setColours(kFore, kFore);
     HWND held = nullptr;
     COLORREF inside = CLR_INVALID;
-    box.events().action = [&](auto const& event) {
-        if (inside != CLR_INVALID || nameOfEvent(event.id) != "MouseMove")
+    kit::Inside const move(box, "MouseMove", [&] {
+        if (inside != CLR_INVALID)
             return;
         held = ::GetCapture();
-        inside = box.pixel(kInGlyph);
-    };
+        inside = glyph();
+    });
     box.enter();
-    box.events().action = nullptr;
     EXPECT_EQ(held, box.inner());
     EXPECT_EQ(inside, kLightGrey);
 }
@@ -145,12 +142,10 @@ TEST_P(Mouse, coloursTheCaptionWhereTheHotColourDiffers)
     box.setColours(kFore, kHot);
     EXPECT_TRUE(box.captionHas(kFore));
     box.enter();
-    EXPECT_TRUE(box.captionHas(kHot));
-    EXPECT_FALSE(box.captionHas(kFore));
+    box.expectCaption(kHot, kFore);
     EXPECT_EQ(glyph(), kWhite);
     box.leave();
-    EXPECT_TRUE(box.captionHas(kFore));
-    EXPECT_FALSE(box.captionHas(kHot));
+    box.expectCaption(kFore, kHot);
 }
 
 TEST_P(Mouse, shadesTheGlyphWhereTheHotColourIsTheSame)
@@ -238,7 +233,7 @@ TEST_P(Mouse, staysWithWhomAnEventGaveItTo)
 {
     UniqueWindow const other = newEdit(300, 30, 40, 20);
     for (char const* event : {"Click", "MouseUp"}) {
-        box.whenever(event, [&] { ::SetCapture(other.get()); });
+        kit::Inside const inside(box, event, [&] { ::SetCapture(other.get()); });
         box.enter();
         box.press();
         box.letGo();
@@ -246,7 +241,6 @@ TEST_P(Mouse, staysWithWhomAnEventGaveItTo)
         box.moveTo(kInsideToo);
         kit::pumpPending();
         EXPECT_EQ(::GetCapture(), other.get()) << event;
-        box.events().action = nullptr;
         ::ReleaseCapture();
         box.moveTo(kBeside);
         kit::pumpPending();

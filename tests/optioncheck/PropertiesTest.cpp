@@ -11,9 +11,6 @@ namespace {
 
 namespace id = dispid::qvFlatOption; // and of the other
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr long kButtonText = static_cast<long>(0x80000012);
 constexpr long kButtonFace = static_cast<long>(0x8000000F);
 
@@ -188,11 +185,9 @@ TEST_P(Properties, showAboutWaitsForItsBox)
 
 TEST_P(Properties, resizeCoversTheControlAndRaisesResize)
 {
-    RECT const larger = {20, 30, 200, 70};
     RECT inner = {};
-    box.events().action = [&](auto const&) { ::GetClientRect(box.inner(), &inner); };
-    EXPECT_EQ(box.as<IOleInPlaceObject>()->SetObjectRects(&larger, &larger), S_OK);
-    box.events().action = nullptr;
+    kit::Inside const any(box, "", [&] { ::GetClientRect(box.inner(), &inner); });
+    box.hosted().place({20, 30, 200, 70});
     EXPECT_THAT(box.happened(), ElementsAre("Resize"));
     EXPECT_EQ(inner.right, 180) << "when Resize is raised";
     ::GetClientRect(box.inner(), &inner);

@@ -7,8 +7,6 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Wide = std::vector<std::wstring>;
 
 constexpr long kButtonShadow = static_cast<long>(colour::kButtonShadow);
@@ -156,8 +154,7 @@ TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
     box.setColours(RGB(200, 0, 0), RGB(200, 0, 0));
     EXPECT_EQ(box.hosted().load(*newBag({{L"ForeColor", Variant::ofLong(RGB(0, 0, 200))}}).get()), S_OK);
     EXPECT_EQ(box.number(L"ForeColor"), static_cast<long>(RGB(0, 0, 200)));
-    EXPECT_TRUE(box.captionHas(RGB(0, 0, 200)));
-    EXPECT_FALSE(box.captionHas(RGB(200, 0, 0)));
+    box.expectCaption(RGB(0, 0, 200), RGB(200, 0, 0));
     EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"ForeColor", L"ForeColor"));
 }
 
@@ -213,9 +210,8 @@ TEST_P(Saving, setsTheToolTipUpAfterResize)
     box.hosted().setSite();
     HWND const inner = box.hwnd();
     LONG_PTR subclassed = -1;
-    box.events().action = [&](auto const&) { subclassed = ::GetWindowLongPtrA(inner, GWLP_USERDATA); };
+    kit::Inside const any(box, "", [&] { subclassed = ::GetWindowLongPtrA(inner, GWLP_USERDATA); });
     EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
-    box.events().action = nullptr;
     EXPECT_EQ(subclassed, 0);
     EXPECT_NE(::GetWindowLongPtrA(inner, GWLP_USERDATA), 0);
 }

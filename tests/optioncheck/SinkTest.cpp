@@ -4,9 +4,6 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 /// A thing to be done inside an event.
 struct Deed {
     char const* name;
@@ -81,17 +78,14 @@ TEST_P(Sink, mayDoItInsideTheEvent)
     Box box(*kind, library(), form);
     box.start();
     bool done = false;
-    box.events().action = [&, &occasion = occasion, &deed = deed](auto const& event) {
-        if (done || nameOfEvent(event.id) != occasion.event)
-            return;
-        done = true;
-        deed.act(box);
-    };
+    kit::Inside const inside(box, occasion.event, [&, &act = deed.act] {
+        if (!std::exchange(done, true))
+            act(box);
+    });
     occasion.provoke(box);
     EXPECT_TRUE(kit::pumpUntil([&] { return done; })) << occasion.event << " did not come";
     kit::release(kit::MouseButton::Left);
     kit::pumpPending();
-    box.events().action = nullptr;
 }
 
 INSTANTIATE_TEST_SUITE_P(that, Sink,
@@ -117,6 +111,11 @@ protected:
         EXPECT_EQ(box.hosted().setExtent(), S_OK);
         box.happened();
     }
+    Names activate(RECT const& at)
+    {
+        box.hosted().site().position = at;
+        return activate();
+    }
     Names activate()
     {
         EXPECT_EQ(box.hosted().activate(), S_OK);
@@ -132,6 +131,12 @@ protected:
         load();
         activate();
     }
+    /// Asks for the window, to which nobody gave a size.
+    void makeWindow()
+    {
+        EXPECT_TRUE(::IsWindow(box.hwnd()));
+        EXPECT_THAT(box.happened(), IsEmpty());
+    }
     void leave() { EXPECT_EQ(box.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK); }
     void close() { EXPECT_EQ(box.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK); }
 };
@@ -140,9 +145,8 @@ TEST_P(Resize, isRaisedAtTheFirstSize)
 {
     load();
     RECT inner = {};
-    box.events().action = [&](auto const&) { ::GetClientRect(box.hwnd(), &inner); };
+    kit::Inside const any(box, "", [&] { ::GetClientRect(box.hwnd(), &inner); });
     EXPECT_THAT(activate(), ElementsAre("Resize"));
-    box.events().action = nullptr;
     EXPECT_EQ(inner.right, kPlace.right - kPlace.left) << "when Resize is raised";
     EXPECT_EQ(inner.bottom, kPlace.bottom - kPlace.top);
 }
@@ -158,8 +162,7 @@ TEST_P(Resize, isRaisedAtTheFirstSizeOfANewControl)
 TEST_P(Resize, isRaisedAtTheFirstSizeWhoeverAskedForTheWindowBefore)
 {
     load();
-    EXPECT_TRUE(::IsWindow(box.hwnd()));
-    EXPECT_THAT(box.happened(), IsEmpty()) << "nobody gave it a size";
+    makeWindow();
     EXPECT_THAT(activate(), ElementsAre("Resize"));
 }
 
@@ -167,8 +170,7 @@ TEST_P(Resize, isRaisedAtTheFirstSizeWhateverWasToldBeforeActivation)
 {
     load();
     EXPECT_THAT(place(kPlace), IsEmpty());
-    EXPECT_TRUE(::IsWindow(box.hwnd()));
-    EXPECT_THAT(box.happened(), IsEmpty());
+    makeWindow();
     EXPECT_THAT(activate(), ElementsAre("Resize"));
 }
 
@@ -178,12 +180,10 @@ TEST_P(Resize, isRaisedByAnActivationWithAnotherSizeAlone)
     leave();
     EXPECT_THAT(activate(), IsEmpty());
     leave();
-    box.hosted().site().position = kLarger;
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
     leave();
     EXPECT_THAT(place(kPlace), IsEmpty());
-    box.hosted().site().position = kPlace;
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(kPlace), ElementsAre("Resize"));
 }
 
 TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
@@ -192,8 +192,7 @@ TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
     close();
     EXPECT_THAT(activate(), IsEmpty());
     close();
-    box.hosted().site().position = kLarger;
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
     close();
     EXPECT_TRUE(::IsWindow(box.hwnd()));
     EXPECT_THAT(activate(), IsEmpty()) << "asked for in between, the window has the last size";
@@ -216,9 +215,8 @@ TEST_P(Resize, isRaisedOnceForEachChange)
 TEST_P(Resize, whoseSinkClosesTheControlEndsTheActivation)
 {
     load();
-    box.events().action = [&](auto const&) { close(); };
+    kit::Inside const any(box, "", [&] { close(); });
     box.hosted().activate();
-    box.events().action = nullptr;
     EXPECT_THAT(box.happened(), ElementsAre("Resize"));
     EXPECT_EQ(form.record().count("Site.OnInPlaceActivate"), form.record().count("Site.OnInPlaceDeactivate"));
     EXPECT_EQ(::GetWindow(form.window(), GW_CHILD), nullptr);

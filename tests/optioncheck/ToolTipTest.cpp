@@ -8,8 +8,6 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using winsvc::theToolTipWindow;
 using winsvc::ToolTipWatch;
 using winsvc::toolTipWindows;

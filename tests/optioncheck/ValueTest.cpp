@@ -5,13 +5,18 @@
 namespace quillet::box {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 class OptionValue : public BoxTest {
 protected:
     Box box{kOption, library(), form};
 
+    /// Starts as a chosen one; nothing has happened since.
+    void startChosen()
+    {
+        box.start();
+        box.setValue(1);
+        box.happened();
+        box.changes().take();
+    }
     void offerTabStop(Variant const& value) { box.extender().offer(L"TabStop", value); }
     bool tabStop() { return box.extender().value(L"TabStop").toBool(); }
     std::vector<std::string> tabStopWrites()
@@ -45,7 +50,6 @@ TEST_F(OptionValue, ofANewOneIsZero)
 TEST_F(OptionValue, oneChoosesItAndRaisesClick)
 {
     box.start();
-    box.changes().take();
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_EQ(box.value(), 1);
     EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), BST_CHECKED);
@@ -68,10 +72,7 @@ TEST_F(OptionValue, otherThanOneClearsItWithoutAClick)
 
 TEST_F(OptionValue, oneOfTheChosenIsToldButNoClick)
 {
-    box.start();
-    box.setValue(1);
-    box.happened();
-    box.changes().take();
+    startChosen();
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_THAT(box.happened(), IsEmpty());
     EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
@@ -106,10 +107,10 @@ TEST_F(OptionValue, givesAHostThatWantedNoTabStopNone)
 
 TEST_F(OptionValue, readsTheHostsTabStopAtTheEndOfLoading)
 {
-    box.whenever("Resize", [&] { offerTabStop(Variant::ofBool(false)); }); // the last step before
+    // The last step before it.
+    kit::Inside const resize(box, "Resize", [&] { offerTabStop(Variant::ofBool(false)); });
     box.hosted().setSite();
     EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
-    box.events().action = nullptr;
     offerTabStop(Variant::ofBool(true));
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_FALSE(tabStop());
@@ -117,9 +118,7 @@ TEST_F(OptionValue, readsTheHostsTabStopAtTheEndOfLoading)
 
 TEST_F(OptionValue, isStoredThenToldAndThenTakesTheTabStopAlong)
 {
-    box.start();
-    box.setValue(1);
-    box.changes().take();
+    startChosen();
     long value = -1;
     bool told = false;
     box.changes().action = [&](DISPID) {
@@ -172,7 +171,6 @@ TEST_F(OptionValue, showsAtOnce)
 
 TEST_F(CheckValue, takesThreeStatesAndRaisesClickForEachChange)
 {
-    box.changes().take();
     for (long const state : {1L, 2L, 0L, 2L, 1L, 0L}) {
         EXPECT_EQ(box.setValue(state), S_OK);
         EXPECT_EQ(box.value(), state);
