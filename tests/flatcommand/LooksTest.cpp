@@ -7,6 +7,16 @@ namespace {
 
 class FlatLooks : public ShownTest {
 protected:
+    void expectDrawn(Look const& look) const
+    {
+        EXPECT_EQ(button->DrawButton(), S_OK);
+        expect(look);
+    }
+    void expectRefreshed(Look const& look) const
+    {
+        EXPECT_EQ(button->Refresh(), S_OK);
+        expect(look);
+    }
     void expect(Look const& look) const { EXPECT_EQ(button.differencesFrom(look), ""); }
 };
 
@@ -28,8 +38,7 @@ TEST_F(FlatLooks, hotShowsTheHotColoursAndWidth)
     button->put_HotForeColor(RGB(1, 1, 1));
     button->put_HotBackColor(RGB(200, 200, 1));
     button->put_HotBorderColor(RGB(3, 200, 3));
-    ASSERT_EQ(button->Refresh(), S_OK);
-    expect(withBorder(4, lookOf(RGB(1, 1, 1), RGB(200, 200, 1), RGB(3, 200, 3), L"&Hot")));
+    expectRefreshed(withBorder(4, lookOf(RGB(1, 1, 1), RGB(200, 200, 1), RGB(3, 200, 3), L"&Hot")));
     button.leave();
     expect(normalLook(L"&Hot"));
 }
@@ -40,15 +49,11 @@ TEST_F(FlatLooks, drawButtonDrawsTheStateThatTheLastPaintingFound)
     ASSERT_TRUE(kit::moveCursorTo(form.window(), 80, 200));
     kit::pumpPending();
     button.place({20, 180, 140, 220});
-    EXPECT_EQ(button->DrawButton(), S_OK);
-    expect(normalLook());
-    EXPECT_EQ(button->Refresh(), S_OK);
-    expect(hotLook());
+    expectDrawn(normalLook());
+    expectRefreshed(hotLook());
     button.place(kPlace);
-    EXPECT_EQ(button->DrawButton(), S_OK);
-    expect(hotLook());
-    EXPECT_EQ(button->Refresh(), S_OK);
-    expect(normalLook());
+    expectDrawn(hotLook());
+    expectRefreshed(normalLook());
 }
 
 TEST_F(FlatLooks, pressedShowsThePressedColoursAndWidth)
@@ -87,8 +92,7 @@ TEST_F(FlatLooks, atDesignTimeAPressedStateNeverShows)
     EXPECT_EQ(button->put_ShowFocusRectangle(VARIANT_FALSE), S_OK);
     button.makePressed();
     button.setUserMode(false);
-    ASSERT_EQ(button->DrawButton(), S_OK);
-    expect(emphasised(normalLook()));
+    expectDrawn(emphasised(normalLook()));
     button.setUserMode(true);
 }
 
@@ -97,8 +101,7 @@ TEST_F(FlatLooks, hotBackColorSetAtRestChangesNothingUntilTheMouseEnters)
     EXPECT_EQ(button->put_HotBackColor(RGB(9, 99, 199)), S_OK);
     kit::pumpPending();
     expect(normalLook());
-    ASSERT_EQ(button->Refresh(), S_OK);
-    expect(normalLook());
+    expectRefreshed(normalLook());
     button.makeHot();
     Look look = hotLook();
     look.back = RGB(9, 99, 199);
@@ -213,10 +216,8 @@ TEST_F(FlatLooks, atDesignTimeAHotStateNeverShows)
     button.makeHot();
     expect(hotLook());
     button.setUserMode(false);
-    ASSERT_EQ(button->DrawButton(), S_OK);
-    expect(normalLook());
-    ASSERT_EQ(button->Refresh(), S_OK);
-    expect(normalLook());
+    expectDrawn(normalLook());
+    expectRefreshed(normalLook());
 }
 
 TEST_F(FlatLooks, atDesignTimeADisabledControlIsDrawnDisabled)
@@ -224,8 +225,7 @@ TEST_F(FlatLooks, atDesignTimeADisabledControlIsDrawnDisabled)
     button.setCaption(L"&Off");
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     button.site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
-    ASSERT_EQ(button->DrawButton(), S_OK);
-    expect(disabledLook(L"&Off"));
+    expectDrawn(disabledLook(L"&Off"));
 }
 
 TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
@@ -233,8 +233,7 @@ TEST_F(FlatLooks, aDesignTimePaintSetsTheNormalState)
     button.setCaption(L"&Off");
     EXPECT_EQ(button->put_Enabled(VARIANT_FALSE), S_OK);
     button.setUserMode(false);
-    ASSERT_EQ(button->Refresh(), S_OK);
-    expect(normalLook(L"&Off"));
+    expectRefreshed(normalLook(L"&Off"));
 }
 
 } // namespace

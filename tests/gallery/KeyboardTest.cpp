@@ -5,6 +5,7 @@
 #include "gallery/host/FormObject.h"
 #include "gallery/host/TabOrder.h"
 #include "gallery/intrinsic/IntrinsicControl.h"
+#include "kit/NotCopied.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,12 +33,10 @@ std::map<std::wstring, FakeTraits> classes()
 }
 
 /// A key that is held down for one scope, as GetKeyState sees it.
-class HeldKey {
+class HeldKey : kit::NotCopied {
 public:
     explicit HeldKey(int key) : m_key(key) { set(0x80); }
     ~HeldKey() { set(0); }
-    HeldKey(HeldKey const&) = delete;
-    HeldKey& operator=(HeldKey const&) = delete;
 
 private:
     void set(BYTE state) const

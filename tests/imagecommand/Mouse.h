@@ -48,8 +48,6 @@ public:
         if (m_atl)
             m_atl->destroy();
     }
-    HostedButton(HostedButton const&) = delete;
-    HostedButton& operator=(HostedButton const&) = delete;
 
     _qvImageCommand* operator->() const noexcept { return m_dual.get(); }
     HWND window() const noexcept { return m_window; }

@@ -53,7 +53,7 @@ private:
 };
 
 /// Runs an action inside each event of that name, of any where it is empty, as long as it lives.
-class Inside {
+class Inside : NotCopied {
 public:
     Inside(Listener& listener, std::string const& name, std::function<void()> const& action)
         : m_events(&listener.events())
@@ -64,8 +64,6 @@ public:
         };
     }
     ~Inside() { m_events->action = nullptr; }
-    Inside(Inside const&) = delete;
-    Inside& operator=(Inside const&) = delete;
 
 private:
     ComPtr<EventRecorder> m_events;

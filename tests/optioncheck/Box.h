@@ -65,8 +65,6 @@ public:
     Box(Kind const& kind, kit::Library const& library, kit::FakeForm& form, RECT const& place = kPlace,
         std::wstring const& name = L"Box1", Mode mode = Mode::Run);
     ~Box() { remove(); }
-    Box(Box const&) = delete;
-    Box& operator=(Box const&) = delete;
 
     kit::Hosted& hosted() noexcept { return m_hosted; }
     kit::NamedObject& extender() noexcept { return m_hosted.site().extender(); }
@@ -145,11 +143,9 @@ private:
 };
 
 /// A window that runs the body whenever a message posted to it is handled.
-class PostedCall {
+class PostedCall : kit::NotCopied {
 public:
     explicit PostedCall(std::function<void()> body);
-    PostedCall(PostedCall const&) = delete;
-    PostedCall& operator=(PostedCall const&) = delete;
 
     void post() const { ::PostMessageW(m_window.get(), WM_APP, 0, 0); }
 

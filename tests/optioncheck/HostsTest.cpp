@@ -23,8 +23,6 @@ public:
         stopListening();
         m_host.destroy();
     }
-    AtlBox(AtlBox const&) = delete;
-    AtlBox& operator=(AtlBox const&) = delete;
 
     IDispatch& dispatch() const { return *query<IDispatch>(m_object.get()).get(); }
     long number(wchar_t const* name) const { return kit::getByName(dispatch(), name).value.toLong(); }

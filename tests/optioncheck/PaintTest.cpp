@@ -15,6 +15,11 @@ protected:
 
     Paint() { box.start(*newBag({{L"BackColor", Variant::ofLong(RGB(250, 240, 230))}}).get()); }
 
+    void disable(COLORREF hot)
+    {
+        box.setColours(kFore, hot);
+        box.disable();
+    }
     void expectGlyph(COLORREF color) const { EXPECT_EQ(box.pixel(kInGlyph), color); }
     void repaint() const
     {
@@ -26,8 +31,7 @@ protected:
 
 TEST_P(Paint, ofADisabledOneShowsAShadowedCaptionAndAGreyGlyph)
 {
-    box.setColours(kFore, kHot);
-    box.disable();
+    disable(kHot);
     box.expectCaption(shadow(), kFore);
     expectGlyph(kLightGrey);
     box.put(L"Enabled", true);
@@ -37,8 +41,7 @@ TEST_P(Paint, ofADisabledOneShowsAShadowedCaptionAndAGreyGlyph)
 
 TEST_P(Paint, ofADisabledOneLooksTheSameUnderTheMouse)
 {
-    box.setColours(kFore, kHot);
-    box.disable();
+    disable(kHot);
     box.moveTo(kInside);
     kit::pumpPending();
     box.refresh();
@@ -97,8 +100,7 @@ TEST_P(Paint, endsWhereAMessageEnablesTheBoxAgain)
 
 TEST_P(Paint, afterTheSystemAskedForItShowsTheSame)
 {
-    box.setColours(kFore, kFore);
-    box.disable();
+    disable(kFore);
     repaint();
     expectGlyph(kLightGrey);
     EXPECT_TRUE(box.captionHas(shadow()));
@@ -142,8 +144,7 @@ TEST_P(Paint, shadesNothingAtDesignTime)
 
 TEST_P(Paint, ofAnInactiveOneIsDisabledInAPictureToo)
 {
-    box.setColours(kFore, kFore);
-    box.disable();
+    disable(kFore);
     kit::Canvas drawn(120, 20);
     box.hosted().draw(drawn);
     EXPECT_EQ(drawnGlyph(drawn), kLightGrey);

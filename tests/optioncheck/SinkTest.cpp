@@ -137,6 +137,16 @@ protected:
         EXPECT_TRUE(::IsWindow(box.hwnd()));
         EXPECT_THAT(box.happened(), IsEmpty());
     }
+    /// By an activation after each end of the one before; ended again.
+    void expectOnlyForAnotherSize(std::function<void()> const& end)
+    {
+        loadAndActivate();
+        end();
+        EXPECT_THAT(activate(), IsEmpty());
+        end();
+        EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
+        end();
+    }
     void leave() { EXPECT_EQ(box.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK); }
     void close() { EXPECT_EQ(box.as<IOleObject>()->Close(OLECLOSE_NOSAVE), S_OK); }
 };
@@ -176,24 +186,14 @@ TEST_P(Resize, isRaisedAtTheFirstSizeWhateverWasToldBeforeActivation)
 
 TEST_P(Resize, isRaisedByAnActivationWithAnotherSizeAlone)
 {
-    loadAndActivate();
-    leave();
-    EXPECT_THAT(activate(), IsEmpty());
-    leave();
-    EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
-    leave();
+    expectOnlyForAnotherSize([&] { leave(); });
     EXPECT_THAT(place(kPlace), IsEmpty());
     EXPECT_THAT(activate(kPlace), ElementsAre("Resize"));
 }
 
 TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
 {
-    loadAndActivate();
-    close();
-    EXPECT_THAT(activate(), IsEmpty());
-    close();
-    EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
-    close();
+    expectOnlyForAnotherSize([&] { close(); });
     EXPECT_TRUE(::IsWindow(box.hwnd()));
     EXPECT_THAT(activate(), IsEmpty()) << "asked for in between, the window has the last size";
     RECT inner = {};

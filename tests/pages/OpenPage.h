@@ -7,6 +7,7 @@
 #include "kit/ControlTest.h"
 #include "kit/Counterpart.h"
 #include "kit/HostWindow.h"
+#include "kit/NotCopied.h"
 #include "typelib/Guids.h"
 #include "typelib/Interfaces.h"
 
@@ -52,7 +53,7 @@ inline bool isOfKind(HWND window, wchar_t const* windowClass)
     return ::lstrcmpiW(kind, windowClass) == 0;
 }
 
-class OpenPage {
+class OpenPage : kit::NotCopied {
 public:
     OpenPage(kit::Library const& library, CLSID const& page, int buttons = 1)
         : m_page(query<IPropertyPage2>(library.create(page).get()))
@@ -70,8 +71,6 @@ public:
         m_page->SetObjects(0, nullptr);
         m_page->SetPageSite(nullptr);
     }
-    OpenPage(OpenPage const&) = delete;
-    OpenPage& operator=(OpenPage const&) = delete;
 
     IPropertyPage2* operator->() const noexcept { return m_page.get(); }
     _qvFlatCommand& button(int index = 0) const noexcept
@@ -142,7 +141,7 @@ inline void choose(HWND list, std::wstring const& entry)
 }
 
 /// While it lives, the component that loads the system's help viewer gets this one. One at a time.
-class FakeHelp {
+class FakeHelp : kit::NotCopied {
 public:
     explicit FakeHelp(HMODULE component) : m_component(component)
     {
@@ -154,8 +153,6 @@ public:
         exchange(reinterpret_cast<void*>(&::LoadLibraryW), reinterpret_cast<void*>(&::GetProcAddress));
         s_viewer = nullptr;
     }
-    FakeHelp(FakeHelp const&) = delete;
-    FakeHelp& operator=(FakeHelp const&) = delete;
 
     /// What it was last asked for.
     struct {

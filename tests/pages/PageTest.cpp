@@ -351,7 +351,7 @@ TEST_F(Pages, thePicturesPageClearsOnlyWhatTheControlCanLose)
 }
 
 /// Makes a class known to this process alone.
-class KnownClass {
+class KnownClass : kit::NotCopied {
 public:
     KnownClass(kit::Library const& library, CLSID const& classId)
     {
@@ -360,8 +360,6 @@ public:
                   S_OK);
     }
     ~KnownClass() { ::CoRevokeClassObject(m_cookie); }
-    KnownClass(KnownClass const&) = delete;
-    KnownClass& operator=(KnownClass const&) = delete;
 
 private:
     DWORD m_cookie = 0;
