@@ -14,8 +14,9 @@ target_compile_options(quillet_options INTERFACE
     -Wno-array-bounds -Wno-restrict # GCC 12 finds fault with its own string library's appending
     $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-warning-option> # which clang has no word for
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
-    # What nobody calls goes at the link. (A target that is compiled as one has nothing of that kind, and sections are aligned.)
-    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_WHOLE_PROGRAM>>>:-ffunction-sections;-fdata-sections>)
+    # What nobody calls goes at the link, where a target does not say that it has nothing of the kind, or does not care:
+    # sections are aligned, and the linker takes its time for each.
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_ALL_IS_USED>>>:-ffunction-sections;-fdata-sections>)
 # Static run time: only system DLLs are imported (a target may ask for another). No time stamp: equal sources give equal files.
 target_link_options(quillet_options INTERFACE
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:QUILLET_SHARED_RUN_TIME>>>:-static>
