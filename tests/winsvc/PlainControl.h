@@ -5,11 +5,11 @@
 #include "base/Module.h"
 #include "kit/FakeForm.h"
 #include "kit/FakeSite.h"
+#include "kit/NotCopied.h"
 #include "kit/UiThread.h"
 #include "surface/Surface.h"
 #include "surface/window/ThreadState.h"
 #include "winsvc/modToolTip.h"
-#include "kit/NotCopied.h"
 
 #include <ole2.h>
 #include <olectl.h>
