@@ -10,7 +10,7 @@
 #include "gallery/form/FileBytes.h"
 #include "gallery/form/Names.h"
 #include "gallery/host/HostedControl.h"
-#include "gallery/host/OwnWindow.h"
+#include "gallery/intrinsic/OwnWindow.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,8 +3,8 @@
 #include "gallery/form/Fonts.h"
 #include "gallery/form/FormValues.h"
 #include "gallery/host/Form.h"
-#include "gallery/host/OwnWindow.h"
 #include "gallery/intrinsic/IntrinsicControl.h"
+#include "gallery/intrinsic/OwnWindow.h"
 #include "gallery/intrinsic/PaintScope.h"
 
 #include <algorithm>
