@@ -37,9 +37,9 @@ inline DWORD run(std::wstring command)
 }
 
 /// Runs regsvr32 with the arguments and the component's path behind them; 0 for success.
-inline DWORD regsvr32(std::wstring const& arguments)
+inline DWORD regsvr32(wchar_t const* arguments)
 {
-    return run(L"regsvr32.exe /s " + arguments + L" \"" + Library::path() + L"\"");
+    return run(std::wstring(L"regsvr32.exe /s ") + arguments + L" \"" + Library::path() + L"\"");
 }
 
 } // namespace quillet::kit
