@@ -171,7 +171,8 @@ TEST_F(FlatBagRead, writesFieldsWithoutRunningTheirSetters)
     putAllValues();
     button.changes().take();
     load();
-    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT, id::MouseIcon)) << "but of the two objects";
+    EXPECT_THAT(button.changes().take(), ElementsAreArray<DISPID>({DISPID_FONT, id::MouseIcon}))
+        << "but of the two objects";
 }
 
 // Whatever a document holds, a control loads it or refuses it.

@@ -41,7 +41,7 @@ TEST_F(FlatBagWrite, writesNothingForDefaults)
 TEST_F(FlatBagWrite, writesOnlyTheCaptionOfANewInstance)
 {
     initialise();
-    ASSERT_THAT(written(), ElementsAre(L"Caption"));
+    ASSERT_THAT(written(), ElementsAreArray({L"Caption"}));
     EXPECT_EQ(bag->writes[0].value.toString().view(), L"Button1");
 }
 
@@ -50,7 +50,7 @@ TEST_F(FlatBagWrite, stillWritesOnlyTheCaptionAfterTheInstanceHasBeenPainted)
     button.start();
     ASSERT_EQ(button->Refresh(), S_OK);
     kit::pumpPending();
-    EXPECT_THAT(written(), ElementsAre(L"Caption"));
+    EXPECT_THAT(written(), ElementsAreArray({L"Caption"}));
 }
 
 TEST_F(FlatBagWrite, writesNoDefaultsEvenWhenAllPropertiesAreAskedFor)
@@ -88,7 +88,7 @@ TEST_F(FlatBagWrite, writesEachPropertyAloneWhenOnlyItDiffers)
     for (SavedRow const& row : savedRows()) {
         loadDefaults();
         button.assign(row);
-        ASSERT_THAT(written(), ElementsAre(row.name));
+        ASSERT_THAT(written(), ElementsAreArray({row.name}));
         expectRow(bag->writes[0], row);
     }
 }
@@ -97,7 +97,7 @@ TEST_F(FlatBagWrite, writesABorderStyleBeyond16BitsWholeAndReadsItBack)
 {
     loadDefaults();
     ASSERT_EQ(button->put_BorderStyle(static_cast<pdsButtonBorderStyleConstants>(70000)), S_OK);
-    ASSERT_THAT(written(), ElementsAre(L"BorderStyle"));
+    ASSERT_THAT(written(), ElementsAreArray({L"BorderStyle"}));
     EXPECT_EQ(bag->writes[0].value.toLong(), 70000);
     loadDefaults();
     ASSERT_EQ(button.load(*bag.get()), S_OK);
@@ -121,14 +121,14 @@ TEST_F(FlatBagWrite, comparesTheFontByValueWithTheFormsPresentOne)
     EXPECT_THAT(written(), IsEmpty());
     auto const other = kit::newFont(L"Tahoma", 14);
     button.offerFont(other.get());
-    EXPECT_THAT(written(), ElementsAre(L"Font"));
+    EXPECT_THAT(written(), ElementsAreArray({L"Font"}));
 }
 
 TEST_F(FlatBagWrite, writesAFontThatWasChangedInPlace)
 {
     loadDefaults();
     button.font()->put_Bold(TRUE);
-    ASSERT_THAT(written(), ElementsAre(L"Font"));
+    ASSERT_THAT(written(), ElementsAreArray({L"Font"}));
     BOOL bold = FALSE;
     query<IFont>(bag->value(L"Font").toObject().get())->get_Bold(&bold);
     EXPECT_TRUE(bold);

@@ -4,7 +4,7 @@
 namespace quillet::flat {
 namespace {
 
-using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 
 using Key = kit::AccessKey;
 
@@ -37,7 +37,7 @@ TEST_F(FlatCaption, isVisibleInTheExpectationItselfAndSoIsTheUnderline)
 TEST_F(FlatCaption, hasTheCharacterBehindTheAmpersandUnderlined)
 {
     expectShown(L"&Save");
-    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L's'}, Key{FALT, L'S'}));
+    EXPECT_THAT(accelerators(), UnorderedElementsAreArray({Key{FALT, L's'}, Key{FALT, L'S'}}));
 }
 
 TEST_F(FlatCaption, holdingTwoAmpersandsInARowHasOnlyTheFirstRemovedAndTheSecondUnderlined)
@@ -59,11 +59,11 @@ TEST_F(FlatCaption, withoutAmpersandClearsAccessKeys)
 TEST_F(FlatCaption, hasItsMarkerAnywhere)
 {
     expectShown(L"Sa&ve");
-    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'v'}, Key{FALT, L'V'}));
+    EXPECT_THAT(accelerators(), UnorderedElementsAreArray({Key{FALT, L'v'}, Key{FALT, L'V'}}));
     expectShown(L"Save&!");
     expectShown(L"\x00C4nd&ern");
     expectShown(L"S&ave && &close");
-    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'a'}, Key{FALT, L'A'}));
+    EXPECT_THAT(accelerators(), UnorderedElementsAreArray({Key{FALT, L'a'}, Key{FALT, L'A'}}));
 }
 
 TEST_F(FlatCaption, withTheMarkerAtItsEndHasNoAccessKey)
@@ -81,7 +81,7 @@ TEST_F(FlatCaption, hasItsMarkAtThe32767thCharacterAtMost)
 {
     std::wstring const before(32766, L' ');
     button.setCaption((before + L"&k").c_str());
-    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'k'}, Key{FALT, L'K'}));
+    EXPECT_THAT(accelerators(), UnorderedElementsAreArray({Key{FALT, L'k'}, Key{FALT, L'K'}}));
 }
 
 TEST_F(FlatCaption, withAMarkBeyond16BitsEndsThePaintSilently)
@@ -93,7 +93,7 @@ TEST_F(FlatCaption, withAMarkBeyond16BitsEndsThePaintSilently)
     EXPECT_EQ(button.events().count(kPaint), 1);
     EXPECT_EQ(button->DrawButton(), S_OK);
     expect(normalLook(L"&Old")); // a paint that ends early shows nothing
-    EXPECT_THAT(accelerators(), UnorderedElementsAre(Key{FALT, L'o'}, Key{FALT, L'O'}));
+    EXPECT_THAT(accelerators(), UnorderedElementsAreArray({Key{FALT, L'o'}, Key{FALT, L'O'}}));
     expectShown(L"&New");
 }
 
@@ -189,7 +189,7 @@ TEST_F(FlatCaption, takesTheUnderlineOffWithoutTellingOfAChange)
     button.changes().take();
     button.setFont(kit::copyOf(*formFont().get(), true).get());
     EXPECT_FALSE(kit::isUnderlined(*button.font().get()));
-    EXPECT_THAT(button.changes().take(), ElementsAre(DISPID_FONT)) << "the setter's own, and no other";
+    EXPECT_THAT(button.changes().take(), ElementsAreArray({DISPID_FONT})) << "the setter's own, and no other";
 }
 
 TEST_F(FlatCaption, doesNotUnderlineTheFormsOwnFontNorTheFontOfASibling)

@@ -17,7 +17,6 @@ using kit::kPaint;
 using kit::kPlace;
 using kit::kPlaceBelow;
 using testing::AnyOf;
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 namespace id = dispid::qvFlatCommand;

@@ -168,7 +168,7 @@ TEST_F(FlatInit, paintsOnceBecauseTheFontIsAssigned)
     button.forget();
     ASSERT_EQ(button.initNew(), S_OK);
     EXPECT_EQ(button.paints(), 1);
-    EXPECT_THAT(button.changes().take(), testing::ElementsAre(DISPID_FONT));
+    EXPECT_THAT(button.changes().take(), testing::ElementsAreArray({DISPID_FONT}));
 }
 
 TEST_F(FlatInit, loadingPaintsOnceBecauseTheFontIsAssigned)

@@ -147,9 +147,9 @@ protected:
         std::erase_if(calls, [](std::string const& call) {
             return call.starts_with("ReleaseDC") || call.substr(call.find(' ')).starts_with(" dc1");
         });
-        EXPECT_THAT(calls, testing::ElementsAre(
-                               "CreateCompatibleDC ? -> dc1", "CreateCompatibleBitmap ? 120 40 -> bitmap1",
-                               "BitBlt ? 0 0 120 40 dc1 0 0 cc0020", "DeleteObject bitmap1"));
+        EXPECT_THAT(calls, testing::ElementsAreArray(
+                               {"CreateCompatibleDC ? -> dc1", "CreateCompatibleBitmap ? 120 40 -> bitmap1",
+                                "BitBlt ? 0 0 120 40 dc1 0 0 cc0020", "DeleteObject bitmap1"}));
         EXPECT_EQ(button.differencesFrom(look), "");
     }
 };

@@ -90,7 +90,7 @@ protected:
     void expectToldAndPainted(DISPID told, int paints)
     {
         EXPECT_EQ(button.paints(), paints);
-        EXPECT_THAT(button.changes().take(), ElementsAre(told));
+        EXPECT_THAT(button.changes().take(), ElementsAreArray({told}));
         button.forget();
     }
     OLE_COLOR backColor() const
@@ -150,7 +150,7 @@ TEST_F(FlatProperties, assignedAreStoredThenToldThenShown)
         order.push_back(event.id == kPaint ? "painted" : "another event");
     };
     EXPECT_EQ(button->put_BackColor(kOther), S_OK);
-    EXPECT_THAT(order, ElementsAre("told", "painted"));
+    EXPECT_THAT(order, ElementsAreArray({"told", "painted"}));
     EXPECT_EQ(told, kOther);
     button.changes().action = nullptr;
     button.events().action = nullptr;

@@ -76,7 +76,7 @@ TEST_P(FlatWidths, isKeptToldAndRepaintedOnlyForTheRestingLook)
     EXPECT_EQ(put(Variant::ofShort(7)), S_OK);
     EXPECT_EQ(width(), 7);
     EXPECT_EQ(button.paints(), GetParam().repaints ? 1 : 0);
-    EXPECT_THAT(button.changes().take(), testing::ElementsAre(GetParam().id));
+    EXPECT_THAT(button.changes().take(), testing::ElementsAreArray({GetParam().id}));
 }
 
 TEST_P(FlatWidths, comesInAnyTypeThatConvertsAndGoesOutAs16Bits)

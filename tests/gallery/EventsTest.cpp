@@ -133,8 +133,8 @@ TEST_F(EventOutput, thePaneLeavesPaintOutAndShowsOfMovesInARowTheNewest)
     pane.add(event(L"cmdOne", L"Click"));
     pane.add(move(3));
     EXPECT_THAT(linesOf(pane.list()),
-                ElementsAre(L"cmdOne.MouseEnter", L"cmdOne.MouseMove(0, 0, 2, 0)", L"cmdOne.Click",
-                            L"cmdOne.Click", L"cmdOne.MouseMove(0, 0, 3, 0)"));
+                ElementsAreArray({L"cmdOne.MouseEnter", L"cmdOne.MouseMove(0, 0, 2, 0)", L"cmdOne.Click",
+                                  L"cmdOne.Click", L"cmdOne.MouseMove(0, 0, 3, 0)"}));
 }
 
 TEST_F(EventOutput, thePaneKeepsTheNewestLineInSightAndDropsTheOldest)
@@ -240,20 +240,22 @@ protected:
 
 TEST_F(EventOrder, enteringIsSaidThenPaintedThenTheMoveIsRaised)
 {
-    EXPECT_THAT(enter(), ElementsAre("cmdPlain.MouseEnter", "cmdPlain.Paint", line("MouseMove", kInside, 0)));
+    EXPECT_THAT(enter(), ElementsAreArray<std::string>(
+                             {"cmdPlain.MouseEnter", "cmdPlain.Paint", line("MouseMove", kInside, 0)}));
 }
 
 TEST_F(EventOrder, aPressOfTheFocusedButtonPaintsItBeforeMouseDown)
 {
     enter();
-    EXPECT_THAT(press(), ElementsAre("cmdPlain.Paint", line("MouseDown", kInside, 1)));
+    EXPECT_THAT(press(), ElementsAreArray<std::string>({"cmdPlain.Paint", line("MouseDown", kInside, 1)}));
 }
 
 TEST_F(EventOrder, aReleasePaintsThenRaisesMouseUpThenClick)
 {
     enter();
     press();
-    EXPECT_THAT(letGo(), ElementsAre("cmdPlain.Paint", line("MouseUp", kInside, 1), "cmdPlain.Click"));
+    EXPECT_THAT(letGo(), ElementsAreArray<std::string>(
+                             {"cmdPlain.Paint", line("MouseUp", kInside, 1), "cmdPlain.Click"}));
 }
 
 TEST_F(EventOrder, leavingIsSaidThenPaintedThenTheMoveIsRaised)
@@ -262,7 +264,8 @@ TEST_F(EventOrder, leavingIsSaidThenPaintedThenTheMoveIsRaised)
     POINT outside{2, 2};
     Lines const lines = during([&] { ::SetCursorPos(outside.x, outside.y); }, "cmdPlain.MouseMove");
     ::ScreenToClient(demo.control(L"cmdPlain").window(), &outside);
-    EXPECT_THAT(lines, ElementsAre("cmdPlain.MouseExit", "cmdPlain.Paint", line("MouseMove", outside, 0)));
+    EXPECT_THAT(lines, ElementsAreArray<std::string>(
+                           {"cmdPlain.MouseExit", "cmdPlain.Paint", line("MouseMove", outside, 0)}));
 }
 
 TEST_F(EventOrder, aPressThatBringsTheFocusPaintsEveryButtonOfTheFormBeforeMouseDown)

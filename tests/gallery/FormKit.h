@@ -28,7 +28,7 @@ inline void putByName(IDispatch& object, wchar_t const* name, Variant value)
 }
 
 using ::testing::Contains;
-using ::testing::ElementsAre;
+using testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 

@@ -53,7 +53,7 @@ TEST(FormObject, forEachVisitsEveryControlInTheFormsOrder)
     Variant item;
     while (all->Next(1, item.put(), nullptr) == S_OK)
         names.push_back(nameOf(item));
-    EXPECT_THAT(names, ElementsAre(L"Hint", L"Group", L"Inner", L"Text", L"Outer"));
+    EXPECT_THAT(names, ElementsAreArray({L"Hint", L"Group", L"Inner", L"Text", L"Outer"}));
 }
 
 TEST(FormObject, aControlIsAMemberOfItsForm)

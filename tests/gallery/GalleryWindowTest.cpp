@@ -207,7 +207,7 @@ TEST_F(GalleryWindowTest, aDoubleClickAtDesignTimeOpensThePropertyPages)
     });
     click(control(L"cmdPlain"), 2);
     EXPECT_TRUE(waitUntil([&] { return !pages.empty(); }));
-    EXPECT_THAT(pages, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
+    EXPECT_THAT(pages, testing::ElementsAreArray({L"General", L"Colors", L"Fonts", L"Pictures"}));
 }
 
 TEST_F(GalleryWindowTest, aDesignedOptionHearsNothingOfTheMouse)

@@ -22,22 +22,22 @@ std::vector<std::string> callsOf(FakeTraits const& traits)
 
 TEST(HostedControl, theSiteComesFirstWhereTheControlWantsItSo)
 {
-    EXPECT_THAT(callsOf({}), ElementsAre("GetMiscStatus", "SetClientSite", "Load", "Advise events",
-                                         "SetExtent", "DoVerb -5"));
+    EXPECT_THAT(callsOf({}), ElementsAreArray({"GetMiscStatus", "SetClientSite", "Load", "Advise events",
+                                               "SetExtent", "DoVerb -5"}));
 }
 
 TEST(HostedControl, theSiteComesBehindLoadingElsewhere)
 {
-    EXPECT_THAT(
-        callsOf({.status = OLEMISC_INSIDEOUT}),
-        ElementsAre("GetMiscStatus", "Load", "SetClientSite", "Advise events", "SetExtent", "DoVerb -5"));
+    EXPECT_THAT(callsOf({.status = OLEMISC_INSIDEOUT}),
+                ElementsAreArray(
+                    {"GetMiscStatus", "Load", "SetClientSite", "Advise events", "SetExtent", "DoVerb -5"}));
 }
 
 TEST(HostedControl, aControlWithoutAPropertyBagIsInitialisedAsNew)
 {
     EXPECT_THAT(callsOf({.loadResult = E_NOTIMPL}),
-                ElementsAre("GetMiscStatus", "SetClientSite", "Load", "InitNew", "Advise events", "SetExtent",
-                            "DoVerb -5"));
+                ElementsAreArray({"GetMiscStatus", "SetClientSite", "Load", "InitNew", "Advise events",
+                                  "SetExtent", "DoVerb -5"}));
 }
 
 TEST(HostedControl, itsEndUndoesEverythingInOrder)
@@ -46,7 +46,8 @@ TEST(HostedControl, itsEndUndoesEverythingInOrder)
     ComPtr<FakeControl> const fake = &kit.fake(L"One");
     fake->calls.clear();
     kit.form().close();
-    EXPECT_THAT(fake->calls, ElementsAre("Unadvise 12", "InPlaceDeactivate", "Close", "SetClientSite null"));
+    EXPECT_THAT(fake->calls,
+                ElementsAreArray({"Unadvise 12", "InPlaceDeactivate", "Close", "SetClientSite null"}));
     EXPECT_TRUE(kit.isClosed);
     EXPECT_EQ(fake->AddRef(), 2u) << "somebody still holds the control";
     fake->Release();
@@ -122,7 +123,7 @@ TEST(HostedControl, eventsComeToTheFormUntilItCloses)
     FormKit kit(kFakeButton);
     ComPtr<FakeControl> const fake = &kit.fake(L"One");
     fake->raise(4);
-    EXPECT_THAT(kit.events, ElementsAre(L"One.Event 4"));
+    EXPECT_THAT(kit.events, ElementsAreArray({L"One.Event 4"}));
     kit.form().close();
     EXPECT_FALSE(fake->hasListener());
 }
@@ -324,7 +325,7 @@ TEST(RealControl, typedKeysReachTheirButtonsOnceEach)
     std::vector<std::string> clicks;
     std::copy_if(demo.events.begin(), demo.events.end(), std::back_inserter(clicks),
                  [](std::string const& event) { return event.ends_with(".Click"); });
-    EXPECT_THAT(clicks, ElementsAre("cmdThick.Click", "cmdBare.Click", "cmdCancel.Click"));
+    EXPECT_THAT(clicks, ElementsAreArray({"cmdThick.Click", "cmdBare.Click", "cmdCancel.Click"}));
 }
 
 TEST(RealControl, aDesignFormRaisesNothing)

@@ -129,7 +129,7 @@ TEST(Keyboard, arrowsChooseAmongTheOptionButtonsOfOneContainer)
                node("VB.OptionButton", "O2"));
     EXPECT_EQ(kit.active(), L"O1");
     kit.expectGoes(VK_DOWN, L"O2");
-    EXPECT_THAT(kit.events, ElementsAre(L"O2.Click"));
+    EXPECT_THAT(kit.events, ElementsAreArray({L"O2.Click"}));
     EXPECT_FALSE(kit.get(L"O1", L"Value").toBool());
     EXPECT_TRUE(kit.get(L"O2", L"Value").toBool());
     kit.expectGoes(VK_RIGHT, L"O1");
@@ -273,7 +273,7 @@ TEST(Keyboard, nativeButtonsBoxesAndOptionsFollowTheirAccessKeys)
     kit.pressAlt(L'g');
     kit.pressAlt(L'k');
     kit.pressAlt(L'r');
-    EXPECT_THAT(kit.events, ElementsAre(L"Go.Click", L"Keep.Click", L"Rich.Click"));
+    EXPECT_THAT(kit.events, ElementsAreArray({L"Go.Click", L"Keep.Click", L"Rich.Click"}));
     EXPECT_EQ(kit.get(L"Keep", L"Value").toLong(), 1);
     EXPECT_TRUE(kit.get(L"Rich", L"Value").toBool());
     EXPECT_FALSE(kit.pressAlt(L'h'));
@@ -329,8 +329,8 @@ TEST(Focus, theDefaultButtonIsShownUntilAnotherButtonHasTheFocus)
     kit.control(L"No").focus();
     EXPECT_FALSE(kit.isShownAsDefault(L"Ok"));
     EXPECT_TRUE(kit.isShownAsDefault(L"No"));
-    EXPECT_THAT(ok.ambientChanges, ElementsAre(DISPID_AMBIENT_DISPLAYASDEFAULT));
-    EXPECT_THAT(no.ambientChanges, ElementsAre(DISPID_AMBIENT_DISPLAYASDEFAULT));
+    EXPECT_THAT(ok.ambientChanges, ElementsAreArray({DISPID_AMBIENT_DISPLAYASDEFAULT}));
+    EXPECT_THAT(no.ambientChanges, ElementsAreArray({DISPID_AMBIENT_DISPLAYASDEFAULT}));
     kit.control(L"Text").focus();
     EXPECT_TRUE(kit.isShownAsDefault(L"Ok"));
     EXPECT_FALSE(kit.isShownAsDefault(L"No"));

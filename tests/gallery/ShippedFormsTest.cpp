@@ -70,9 +70,9 @@ protected:
 TEST_F(OptionForm, opensWithoutAWarningAndWithItsChoices)
 {
     EXPECT_THAT(demo.warnings, IsEmpty());
-    EXPECT_THAT(sizes(), ElementsAre(0, 1, 0, 0));
-    EXPECT_THAT(colours(), ElementsAre(0, 0, 1, 0));
-    EXPECT_THAT(deliveries(), ElementsAre(0, -1, 0, 0));
+    EXPECT_THAT(sizes(), ElementsAreArray({0, 1, 0, 0}));
+    EXPECT_THAT(colours(), ElementsAreArray({0, 0, 1, 0}));
+    EXPECT_THAT(deliveries(), ElementsAreArray({0, -1, 0, 0}));
     EXPECT_EQ(value(L"chkGift"), 0);
     EXPECT_EQ(value(L"chkCard"), 1);
     EXPECT_EQ(value(L"chkNews"), 2);
@@ -85,17 +85,17 @@ TEST_F(OptionForm, tabReachesTheChosenOptionOfEachFrameAndEachCheckBox)
         type(VK_TAB);
         visited.push_back(active());
     }
-    EXPECT_THAT(visited, ElementsAre("optMedium", "optBlue", "optCourier", "chkGift", "chkCard", "chkNews",
-                                     "chkExpress", "chkInsured", "chkLong", "chkPlain", "chkPlainSet",
-                                     "cmdOrder", "optMedium"));
-    EXPECT_THAT(sizes(), ElementsAre(0, 1, 0, 0)); // passing by chooses nothing
+    EXPECT_THAT(visited, ElementsAreArray({"optMedium", "optBlue", "optCourier", "chkGift", "chkCard",
+                                           "chkNews", "chkExpress", "chkInsured", "chkLong", "chkPlain",
+                                           "chkPlainSet", "cmdOrder", "optMedium"}));
+    EXPECT_THAT(sizes(), ElementsAreArray({0, 1, 0, 0})); // passing by chooses nothing
 }
 
 TEST_F(OptionForm, chosenOptionAloneIsATabStopOfItsFrame)
 {
-    EXPECT_THAT(tabStops(), ElementsAre(false, true, false));
+    EXPECT_THAT(tabStops(), ElementsAreArray({false, true, false}));
     type(VK_DOWN);
-    EXPECT_THAT(tabStops(), ElementsAre(false, false, true));
+    EXPECT_THAT(tabStops(), ElementsAreArray({false, false, true}));
 }
 
 TEST_F(OptionForm, arrowKeysChooseAmongTheOptionsOfAFrame)
@@ -103,15 +103,15 @@ TEST_F(OptionForm, arrowKeysChooseAmongTheOptionsOfAFrame)
     demo.events.clear();
     type(VK_DOWN);
     EXPECT_EQ(active(), "optLarge");
-    EXPECT_THAT(sizes(), ElementsAre(0, 0, 1, 0));
+    EXPECT_THAT(sizes(), ElementsAreArray({0, 0, 1, 0}));
     EXPECT_EQ(clicks("optLarge"), 1);
     type(VK_DOWN); // past the disabled one, round the end
     EXPECT_EQ(active(), "optSmall");
-    EXPECT_THAT(sizes(), ElementsAre(1, 0, 0, 0));
+    EXPECT_THAT(sizes(), ElementsAreArray({1, 0, 0, 0}));
     type(VK_UP);
     EXPECT_EQ(active(), "optLarge");
-    EXPECT_THAT(colours(), ElementsAre(0, 0, 1, 0));
-    EXPECT_THAT(deliveries(), ElementsAre(0, -1, 0, 0));
+    EXPECT_THAT(colours(), ElementsAreArray({0, 0, 1, 0}));
+    EXPECT_THAT(deliveries(), ElementsAreArray({0, -1, 0, 0}));
 }
 
 TEST_F(OptionForm, arrowKeysStayAmongThePlainOptionsOfTheirFrame)
@@ -120,9 +120,9 @@ TEST_F(OptionForm, arrowKeysStayAmongThePlainOptionsOfTheirFrame)
     type(VK_TAB);
     EXPECT_EQ(active(), "optCourier");
     type(VK_RIGHT);
-    EXPECT_THAT(deliveries(), ElementsAre(0, 0, -1, 0));
-    EXPECT_THAT(sizes(), ElementsAre(0, 1, 0, 0));
-    EXPECT_THAT(colours(), ElementsAre(0, 0, 1, 0));
+    EXPECT_THAT(deliveries(), ElementsAreArray({0, 0, -1, 0}));
+    EXPECT_THAT(sizes(), ElementsAreArray({0, 1, 0, 0}));
+    EXPECT_THAT(colours(), ElementsAreArray({0, 0, 1, 0}));
 }
 
 TEST_F(OptionForm, accessKeysChooseAndTurnRound)
@@ -130,7 +130,7 @@ TEST_F(OptionForm, accessKeysChooseAndTurnRound)
     demo.events.clear();
     type('R', VK_MENU);
     EXPECT_EQ(active(), "optRed");
-    EXPECT_THAT(colours(), ElementsAre(1, 0, 0, 0));
+    EXPECT_THAT(colours(), ElementsAreArray({1, 0, 0, 0}));
     EXPECT_EQ(clicks("optRed"), 1);
     type('I', VK_MENU);
     EXPECT_EQ(active(), "chkGift");
@@ -160,9 +160,9 @@ TEST_F(OptionForm, everyGroupKeepsOneChoiceThroughAWholeRound)
     for (BYTE const key :
          {BYTE{VK_DOWN}, BYTE{VK_TAB}, BYTE{VK_LEFT}, BYTE{VK_TAB}, BYTE{VK_UP}, BYTE{VK_TAB}})
         type(key);
-    EXPECT_THAT(sizes(), ElementsAre(0, 0, 1, 0));
-    EXPECT_THAT(colours(), ElementsAre(0, 1, 0, 0));
-    EXPECT_THAT(deliveries(), ElementsAre(-1, 0, 0, 0));
+    EXPECT_THAT(sizes(), ElementsAreArray({0, 0, 1, 0}));
+    EXPECT_THAT(colours(), ElementsAreArray({0, 1, 0, 0}));
+    EXPECT_THAT(deliveries(), ElementsAreArray({-1, 0, 0, 0}));
 }
 
 class Toolbar : public testing::Test {

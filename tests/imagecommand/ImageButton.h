@@ -18,7 +18,6 @@ using kit::kPlace;
 using kit::kPlaceBelow;
 using kit::Names;
 using testing::AnyOf;
-using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 

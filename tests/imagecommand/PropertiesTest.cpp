@@ -34,7 +34,7 @@ protected:
         EXPECT_EQ(button.widths(), effect == kMeasures ? 1 : 0);
         EXPECT_EQ(button.events().ids().size(), effect & kRepaints ? 1U : 0U)
             << "raised something else than Paint";
-        EXPECT_THAT(button.changes().take(), ElementsAre(kit::idOf(*button.dual(), name)));
+        EXPECT_THAT(button.changes().take(), ElementsAreArray({kit::idOf(*button.dual(), name)}));
     }
     std::string value(wchar_t const* name) const { return valueOf(button, name); }
     HRESULT put(wchar_t const* name, Variant const& value)
@@ -135,7 +135,7 @@ TEST_P(ImageProperties, initialisingPaintsBetweenTheFocusRectangleAndTheDarkBord
             seen.push_back(value(name));
     });
     ASSERT_EQ(button.initNew(), S_OK);
-    EXPECT_THAT(seen, ElementsAre("4", std::to_string(focusRectangle), "99", "99", "-1"));
+    EXPECT_THAT(seen, ElementsAreArray<std::string>({"4", std::to_string(focusRectangle), "99", "99", "-1"}));
 }
 
 TEST_P(ImageProperties, tellOfTheChangeThenMeasureAndThenPaint)
@@ -154,7 +154,7 @@ TEST_P(ImageProperties, tellOfTheChangeThenMeasureAndThenPaint)
     form.record().whenNoted = nullptr;
     button.events().action = nullptr;
     button.changes().action = nullptr;
-    EXPECT_THAT(order, ElementsAre("told", "measured", "painted"));
+    EXPECT_THAT(order, ElementsAreArray({"told", "measured", "painted"}));
 }
 
 TEST_P(ImageProperties, whenAssignedStoreTellRepaintAndMeasureAsEachShould)
@@ -314,7 +314,7 @@ TEST_P(ImageProperties, whileActiveIsFalseARunningFormStillHearsOfEachPaint)
     ASSERT_EQ(button->put_Active(VARIANT_FALSE), S_OK);
     button.forget();
     EXPECT_EQ(button->put_BackColor(0x123456), S_OK);
-    EXPECT_THAT(button.events().ids(), ElementsAre(kPaint));
+    EXPECT_THAT(button.events().ids(), ElementsAreArray({kPaint}));
 }
 
 TEST_P(ImageProperties, atDesignTimeRaiseNoEventAndTellWhatChanged)
@@ -323,7 +323,7 @@ TEST_P(ImageProperties, atDesignTimeRaiseNoEventAndTellWhatChanged)
     load();
     EXPECT_EQ(button->put_BackColor(0x123456), S_OK);
     EXPECT_THAT(button.events().ids(), IsEmpty());
-    EXPECT_THAT(button.changes().take(), ElementsAre(kit::idOf(*button.dual(), L"BackColor")));
+    EXPECT_THAT(button.changes().take(), ElementsAreArray({kit::idOf(*button.dual(), L"BackColor")}));
 }
 
 } // namespace

@@ -25,7 +25,7 @@ TEST_P(ImageToggle, aClickTurnsItOnAndTheNextOff)
 {
     button().moveAndPress();
     EXPECT_FALSE(button().isChecked());
-    EXPECT_THAT(button().release(), ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_THAT(button().release(), ElementsAreArray({"Paint", "MouseUp", "Click"}));
     EXPECT_TRUE(button().isChecked());
     button().moveTo({40, 10}); // too far from the first press for a double click
     button().press();
@@ -86,10 +86,10 @@ TEST_P(ImageToggle, aReleaseOutsideClearsThePressAndRepaints)
     button().moveAndPress();
     button().events().forget();
     button().send(WM_LBUTTONUP, {-5, 20});
-    EXPECT_THAT(button().happened(), ElementsAre("Paint", "MouseUp")) << "and no Click";
+    EXPECT_THAT(button().happened(), ElementsAreArray({"Paint", "MouseUp"})) << "and no Click";
     EXPECT_FALSE(button().isChecked());
     button().send(WM_MOUSEMOVE);
-    EXPECT_THAT(button().happened(), ElementsAre("MouseMove")) << "it is still pressed";
+    EXPECT_THAT(button().happened(), ElementsAreArray({"MouseMove"})) << "it is still pressed";
 }
 
 TEST_P(ImageToggle, happensWithoutAChangeOfProperties)
@@ -121,7 +121,7 @@ TEST_P(ImageToggle, notWhileNotActive)
 TEST_P(ImageToggle, byCodeRaisesNoEventButPaint)
 {
     ASSERT_EQ(button()->put_Checked(VARIANT_TRUE), S_OK);
-    EXPECT_THAT(button().happened(), ElementsAre("Paint"));
+    EXPECT_THAT(button().happened(), ElementsAreArray({"Paint"}));
 }
 
 TEST_P(ImageToggle, aSecondPressInQuickSuccessionTurnsItBack)

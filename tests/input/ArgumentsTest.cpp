@@ -10,7 +10,7 @@ namespace {
 
 using kit::MouseButton;
 using testing::Each;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::Field;
 using testing::SizeIs;
 
@@ -94,7 +94,7 @@ TEST_F(MouseEventArguments, areTwoIntegersAndTwoSinglesByReference)
 {
     move(kInsideToo.x, kInsideToo.y);
     auto const types =
-        ElementsAre(kShortByReference, kShortByReference, kSingleByReference, kSingleByReference);
+        ElementsAreArray({kShortByReference, kShortByReference, kSingleByReference, kSingleByReference});
     EXPECT_THAT(last(kMouseMove).types, types);
     press(MouseButton::Left);
     EXPECT_THAT(last(kMouseDown).types, types);
@@ -235,7 +235,7 @@ TEST_F(MouseEventArguments, thatASinkChangesChangeNothingForTheButton)
     press(MouseButton::Left);
     EXPECT_EQ(button.look(), "pressed");
     Names const names = letUp(button);
-    EXPECT_THAT(names, ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_THAT(names, ElementsAreArray({"Paint", "MouseUp", "Click"}));
     EXPECT_EQ(button.look(), "hot");
 }
 

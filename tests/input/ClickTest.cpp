@@ -7,7 +7,8 @@ namespace quillet::input {
 namespace {
 
 using kit::MouseButton;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 class Clicks : public EachHostTest {
 protected:
@@ -51,7 +52,7 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterOneWhoseReleaseWasAnothersMouse)
     letGoSomewhereElse();
     ::ReleaseCapture();
     EXPECT_EQ(button().count("MouseUp"), 0);
-    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
+    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAreArray({"MouseUp"}));
 }
 
 TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatOpenedADialog)
@@ -67,7 +68,7 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatOpenedADialog)
     pressDown(button());
     ASSERT_FALSE(button().events().action) << "no dialog came";
     EXPECT_EQ(button().count("MouseUp"), 0);
-    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
+    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAreArray({"MouseUp"}));
 }
 
 TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatNobodyHeldTheMouseFor)
@@ -79,7 +80,7 @@ TEST_P(Clicks, needAPressOfTheirOwnAfterOneThatNobodyHeldTheMouseFor)
     letGoSomewhereElse();
     ::ReleaseCapture(); // which some moves in between may have taken
     EXPECT_TRUE(actUntilHandled(WM_MOUSELEAVE, [] {}));
-    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAre("MouseUp"));
+    EXPECT_THAT(draggedOntoAndLetGo(), ElementsAreArray({"MouseUp"}));
 }
 
 // Where the release went is nobody's business: moves tell that no button is held.
@@ -104,7 +105,7 @@ TEST_P(Clicks, comeFromMovesWithTheButtonHeld)
 {
     enterAndPress(button());
     moveInside(button());
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_THAT(letUp(button()), ElementsAreArray({"Paint", "MouseUp", "Click"}));
 }
 
 TEST_P(Clicks, comeWithoutTheMouseHeldToo)
@@ -112,7 +113,7 @@ TEST_P(Clicks, comeWithoutTheMouseHeldToo)
     enter(button());
     ::ReleaseCapture();
     pressDown(button());
-    EXPECT_THAT(letUp(button()), ElementsAre("Paint", "MouseUp", "Click"));
+    EXPECT_THAT(letUp(button()), ElementsAreArray({"Paint", "MouseUp", "Click"}));
 }
 
 TEST_P(Clicks, ofTheOtherButtonsInQuickSuccessionAreAllMouseDownAndMouseUp)
@@ -120,8 +121,8 @@ TEST_P(Clicks, ofTheOtherButtonsInQuickSuccessionAreAllMouseDownAndMouseUp)
     enter(button());
     for (MouseButton const which : {MouseButton::Right, MouseButton::Middle})
         for (int times = 0; times < 3; ++times) {
-            EXPECT_THAT(pressDown(button(), which), ElementsAre("MouseDown")) << times;
-            EXPECT_THAT(letUp(button(), which), ElementsAre("MouseUp")) << times;
+            EXPECT_THAT(pressDown(button(), which), ElementsAreArray({"MouseDown"})) << times;
+            EXPECT_THAT(letUp(button(), which), ElementsAreArray({"MouseUp"})) << times;
         }
 }
 
@@ -139,7 +140,7 @@ TEST_F(LostCapture, endsTheHotLookWithMouseExitAsSoonAsTheMouseIsGone)
     kit::pumpPending();
     EXPECT_EQ(button.look(), "hot") << "the mouse is still there";
     EXPECT_EQ(button.count("MouseExit"), 0);
-    EXPECT_THAT(left(), ElementsAre("MouseExit", "Paint"));
+    EXPECT_THAT(left(), ElementsAreArray({"MouseExit", "Paint"}));
     EXPECT_EQ(button.look(), "normal");
     EXPECT_EQ(::GetCapture(), form.window()) << "whose capture stays";
 }
@@ -160,7 +161,7 @@ TEST_F(LostCapture, endsTheHotLookWhileADialogIsOpenThatAClickOpened)
     letUp(button);
     EXPECT_EQ(look, "normal");
     EXPECT_EQ(exits, 1);
-    EXPECT_THAT(enter(button), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_THAT(enter(button), ElementsAreArray({"MouseEnter", "Paint", "MouseMove"}));
 }
 
 TEST_F(LostCapture, thatHappensOutsideIsTheEndAtOnce)
@@ -168,7 +169,7 @@ TEST_F(LostCapture, thatHappensOutsideIsTheEndAtOnce)
     pressDown(button);
     dragOff(button);
     EXPECT_THAT(button.during([&] { ::SetCapture(form.window()); }, "MouseExit"),
-                ElementsAre("MouseExit", "Paint"));
+                ElementsAreArray({"MouseExit", "Paint"}));
     kit::release(kit::MouseButton::Left);
     kit::pumpPending();
 }
@@ -200,7 +201,7 @@ TEST_F(LostCapture, toOneselfIsNone)
 {
     button.events().forget();
     ::SetCapture(button.window());
-    EXPECT_THAT(left(), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(left(), ElementsAreArray({"MouseExit", "Paint", "MouseMove"}));
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -208,7 +209,7 @@ TEST_F(LostCapture, ofAButtonThatIsDisabledUnderTheMouseIsTheEnd)
 {
     Names names = button.during([&] { button->put_Enabled(VARIANT_FALSE); }, "MouseExit");
     std::erase(names, "Paint");
-    EXPECT_THAT(names, ElementsAre("MouseExit"));
+    EXPECT_THAT(names, ElementsAreArray({"MouseExit"}));
     EXPECT_EQ(button.look(), "disabled");
 }
 
@@ -220,15 +221,15 @@ TEST_F(LostCapture, ofAHiddenButtonRaisesNothing)
     button.events().forget();
     ::SendMessageA(button.window(), WM_MOUSELEAVE, 0, 0);
     kit::pumpPending();
-    EXPECT_THAT(button.happened(), ElementsAre());
+    EXPECT_THAT(button.happened(), IsEmpty());
 }
 
 TEST_F(LostCapture, isNotWhatAWindowOfItsOwnMouseSays)
 {
     button.events().forget();
     ::SendMessageA(button.window(), WM_MOUSELEAVE, 0, 0);
-    EXPECT_THAT(button.happened(), ElementsAre()) << "it has the capture: the next move tells";
-    EXPECT_THAT(left(), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(button.happened(), IsEmpty()) << "it has the capture: the next move tells";
+    EXPECT_THAT(left(), ElementsAreArray({"MouseExit", "Paint", "MouseMove"}));
 }
 
 } // namespace

@@ -9,7 +9,8 @@
 namespace quillet::input {
 namespace {
 
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 class DesignMode : public FormTest {
 protected:
@@ -67,7 +68,7 @@ TEST_F(DesignMode, noEventIsRaisedAndTheStateIsAlwaysNormal)
     ::InvalidateRect(button.window(), nullptr, TRUE);
     kit::pumpPending();
     EXPECT_EQ(button.look(), "normal");
-    EXPECT_THAT(button.events().ids(), ElementsAre());
+    EXPECT_THAT(button.events().ids(), IsEmpty());
 }
 
 TEST_F(DesignMode, theToolTipTextIsNotTakenFromTheExtender)
@@ -102,7 +103,7 @@ TEST_F(DesignMode, aMoveOverTheButtonIsStillRemembered)
     setUserMode(true);
     ::SetCapture(button.window());
     pressDown(button);
-    EXPECT_THAT(moveInside(button, kInsideToo), ElementsAre("MouseMove"));
+    EXPECT_THAT(moveInside(button, kInsideToo), ElementsAreArray({"MouseMove"}));
     letUp(button);
 }
 
@@ -113,7 +114,7 @@ TEST_F(DesignMode, aMoveOffTheButtonIsStillRemembered)
     move(kBeside);
     setUserMode(true);
     EXPECT_TRUE(actUntilHandled(WM_LBUTTONDOWN, [] { kit::press(kit::MouseButton::Left); }));
-    EXPECT_THAT(dragBack(button), ElementsAre("Paint", "MouseMove"));
+    EXPECT_THAT(dragBack(button), ElementsAreArray({"Paint", "MouseMove"}));
     EXPECT_EQ(button.look(), "pressed");
     letUp(button);
 }
@@ -129,7 +130,7 @@ TEST_F(DesignMode, aPressBegunWhileRunningShowsNothingOnceTheFormIsDesignedAgain
     button.events().forget();
     release();
     move(kBeside);
-    EXPECT_THAT(button.events().ids(), ElementsAre());
+    EXPECT_THAT(button.events().ids(), IsEmpty());
 }
 
 } // namespace

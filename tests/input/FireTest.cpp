@@ -227,11 +227,11 @@ struct Outsider {
 TEST_F(End, ofALaterSubclasserBeforeTheControlsLeavesTheControlAsItWas)
 {
     Outsider::join(button.window());
-    EXPECT_THAT(moveInside(button), testing::ElementsAre("MouseMove"));
+    EXPECT_THAT(moveInside(button), testing::ElementsAreArray({"MouseMove"}));
     EXPECT_GT(Outsider::seen, 0);
     Outsider::leave(button.window());
     Outsider::seen = 0;
-    EXPECT_THAT(leave(button), testing::ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(leave(button), testing::ElementsAreArray({"MouseExit", "Paint", "MouseMove"}));
     EXPECT_EQ(Outsider::seen, 0);
     button.remove();
 }

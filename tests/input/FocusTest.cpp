@@ -43,7 +43,8 @@ private:
 namespace {
 
 using testing::Contains;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 using testing::Not;
 
 /// Several buttons in one form; the repaints of all of them in one list: the first button's is "1".
@@ -118,23 +119,23 @@ protected:
 TEST_F(FocusMoves, betweenTwoButtonsRepaintEveryButtonOfTheContainer)
 {
     begin(2, 1);
-    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 2, 2, 1, 2));
-    EXPECT_THAT(focusOn(window(1)), ElementsAre(2, 1, 2, 1, 1, 2));
+    EXPECT_THAT(focusOn(window(2)), ElementsAreArray({1, 1, 2, 2, 1, 2}));
+    EXPECT_THAT(focusOn(window(1)), ElementsAreArray({2, 1, 2, 1, 1, 2}));
 }
 
 TEST_F(FocusMoves, betweenTwoOfFiveButtonsRepaintsAllFive)
 {
     begin(5, 2);
-    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
-    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 2, 2, 3, 2));
+    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAreArray({2, 3, 2, 3, 2}));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAreArray({3, 2, 2, 3, 2}));
 }
 
 TEST_F(FocusMoves, toAndFromSomethingElseRepaintEveryButtonOnce)
 {
     begin(5, 3);
     auto const edit = kit::newEditBox(form.window(), {200, 30, 260, 50});
-    EXPECT_THAT(countsOfFocusOn(edit.get()), ElementsAre(1, 1, 2, 1, 1));
-    EXPECT_THAT(countsOfFocusOn(window(3)), ElementsAre(1, 1, 2, 1, 1));
+    EXPECT_THAT(countsOfFocusOn(edit.get()), ElementsAreArray({1, 1, 2, 1, 1}));
+    EXPECT_THAT(countsOfFocusOn(window(3)), ElementsAreArray({1, 1, 2, 1, 1}));
 }
 
 TEST_F(FocusMoves, awayRepaintEveryButtonBeforeTheContainerHearsOfIt)
@@ -146,7 +147,7 @@ TEST_F(FocusMoves, awayRepaintEveryButtonBeforeTheContainerHearsOfIt)
         if (call == "Site.OnFocus(lost)")
             painted.push_back(kContainerHears);
     };
-    EXPECT_THAT(focusOn(edit.get()), ElementsAre(1, 1, 2, kContainerHears));
+    EXPECT_THAT(focusOn(edit.get()), ElementsAreArray({1, 1, 2, kContainerHears}));
     form.record().whenNoted = nullptr;
 }
 
@@ -165,7 +166,7 @@ TEST_F(FocusMoves, takeTheParentsControlsWhereTheSiteHasNoContainer)
     begin(5, 2);
     offerControlsThroughParent();
     form.record().forget();
-    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAre(2, 3, 2, 3, 2));
+    EXPECT_THAT(countsOfFocusOn(window(4)), ElementsAreArray({2, 3, 2, 3, 2}));
     EXPECT_THAT(form.record().calls(), Contains("Parent.Controls"));
     EXPECT_THAT(form.record().calls(), Contains("Controls.Count"));
 }
@@ -177,7 +178,7 @@ TEST_F(FocusMoves, findTheControlInsideAnExtenderThatTheParentsControlsHandOut)
     add();
     form.record().answer("Site.GetContainer", E_NOTIMPL);
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 2));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3, 2}));
 }
 
 TEST_F(FocusMoves, takeTheParentsControlsWhereTheContainerEnumeratesNothing)
@@ -188,7 +189,7 @@ TEST_F(FocusMoves, takeTheParentsControlsWhereTheContainerEnumeratesNothing)
     form.record().answerAsUsual("Site.GetContainer");
     form.record().answer("Container.EnumObjects", E_NOTIMPL);
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3}));
 }
 
 TEST_F(FocusMoves, withNeitherContainerNorParentRepaintTheTwoThatAreConcerned)
@@ -199,7 +200,7 @@ TEST_F(FocusMoves, withNeitherContainerNorParentRepaintTheTwoThatAreConcerned)
     }
     form.record().answer("Site.GetContainer", E_NOTIMPL);
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(1, 1, 0));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({1, 1, 0}));
 }
 
 TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfASibling)
@@ -211,7 +212,7 @@ TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfASibling)
     add();
     ASSERT_TRUE(kit::focus(window(1)));
     broken->refreshed = 0;
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 0));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3, 0}));
     EXPECT_EQ(broken->refreshed, 2);
     std::erase(form.container().objects, broken->unknown());
 }
@@ -226,7 +227,7 @@ TEST_F(FocusMoves, stopTheWalkAtTheFirstErrorOfTheParentsControls)
             form.controls().refuse(L"Item"); // from the third one on, and for the whole second walk
         return Variant::ofDispatch(button(number).operator->());
     });
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(2, 2, 0, 0));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({2, 2, 0, 0}));
 }
 
 TEST_F(FocusMoves, stopTheWalkAtAMemberOfTheParentsControlsThatIsNoObject)
@@ -239,7 +240,7 @@ TEST_F(FocusMoves, stopTheWalkAtAMemberOfTheParentsControlsThatIsNoObject)
         return number == 3 ? Variant::ofString(L"nobody") : Variant::ofDispatch(button(number).operator->());
     });
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3, 0, 0));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3, 0, 0}));
 }
 
 TEST_F(FocusMoves, surviveSiblingsThatGoDuringTheWalk)
@@ -284,7 +285,7 @@ TEST_F(FocusMoves, callOnlySiblingsThatAreFlatCommandButtons)
     form.container().objects.push_back(sibling->unknown());
     form.container().objects.push_back(form.frame().unknown());
     begin(2, 1);
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3)) << "the walk goes on past them";
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3})) << "the walk goes on past them";
     EXPECT_EQ(sibling->refreshed, 0);
     std::erase(form.container().objects, sibling->unknown());
     std::erase(form.container().objects, form.frame().unknown());
@@ -295,8 +296,8 @@ TEST_F(FocusMoves, repaintTheDefaultButtonOnceMoreWhenItLosesTheFocus)
     add().extender().offer(L"Default", Variant::ofBool(true));
     add();
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 1, 2, 2, 1, 2));
-    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 3)) << "not when it gains the focus";
+    EXPECT_THAT(focusOn(window(2)), ElementsAreArray({1, 1, 1, 2, 2, 1, 2}));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAreArray({3, 3})) << "not when it gains the focus";
 }
 
 TEST_F(FocusMoves, ofAButtonWhoseContainerHasNoDefaultNotionDoNotFail)
@@ -304,8 +305,8 @@ TEST_F(FocusMoves, ofAButtonWhoseContainerHasNoDefaultNotionDoNotFail)
     add().extender().remove(L"Default");
     add().extender().refuse(L"Default");
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAre(3, 3));
-    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAre(3, 3));
+    EXPECT_THAT(countsOfFocusOn(window(2)), ElementsAreArray({3, 3}));
+    EXPECT_THAT(countsOfFocusOn(window(1)), ElementsAreArray({3, 3}));
 }
 
 TEST_F(FocusMoves, inDesignModeRaiseNoPaint)
@@ -314,7 +315,7 @@ TEST_F(FocusMoves, inDesignModeRaiseNoPaint)
     for (auto const& each : buttons)
         each->site().setAmbient(DISPID_AMBIENT_USERMODE, Variant::ofBool(false));
     form.record().forget();
-    EXPECT_THAT(focusOn(window(2)), ElementsAre());
+    EXPECT_THAT(focusOn(window(2)), IsEmpty());
     EXPECT_EQ(form.record().countFrom("Container.EnumObjects"), 0) << "nobody is looked for";
 }
 
@@ -328,7 +329,7 @@ TEST_F(FocusMoves, betweenNewButtonsRepaintAsBetweenLoadedOnes)
         listenTo(*buttons.back(), number);
     }
     ASSERT_TRUE(kit::focus(window(1)));
-    EXPECT_THAT(focusOn(window(2)), ElementsAre(1, 1, 2, 2, 1, 2));
+    EXPECT_THAT(focusOn(window(2)), ElementsAreArray({1, 1, 2, 2, 1, 2}));
 }
 
 } // namespace

@@ -10,7 +10,8 @@ namespace quillet::input {
 namespace {
 
 using testing::Contains;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 constexpr RECT kNeighbour{140, 30, 260, 70}; // touches the first button's right edge
 constexpr RECT kBelow{20, 180, 140, 220};
@@ -72,7 +73,7 @@ TEST_F(Hover, fromOneButtonToItsNeighbourLeavesTheOneBeforeItEntersTheOther)
 {
     enter(button);
     EXPECT_TRUE(moveOverNeighbourUntil("MouseEnter"));
-    EXPECT_THAT(told, ElementsAre("1.MouseEnter", "1.MouseExit", "2.MouseEnter"));
+    EXPECT_THAT(told, ElementsAreArray({"1.MouseEnter", "1.MouseExit", "2.MouseEnter"}));
     EXPECT_EQ(button.look(), "normal");
     EXPECT_EQ(neighbour.look(), "hot");
     EXPECT_EQ(::GetCapture(), neighbour.window());
@@ -82,11 +83,12 @@ TEST_F(Hover, draggedFromOneButtonToItsNeighbourAndLetGoThereIsNobodysClick)
 {
     enterAndPress(button);
     EXPECT_THAT(button.during([&] { kit::moveCursorTo(neighbour.window(), 30, 20); }, "MouseMove"),
-                ElementsAre("Paint", "MouseMove"));
+                ElementsAreArray({"Paint", "MouseMove"}));
     EXPECT_EQ(neighbour.look(), "normal");
     letUp(button);
     EXPECT_TRUE(moveOverNeighbourUntil("MouseEnter"));
-    EXPECT_THAT(told, ElementsAre("1.MouseEnter", "1.MouseDown", "1.MouseUp", "1.MouseExit", "2.MouseEnter"));
+    EXPECT_THAT(
+        told, ElementsAreArray({"1.MouseEnter", "1.MouseDown", "1.MouseUp", "1.MouseExit", "2.MouseEnter"}));
 }
 
 TEST_F(Hover, whoseCaptureSomebodyTookBeginsAgainAtTheNextMoveInside)
@@ -98,7 +100,7 @@ TEST_F(Hover, whoseCaptureSomebodyTookBeginsAgainAtTheNextMoveInside)
         kit::moveCursorTo(button.window(), kInsideToo.x, kInsideToo.y);
     };
     EXPECT_THAT(button.during(lost, "MouseMove"),
-                ElementsAre("MouseExit", "MouseEnter", "Paint", "MouseMove"));
+                ElementsAreArray({"MouseExit", "MouseEnter", "Paint", "MouseMove"}));
     EXPECT_EQ(::GetCapture(), button.window());
 }
 
@@ -108,11 +110,11 @@ TEST_F(Hover, takesTheCaptureFromWhoeverHasItAtAMoveInside)
     button.events().forget();
     ASSERT_TRUE(kit::moveCursorTo(button.window(), kInside.x, kInside.y));
     kit::pumpPending();
-    EXPECT_THAT(button.happened(), ElementsAre()) << "the move was the other window's";
+    EXPECT_THAT(button.happened(), IsEmpty()) << "the move was the other window's";
     ::SendMessageA(button.window(), WM_MOUSEMOVE, 0, MAKELPARAM(kInside.x, kInside.y));
     EXPECT_EQ(::GetCapture(), button.window());
-    EXPECT_THAT(button.happened(), ElementsAre("MouseEnter", "Paint", "MouseMove"));
-    EXPECT_THAT(leave(button), ElementsAre("MouseExit", "Paint", "MouseMove"));
+    EXPECT_THAT(button.happened(), ElementsAreArray({"MouseEnter", "Paint", "MouseMove"}));
+    EXPECT_THAT(leave(button), ElementsAreArray({"MouseExit", "Paint", "MouseMove"}));
 }
 
 TEST_F(Hover, hasTakenTheCaptureBeforeItTellsAndGivenItBackBeforeItTells)
@@ -163,7 +165,7 @@ TEST_F(Hover, goesOnWhereTheExtenderHasNoToolTipText)
 {
     EXPECT_EQ(button->put_ToolTipText(Bstr(L"kept").get()), S_OK);
     button.extender().remove(L"ToolTipText");
-    EXPECT_THAT(enter(button), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_THAT(enter(button), ElementsAreArray({"MouseEnter", "Paint", "MouseMove"}));
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
     EXPECT_THAT(leave(button), Contains("MouseExit"));
     EXPECT_EQ(toolTipText(), L"kept");
@@ -254,7 +256,7 @@ TEST_F(Cursor, thatAListenerMovesAwayIsNotOverTheButton)
     button.events().forget();
     moveTo(kInside);
     EXPECT_EQ(button.look(), "normal");
-    EXPECT_THAT(button.happened(), ElementsAre("MouseEnter", "Paint", "MouseMove"));
+    EXPECT_THAT(button.happened(), ElementsAreArray({"MouseEnter", "Paint", "MouseMove"}));
 }
 
 TEST_F(Cursor, thatAListenerMovesBackIsOverTheButton)
@@ -273,7 +275,7 @@ TEST_F(Cursor, thatAListenerMovesInMouseMoveCountsForADrag)
     button.events().action = nullptr;
     button.events().forget();
     moveTo(kInside, MK_LBUTTON);
-    EXPECT_THAT(button.happened(), ElementsAre("Paint", "MouseMove")) << "dragged back over it";
+    EXPECT_THAT(button.happened(), ElementsAreArray({"Paint", "MouseMove"})) << "dragged back over it";
     EXPECT_EQ(button.look(), "pressed");
     ::ReleaseCapture();
 }

@@ -6,7 +6,8 @@ namespace quillet::input {
 namespace {
 
 using kit::MouseButton;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 Names const kEntered{"MouseEnter", "Paint", "MouseMove"};
 Names const kLeft{"MouseExit", "Paint", "MouseMove"};
@@ -42,7 +43,7 @@ TEST_P(States, movesRaiseMouseEnterOnceInsideAndMouseExitOnceOutside)
     expect(enter(button()), kEntered, "hot");
     EXPECT_TRUE(holdsTheMouse());
 
-    EXPECT_THAT(moveInside(button(), kInsideToo), ElementsAre("MouseMove"));
+    EXPECT_THAT(moveInside(button(), kInsideToo), ElementsAreArray({"MouseMove"}));
     expect(moveInside(button(), kInside), {"MouseMove"}, "hot");
     EXPECT_TRUE(holdsTheMouse());
 
@@ -54,7 +55,7 @@ TEST_P(States, movesBesideTheButtonRaiseNothing)
 {
     EXPECT_TRUE(
         actUntilHandled(WM_MOUSEMOVE, [&] { kit::moveCursorTo(button().window(), kBeside.x, kBeside.y); }));
-    EXPECT_THAT(button().happened(), ElementsAre());
+    EXPECT_THAT(button().happened(), IsEmpty());
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -70,7 +71,8 @@ TEST_P(States, aPressAndAReleaseLeaveTheCaptureAsItIs)
     EXPECT_TRUE(holdsTheMouse());
     letUp(button());
     EXPECT_TRUE(holdsTheMouse());
-    EXPECT_THAT(moveInside(button()), ElementsAre("MouseMove")) << "no second MouseEnter after a click";
+    EXPECT_THAT(moveInside(button()), ElementsAreArray({"MouseMove"}))
+        << "no second MouseEnter after a click";
     EXPECT_EQ(leave(button()), kLeft);
 }
 
@@ -88,7 +90,7 @@ TEST_P(States, draggingOffShowsTheNormalLookAndDraggingBackThePressedOne)
     enterAndPress(button());
     expect(dragOff(button()), {"Paint", "MouseMove"}, "normal");
     EXPECT_TRUE(holdsTheMouse());
-    EXPECT_THAT(moveTo(button(), kFurther), ElementsAre("MouseMove"));
+    EXPECT_THAT(moveTo(button(), kFurther), ElementsAreArray({"MouseMove"}));
     expect(dragBack(button()), {"Paint", "MouseMove"}, "pressed");
     expect(letUp(button()), {"Paint", "MouseUp", "Click"}, "hot");
 }
@@ -119,7 +121,7 @@ TEST_P(States, aReleaseOutsideAfterWhichTheCursorComesBackIsNoSecondMouseEnter)
     dragOff(button());
     letUp(button());
     // The button still has the capture: nothing changes for it but the look, and that at the next painting.
-    EXPECT_THAT(dragBack(button()), ElementsAre("MouseMove"));
+    EXPECT_THAT(dragBack(button()), ElementsAreArray({"MouseMove"}));
     EXPECT_TRUE(holdsTheMouse());
     leave(button());
 }
@@ -131,8 +133,8 @@ TEST_P(States, aDoubleClickRaisesOneClickAndOneDblClickAndNoSecondMouseDown)
                           letUp(button())};
     for (Names const& each : rest)
         names.insert(names.end(), each.begin(), each.end());
-    EXPECT_THAT(names, ElementsAre("Paint", "MouseDown", "Paint", "MouseUp", "Click", "DblClick", "Paint",
-                                   "MouseUp"));
+    EXPECT_THAT(names, ElementsAreArray({"Paint", "MouseDown", "Paint", "MouseUp", "Click", "DblClick",
+                                         "Paint", "MouseUp"}));
 }
 
 TEST_P(States, rightButtonPressesRaiseMouseDownAndMouseUpButNeverShowThePressedState)
@@ -148,9 +150,9 @@ TEST_P(States, middleButtonPressesRaiseMouseDownAndMouseUpButNeverShowThePressed
 TEST_P(States, draggingOffWithTheRightButtonKeepsTheCaptureUntilAMoveWithoutAButton)
 {
     enterAndPress(button(), MouseButton::Right);
-    EXPECT_THAT(dragOff(button()), ElementsAre("MouseMove"));
+    EXPECT_THAT(dragOff(button()), ElementsAreArray({"MouseMove"}));
     EXPECT_TRUE(holdsTheMouse());
-    EXPECT_THAT(letUp(button(), MouseButton::Right), ElementsAre("MouseUp"));
+    EXPECT_THAT(letUp(button(), MouseButton::Right), ElementsAreArray({"MouseUp"}));
     EXPECT_THAT(moveTo(button(), kFurther), kLeft);
 }
 
@@ -158,7 +160,7 @@ TEST_P(States, aMoveOntoTheButtonWithAButtonHeldIsNoEntering)
 {
     ASSERT_TRUE(kit::moveCursorTo(button().window(), kBeside.x, kBeside.y));
     EXPECT_TRUE(actUntilHandled(WM_LBUTTONDOWN, [] { kit::press(MouseButton::Left); }));
-    EXPECT_THAT(moveTo(button(), kInside), ElementsAre("MouseMove"));
+    EXPECT_THAT(moveTo(button(), kInside), ElementsAreArray({"MouseMove"}));
     EXPECT_EQ(button().look(), "normal");
     EXPECT_EQ(::GetCapture(), nullptr);
     kit::release(MouseButton::Left);
@@ -206,7 +208,7 @@ TEST_P(States, theDisabledButtonStaysDisabledUnderTheCursorAndRaisesNothing)
         kit::press(MouseButton::Right);
         kit::release(MouseButton::Right);
     }));
-    EXPECT_THAT(button().happened(), ElementsAre());
+    EXPECT_THAT(button().happened(), IsEmpty());
     EXPECT_EQ(button().look(), "disabled");
     EXPECT_EQ(::GetCapture(), nullptr);
 }
@@ -243,7 +245,7 @@ TEST_P(States, aReleaseInsideUnderAnOverlappingWindowIsAClickWithoutTheHotLook)
         ::GetClientRect(button().window(), &client);
         auto const sibling = covered(client);
         Names const names = letUp(button());
-        EXPECT_THAT(Names(names.begin(), names.begin() + 2), ElementsAre("Paint", "MouseUp"));
+        EXPECT_THAT(Names(names.begin(), names.begin() + 2), ElementsAreArray({"Paint", "MouseUp"}));
     }
     leave(button());
 }

@@ -24,7 +24,7 @@
 namespace quillet::kit {
 namespace {
 
-using testing::ElementsAre;
+using testing::ElementsAreArray;
 
 class Counterparts : public testing::Test {
 protected:
@@ -76,7 +76,7 @@ TEST_F(Counterparts, aSiteNotesItsCallsAndAnswersAsToldTo)
     EXPECT_EQ(site->OnInPlaceActivate(), E_FAIL);
     EXPECT_EQ(site->OnFocus(TRUE), S_OK);
     EXPECT_THAT(form.record().take(),
-                ElementsAre("Site.GetContainer", "Site.OnInPlaceActivate", "Site.OnFocus(gained)"));
+                ElementsAreArray({"Site.GetContainer", "Site.OnInPlaceActivate", "Site.OnFocus(gained)"}));
     form.record().answerAsUsual("Site.GetContainer");
     EXPECT_EQ(site->GetContainer(container.put()), S_OK);
     EXPECT_TRUE(container);
@@ -112,7 +112,7 @@ TEST_F(Counterparts, anExtenderIsReachedByNameWithoutRegardToCase)
     propertyOf(site->extender(), L"Default", result);
     EXPECT_EQ(result, E_ACCESSDENIED);
     EXPECT_THAT(form.record().calls(),
-                ElementsAre("Extender.Name", "Extender.Colour (unknown)", "Extender.Default"));
+                ElementsAreArray({"Extender.Name", "Extender.Colour (unknown)", "Extender.Default"}));
     site->dismantle();
 }
 
@@ -138,7 +138,7 @@ TEST_F(Counterparts, aBagKeepsNamesTypesAndOrder)
     value = Variant::ofShort(0);
     EXPECT_EQ(bag->Read(L"Width", value.address(), nullptr), S_OK);
     EXPECT_EQ(value.type(), VT_I2);
-    EXPECT_THAT(bag->namesRead(), ElementsAre(L"Missing", L"width", L"Width"));
+    EXPECT_THAT(bag->namesRead(), ElementsAreArray({L"Missing", L"width", L"Width"}));
     EXPECT_EQ(bag->reads[1].type, VT_EMPTY);
     EXPECT_EQ(bag->reads[2].type, VT_I2);
     bag->fail(L"Height", STG_E_ACCESSDENIED);

@@ -25,7 +25,7 @@
 namespace quillet::box {
 
 using kit::Names;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 /// What tells the two controls apart from outside.

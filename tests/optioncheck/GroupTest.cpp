@@ -57,11 +57,11 @@ TEST_F(Group, keepsOneChoiceInAContainer)
 {
     addOptions(4);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1, 0, 0));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1, 0, 0}));
     choose(3);
-    EXPECT_THAT(values(), ElementsAre(0, 0, 0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 0, 0, 1}));
     boxes[0]->click();
-    EXPECT_THAT(values(), ElementsAre(1, 0, 0, 0));
+    EXPECT_THAT(values(), ElementsAreArray({1, 0, 0, 0}));
 }
 
 TEST_F(Group, keepsOneChoiceForEachContainer)
@@ -74,11 +74,11 @@ TEST_F(Group, keepsOneChoiceForEachContainer)
     add(kOption, &right);
     choose(0);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(1, 1, 0, 0));
+    EXPECT_THAT(values(), ElementsAreArray({1, 1, 0, 0}));
     choose(2);
-    EXPECT_THAT(values(), ElementsAre(0, 1, 1, 0));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1, 1, 0}));
     choose(3);
-    EXPECT_THAT(values(), ElementsAre(0, 0, 1, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 0, 1, 1}));
 }
 
 TEST_F(Group, isToldByTheWindowAndNotByTheObjectOfTheContainer)
@@ -87,7 +87,7 @@ TEST_F(Group, isToldByTheWindowAndNotByTheObjectOfTheContainer)
     add(kOption, &container(7));
     choose(0);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1}));
 }
 
 TEST_F(Group, isTheWholeFormWhereContainersHaveNoWindow)
@@ -98,11 +98,11 @@ TEST_F(Group, isTheWholeFormWhereContainersHaveNoWindow)
     add(kOption, &container(2));
     add(kOption, nullptr); // on the form, which tells no window here
     choose(0);
-    EXPECT_THAT(values(), ElementsAre(1, 0, 0));
+    EXPECT_THAT(values(), ElementsAreArray({1, 0, 0}));
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1, 0));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1, 0}));
     choose(2);
-    EXPECT_THAT(values(), ElementsAre(0, 0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 0, 1}));
 }
 
 TEST_F(Group, isTheWholeFormWhereAContainerFails)
@@ -112,11 +112,11 @@ TEST_F(Group, isTheWholeFormWhereAContainerFails)
     add(kOption, &container(2));
     choose(0);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(1, 1));
+    EXPECT_THAT(values(), ElementsAreArray({1, 1}));
     left.refuse(L"hwnd");
     boxes[1]->setValue(0);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1}));
 }
 
 TEST_F(Group, leavesCheckBoxesAlone)
@@ -128,11 +128,11 @@ TEST_F(Group, leavesCheckBoxesAlone)
     choose(0);
     boxes[2]->setValue(2);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(1, 1, 2));
+    EXPECT_THAT(values(), ElementsAreArray({1, 1, 2}));
     boxes[0]->click();
     boxes[0]->moveTo(kBeside);
     boxes[2]->click();
-    EXPECT_THAT(values(), ElementsAre(0, 1, 0));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1, 0}));
 }
 
 TEST_F(Group, leavesPlainOptionButtonsAlone)
@@ -148,7 +148,7 @@ TEST_F(Group, leavesPlainOptionButtonsAlone)
     choose(0);
     boxes[1]->click();
     std::erase(form.container().objects, plain->unknown());
-    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1}));
     EXPECT_EQ(::SendMessageW(radio.get(), BM_GETCHECK, 0, 0), BST_CHECKED);
     EXPECT_EQ(form.record().countFrom("Plain.Value ="), 0);
 }
@@ -174,8 +174,8 @@ TEST_F(Group, givesTheChosenOneItsTabStopThenClearsTheOthersAndThenRaisesClick)
     boxes[1]->events().action = [&](auto const& event) { order.push_back(nameOfEvent(event.id)); };
     choose(1);
     form.record().whenNoted = nullptr;
-    EXPECT_THAT(order, ElementsAre("Extender.TabStop = -1", "Extender.TabStop = 0", "Extender.TabStop = 0",
-                                   "Click", "Extender.TabStop = -1"));
+    EXPECT_THAT(order, ElementsAreArray({"Extender.TabStop = -1", "Extender.TabStop = 0",
+                                         "Extender.TabStop = 0", "Click", "Extender.TabStop = -1"}));
 }
 
 TEST_F(Group, leavesOneTabStop)
@@ -188,9 +188,9 @@ TEST_F(Group, leavesOneTabStop)
         return all;
     };
     choose(0);
-    EXPECT_THAT(tabStops(), ElementsAre(true, false, false));
+    EXPECT_THAT(tabStops(), ElementsAreArray({true, false, false}));
     boxes[2]->click();
-    EXPECT_THAT(tabStops(), ElementsAre(false, false, true));
+    EXPECT_THAT(tabStops(), ElementsAreArray({false, false, true}));
 }
 
 TEST_F(Group, keepsItsChoiceWhileItIsLoaded)
@@ -201,7 +201,7 @@ TEST_F(Group, keepsItsChoiceWhileItIsLoaded)
     boxes.push_back(std::make_unique<Box>(kOption, library(), form, kPlace));
     boxes[1]->extender().offer(L"Container", Variant::ofDispatch(&frame));
     boxes[1]->start(*newBag({{L"Value", Variant::ofLong(1)}}).get());
-    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1}));
 }
 
 TEST_F(Group, isFoundThroughTheParentWhereTheSiteHasNoContainer)
@@ -213,9 +213,9 @@ TEST_F(Group, isFoundThroughTheParentWhereTheSiteHasNoContainer)
     add(kOption, &container(2));
     choose(2);
     choose(0);
-    EXPECT_THAT(values(), ElementsAre(1, 0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({1, 0, 1}));
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1, 1}));
 }
 
 // A collection that counts on must not hold up a click.
@@ -243,7 +243,7 @@ TEST_F(Group, needsNoContainerAtAll)
     form.record().answer("Site.GetExtendedControl", E_NOTIMPL);
     add(kOption, nullptr);
     EXPECT_EQ(boxes[0]->setValue(1), S_OK);
-    EXPECT_THAT(values(), ElementsAre(1));
+    EXPECT_THAT(values(), ElementsAreArray({1}));
 }
 
 TEST_F(Group, holdsAtDesignTime)
@@ -251,7 +251,7 @@ TEST_F(Group, holdsAtDesignTime)
     addOptions(2, Mode::Design);
     choose(0);
     choose(1);
-    EXPECT_THAT(values(), ElementsAre(0, 1));
+    EXPECT_THAT(values(), ElementsAreArray({0, 1}));
 }
 
 TEST_F(Group, raisesClickWhenTheOthersAreClear)
@@ -261,7 +261,7 @@ TEST_F(Group, raisesClickWhenTheOthersAreClear)
     std::vector<long> seen;
     boxes[1]->events().action = [&](auto const&) { seen = values(); };
     choose(1);
-    EXPECT_THAT(seen, ElementsAre(0, 1));
+    EXPECT_THAT(seen, ElementsAreArray({0, 1}));
 }
 
 TEST_F(Group, followsASinkThatChoosesAnotherInsideClick)
@@ -275,8 +275,8 @@ TEST_F(Group, followsASinkThatChoosesAnotherInsideClick)
                 boxes[2]->setValue(1);
         };
     choose(0);
-    EXPECT_THAT(values(), ElementsAre(0, 0, 1));
-    EXPECT_THAT(order, ElementsAre("0", "2"));
+    EXPECT_THAT(values(), ElementsAreArray({0, 0, 1}));
+    EXPECT_THAT(order, ElementsAreArray({"0", "2"}));
 }
 
 TEST_F(Group, letsASinkTakeTheChoiceBackInsideClick)
@@ -286,7 +286,7 @@ TEST_F(Group, letsASinkTakeTheChoiceBackInsideClick)
     boxes[1]->happened();
     boxes[0]->events().action = [&](auto const&) { boxes[0]->setValue(0); };
     choose(0);
-    EXPECT_THAT(values(), ElementsAre(0, 0));
+    EXPECT_THAT(values(), ElementsAreArray({0, 0}));
     EXPECT_FALSE(boxes[0]->extender().value(L"TabStop").toBool());
     EXPECT_THAT(boxes[1]->happened(), testing::IsEmpty());
 }
@@ -310,7 +310,7 @@ TEST_F(Group, isGuardedWhileASiblingTellsOfItsChange)
     };
     form.record().forget();
     choose(0);
-    EXPECT_THAT(values(), ElementsAre(1, 0));
+    EXPECT_THAT(values(), ElementsAreArray({1, 0}));
     EXPECT_EQ(boxes[0]->count("Click"), 2);
     EXPECT_EQ(form.record().countFrom("Container.EnumObjects"), 1);
 }
@@ -336,7 +336,7 @@ TEST_F(Group, runsOverASiblingThatFails)
     objects.insert(objects.begin(), stranger.get());
     choose(0);
     std::erase(objects, stranger->unknown());
-    EXPECT_THAT(values(), ElementsAre(1, 0));
+    EXPECT_THAT(values(), ElementsAreArray({1, 0}));
 }
 
 } // namespace

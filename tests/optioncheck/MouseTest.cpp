@@ -11,8 +11,8 @@ protected:
     /// The event's arguments at 10 and 4 pixels.
     static void expectArguments(kit::EventRecorder::Event const& event, int button, int shift)
     {
-        EXPECT_THAT(event.types,
-                    ElementsAre(VT_BYREF | VT_I2, VT_BYREF | VT_I2, VT_BYREF | VT_R4, VT_BYREF | VT_R4));
+        EXPECT_THAT(event.types, ElementsAreArray({VT_BYREF | VT_I2, VT_BYREF | VT_I2, VT_BYREF | VT_R4,
+                                                   VT_BYREF | VT_R4}));
         EXPECT_EQ(event.values[0].toLong(), button);
         EXPECT_EQ(event.values[1].toLong(), shift);
         float const twips =
@@ -64,7 +64,7 @@ TEST_P(Mouse, isHeldFromTheFirstMoveInsideToTheFirstOutside)
 {
     box.enter();
     EXPECT_EQ(::GetCapture(), box.inner());
-    EXPECT_THAT(box.leave(), ElementsAre("MouseMove"));
+    EXPECT_THAT(box.leave(), ElementsAreArray({"MouseMove"}));
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -172,7 +172,7 @@ TEST_P(Mouse, comparesColoursAsStoredAndNotAsShown)
 TEST_P(Mouse, clickRaisesDownUpAndClick)
 {
     box.enter();
-    EXPECT_THAT(box.pressAndLetGo(), ElementsAre("MouseDown", "MouseUp", "Click"));
+    EXPECT_THAT(box.pressAndLetGo(), ElementsAreArray({"MouseDown", "MouseUp", "Click"}));
     EXPECT_EQ(box.value(), 1);
     EXPECT_EQ(::GetFocus(), box.inner());
 }
@@ -190,7 +190,7 @@ TEST_P(Mouse, clickOnAChosenOptionRaisesClickAgain)
 TEST_P(Mouse, doubleClickIsTwoClicks)
 {
     box.click();
-    EXPECT_THAT(box.pressAndLetGo(), ElementsAre("MouseDown", "MouseUp", "Click"));
+    EXPECT_THAT(box.pressAndLetGo(), ElementsAreArray({"MouseDown", "MouseUp", "Click"}));
     EXPECT_EQ(box.value(), isOption() ? 1 : 0);
 }
 
@@ -265,7 +265,7 @@ TEST_P(Mouse, otherButtonsRaiseTheirEventsAndDoNotClick)
 {
     box.enter();
     for (MouseButton const button : {MouseButton::Right, MouseButton::Middle})
-        EXPECT_THAT(box.pressAndLetGo(button), ElementsAre("MouseDown", "MouseUp"));
+        EXPECT_THAT(box.pressAndLetGo(button), ElementsAreArray({"MouseDown", "MouseUp"}));
     EXPECT_EQ(box.value(), 0);
 }
 

@@ -65,9 +65,9 @@ TEST_P(NewBox, tellsOfTheFontThatItIsGiven)
 {
     box.hosted().setSite();
     EXPECT_EQ(box.hosted().initNew(), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_FONT));
+    EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_FONT}));
     EXPECT_EQ(box.hosted().load(*newBag().get()), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_FONT));
+    EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_FONT}));
     EXPECT_EQ(box.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
 }
 
@@ -88,11 +88,11 @@ TEST_P(Properties, storeWhatTheyAreGivenAndTellOfIt)
                                             {L"HotForeColor", id::HotForeColor, Variant::ofLong(0x010203)},
                                             {L"Enabled", id::Enabled, Variant::ofBool(false)}}) {
         EXPECT_EQ(box.put(name, value), S_OK);
-        EXPECT_THAT(box.changes().take(), ElementsAre(told));
+        EXPECT_THAT(box.changes().take(), ElementsAreArray({told}));
         EXPECT_EQ(kit::textOf(box.get(name)), kit::textOf(value)) << kit::narrow(name);
     }
     EXPECT_EQ(box.setFont(kit::newFont(L"Arial", 10).get()), S_OK);
-    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_FONT));
+    EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_FONT}));
 }
 
 TEST_P(Properties, makeTheControlDirtyAndItsViewChange)
@@ -188,7 +188,7 @@ TEST_P(Properties, resizeCoversTheControlAndRaisesResize)
     RECT inner = {};
     kit::Inside const any(box, "", [&] { ::GetClientRect(box.inner(), &inner); });
     box.hosted().place({20, 30, 200, 70});
-    EXPECT_THAT(box.happened(), ElementsAre("Resize"));
+    EXPECT_THAT(box.happened(), ElementsAreArray({"Resize"}));
     EXPECT_EQ(inner.right, 180) << "when Resize is raised";
     ::GetClientRect(box.inner(), &inner);
     EXPECT_EQ(inner.right, 180);
@@ -199,7 +199,7 @@ TEST_P(Properties, ambientChangeOfAnyKindRaisesResize)
 {
     for (DISPID const ambient : {DISPID_AMBIENT_BACKCOLOR, DISPID_AMBIENT_FONT, DISPID_UNKNOWN}) {
         EXPECT_EQ(box.as<IOleControl>()->OnAmbientPropertyChange(ambient), S_OK);
-        EXPECT_THAT(box.happened(), ElementsAre("Resize"));
+        EXPECT_THAT(box.happened(), ElementsAreArray({"Resize"}));
     }
 }
 

@@ -83,8 +83,9 @@ TEST_P(Saving, writesInOrderAndTheColourTwice)
 {
     box.start(*fullBag(1).get());
     auto const bag = saved();
-    EXPECT_THAT(bag->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"Font", L"Caption", L"Value",
-                                                 L"HotForeColor", L"BackColor", L"ForeColor"));
+    EXPECT_THAT(bag->namesWritten(),
+                ElementsAreArray({L"ForeColor", L"Enabled", L"Font", L"Caption", L"Value", L"HotForeColor",
+                                  L"BackColor", L"ForeColor"}));
     EXPECT_EQ(bag->value(L"ForeColor").toLong(), 0x010203);
     ASSERT_EQ(bag->writes.size(), 8U);
     EXPECT_EQ(bag->writes[0].value.toLong(), kButtonShadow); // as the disabled caption shows
@@ -129,7 +130,7 @@ TEST_P(Saving, keepsAnEmptyCaption)
 {
     start({{L"Caption", Variant::ofString(L"")}});
     EXPECT_EQ(box.caption(), L"");
-    EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"Caption"));
+    EXPECT_THAT(saved()->namesWritten(), ElementsAreArray({L"Caption"}));
 }
 
 TEST_P(Saving, hasTheLaidOutCaptionForDefault)
@@ -143,7 +144,7 @@ TEST_P(Saving, keepsTheUsersColourOfADisabledOneThatIsTheDefault)
     start({{L"Enabled", Variant::ofBool(false)}});
     // What is shown is no default, so it is written; the user's colour has to take its place.
     auto const again = saved();
-    EXPECT_THAT(again->namesWritten(), ElementsAre(L"ForeColor", L"Enabled", L"ForeColor"));
+    EXPECT_THAT(again->namesWritten(), ElementsAreArray({L"ForeColor", L"Enabled", L"ForeColor"}));
     other.start(*again.get());
     EXPECT_EQ(other.number(L"ForeColor"), static_cast<long>(colour::kButtonText));
 }
@@ -155,7 +156,7 @@ TEST_P(Saving, showsTheColourThatIsLoadedWhileItIsShown)
     EXPECT_EQ(box.hosted().load(*newBag({{L"ForeColor", Variant::ofLong(RGB(0, 0, 200))}}).get()), S_OK);
     EXPECT_EQ(box.number(L"ForeColor"), static_cast<long>(RGB(0, 0, 200)));
     box.expectCaption(RGB(0, 0, 200), RGB(200, 0, 0));
-    EXPECT_THAT(saved()->namesWritten(), ElementsAre(L"ForeColor", L"ForeColor"));
+    EXPECT_THAT(saved()->namesWritten(), ElementsAreArray({L"ForeColor", L"ForeColor"}));
 }
 
 TEST_P(Saving, goesThroughAStream)
@@ -263,7 +264,7 @@ TEST_F(OptionSaving, raisesResizeAtLoadingAndClickWhereItIsChosen)
     Box box(kOption, library(), form);
     box.hosted().setSite();
     box.hosted().load(*newBag({{L"Value", Variant::ofLong(1)}}).get());
-    EXPECT_THAT(box.happened(), ElementsAre("Click", "Resize"));
+    EXPECT_THAT(box.happened(), ElementsAreArray({"Click", "Resize"}));
 }
 
 } // namespace

@@ -144,7 +144,7 @@ protected:
         end();
         EXPECT_THAT(activate(), IsEmpty());
         end();
-        EXPECT_THAT(activate(kLarger), ElementsAre("Resize"));
+        EXPECT_THAT(activate(kLarger), ElementsAreArray({"Resize"}));
         end();
     }
     void leave() { EXPECT_EQ(box.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK); }
@@ -156,7 +156,7 @@ TEST_P(Resize, isRaisedAtTheFirstSize)
     load();
     RECT inner = {};
     kit::Inside const any(box, "", [&] { ::GetClientRect(box.hwnd(), &inner); });
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(), ElementsAreArray({"Resize"}));
     EXPECT_EQ(inner.right, kPlace.right - kPlace.left) << "when Resize is raised";
     EXPECT_EQ(inner.bottom, kPlace.bottom - kPlace.top);
 }
@@ -166,14 +166,14 @@ TEST_P(Resize, isRaisedAtTheFirstSizeOfANewControl)
     EXPECT_EQ(box.hosted().setSite(), S_OK);
     EXPECT_EQ(box.hosted().initNew(), S_OK);
     box.happened();
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(), ElementsAreArray({"Resize"}));
 }
 
 TEST_P(Resize, isRaisedAtTheFirstSizeWhoeverAskedForTheWindowBefore)
 {
     load();
     makeWindow();
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(), ElementsAreArray({"Resize"}));
 }
 
 TEST_P(Resize, isRaisedAtTheFirstSizeWhateverWasToldBeforeActivation)
@@ -181,14 +181,14 @@ TEST_P(Resize, isRaisedAtTheFirstSizeWhateverWasToldBeforeActivation)
     load();
     EXPECT_THAT(place(kPlace), IsEmpty());
     makeWindow();
-    EXPECT_THAT(activate(), ElementsAre("Resize"));
+    EXPECT_THAT(activate(), ElementsAreArray({"Resize"}));
 }
 
 TEST_P(Resize, isRaisedByAnActivationWithAnotherSizeAlone)
 {
     expectOnlyForAnotherSize([&] { leave(); });
     EXPECT_THAT(place(kPlace), IsEmpty());
-    EXPECT_THAT(activate(kPlace), ElementsAre("Resize"));
+    EXPECT_THAT(activate(kPlace), ElementsAreArray({"Resize"}));
 }
 
 TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
@@ -204,12 +204,12 @@ TEST_P(Resize, isRaisedByAnActivationAfterCloseWithAnotherSizeAlone)
 TEST_P(Resize, isRaisedOnceForEachChange)
 {
     loadAndActivate();
-    EXPECT_THAT(place(kLarger), ElementsAre("Resize"));
+    EXPECT_THAT(place(kLarger), ElementsAreArray({"Resize"}));
     EXPECT_THAT(place(kLarger), IsEmpty());
-    EXPECT_THAT(place(kPlace), ElementsAre("Resize"));
+    EXPECT_THAT(place(kPlace), ElementsAreArray({"Resize"}));
     EXPECT_THAT(place(kElsewhere), IsEmpty()) << "a move is none";
-    EXPECT_THAT(place({20, 30, 20, 30}), ElementsAre("Resize"));
-    EXPECT_THAT(place(kPlace), ElementsAre("Resize"));
+    EXPECT_THAT(place({20, 30, 20, 30}), ElementsAreArray({"Resize"}));
+    EXPECT_THAT(place(kPlace), ElementsAreArray({"Resize"}));
 }
 
 TEST_P(Resize, whoseSinkClosesTheControlEndsTheActivation)
@@ -217,7 +217,7 @@ TEST_P(Resize, whoseSinkClosesTheControlEndsTheActivation)
     load();
     kit::Inside const any(box, "", [&] { close(); });
     box.hosted().activate();
-    EXPECT_THAT(box.happened(), ElementsAre("Resize"));
+    EXPECT_THAT(box.happened(), ElementsAreArray({"Resize"}));
     EXPECT_EQ(form.record().count("Site.OnInPlaceActivate"), form.record().count("Site.OnInPlaceDeactivate"));
     EXPECT_EQ(::GetWindow(form.window(), GW_CHILD), nullptr);
 }

@@ -53,8 +53,8 @@ TEST_F(OptionValue, oneChoosesItAndRaisesClick)
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_EQ(box.value(), 1);
     EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), BST_CHECKED);
-    EXPECT_THAT(box.happened(), ElementsAre("Click"));
-    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
+    EXPECT_THAT(box.happened(), ElementsAreArray({"Click"}));
+    EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_VALUE}));
 }
 
 TEST_F(OptionValue, otherThanOneClearsItWithoutAClick)
@@ -75,7 +75,7 @@ TEST_F(OptionValue, oneOfTheChosenIsToldButNoClick)
     startChosen();
     EXPECT_EQ(box.setValue(1), S_OK);
     EXPECT_THAT(box.happened(), IsEmpty());
-    EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
+    EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_VALUE}));
 }
 
 TEST_F(OptionValue, isWhatTheAccessibleWindowSays)
@@ -85,16 +85,16 @@ TEST_F(OptionValue, isWhatTheAccessibleWindowSays)
     EXPECT_EQ(box.value(), 1);
     EXPECT_THAT(box.happened(), IsEmpty());
     ::SendMessageW(box.inner(), BM_CLICK, 0, 0);
-    EXPECT_THAT(box.happened(), ElementsAre("MouseDown", "MouseUp", "Click"));
+    EXPECT_THAT(box.happened(), ElementsAreArray({"MouseDown", "MouseUp", "Click"}));
 }
 
 TEST_F(OptionValue, givesTheTabStopBackThatTheHostHadAtLoading)
 {
     box.start();
     EXPECT_EQ(box.setValue(0), S_OK);
-    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = 0"));
+    EXPECT_THAT(tabStopWrites(), ElementsAreArray({"Extender.TabStop = 0"}));
     EXPECT_EQ(box.setValue(1), S_OK); // once by the click, once by the setter
-    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = -1", "Extender.TabStop = -1"));
+    EXPECT_THAT(tabStopWrites(), ElementsAreArray({"Extender.TabStop = -1", "Extender.TabStop = -1"}));
 }
 
 TEST_F(OptionValue, givesAHostThatWantedNoTabStopNone)
@@ -102,7 +102,7 @@ TEST_F(OptionValue, givesAHostThatWantedNoTabStopNone)
     offerTabStop(Variant::ofBool(false));
     box.start();
     EXPECT_EQ(box.setValue(1), S_OK);
-    EXPECT_THAT(tabStopWrites(), ElementsAre("Extender.TabStop = 0", "Extender.TabStop = 0"));
+    EXPECT_THAT(tabStopWrites(), ElementsAreArray({"Extender.TabStop = 0", "Extender.TabStop = 0"}));
 }
 
 TEST_F(OptionValue, readsTheHostsTabStopAtTheEndOfLoading)
@@ -175,8 +175,8 @@ TEST_F(CheckValue, takesThreeStatesAndRaisesClickForEachChange)
         EXPECT_EQ(box.setValue(state), S_OK);
         EXPECT_EQ(box.value(), state);
         EXPECT_EQ(::SendMessageW(box.inner(), BM_GETCHECK, 0, 0), state);
-        EXPECT_THAT(box.happened(), ElementsAre("Click")) << state;
-        EXPECT_THAT(box.changes().take(), ElementsAre(DISPID_VALUE));
+        EXPECT_THAT(box.happened(), ElementsAreArray({"Click"})) << state;
+        EXPECT_THAT(box.changes().take(), ElementsAreArray({DISPID_VALUE}));
     }
 }
 
@@ -228,7 +228,7 @@ TEST_F(CheckValue, goesBetweenClearAndSetByClicks)
         states.push_back(box.value());
         box.moveTo(kBeside);
     }
-    EXPECT_THAT(states, ElementsAre(1, 0, 1));
+    EXPECT_THAT(states, ElementsAreArray({1, 0, 1}));
     box.setValue(2);
     box.click(); // the third state is reached by code alone
     EXPECT_EQ(box.value(), 0);

@@ -383,7 +383,7 @@ TEST_F(Frame, ofTheSystemsShowsTheFourPagesWhenTheContainerHasNoneOfItsOwn)
         ::PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
     });
     EXPECT_EQ(control.doVerb(OLEIVERB_PROPERTIES), S_OK);
-    EXPECT_THAT(titles, testing::ElementsAre(L"General", L"Colors", L"Fonts", L"Pictures"));
+    EXPECT_THAT(titles, testing::ElementsAreArray({L"General", L"Colors", L"Fonts", L"Pictures"}));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace quillet::hosting {
 namespace {
 
 using testing::Contains;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
 
 constexpr DISPID kNoProperty = 0x6803FFFF;
 
@@ -92,7 +92,8 @@ TEST_F(Browsing, offersTheNamedValuesAndTheirNumbers)
     CALPOLESTR texts{77, nullptr};
     CADWORD cookies{77, nullptr};
     ASSERT_EQ(browsing->GetPredefinedStrings(id::BorderStyle, &texts, &cookies), S_OK);
-    EXPECT_THAT(taken(texts, cookies), ElementsAre(std::pair(L"0 - None", 0), std::pair(L"1 - Fixed", 1)));
+    EXPECT_THAT(taken(texts, cookies),
+                ElementsAreArray({std::pair(L"0 - None", 0), std::pair(L"1 - Fixed", 1)}));
     ASSERT_EQ(browsing->GetPredefinedStrings(id::MousePointer, &texts, &cookies), S_OK);
     auto const pointers = taken(texts, cookies);
     EXPECT_EQ(pointers.size(), 17U);
@@ -131,8 +132,8 @@ TEST_F(Browsing, listsThePagesThatItsPropertiesNeed)
     ASSERT_EQ(as<ISpecifyPropertyPages>()->GetPages(&pages), S_OK);
     std::vector<CLSID> const found(pages.pElems, pages.pElems + pages.cElems);
     ::CoTaskMemFree(pages.pElems);
-    EXPECT_THAT(found,
-                ElementsAre(kGeneralPageClass, kColoursPageClass, kFontsPageClass, kPicturesPageClass));
+    EXPECT_THAT(
+        found, ElementsAreArray({kGeneralPageClass, kColoursPageClass, kFontsPageClass, kPicturesPageClass}));
     EXPECT_EQ(as<ISpecifyPropertyPages>()->GetPages(nullptr), E_POINTER);
 }
 

@@ -337,7 +337,7 @@ TEST_F(Sinks, mayAssignAPropertyInsideAPropertyNotification)
         button()->put_CaptionIndent(9);
     };
     EXPECT_EQ(button()->put_Caption(Bstr(L"x").get()), S_OK);
-    EXPECT_THAT(changes->take(), testing::UnorderedElementsAre(id::Caption, id::CaptionIndent));
+    EXPECT_THAT(changes->take(), testing::UnorderedElementsAreArray({id::Caption, id::CaptionIndent}));
 }
 
 } // namespace

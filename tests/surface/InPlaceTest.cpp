@@ -37,7 +37,7 @@ protected:
 TEST_F(InPlace, activationAsksThenTellsThenShowsTheWindowInTheForm)
 {
     activated();
-    EXPECT_THAT(activationCalls(), testing::ElementsAre("CanInPlaceActivate", "OnInPlaceActivate"));
+    EXPECT_THAT(activationCalls(), testing::ElementsAreArray({"CanInPlaceActivate", "OnInPlaceActivate"}));
     EXPECT_TRUE(isShown());
     EXPECT_EQ(placeOf(control.window()), kPlace);
 }
@@ -77,7 +77,8 @@ TEST_F(InPlace, userInterfaceActivationTellsTheSiteAndTheFrame)
                                               "SetActiveObject(object)"}));
     EXPECT_LT(std::ranges::find(calls, "OnInPlaceActivate"), std::ranges::find(calls, "OnUIActivate"));
     ASSERT_EQ(as<IOleInPlaceObject>()->UIDeactivate(), S_OK);
-    EXPECT_THAT(activationCalls(), testing::UnorderedElementsAre("SetActiveObject(none)", "OnUIDeactivate"));
+    EXPECT_THAT(activationCalls(),
+                testing::UnorderedElementsAreArray({"SetActiveObject(none)", "OnUIDeactivate"}));
     EXPECT_TRUE(isShown()) << "only its user interface was deactivated";
 }
 

@@ -194,7 +194,7 @@ TEST_F(Quick, joinsTheSinksThatItIsGiven)
     events->forget();
     EXPECT_EQ(button()->put_BackColor(1), S_OK);
     EXPECT_EQ(events->count(kPaint), 1);
-    EXPECT_THAT(changes->take(), testing::ElementsAre(id::BackColor));
+    EXPECT_THAT(changes->take(), testing::ElementsAreArray({id::BackColor}));
     cut(kQvFlatCommandEvents, answer.dwEventCookie);
     cut(__uuidof(IPropertyNotifySink), answer.dwPropNotifyCookie);
 }

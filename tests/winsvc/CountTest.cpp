@@ -205,7 +205,7 @@ TEST_F(TwoThreads, haveAToolTipWindowEachAndOneEndsWithoutTheOther)
     second.thread.run([&] {
         ToolTipWatch const watch;
         ::SendMessageA(second.button->window(), WM_MOUSEMOVE, 0, 0);
-        EXPECT_THAT(watch.relayed(), ElementsAre(WM_MOUSEMOVE));
+        EXPECT_THAT(watch.relayed(), ElementsAreArray({WM_MOUSEMOVE}));
     });
     second.end();
     EXPECT_FALSE(::IsWindow(second.toolTip));

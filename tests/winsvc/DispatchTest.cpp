@@ -103,7 +103,7 @@ TEST_ON_NEW_THREAD(Dispatch, ofADoubleClickPassesItOnButDoesNotRelayItToTheToolT
         ToolTipWatch const watch;
         send(message, MK_CONTROL, MAKELPARAM(5, 6));
         EXPECT_EQ(previous->count(message), 1) << message;
-        EXPECT_THAT(watch.numbers(), ElementsAre()) << message;
+        EXPECT_THAT(watch.numbers(), IsEmpty()) << message;
     }
 }
 
@@ -174,7 +174,7 @@ TEST_ON_NEW_THREAD(Dispatch, byTheMemberWindowProcReachesTheSameCodeThroughTheVt
     expectSeen(previous->seen[0], 12, -34);
     ToolTipWatch const watch;
     button->WindowProc(handle(), WM_MOUSEMOVE, 0, 0, &result);
-    EXPECT_THAT(watch.relayed(), ElementsAre(WM_MOUSEMOVE));
+    EXPECT_THAT(watch.relayed(), ElementsAreArray({WM_MOUSEMOVE}));
 }
 
 TEST_ON_NEW_THREAD(Dispatch, byTheMemberWindowProcReachesTheSameCodeByName)
@@ -192,7 +192,7 @@ TEST_ON_NEW_THREAD(Dispatch, byTheMemberWindowProcReachesTheSameCodeByName)
     kit::callByName(*button.operator->(), L"WindowProc",
                     {Variant::ofLong(handle()), Variant::ofLong(WM_LBUTTONDBLCLK), Variant::ofLong(0),
                      Variant::ofLong(0)});
-    EXPECT_THAT(watch.relayed(), ElementsAre());
+    EXPECT_THAT(watch.relayed(), IsEmpty());
     EXPECT_EQ(previous->count(WM_LBUTTONDBLCLK), 1);
 }
 
@@ -310,7 +310,7 @@ TEST_ON_NEW_THREAD(Dispatch, survivesALaterSubclasserThatLeavesBeforeTheControl)
     EXPECT_EQ(procedureOf(window()), installed);
     ToolTipWatch const watch;
     send(WM_RBUTTONDOWN);
-    EXPECT_THAT(watch.relayed(), ElementsAre(WM_RBUTTONDOWN));
+    EXPECT_THAT(watch.relayed(), ElementsAreArray({WM_RBUTTONDOWN}));
 }
 
 } // namespace

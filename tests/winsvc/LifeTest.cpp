@@ -120,7 +120,7 @@ TEST_ON_NEW_THREAD(ToolTipWindow, isNotMadeAnewAfterAllEarlierControlsHaveGone)
     ToolTipWatch const watch;
     button.start();
     EXPECT_TRUE(toolTipWindows().empty());
-    EXPECT_THAT(watch.numbers(), ElementsAre());
+    EXPECT_THAT(watch.numbers(), IsEmpty());
     expectHover();
 }
 

@@ -14,7 +14,8 @@ namespace quillet::winsvc {
 
 using input::FormButton;
 using input::looksBag;
-using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
 
 /// Each test lives on a thread of its own: what the component keeps per thread is never reset.
 class ServiceTest : public kit::ControlTest {

@@ -206,7 +206,7 @@ protected:
     {
         ToolTipWatch const watch;
         ::SendMessageA(window, WM_RBUTTONUP, 0, 0);
-        EXPECT_THAT(watch.relayed(), ElementsAre(WM_RBUTTONUP));
+        EXPECT_THAT(watch.relayed(), ElementsAreArray({WM_RBUTTONUP}));
     }
 };
 QV_EACH_CONTROL(Of, Slot);

@@ -19,7 +19,7 @@ TEST_ON_NEW_THREAD(Tool, isAddedOnceTheWindowIsActiveAndActivatesItAgain)
     RunningButton second(library(), form, 2);
     ToolTipWatch watch;
     button.start();
-    EXPECT_THAT(watch.numbers(), ElementsAre(kActivate, kAddTool, kActivate));
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kActivate, kAddTool, kActivate}));
     EXPECT_EQ(watch.messages.at(0).wParam, TRUE);
     EXPECT_EQ(watch.messages.at(0).lParam, 0);
     EXPECT_EQ(watch.messages.at(1).wParam, 0U);
@@ -27,7 +27,7 @@ TEST_ON_NEW_THREAD(Tool, isAddedOnceTheWindowIsActiveAndActivatesItAgain)
     EXPECT_EQ(watch.messages.at(2).lParam, reinterpret_cast<LPARAM>(button.window()));
     watch.messages.clear();
     second.start();
-    EXPECT_THAT(watch.numbers(), ElementsAre(kAddTool, kActivate));
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kAddTool, kActivate}));
     EXPECT_EQ(watch.messages.at(1).lParam, reinterpret_cast<LPARAM>(second.window()));
 }
 
@@ -36,9 +36,9 @@ TEST_ON_NEW_THREAD(Tool, isTheWindowThatAnActivationMakesAfterTheLoad)
     ToolTipWatch const watch;
     ASSERT_EQ(button.hosted().setSite(), S_OK);
     button.load(*looksBag().get());
-    EXPECT_THAT(watch.numbers(), ElementsAre(kActivate)) << "nothing needs a window yet";
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kActivate})) << "nothing needs a window yet";
     ASSERT_EQ(button.hosted().activate(), S_OK);
-    EXPECT_THAT(watch.numbers(), ElementsAre(kActivate, kAddTool, kActivate));
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kActivate, kAddTool, kActivate}));
     EXPECT_EQ(watch.messages.at(1).tool.hwnd, windowOf(button));
 }
 
@@ -50,7 +50,7 @@ TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlThatIsShownAgainAfterItWasClose
     EXPECT_FALSE(::IsWindow(first));
     ToolTipWatch const watch;
     ASSERT_EQ(button.hosted().activate(), S_OK);
-    EXPECT_THAT(watch.numbers(), ElementsAre(kDeleteTool, kAddTool, kActivate));
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kDeleteTool, kAddTool, kActivate}));
     EXPECT_EQ(watch.messages.at(1).tool.hwnd, windowOf(button));
     EXPECT_TRUE(::IsWindowVisible(windowOf(button)));
 }
@@ -62,7 +62,7 @@ TEST_ON_NEW_THREAD(Tool, isTheNewWindowOfAControlWhoseContainerDestroyedTheLastO
     ToolTipWatch const watch;
     HWND const made = windowOf(button);
     ASSERT_NE(made, nullptr);
-    EXPECT_THAT(watch.numbers(), ElementsAre(kDeleteTool, kAddTool, kActivate));
+    EXPECT_THAT(watch.numbers(), ElementsAreArray({kDeleteTool, kAddTool, kActivate}));
     EXPECT_EQ(watch.messages.at(1).tool.hwnd, made);
 }
 
@@ -124,7 +124,7 @@ TEST_ON_NEW_THREAD(Tool, ofADesignedControlIsNone)
     ToolTipWatch const watch;
     RunningButton designed(library(), form, 2);
     designed.startDesigned();
-    EXPECT_THAT(watch.numbers(), ElementsAre());
+    EXPECT_THAT(watch.numbers(), IsEmpty());
 }
 
 class Relay : public ButtonTest {
@@ -143,7 +143,7 @@ TEST_ON_NEW_THREAD(Relay, takesTheSevenMouseMessagesWithNeitherTimeNorPoint)
     for (UINT const message : {512U, 513U, 514U, 516U, 517U, 519U, 520U}) {
         ToolTipWatch const watch;
         ::SendMessageA(button.window(), message, MK_SHIFT, where);
-        ASSERT_THAT(watch.numbers(), ElementsAre(kRelayEvent)) << message;
+        ASSERT_THAT(watch.numbers(), ElementsAreArray({kRelayEvent})) << message;
         ToolTipMessage const& passed = watch.messages.front();
         EXPECT_EQ(passed.to, toolTip);
         EXPECT_EQ(passed.wParam, 0U);
@@ -165,7 +165,7 @@ TEST_ON_NEW_THREAD(Relay, leavesOutEveryOtherMessage)
                                UINT{WM_SETFOCUS}, UINT{WM_KILLFOCUS}, UINT{WM_KEYUP}, UINT{WM_TIMER},
                                UINT{WM_MOUSELEAVE}, UINT{WM_MOUSEHOVER}, UINT{WM_APP + 7}})
         ::SendMessageA(button.window(), message, 0, 0);
-    EXPECT_THAT(watch.numbers(), ElementsAre());
+    EXPECT_THAT(watch.numbers(), IsEmpty());
 }
 
 // WM_LBUTTONDBLCLK (515) and its sisters are passed on but not relayed: here made by a real mouse.
@@ -183,7 +183,7 @@ TEST_ON_NEW_THREAD(Relay, ofADoubleClickLeavesOutTheSecondPress)
             }));
         std::vector<UINT> relayed = watch.relayed();
         std::erase(relayed, 512U);
-        EXPECT_THAT(relayed, ElementsAre(down, up, up));
+        EXPECT_THAT(relayed, ElementsAreArray({down, up, up}));
     }
     EXPECT_TRUE(kit::moveCursorAway());
     kit::pumpPending();
@@ -208,7 +208,7 @@ TEST_ON_NEW_THREAD(Relay, fromANewControlIsNone)
     ToolTipWatch const watch;
     input::enter(fresh);
     input::leave(fresh);
-    EXPECT_THAT(watch.numbers(), ElementsAre());
+    EXPECT_THAT(watch.numbers(), IsEmpty());
 }
 
 } // namespace
