@@ -45,9 +45,9 @@ TEST_P(ImageToggle, alreadyShowsWhenMouseUpIsRaised)
 TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
 {
     constexpr COLORREF kEdge = RGB(12, 34, 56);
-    constexpr COLORREF kHotLook = RGB(23, 45, 67);
+    constexpr COLORREF kHotFace = RGB(23, 45, 67);
     ASSERT_EQ(button()->put_CheckedLightBorderColor(kEdge), S_OK);
-    ASSERT_EQ(button()->put_HotBackColor(kHotLook), S_OK);
+    ASSERT_EQ(button()->put_HotBackColor(kHotFace), S_OK);
     button().moveAndPress();
     COLORREF edge = CLR_INVALID;
     COLORREF look = CLR_INVALID;
@@ -58,7 +58,7 @@ TEST_P(ImageToggle, isPaintedCheckedAndNotPressedWhenMouseUpIsRaised)
     });
     button().release();
     EXPECT_EQ(edge, kEdge);
-    EXPECT_EQ(look, kHotLook);
+    EXPECT_EQ(look, kHotFace);
 }
 
 TEST_P(ImageToggle, countsTheRightAndTheBottomEdgeAsInside)
